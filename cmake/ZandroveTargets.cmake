@@ -1,0 +1,46 @@
+# The one place that says how a target of this project is compiled.
+
+add_library(zandrove_options INTERFACE)
+target_include_directories(zandrove_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_definitions(zandrove_options INTERFACE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_KEYWORDS
+    QT_STRICT_ITERATORS
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400
+    ZANDROVE_VERSION="${PROJECT_VERSION}")
+target_compile_options(zandrove_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
+    $<$<BOOL:${ZANDROVE_WERROR}>:-Werror>)
+
+if(ZANDROVE_SANITIZERS)
+    target_compile_options(zandrove_options INTERFACE
+        -fsanitize=${ZANDROVE_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(zandrove_options INTERFACE -fsanitize=${ZANDROVE_SANITIZERS})
+endif()
+
+# zandrove_library(NAME SOURCES file... LINKS target...): one layer of the program, a static library.
+function(zandrove_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC zandrove_options Qt6::Core ${ARG_LINKS})
+endfunction()
+
+# zandrove_test(NAME SOURCES file... LINKS target... [LOCK resource]): one QtTest executable, run by CTest. LOCK keeps
+# tests that need the same machine-wide resource (the fixed ports) from running side by side.
+function(zandrove_test name)
+    cmake_parse_arguments(ARG "" "LOCK;TIMEOUT" "SOURCES;LINKS" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_compile_definitions(${name} PRIVATE QT_FORCE_ASSERTS)
+    target_link_libraries(${name} PRIVATE zandrove_options Qt6::Core Qt6::Test ${ARG_LINKS})
+    add_test(NAME ${name} COMMAND ${name})
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 120)
+    endif()
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT ${ARG_TIMEOUT} LABELS unit ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+    if(ARG_LOCK)
+        set_tests_properties(${name} PROPERTIES RESOURCE_LOCK ${ARG_LOCK})
+    endif()
+endfunction()

@@ -1,0 +1,154 @@
+#pragma once
+
+#include "core/common/Records.h"
+#include "peer/NetworkManager.h"
+
+#include <QList>
+#include <QObject>
+#include <QStringList>
+
+namespace Zandrove {
+
+class MigrationManager;
+
+/// The facade of the back end, and all that a face of the program sees of it: discovery and pairing, the
+/// user's selection, a transfer, its report, and the ways back to another round.
+///
+/// Main thread only. No operation returns a result; a failure leaves through a signal with a translated text:
+/// `connectionFailed` for pairing, `transferFailed` for a transfer that cannot start, `error` and `warning`
+/// for the rest. A transfer that started ends by `transferCompleted`, `transferCancelled` (here),
+/// `peerCancelled` or `transferReset` (there), or by `disconnected` when the link is gone.
+class TransferEngine : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TransferEngine(QObject *parent = nullptr, LinkEnvironment environment = {});
+    ~TransferEngine() override;
+
+    /// Which end this copy is, a `Role`. Emits `stateChanged`.
+    void setRole(int role);
+    [[nodiscard]] int role() const { return m_role; }
+    /// A `DiscoveryMode`. Emits `stateChanged` when it changes.
+    void setMode(int mode);
+
+    /// This PC's own four-digit code.
+    [[nodiscard]] QString verifyCode() const { return m_verifyCode; }
+
+    /// Draws a new code and starts to broadcast and to listen. Emits `discoveryStarted`.
+    void startDiscovery();
+    void stopDiscovery();
+    /// Forgets all peers and broadcasts anew; the code stays.
+    void restartBroadcast();
+    [[nodiscard]] QList<PCInfo> discoveredPCs() const;
+
+    /// Dials `pc`. Emits `connecting`, then `connected` or `connectionFailed`.
+    void connectToPC(const PCInfo &pc);
+    /// Dials the peer whose screen shows `code`.
+    void connectByCode(const QString &code);
+    /// The user's yes to a `connectionRequested`; `code` must be this PC's own.
+    void acceptConnection(const QString &code);
+    void rejectConnection();
+    void disconnectFromPeer();
+    /// Also true between `connectToPC` and its outcome: ask only after `connected`.
+    [[nodiscard]] bool isConnected() const;
+    /// The peer, a default record without one.
+    [[nodiscard]] PCInfo connectedPC() const { return m_connectedPC; }
+
+    [[nodiscard]] const ScanResult &scanResult() const { return m_scanResult; }
+    /// Select by position in the scan result; positions outside it are ignored.
+    void setSelectedApps(const QList<int> &indexes);
+    void setSelectedAccounts(const QList<int> &indexes);
+    void setSelectedSettings(const QList<int> &indexes);
+    /// Folders to move, by path.
+    void setSelectedPaths(const QStringList &paths);
+    [[nodiscard]] int selectedCount() const;
+
+    /// Where received files go that have no standard folder of their own: by default "Zandrove" in the
+    /// downloads.
+    [[nodiscard]] QString destinationRoot() const { return m_destinationRoot; }
+
+    /// Sends the selection. Emits `transferStarted`, or `transferFailed` when there is no peer or nothing
+    /// selected.
+    void startTransfer();
+    /// Waits, as the New PC, for what the peer sends. Emits `transferStarted`.
+    void startReceiving();
+    void pauseTransfer();
+    void resumeTransfer();
+    /// Ends the running transfer and tells the peer. Emits `transferCancelled`.
+    void cancelTransfer();
+    /// Sends nothing again: no failed item is retried.
+    void retryFailed();
+
+    [[nodiscard]] TransferProgress progress() const { return m_progress; }
+    [[nodiscard]] MigrationReport report() const { return m_report; }
+
+    /// Back to the very start: ends everything, disconnects, clears all state.
+    void reset();
+    /// The peer went away and another one is waited for.
+    void resetForNewConnection();
+    /// New PC: back to waiting for a further transfer on the same link.
+    void resetForNewReceive();
+    /// Old PC: back to the selection for a further transfer on the same link.
+    void resetTransfer();
+    /// Old PC, after a transfer: tells the New PC that a further one follows.
+    void notifyPeerReadyForNew();
+    /// Tells the peer that this run of the program's flow is over. The link stays.
+    void sendSessionEnd();
+
+Q_SIGNALS:
+    void stateChanged();
+    void peerCancelled();
+    void transferReset();
+    void newTransferStarted();
+    void pausedByPeer();
+    void resumedByPeer();
+    void sessionEndReceived();
+    void discoveryStarted();
+    void discoveryStopped();
+    void pcDiscovered(const Zandrove::PCInfo &pc); ///< add or update
+    void pcUpdated(const Zandrove::PCInfo &pc);
+    void pcLost(const QString &pcId);
+    void directScanStarted();
+    void directScanProgress(int scanned, int total);
+    void directScanFinished(bool found);
+    void connecting();
+    void connected();
+    void disconnected();
+    void connectionFailed(const QString &reason);
+    void connectionTimeout(); ///< followed by connectionFailed
+    /// A peer asks to pair: answer with acceptConnection(code) or rejectConnection.
+    void connectionRequested(const QString &pcName, const QString &code);
+    void transferStarted();
+    void transferProgressChanged(const Zandrove::TransferProgress &progress);
+    void transferPaused();
+    void transferResumed();
+    void transferCompleted(const Zandrove::MigrationReport &report);
+    void transferCancelled();
+    void transferFailed(const QString &reason);
+    void fileTransferStarted(const QString &fileName);
+    void fileTransferProgress(const QString &fileName, int percent);
+    void fileTransferCompleted(const QString &fileName);
+    void fileTransferFailed(const QString &fileName, const QString &reason);
+    void info(const QString &message);
+    void warning(const QString &message);
+    void error(const QString &message);
+
+private:
+    NetworkManager *m_networkManager = nullptr;
+    MigrationManager *m_migrationManager = nullptr;
+    int m_mode = NetworkMode;
+    int m_role = OldPC;
+    ConflictConfig m_conflictConfig;
+    QString m_destinationRoot;
+    PCInfo m_connectedPC;
+    ScanResult m_scanResult;
+    TransferProgress m_progress;
+    MigrationReport m_report;
+    QString m_verifyCode;
+    bool m_transferring = false;
+    bool m_paused = false;
+    QStringList m_selectedPaths;
+};
+
+} // namespace Zandrove

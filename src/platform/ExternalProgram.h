@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <chrono>
+#include <optional>
+
+/// The one home for running a program of the operating system.
+namespace Zandrove::Platform {
+
+/// How a program ended. A program that is missing, crashed or was still running at the deadline did not
+/// finish.
+struct ProgramResult
+{
+    bool finished = false; ///< it ran and ended by itself before the deadline
+    int exitCode = -1;     ///< meaningful only when finished
+    QByteArray standardOutput;
+};
+
+/// Runs `program` with `arguments` and waits for it, `timeout` at the most (no value: without a limit); a
+/// program that is still running then is killed. Blocks the calling thread.
+[[nodiscard]] ProgramResult runProgram(const QString &program, const QStringList &arguments,
+                                       std::optional<std::chrono::milliseconds> timeout = std::nullopt);
+
+} // namespace Zandrove::Platform

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+/// Who this machine is, as the operating system tells it.
+namespace Zandrove::Platform {
+
+/// The computer's name by the system's own short-name call; nothing where there is no such call or it fails.
+[[nodiscard]] std::optional<QString> shortComputerName();
+
+/// What the system's registry says of its version. Empty texts where a value, or the registry, is missing.
+struct SystemVersion
+{
+    QString productName;
+    QString currentBuildNumber;
+    QString displayVersion;
+};
+
+[[nodiscard]] SystemVersion registeredSystemVersion();
+
+} // namespace Zandrove::Platform

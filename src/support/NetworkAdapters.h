@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QHostAddress>
+#include <QList>
+#include <QString>
+
+#include <functional>
+
+namespace Zandrove {
+
+/// One address of a network adapter.
+struct AdapterAddress
+{
+    QHostAddress ip;
+    QHostAddress broadcast; ///< null where the adapter has none
+};
+
+/// A network adapter of this machine, as a plain value, so that address rules can be tested on a made-up
+/// machine.
+struct NetworkAdapter
+{
+    QString name; ///< human-readable name
+    bool up = false;
+    bool running = false;
+    bool loopback = false;
+    bool canBroadcast = false;
+    QList<AdapterAddress> addresses; ///< in the system's order
+};
+
+/// Source of the adapters; called anew each time they are needed.
+using AdapterSource = std::function<QList<NetworkAdapter>()>;
+
+/// The adapters that the operating system reports now.
+[[nodiscard]] QList<NetworkAdapter> systemNetworkAdapters();
+
+} // namespace Zandrove
