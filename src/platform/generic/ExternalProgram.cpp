@@ -42,14 +42,14 @@ ProgramResult runProgram(const QString &program, const QStringList &arguments,
 
     const QDeadlineTimer deadline =
         timeout ? QDeadlineTimer(*timeout) : QDeadlineTimer(QDeadlineTimer::Forever);
-    if (!waitUntilEnded(process, deadline)) {
+    const bool ended = waitUntilEnded(process, deadline);
+    if (!ended) {
         process.kill();
         process.waitForFinished(int(KillWait.count()));
-        return {};
     }
-    if (process.error() == QProcess::FailedToStart || process.exitStatus() != QProcess::NormalExit)
-        return {};
-    return {true, process.exitCode(), process.readAllStandardOutput()};
+    const bool finished =
+        ended && process.error() != QProcess::FailedToStart && process.exitStatus() == QProcess::NormalExit;
+    return {finished, finished ? process.exitCode() : -1, process.readAllStandardOutput()};
 }
 
 } // namespace Zandrove::Platform
