@@ -44,3 +44,22 @@ function(zandrove_test name)
         set_tests_properties(${name} PROPERTIES RESOURCE_LOCK ${ARG_LOCK})
     endif()
 endfunction()
+
+# zandrove_windows_resources(TARGET DESCRIPTION text): on Windows the program gets its icon, its version and the manifest
+# (per-monitor DPI, long paths, UTF-8, no elevation); elsewhere nothing.
+function(zandrove_windows_resources target)
+    if(NOT WIN32)
+        return()
+    endif()
+    enable_language(RC)
+    cmake_parse_arguments(ARG "" "DESCRIPTION" "" ${ARGN})
+    get_target_property(ZANDROVE_RC_NAME ${target} OUTPUT_NAME)
+    if(NOT ZANDROVE_RC_NAME)
+        set(ZANDROVE_RC_NAME ${target})
+    endif()
+    set(ZANDROVE_RC_DESCRIPTION ${ARG_DESCRIPTION})
+    configure_file(${CMAKE_SOURCE_DIR}/resources/windows/program.rc.in ${CMAKE_CURRENT_BINARY_DIR}/${target}.rc @ONLY)
+    target_sources(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${target}.rc)
+    set_property(SOURCE ${CMAKE_CURRENT_BINARY_DIR}/${target}.rc APPEND PROPERTY OBJECT_DEPENDS
+        "${CMAKE_SOURCE_DIR}/resources/icons/app.ico;${CMAKE_SOURCE_DIR}/resources/windows/program.manifest")
+endfunction()
