@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # Installs what Debian 12 (or a relative) must bring to build, test and run Zandrove. Silent and quick when all is there.
+# With arguments "--with PACKAGE..." those as well.
 set -euo pipefail
 
 packages=(
@@ -9,6 +10,10 @@ packages=(
     clang-format-14
     python3 iproute2 util-linux rsync
 )
+
+if [ "${1:-}" = --with ]; then
+    packages+=("${@:2}")
+fi
 
 fail() {
     echo "setup.sh: $*" >&2
