@@ -14,13 +14,14 @@ namespace Zandrove::Platform {
 /// finish.
 struct ProgramResult
 {
-    bool finished = false; ///< it ran and ended by itself before the deadline
-    int exitCode = -1;     ///< meaningful only when finished
-    QByteArray standardOutput;
+    bool finished = false;     ///< it ran and ended by itself before the deadline
+    int exitCode = -1;         ///< meaningful only when finished
+    QByteArray standardOutput; ///< what it wrote, also when it did not finish
 };
 
 /// Runs `program` with `arguments` and waits for it, `timeout` at the most (no value: without a limit); a
-/// program that is still running then is killed. Blocks the calling thread.
+/// program that is still running then is killed. Blocks the calling thread; QThread::requestInterruption on
+/// that thread ends the wait early, as if the deadline had come. A bare name is looked up on PATH.
 [[nodiscard]] ProgramResult runProgram(const QString &program, const QStringList &arguments,
                                        std::optional<std::chrono::milliseconds> timeout = std::nullopt);
 

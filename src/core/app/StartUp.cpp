@@ -1,0 +1,147 @@
+#include "core/app/StartUp.h"
+
+#include "core/common/AppConfig.h"
+#include "core/common/Records.h"
+#include "platform/ExternalProgram.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFile>
+#include <QLocale>
+#include <QMap>
+#include <QSettings>
+#include <QTranslator>
+
+#include <tuple>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace Zandrove::StartUp {
+
+namespace {
+
+constexpr auto FirewallQueryTimeout = 3000ms;
+
+QString tcpRuleName()
+{
+    return u"Zandrove TCP"_s;
+}
+
+bool firewallRuleExists(const QString &name)
+{
+    const auto result = Platform::runProgram(
+        u"netsh"_s, {u"advfirewall"_s, u"firewall"_s, u"show"_s, u"rule"_s, u"name="_s + name},
+        FirewallQueryTimeout);
+    return QString::fromLocal8Bit(result.standardOutput).contains(name);
+}
+
+/// Whether the rule could be added is of no interest: the next start tries again.
+void addFirewallRule(const QString &name, const QString &protocol, quint16 port)
+{
+    std::ignore = Platform::runProgram(
+        u"netsh"_s, {u"advfirewall"_s, u"firewall"_s, u"add"_s, u"rule"_s, u"name="_s + name, u"dir=in"_s,
+                     u"action=allow"_s, u"protocol="_s + protocol, u"localport="_s + QString::number(port),
+                     u"profile=any"_s});
+}
+
+QString languageForCode(const QString &twoLetters)
+{
+    static const QMap<QString, QString> Languages = {
+        {u"en"_s, u"en"_s}, {u"fr"_s, u"fr"_s},   {u"de"_s, u"de"_s}, {u"ja"_s, u"ja"_s},
+        {u"es"_s, u"es"_s}, {u"ko"_s, u"ko"_s},   {u"nl"_s, u"nl"_s}, {u"pt"_s, u"pt"_s},
+        {u"it"_s, u"it"_s}, {u"zh"_s, u"zh_TW"_s}};
+    return Languages.value(twoLetters, u"en"_s);
+}
+
+} // namespace
+
+void setIdentity()
+{
+    QCoreApplication::setApplicationName(AppConfig::appName());
+    QCoreApplication::setApplicationVersion(AppConfig::appVersion());
+    QCoreApplication::setOrganizationName(AppConfig::userOrganisation());
+    QCoreApplication::setOrganizationDomain(u"zandrove.example"_s);
+}
+
+void ensureFirewallRules()
+{
+    if (firewallRuleExists(tcpRuleName()))
+        return;
+    addFirewallRule(tcpRuleName(), u"tcp"_s, TcpPort);
+    addFirewallRule(u"Zandrove UDP"_s, u"udp"_s, UdpPort);
+}
+
+void registerMetaTypes()
+{
+    qRegisterMetaType<PCInfo>("Zandrove::PCInfo");
+    qRegisterMetaType<AppInfo>("Zandrove::AppInfo");
+    qRegisterMetaType<FolderInfo>("Zandrove::FolderInfo");
+    qRegisterMetaType<AccountInfo>("Zandrove::AccountInfo");
+    qRegisterMetaType<SettingInfo>("Zandrove::SettingInfo");
+    qRegisterMetaType<ScanResult>("Zandrove::ScanResult");
+    qRegisterMetaType<TransferProgress>("Zandrove::TransferProgress");
+    qRegisterMetaType<TransferFileInfo>("Zandrove::TransferFileInfo");
+    qRegisterMetaType<ConflictConfig>("Zandrove::ConflictConfig");
+    qRegisterMetaType<MigrationReport>("Zandrove::MigrationReport");
+    qRegisterMetaType<QList<PCInfo>>("QList<Zandrove::PCInfo>");
+    qRegisterMetaType<QList<AppInfo>>("QList<Zandrove::AppInfo>");
+    qRegisterMetaType<QList<FolderInfo>>("QList<Zandrove::FolderInfo>");
+    qRegisterMetaType<QList<AccountInfo>>("QList<Zandrove::AccountInfo>");
+    qRegisterMetaType<QList<SettingInfo>>("QList<Zandrove::SettingInfo>");
+}
+
+QString chooseLanguage(const QString &storedLanguage, const QString &localeName)
+{
+    if (!storedLanguage.isEmpty()) {
+        qDebug() << "[Main] Using user language:" << storedLanguage;
+        return storedLanguage;
+    }
+    const QString twoLetters = localeName.section(u'_', 0, 0).left(2);
+    qDebug() << "[Main] System language:" << twoLetters;
+    const QString language = languageForCode(twoLetters);
+    qDebug() << "[Main] Auto-detected:" << language;
+    return language;
+}
+
+QString translationPath(const QString &applicationDir, const QString &language)
+{
+    return u"%1/translations/Zandrove_%2.qm"_s.arg(applicationDir, language);
+}
+
+bool installTranslation(const QString &applicationDir, const QString &language)
+{
+    static QTranslator translator;
+
+    const QString path = translationPath(applicationDir, language);
+    const bool exists = QFile::exists(path);
+    qDebug() << "[Main] Translation file:" << path;
+    qDebug() << "[Main] File exists:" << exists;
+
+    // For a missing file QTranslator would try shorter names, of other languages too.
+    if (!exists || !translator.load(path)) {
+        qDebug() << "[Main] ✗ Failed to load translation file";
+        qDebug() << "[Main] Falling back to English";
+        return false;
+    }
+    if (!QCoreApplication::installTranslator(&translator)) {
+        qDebug() << "[Main] ✗ Failed to install translator";
+        return false;
+    }
+    qDebug() << "[Main] ✓ Translation loaded successfully:" << language;
+    return true;
+}
+
+QString initTranslation()
+{
+    qDebug() << "========== Translation Init ==========";
+    const QSettings settings(AppConfig::userOrganisation(), AppConfig::appName());
+    const QString stored = settings.value("language"_L1, QString()).toString();
+    qDebug() << "[Main] User language from settings:" << stored;
+    const QString language = chooseLanguage(stored, QLocale::system().name());
+    installTranslation(QCoreApplication::applicationDirPath(), language);
+    qDebug() << "=======================================";
+    return language;
+}
+
+} // namespace Zandrove::StartUp

@@ -1,0 +1,35 @@
+#include "platform/FileAttributes.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QStringList>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+using namespace Qt::StringLiterals;
+
+namespace Zandrove::Platform {
+
+bool isUnsafeRelativePath(const QString &relativePath)
+{
+    const QString slashed = QString(relativePath).replace(u'\\', u'/');
+    return slashed.contains(QChar::Null) || slashed.split(u'/').contains(u".."_s);
+}
+
+bool isForeignOrLink(const QString &path)
+{
+    struct stat status = {};
+    if (::lstat(QFile::encodeName(path).constData(), &status) != 0)
+        return errno != ENOENT && errno != ENOTDIR;
+    return S_ISLNK(status.st_mode) || status.st_uid != ::geteuid();
+}
+
+bool isRegularFile(const QString &path)
+{
+    return QFileInfo(path).isFile();
+}
+
+} // namespace Zandrove::Platform
