@@ -15,7 +15,8 @@ struct ControlCommand
     QString folder; ///< for Again: a folder to send instead of the ones before, may be empty
 };
 
-/// Reads one line; nothing for a line that is no command. Only `again` takes an argument: the rest of the line.
+/// Reads one line; nothing for a line that is no command. Only `again` takes an argument: the rest of the
+/// line.
 [[nodiscard]] std::optional<ControlCommand> parseControlCommand(const QString &line);
 
 } // namespace Zandrove::Cli

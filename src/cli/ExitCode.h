@@ -17,8 +17,8 @@ enum ExitCode : int {
 /// What a finished run amounts to.
 [[nodiscard]] inline ExitCode exitCodeFor(const MigrationReport &report)
 {
-    const bool complete = report.filesFailed == 0 && report.filesSkipped == 0 && report.appsFailed == 0
-                          && report.appsSkipped == 0 && report.settingsFailed == 0;
+    const bool complete = report.filesFailed == 0 && report.filesSkipped == 0 && report.appsFailed == 0 &&
+                          report.appsSkipped == 0 && report.settingsFailed == 0;
     return complete ? EverythingMoved : SomethingMissing;
 }
 

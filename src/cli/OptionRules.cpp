@@ -91,16 +91,18 @@ const std::array Rules = {
     OptionRule{"--once"_L1, nullptr, Receive,
                QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "End after the first transfer."),
                setFlag<&Options::once>},
-    OptionRule{"--timeout"_L1, "S", Receive,
-               QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
-                                 "End with exit code 3 when nothing has begun to arrive within S seconds. Counted "
-                                 "anew each time the program starts to wait; a running transfer is never cut."),
-               [](Options &options, const QString &value) { return storeSeconds(options.timeout, value); }},
-    OptionRule{"--timeout"_L1, "S", Send,
-               QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
-                                 "End with exit code 3 when the New PC was not found and has not let this PC in "
-                                 "within S seconds of the start. The transfer itself is never cut."),
-               [](Options &options, const QString &value) { return storeSeconds(options.timeout, value); }},
+    OptionRule{
+        "--timeout"_L1, "S", Receive,
+        QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                          "End with exit code 3 when nothing has begun to arrive within S seconds. Counted "
+                          "anew each time the program starts to wait; a running transfer is never cut."),
+        [](Options &options, const QString &value) { return storeSeconds(options.timeout, value); }},
+    OptionRule{
+        "--timeout"_L1, "S", Send,
+        QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                          "End with exit code 3 when the New PC was not found and has not let this PC in "
+                          "within S seconds of the start. The transfer itself is never cut."),
+        [](Options &options, const QString &value) { return storeSeconds(options.timeout, value); }},
     OptionRule{"--role"_L1, "old|new", Discover,
                QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
                                  "What this PC is. An Old PC sees the New PCs, a New PC the Old PCs."),
@@ -108,22 +110,25 @@ const std::array Rules = {
     OptionRule{"--seconds"_L1, "N", Discover,
                QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "Look for N seconds; without it, until Ctrl-C."),
                [](Options &options, const QString &value) { return storeSeconds(options.seconds, value); }},
-    OptionRule{"--mode"_L1, "network|cable", Every,
-               QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
-                                 "How PCs find each other: by broadcast (the default), or over a direct cable, "
-                                 "where the addresses around this PC's own are tried as well."),
-               storeMode},
-    OptionRule{"--control"_L1, nullptr, Receive,
-               QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
-                                 "Obey commands on standard input, one a line: yes, no (answer a request), pause, "
-                                 "resume, cancel, end."),
-               setFlag<&Options::control>},
-    OptionRule{"--control"_L1, nullptr, Send,
-               QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
-                                 "Obey commands on standard input, one a line: pause, resume, cancel, again [DIR] "
-                                 "(a further transfer on the same link), end. The link then stays after a "
-                                 "transfer until end, or until standard input ends."),
-               setFlag<&Options::control>},
+    OptionRule{
+        "--mode"_L1, "network|cable", Every,
+        QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                          "How PCs find each other: by broadcast (the default), or over a direct cable, "
+                          "where the addresses around this PC's own are tried as well."),
+        storeMode},
+    OptionRule{
+        "--control"_L1, nullptr, Receive,
+        QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                          "Obey commands on standard input, one a line: yes, no (answer a request), pause, "
+                          "resume, cancel, end."),
+        setFlag<&Options::control>},
+    OptionRule{
+        "--control"_L1, nullptr, Send,
+        QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                          "Obey commands on standard input, one a line: pause, resume, cancel, again [DIR] "
+                          "(a further transfer on the same link), end. The link then stays after a "
+                          "transfer until end, or until standard input ends."),
+        setFlag<&Options::control>},
     OptionRule{"--json"_L1, nullptr, Every,
                QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "Print one JSON object a line, for scripts."),
                setFlag<&Options::json>},
@@ -148,8 +153,9 @@ const std::array Commands = {
                 "zandrove-cli send --to CODE|NAME|ADDRESS --folder DIR [--folder DIR]... [--timeout S]",
                 QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
                                   "Be the Old PC: find the New PC, wait for its yes, send the folders.")},
-    CommandText{Command::Discover, "discover"_L1, "zandrove-cli discover --role old|new [--seconds N]",
-                QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "List the PCs on the network as they come and go.")},
+    CommandText{
+        Command::Discover, "discover"_L1, "zandrove-cli discover --role old|new [--seconds N]",
+        QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "List the PCs on the network as they come and go.")},
 };
 
 /// `text` in lines of at most `width` columns, broken at blanks, each behind `indent` blanks but the first.
@@ -195,9 +201,10 @@ QString optionLine(const OptionRule &rule)
 
 QString exitCodeHelp()
 {
-    return tr("Exit codes: 0 everything moved; 1 the connection or the run failed or was refused; 2 wrong "
-              "usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C "
-              "(the other PC is told; a second Ctrl-C ends at once).");
+    return tr(
+        "Exit codes: 0 everything moved; 1 the connection or the run failed or was refused; 2 wrong "
+        "usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C "
+        "(the other PC is told; a second Ctrl-C ends at once).");
 }
 
 } // namespace
@@ -221,7 +228,8 @@ std::optional<Command> commandNamed(const QString &name)
 
 QString generalHelp()
 {
-    QString help = tr("zandrove-cli moves folders from an Old PC to a New PC on the same network.") + u"\n\n"_s;
+    QString help =
+        tr("zandrove-cli moves folders from an Old PC to a New PC on the same network.") + u"\n\n"_s;
     for (const CommandText &text : Commands)
         help += helpLine(text.name, tr(text.purpose));
     help += helpLine(u"--help"_s, tr("This text; after a command, the help of that command."));
@@ -231,9 +239,9 @@ QString generalHelp()
 
 QString commandHelp(Command command)
 {
-    const CommandText &text = *std::find_if(Commands.begin(), Commands.end(), [command](const CommandText &candidate) {
-        return candidate.command == command;
-    });
+    const CommandText &text =
+        *std::find_if(Commands.begin(), Commands.end(),
+                      [command](const CommandText &candidate) { return candidate.command == command; });
     QString help = QLatin1StringView(text.usage) + u"\n\n"_s + tr(text.purpose) + u"\n\n"_s;
     for (const OptionRule &rule : Rules) {
         if (rule.belongsTo(command))

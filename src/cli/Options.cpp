@@ -35,7 +35,8 @@ QList<Token> tokens(const QStringList &arguments)
             continue;
         }
         const qsizetype equals = argument.indexOf(u'=');
-        Token token{.name = equals < 0 ? argument : argument.left(equals), .value = {}, .joined = equals >= 0};
+        Token token{
+            .name = equals < 0 ? argument : argument.left(equals), .value = {}, .joined = equals >= 0};
         const OptionRule *rule = findOption(token.name, std::nullopt);
         if (token.joined)
             token.value = argument.mid(equals + 1);

@@ -25,8 +25,7 @@ bool isVerifyCode(const QString &target)
 std::optional<PCInfo> findPeer(const QList<PCInfo> &peers, const QString &target)
 {
     if (isVerifyCode(target)) {
-        const auto byCode =
-            firstMatch(peers, [&](const PCInfo &peer) { return peer.verifyCode == target; });
+        const auto byCode = firstMatch(peers, [&](const PCInfo &peer) { return peer.verifyCode == target; });
         if (byCode)
             return byCode;
     }
