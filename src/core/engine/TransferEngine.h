@@ -134,7 +134,36 @@ Q_SIGNALS:
     void warning(const QString &message);
     void error(const QString &message);
 
+private Q_SLOTS:
+    void onPCDiscovered(const Zandrove::PCInfo &pc);
+    void onPCLost(const QString &pcId);
+    void onConnected();
+    void onDisconnected();
+    void onConnectionFailed(const QString &reason);
+    void onConnectionTimeout();
+    void onMigrationProgress(const Zandrove::TransferProgress &progress);
+    void onMigrationCompleted(const Zandrove::MigrationReport &report);
+    void onMigrationFailed(const QString &reason);
+    void onFileTransferStarted(const QString &fileName);
+    void onFileTransferProgress(const QString &fileName, int percent);
+    void onFileTransferCompleted(const QString &fileName);
+    void onFileTransferFailed(const QString &fileName, const QString &reason);
+
 private:
+    void setupConnections();
+    void setupLinkConnections();
+    void setupMigrationConnections();
+    void drawVerifyCode();
+    [[nodiscard]] bool knowsPeer(const QString &id) const;
+
+    void beginTransfer();
+    void configureMigration(int role);
+    [[nodiscard]] QList<FolderInfo> foldersToSend() const;
+    void onNewTransferStarted();
+    void onPeerCancelled();
+    void setPausedByPeer(bool paused);
+    void clearAll();
+
     NetworkManager *m_networkManager = nullptr;
     MigrationManager *m_migrationManager = nullptr;
     int m_mode = NetworkMode;
@@ -149,6 +178,7 @@ private:
     bool m_transferring = false;
     bool m_paused = false;
     QStringList m_selectedPaths;
+    bool m_dialingUnknownPeer = false; // inside a connectToPC for a peer that is not in the table
 };
 
 } // namespace Zandrove

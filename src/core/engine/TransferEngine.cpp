@@ -1,0 +1,113 @@
+#include "core/engine/TransferEngine.h"
+
+#include "pipeline/MigrationManager.h"
+
+#include <QDebug>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+namespace Zandrove {
+
+namespace {
+
+void registerMetaTypes()
+{
+    static const bool Registered = [] {
+        qRegisterMetaType<Zandrove::PCInfo>("Zandrove::PCInfo");
+        qRegisterMetaType<Zandrove::ScanResult>("Zandrove::ScanResult");
+        qRegisterMetaType<Zandrove::TransferProgress>("Zandrove::TransferProgress");
+        qRegisterMetaType<Zandrove::MigrationReport>("Zandrove::MigrationReport");
+        qRegisterMetaType<QList<Zandrove::AppInfo>>("QList<Zandrove::AppInfo>");
+        qRegisterMetaType<QList<Zandrove::FolderInfo>>("QList<Zandrove::FolderInfo>");
+        qRegisterMetaType<QList<Zandrove::AccountInfo>>("QList<Zandrove::AccountInfo>");
+        qRegisterMetaType<QList<Zandrove::SettingInfo>>("QList<Zandrove::SettingInfo>");
+        qRegisterMetaType<QList<Zandrove::FileTransferTask>>("QList<Zandrove::FileTransferTask>");
+        return true;
+    }();
+    Q_UNUSED(Registered)
+}
+
+} // namespace
+
+TransferEngine::TransferEngine(QObject *parent, LinkEnvironment environment)
+    : QObject(parent)
+{
+    registerMetaTypes();
+    m_networkManager = new NetworkManager(this, std::move(environment));
+    m_migrationManager = new MigrationManager(this);
+    m_destinationRoot = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation) + u"/Zandrove"_s;
+    setupConnections();
+    drawVerifyCode();
+}
+
+TransferEngine::~TransferEngine()
+{
+    cancelTransfer();
+    if (isConnected())
+        disconnectFromPeer();
+    QObject::disconnect(m_networkManager, nullptr, this, nullptr);
+    QObject::disconnect(m_migrationManager, nullptr, this, nullptr);
+    // While the link it may still want to write to stands.
+    m_migrationManager->resetAndListen();
+    delete m_migrationManager;
+}
+
+void TransferEngine::setupConnections()
+{
+    setupLinkConnections();
+    setupMigrationConnections();
+}
+
+void TransferEngine::setupLinkConnections()
+{
+    using Link = NetworkManager;
+    connect(m_networkManager, &Link::pcDiscovered, this, &TransferEngine::onPCDiscovered);
+    connect(m_networkManager, &Link::pcLost, this, &TransferEngine::onPCLost);
+    connect(m_networkManager, &Link::connected, this, &TransferEngine::onConnected);
+    connect(m_networkManager, &Link::disconnected, this, &TransferEngine::onDisconnected);
+    connect(m_networkManager, &Link::connectionFailed, this, &TransferEngine::onConnectionFailed);
+    connect(m_networkManager, &Link::connectionTimeout, this, &TransferEngine::onConnectionTimeout);
+    connect(m_networkManager, &Link::connectionRequested, this, &TransferEngine::connectionRequested);
+    connect(m_networkManager, &Link::directScanStarted, this, &TransferEngine::directScanStarted);
+    connect(m_networkManager, &Link::directScanProgress, this, &TransferEngine::directScanProgress);
+    connect(m_networkManager, &Link::directScanFinished, this, &TransferEngine::directScanFinished);
+}
+
+void TransferEngine::setupMigrationConnections()
+{
+    using Run = MigrationManager;
+    connect(m_migrationManager, &Run::transferReset, this, &TransferEngine::transferReset);
+    connect(m_migrationManager, &Run::peerCancelled, this, &TransferEngine::onPeerCancelled);
+    connect(m_migrationManager, &Run::sessionEndReceived, this, &TransferEngine::sessionEndReceived);
+    connect(m_migrationManager, &Run::pausedByPeer, this, [this] { setPausedByPeer(true); });
+    connect(m_migrationManager, &Run::resumedByPeer, this, [this] { setPausedByPeer(false); });
+    connect(m_migrationManager, &Run::newTransferStarted, this, &TransferEngine::onNewTransferStarted);
+    connect(m_migrationManager, &Run::progressChanged, this, &TransferEngine::onMigrationProgress);
+    connect(m_migrationManager, &Run::completed, this, &TransferEngine::onMigrationCompleted);
+    connect(m_migrationManager, &Run::failed, this, &TransferEngine::onMigrationFailed);
+    connect(m_migrationManager, &Run::fileTransferStarted, this, &TransferEngine::onFileTransferStarted);
+    connect(m_migrationManager, &Run::fileTransferProgress, this, &TransferEngine::onFileTransferProgress);
+    connect(m_migrationManager, &Run::fileTransferCompleted, this, &TransferEngine::onFileTransferCompleted);
+    connect(m_migrationManager, &Run::fileTransferFailed, this, &TransferEngine::onFileTransferFailed);
+}
+
+void TransferEngine::setRole(int role)
+{
+    m_role = role;
+    m_networkManager->setRole(role);
+    qDebug() << "TransferEngine::setRole() ->" << roleName(role);
+    m_migrationManager->setRole(role);
+    Q_EMIT stateChanged();
+}
+
+void TransferEngine::setMode(int mode)
+{
+    if (mode == m_mode)
+        return;
+    m_mode = mode;
+    m_networkManager->setMode(mode);
+    Q_EMIT stateChanged();
+}
+
+} // namespace Zandrove

@@ -1,0 +1,157 @@
+// TransferEngine: discovery and connection.
+
+#include "core/engine/TransferEngine.h"
+#include "pipeline/MigrationManager.h"
+
+#include <QDebug>
+#include <QRandomGenerator>
+
+#include <algorithm>
+
+namespace Zandrove {
+
+namespace {
+
+constexpr int CodeDigits = 4;
+
+} // namespace
+
+void TransferEngine::drawVerifyCode()
+{
+    m_verifyCode.clear();
+    for (int digit = 0; digit < CodeDigits; ++digit)
+        m_verifyCode += QString::number(QRandomGenerator::global()->bounded(10));
+    qDebug() << "Generated verify code:" << m_verifyCode;
+}
+
+void TransferEngine::startDiscovery()
+{
+    qDebug() << "startDiscovery() with role:" << roleName(m_role);
+    m_networkManager->setRole(m_role);
+    drawVerifyCode();
+    m_networkManager->setVerifyCode(m_verifyCode);
+    m_networkManager->startDiscovery();
+    Q_EMIT discoveryStarted();
+    Q_EMIT info(tr("Discovery started. Verification code: %1").arg(m_verifyCode));
+}
+
+void TransferEngine::restartBroadcast()
+{
+    qDebug() << "TransferEngine::restartBroadcast() with code:" << m_verifyCode;
+    m_networkManager->restartBroadcast();
+    Q_EMIT info(tr("Broadcast restarted. Verification code: %1").arg(m_verifyCode));
+}
+
+void TransferEngine::stopDiscovery()
+{
+    m_networkManager->stopDiscovery();
+    Q_EMIT discoveryStopped();
+}
+
+QList<PCInfo> TransferEngine::discoveredPCs() const
+{
+    return m_networkManager->discoveredPCs();
+}
+
+bool TransferEngine::knowsPeer(const QString &id) const
+{
+    const QList<PCInfo> peers = discoveredPCs();
+    return std::any_of(peers.cbegin(), peers.cend(), [&id](const PCInfo &peer) { return peer.id == id; });
+}
+
+void TransferEngine::onPCDiscovered(const PCInfo &pc)
+{
+    Q_EMIT pcDiscovered(pc);
+    if (knowsPeer(pc.id))
+        Q_EMIT pcUpdated(pc);
+}
+
+void TransferEngine::onPCLost(const QString &pcId)
+{
+    Q_EMIT pcLost(pcId);
+}
+
+void TransferEngine::connectToPC(const PCInfo &pc)
+{
+    m_connectedPC = pc;
+    Q_EMIT connecting();
+    m_dialingUnknownPeer = !knowsPeer(pc.id);
+    m_networkManager->connectToPC(pc.id);
+    m_dialingUnknownPeer = false;
+}
+
+void TransferEngine::connectByCode(const QString &code)
+{
+    Q_EMIT connecting();
+    const QList<PCInfo> peers = discoveredPCs();
+    const auto peer = std::find_if(peers.cbegin(), peers.cend(),
+                                   [&code](const PCInfo &candidate) { return candidate.verifyCode == code; });
+    if (peer == peers.cend()) {
+        Q_EMIT connectionFailed(tr("No PC found with verification code: %1").arg(code));
+        return;
+    }
+    m_networkManager->connectToPC(peer->id);
+}
+
+void TransferEngine::acceptConnection(const QString &code)
+{
+    if (code != m_verifyCode) {
+        Q_EMIT connectionFailed(tr("Invalid verification code"));
+        return;
+    }
+    m_networkManager->acceptConnection();
+}
+
+void TransferEngine::rejectConnection()
+{
+    m_networkManager->rejectConnection();
+}
+
+void TransferEngine::disconnectFromPeer()
+{
+    m_migrationManager->endSession();
+    m_networkManager->disconnect();
+    m_connectedPC = PCInfo();
+    Q_EMIT disconnected();
+}
+
+bool TransferEngine::isConnected() const
+{
+    if (!m_connectedPC.id.isEmpty() && !m_connectedPC.ip.isEmpty() && m_connectedPC.port > 0)
+        return true;
+    return m_networkManager->isConnected();
+}
+
+void TransferEngine::onConnected()
+{
+    m_connectedPC = m_networkManager->connectedPC();
+    Q_EMIT connected();
+    Q_EMIT info(tr("Connected to %1").arg(m_connectedPC.name));
+    Q_EMIT stateChanged();
+}
+
+void TransferEngine::onDisconnected()
+{
+    m_connectedPC = PCInfo();
+    Q_EMIT disconnected();
+    Q_EMIT info(tr("Disconnected"));
+    Q_EMIT stateChanged();
+}
+
+void TransferEngine::onConnectionFailed(const QString &reason)
+{
+    // A peer that was dialled in vain must not count as connected. One that the table does not know fails
+    // inside the call, where the caller asked for it.
+    if (!m_dialingUnknownPeer && !m_networkManager->isConnected())
+        m_connectedPC = PCInfo();
+    Q_EMIT connectionFailed(reason);
+    Q_EMIT error(tr("Connection failed: %1").arg(reason));
+}
+
+void TransferEngine::onConnectionTimeout()
+{
+    Q_EMIT connectionTimeout();
+    Q_EMIT error(tr("Connection timeout"));
+}
+
+} // namespace Zandrove

@@ -1,0 +1,169 @@
+// The chunk path of FileReceiverWorker: checks, write buffer and the pace of progress.
+
+#include "pipeline/FileProgress.h"
+#include "pipeline/FileReceiverWorker.h"
+
+#include <QDebug>
+#include <QElapsedTimer>
+#include <QScopeGuard>
+#include <QThread>
+
+namespace Zandrove {
+
+using TransferMessages::ChunkHeader;
+
+namespace {
+
+constexpr unsigned long PausePollMs = 100;
+constexpr qint64 MaxChunkBytes = 0xA00000;   ///< 10 MiB, twenty times what a sender uses
+constexpr qint64 WriteBufferBytes = 4194304; ///< 4 MiB
+constexpr int ChunksPerProgress = 16;
+constexpr qint64 DropLogIntervalMs = 5000;
+constexpr int LogEvery = 100;
+constexpr int OffsetMismatchesLoggedFirst = 10;
+
+/// A stream out of step produces a bad chunk for every message: what was logged last, over all receivers.
+struct BadChunkLog
+{
+    int dropped = 0;
+    int offsetMismatches = 0;
+    int lastDroppedTaskId = 0;
+    QElapsedTimer sinceLastDrop;
+};
+
+BadChunkLog &badChunks()
+{
+    static BadChunkLog log;
+    return log;
+}
+
+} // namespace
+
+void FileReceiverWorker::onFileData(const QByteArray &data)
+{
+    const auto worked = qScopeGuard([this, size = data.size()] {
+        const qint64 before = m_inflow.fetch_sub(size);
+        if (before > InflowMark && before - size <= InflowMark)
+            Q_EMIT inflowBelowMark();
+    });
+    while (m_paused && !m_cancelled)
+        QThread::msleep(PausePollMs);
+    removeOpenFileIfCancelled();
+    if (!m_running || m_cancelled || !m_currentFile)
+        return;
+    receiveChunk(data);
+}
+
+bool FileReceiverWorker::acceptsChunk(const QByteArray &data, const ChunkHeader &chunk)
+{
+    if (quint32(chunk.chunkSize) > quint64(data.size() - ChunkHeader::Size)) {
+        qDebug() << "[FileData] Invalid chunkSize:" << chunk.chunkSize
+                 << "available:" << data.size() - ChunkHeader::Size << "taskId:" << chunk.taskId
+                 << "path:" << m_currentPath;
+        return false;
+    }
+    if (chunk.chunkSize == 0) {
+        qDebug() << "[FileData] Empty chunk, taskId:" << chunk.taskId;
+        return false;
+    }
+    if (chunk.chunkSize > MaxChunkBytes) {
+        qDebug() << "[FileData] Chunk too large:" << chunk.chunkSize << "taskId:" << chunk.taskId
+                 << "path:" << m_currentPath;
+        return false;
+    }
+    if (chunk.taskId != m_currentTaskId) {
+        logForeignChunk(chunk);
+        return false;
+    }
+    return true;
+}
+
+void FileReceiverWorker::receiveChunk(const QByteArray &data)
+{
+    if (data.size() < ChunkHeader::Size) {
+        qDebug() << "[FileData] Invalid packet: size" << data.size() << "< header" << ChunkHeader::Size;
+        return;
+    }
+    const ChunkHeader chunk = ChunkHeader::readFrom(data.constData());
+    if (!acceptsChunk(data, chunk))
+        return;
+    if (chunk.offset != m_currentReceived)
+        logOffsetMismatch(chunk); // reports only: chunks are written in order of arrival
+
+    const QByteArrayView bytes = QByteArrayView(data).sliced(ChunkHeader::Size, chunk.chunkSize);
+    m_writeBuffer.append(bytes);
+    if (m_writeBuffer.size() >= WriteBufferBytes) {
+        const qsizetype bufferSize = m_writeBuffer.size();
+        if (!flushWriteBuffer()) {
+            qDebug() << "[FileData] flushWriteBuffer failed! path:" << m_currentPath
+                     << "bufferSize:" << bufferSize;
+            Q_EMIT fileFailed(bareName(), tr("Write error"));
+            return;
+        }
+    }
+    m_currentReceived += bytes.size();
+    m_receivedBytes += bytes.size();
+    m_currentCrc.update(bytes);
+    if (++m_chunkCount % ChunksPerProgress == 0)
+        reportChunkProgress();
+}
+
+void FileReceiverWorker::reportChunkProgress()
+{
+    Q_EMIT fileProgress(bareName(), filePercent(m_currentReceived, m_currentSize), m_currentReceived,
+                        m_currentSize);
+    m_speed.measure(m_receivedBytes, SpeedMeter::Interval);
+    reportOverallProgress();
+}
+
+void FileReceiverWorker::logForeignChunk(const ChunkHeader &chunk)
+{
+    BadChunkLog &log = badChunks();
+    ++log.dropped;
+    const bool due = log.dropped == 1 || log.dropped % LogEvery == 0 ||
+                     chunk.taskId != log.lastDroppedTaskId || log.sinceLastDrop.elapsed() > DropLogIntervalMs;
+    if (!due)
+        return;
+    qDebug() << "[FileData] taskId mismatch - expected:" << m_currentTaskId << "got:" << chunk.taskId
+             << "totalDropped:" << log.dropped << "offset:" << chunk.offset << "chunkSize:" << chunk.chunkSize
+             << "currentPath:" << m_currentPath;
+    log.lastDroppedTaskId = chunk.taskId;
+    log.sinceLastDrop.start();
+}
+
+void FileReceiverWorker::logOffsetMismatch(const ChunkHeader &chunk)
+{
+    const int count = ++badChunks().offsetMismatches;
+    if (count > OffsetMismatchesLoggedFirst && count % LogEvery != 0)
+        return;
+    qDebug() << "[FileData] Offset mismatch #" << count << "- expected:" << m_currentReceived
+             << "got:" << chunk.offset
+             << "diff:" << qint64(quint64(chunk.offset) - quint64(m_currentReceived))
+             << "taskId:" << chunk.taskId << "path:" << m_currentPath;
+}
+
+bool FileReceiverWorker::flushWriteBuffer()
+{
+    const auto emptied =
+        qScopeGuard([this] { m_writeBuffer.resize(0); }); // keeps its memory for the next bytes
+    if (m_writeBuffer.isEmpty())
+        return true;
+    if (!m_currentFile || !m_currentFile->isOpen()) {
+        qDebug() << "[flushWriteBuffer] File not open!";
+        return false;
+    }
+    const qint64 total = m_writeBuffer.size();
+    qint64 position = 0;
+    while (position < total) {
+        const qint64 written = m_currentFile->write(m_writeBuffer.constData() + position, total - position);
+        if (written < 1) {
+            qDebug() << "[flushWriteBuffer] Write failed at" << position << "/" << total
+                     << "error:" << m_currentFile->errorString() << "path:" << m_currentPath;
+            return false;
+        }
+        position += written;
+    }
+    return true;
+}
+
+} // namespace Zandrove

@@ -1,0 +1,106 @@
+#pragma once
+
+#include "core/common/Records.h"
+#include "pipeline/BatchPlanner.h"
+#include "pipeline/SpeedMeter.h"
+
+#include <QList>
+#include <QMutex>
+#include <QObject>
+#include <QStringList>
+#include <QWaitCondition>
+
+#include <atomic>
+#include <functional>
+
+class QFile;
+
+namespace Zandrove {
+
+/// Sends one list of files to the peer, one file after the other. It knows no socket: each finished message
+/// leaves by `requestSendCommand`. It reads every file once and sums it on the way; after each batch it waits
+/// for the peer's answer, which only paces it: no file is sent twice.
+///
+/// Its slots run on the thread that it lives in and `startSending` blocks that thread until the list is
+/// through. `cancel`, `setPaused` and `onBatchAckReceived` may be called from any thread, and are meant to
+/// be.
+class FileSenderWorker final : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr qint64 ChunkBytes = 524288; ///< 512 KiB
+
+    explicit FileSenderWorker(QObject *parent = nullptr);
+
+    /// A `ConflictPolicy`; carried only.
+    void setConflictPolicy(int policy) { m_conflictPolicy = policy; }
+    /// Tells how many bytes wait in the socket; called on the worker's thread. Without one nothing is held
+    /// back.
+    void setBufferProbe(std::function<qint64()> probe) { m_bufferProbe = std::move(probe); }
+
+    void setPaused(bool paused) { m_paused = paused; }
+
+public Q_SLOTS:
+    /// Sends the list. Ignored while another list is being sent. Ends by `allCompleted`, or silently when
+    /// cancelled.
+    void startSending(const QList<Zandrove::FileTransferTask> &tasks);
+    void pause() { setPaused(true); }
+    void resume() { setPaused(false); }
+    /// Ends the list at the next chunk and wakes a waiting batch.
+    void cancel();
+    /// The peer's answer to a batch; answers to another batch than the awaited one are ignored.
+    void onBatchAckReceived(int batchId, bool success, const QStringList &failedFiles);
+
+Q_SIGNALS:
+    // In all of them fileName is the bare name, sizes are bytes.
+    void fileStarted(const QString &fileName, qlonglong size);
+    void fileProgress(const QString &fileName, int percent, qlonglong sent, qlonglong total);
+    void fileCompleted(const QString &fileName);
+    void fileFailed(const QString &fileName, const QString &error);
+    void overallProgress(const Zandrove::TransferProgress &progress);
+    void allCompleted(int success, int failed, int skipped, qlonglong totalBytes);
+    void error(const QString &msg); ///< never emitted
+    void requestSendCommand(int type, const QByteArray &payload);
+
+private:
+    enum class ChunkLoop { EndOfFile, Abandoned };
+
+    void beginList(const QList<FileTransferTask> &tasks);
+    void sendTask(int index);
+    [[nodiscard]] bool sendFile(FileTransferTask &task);
+    [[nodiscard]] bool failFile(FileTransferTask &task, const QString &reason);
+    [[nodiscard]] ChunkLoop sendChunks(QFile &file, FileTransferTask &task);
+    [[nodiscard]] bool sendChunk(QFile &file, FileTransferTask &task, class FileChecksum &checksum);
+    void reportChunkProgress(const FileTransferTask &task);
+    void closeBatch(const FileTransferTask &task, bool isLast);
+    void requestAndAwaitAck(const BatchRequest &request);
+    void waitWhilePaused() const;
+    void waitForSocket() const;
+    void reportOverallProgress();
+
+    std::function<qint64()> m_bufferProbe;
+    QList<FileTransferTask> m_tasks;
+    int m_conflictPolicy = 0;
+    std::atomic<bool> m_running = false;
+    std::atomic<bool> m_paused = false;
+    std::atomic<bool> m_cancelled = false;
+
+    QMutex m_ackMutex; // guards the four fields below
+    QWaitCondition m_ackCondition;
+    int m_waitingBatchId = 0;
+    bool m_ackReceived = false;
+    bool m_ackSuccess = false;
+    QStringList m_ackFailedFiles;
+
+    int m_successCount = 0;
+    int m_failedCount = 0;
+    int m_skippedCount = 0;
+    qint64 m_totalBytes = 0;
+    qint64 m_sentBytes = 0;
+    int m_currentIndex = 0;
+    BatchPlanner m_batches;
+    SpeedMeter m_speed;
+};
+
+} // namespace Zandrove

@@ -1,0 +1,385 @@
+#include "pipeline/MigrationManager.h"
+
+#include "peer/NetworkManager.h"
+#include "pipeline/DestinationGuard.h"
+#include "pipeline/DestinationMap.h"
+#include "pipeline/FileReceiverWorker.h"
+#include "pipeline/FileSenderWorker.h"
+#include "pipeline/TaskList.h"
+#include "pipeline/TransferMessages.h"
+#include "support/Json.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QThread>
+
+#include <algorithm>
+#include <chrono>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace Zandrove {
+
+using Protocol::MessageType;
+
+MigrationManager::MigrationManager(QObject *parent)
+    : QObject(parent)
+{
+}
+
+MigrationManager::~MigrationManager()
+{
+    if (m_migrating)
+        cancel();
+    stopWorkers();
+    if (m_networkManager)
+        m_networkManager->setReadGate({});
+}
+
+void MigrationManager::setNetworkManager(NetworkManager *networkManager)
+{
+    if (m_networkManager && m_networkManager != networkManager) {
+        QObject::disconnect(m_networkManager, nullptr, this, nullptr);
+        m_networkManager->setReadGate({});
+    }
+    m_networkManager = networkManager;
+    if (!m_networkManager)
+        return;
+    connect(m_networkManager, &NetworkManager::commandReceived, this,
+            &MigrationManager::onLinkCommandReceived, Qt::UniqueConnection);
+    m_networkManager->setReadGate([this] { return mayReadLink(); });
+}
+
+void MigrationManager::setRole(int role)
+{
+    if (role != m_role)
+        ++m_rearmTicket;
+    m_role = role;
+}
+
+void MigrationManager::start(const QList<AppInfo> &apps, const QList<FolderInfo> &folders,
+                             const QList<AccountInfo> &accounts, const QList<SettingInfo> &settings)
+{
+    if (m_migrating)
+        return;
+    m_migrating = true;
+    m_startTime = QDateTime::currentDateTime();
+    m_apps = apps;
+    m_folders = folders;
+    m_accounts = accounts;
+    m_settings = settings;
+    clearRunState();
+    stopWorkers();
+    setupConnections();
+    Q_EMIT started();
+    if (m_role == NewPC) {
+        invokeStartReceiving();
+        return;
+    }
+
+    if (!m_apps.isEmpty() || !m_settings.isEmpty())
+        qDebug() << "Left out of the run:" << m_apps.size() << "applications," << m_settings.size()
+                 << "settings";
+    appMigrationDone = true;
+    settingPhaseDone = true;
+    const QList<FileTransferTask> tasks = buildTaskList(m_folders);
+    qDebug() << "Starting migration:";
+    qDebug() << "  - Folder files:" << tasks.size();
+    qDebug() << "  - Apps:" << 0;
+    qDebug() << "  - Settings:" << 0;
+    QMetaObject::invokeMethod(
+        m_senderWorker, [sender = m_senderWorker, tasks] { sender->startSending(tasks); },
+        Qt::QueuedConnection);
+}
+
+void MigrationManager::startReceiving()
+{
+    if (m_migrating)
+        return;
+    m_role = NewPC;
+    m_migrating = true;
+    m_startTime = QDateTime::currentDateTime();
+    settingPhaseDone = false;
+    clearReportCounters();
+    stopWorkers();
+    setupConnections();
+    Q_EMIT started();
+    invokeStartReceiving();
+}
+
+/// What a fresh run must not find of the one before. The flags of the file and application lanes stay: only
+/// resetAndListen clears those.
+void MigrationManager::clearRunState()
+{
+    m_foldersPhaseDone = false;
+    m_appFilePhaseDone = false;
+    settingPhaseDone = false;
+    m_nextTaskId = 0;
+    m_accumulated = {};
+    clearReportCounters();
+}
+
+void MigrationManager::clearReportCounters()
+{
+    storeCounts({});
+    m_appsSuccess = m_appsFailed = m_appsSkipped = 0;
+    m_settingsApplied = m_settingsFailed = 0;
+    m_paused = false;
+    m_refusalLogged = false;
+}
+
+void MigrationManager::storeCounts(const FileCounts &counts)
+{
+    m_filesSuccess = counts.success;
+    m_filesFailed = counts.failed;
+    m_filesSkipped = counts.skipped;
+    m_totalBytes = counts.bytes;
+}
+
+void MigrationManager::pause()
+{
+    if (!m_migrating || m_paused)
+        return;
+    qDebug() << "MigrationManager::pause() - local request";
+    setWorkersPaused(true);
+    sendToPeer(MessageType::TransferPause);
+    Q_EMIT paused();
+}
+
+void MigrationManager::resume()
+{
+    if (!m_migrating || !m_paused)
+        return;
+    qDebug() << "MigrationManager::resume() - local request";
+    setWorkersPaused(false);
+    sendToPeer(MessageType::TransferResume);
+    Q_EMIT resumed();
+}
+
+void MigrationManager::cancel()
+{
+    if (!m_migrating)
+        return;
+    qDebug() << "MigrationManager::cancel()";
+    m_migrating = false;
+    cancelWorkersQueued();
+    sendToPeer(MessageType::TransferCancel);
+    resumeReadingLink();
+    Q_EMIT cancelled();
+}
+
+void MigrationManager::sendCancelNotification(const QJsonObject &notification)
+{
+    sendToPeer(MessageType::TransferCancel, compactJson(notification));
+}
+
+void MigrationManager::endSession()
+{
+    ++m_rearmTicket;
+}
+
+void MigrationManager::resetAndListen()
+{
+    qDebug() << "MigrationManager::resetAndListen()";
+    ++m_run;
+    m_migrating = false;
+    cancelWorkersDirectly();
+    fileTransferDone = false;
+    appMigrationDone = false;
+    settingPhaseDone = false;
+    m_foldersPhaseDone = false;
+    m_appFilePhaseDone = false;
+    storeCounts({});
+    m_settingsApplied = m_settingsFailed = 0;
+    resumeReadingLink();
+}
+
+void MigrationManager::restartReceiving()
+{
+    qDebug() << "MigrationManager::restartReceiving()";
+    m_migrating = true;
+    clearReportCounters();
+    stopWorkers();
+    setupConnections();
+    invokeStartReceiving();
+    qDebug() << "Receiver restarted, waiting for new transfer";
+}
+
+QList<FileTransferTask> MigrationManager::buildTaskList(const QList<FolderInfo> &folders)
+{
+    return taskListFor(folders, m_nextTaskId);
+}
+
+void MigrationManager::onWorkerAllCompleted(int success, int failed, int skipped, qlonglong totalBytes)
+{
+    qDebug() << "[Serial] MigrationManager::onWorkerAllCompleted - success:" << success << "failed:" << failed
+             << "skipped:" << skipped << "bytes:" << totalBytes << "sendingAppPhase:" << false;
+    m_accumulated.success += success;
+    m_accumulated.failed += failed;
+    m_accumulated.skipped += skipped;
+    m_accumulated.bytes += totalBytes;
+
+    if (m_role == NewPC) {
+        storeCounts({success, failed, skipped, totalBytes});
+        fileTransferDone = true;
+        cleanUpReceivedApps();
+    } else {
+        finishFolderPhase();
+    }
+    checkAllCompleted();
+}
+
+void MigrationManager::finishFolderPhase()
+{
+    m_foldersPhaseDone = true;
+    m_appFilePhaseDone = true;
+    appMigrationDone = true;
+    qDebug() << "[Serial] No app files to send, marking app file phase done.";
+    storeCounts(m_accumulated);
+    fileTransferDone = m_foldersPhaseDone && m_appFilePhaseDone;
+    qDebug() << "[Serial] fileTransferDone=" << fileTransferDone << "appMigrationDone=" << appMigrationDone;
+}
+
+void MigrationManager::checkAllCompleted()
+{
+    qDebug() << "checkAllCompleted() -"
+             << "fileTransferDone:" << fileTransferDone << "appMigrationDone:" << appMigrationDone
+             << "settingPhaseDone:" << settingPhaseDone << "role:" << m_role;
+    if (!m_migrating || !fileTransferDone || !appMigrationDone || !settingPhaseDone)
+        return;
+    // The three flags may still stand from a run before; these two are of this run.
+    if (m_role == OldPC && !(m_foldersPhaseDone && m_appFilePhaseDone))
+        return;
+
+    m_migrating = false;
+    resumeReadingLink();
+    const MigrationReport report = buildReport();
+    if (m_role == OldPC && m_networkManager) {
+        qDebug() << "Sending final TransferComplete to receiver";
+        sendToPeer(MessageType::TransferComplete, TransferMessages::completePayload(report));
+    }
+    Q_EMIT completed(report);
+    qDebug() << "All migration completed!";
+}
+
+void MigrationManager::cleanUpReceivedApps()
+{
+    QDir folder(receivedAppsFolder());
+    if (!folder.exists() || !isOwnReceivedAppsFolder())
+        return;
+    const QStringList remaining = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    if (!remaining.isEmpty())
+        qDebug() << "Found" << remaining.size() << "remaining app directories (not installed)";
+    for (const QString &name : remaining)
+        qDebug() << "  Remaining:" << name;
+    folder.removeRecursively();
+    qDebug() << "Cleaned up received apps temp directory";
+}
+
+MigrationReport MigrationManager::buildReport() const
+{
+    constexpr int SampledFolders = 3;
+
+    MigrationReport report;
+    report.startTime = m_startTime;
+    report.endTime = QDateTime::currentDateTime();
+    report.filesSuccess = m_filesSuccess;
+    report.filesFailed = m_filesFailed;
+    report.filesSkipped = m_filesSkipped;
+    report.appsSuccess = m_appsSuccess;
+    report.appsFailed = m_appsFailed;
+    report.appsSkipped = m_appsSkipped;
+    report.settingsSuccess = m_settingsApplied;
+    report.settingsFailed = m_settingsFailed;
+    report.totalBytes = m_totalBytes;
+    const qint64 seconds = report.startTime.isValid() ? report.startTime.secsTo(report.endTime) : 0;
+    if (seconds > 0)
+        report.averageSpeed = double(m_totalBytes) / double(seconds);
+    if (m_role != NewPC || !m_receiverWorker)
+        return report;
+
+    const ReceivedFolders &received = m_receiverWorker->receivedFolders();
+    report.savedFolderPaths = received.paths;
+    report.savedFolderCounts = received.counts;
+    for (auto entry = received.folders.cbegin(); entry != received.folders.cend(); ++entry) {
+        const QStringList &names = entry.value();
+        if (names.isEmpty())
+            continue;
+        const QString shown =
+            QStringList(names.first(std::min<qsizetype>(names.size(), SampledFolders))).join(u", ");
+        report.savedFolderSamples.insert(
+            entry.key(), u'(' + shown + (names.size() > SampledFolders ? u", ...)"_s : u")"_s));
+    }
+    return report;
+}
+
+/// Nothing of a run leaves on a link that nobody on this side said yes to: whoever dials in the middle of a
+/// run takes the socket over, and must not be sent the rest of the user's files.
+void MigrationManager::sendToPeer(MessageType type, const QByteArray &payload)
+{
+    if (!m_networkManager)
+        return;
+    if (!m_networkManager->isAccepted()) {
+        if (!m_refusalLogged)
+            qDebug() << "Not sent, the link is not accepted, type:" << int(type);
+        m_refusalLogged = true;
+        return;
+    }
+    m_networkManager->sendCommand(type, payload);
+}
+
+void MigrationManager::onWorkerRequestSendCommand(int type, const QByteArray &payload)
+{
+    const bool traced = type != int(MessageType::FileData);
+    if (traced)
+        qDebug() << ">>> onWorkerRequestSendCommand called! type:" << type << "size:" << payload.size();
+    if (!m_networkManager) {
+        qDebug() << ">>> ERROR: m_networkManager is NULL!";
+        return;
+    }
+    if (traced)
+        qDebug() << ">>> Sending command via NetworkManager, type:" << type;
+    sendToPeer(MessageType(type), payload);
+    if (traced)
+        qDebug() << ">>> Command sent!";
+}
+
+void MigrationManager::onWorkerFileStarted(const QString &fileName, qlonglong size)
+{
+    Q_UNUSED(size)
+    Q_EMIT fileTransferStarted(fileName);
+}
+
+void MigrationManager::onWorkerFileProgress(const QString &fileName, int percent, qlonglong moved,
+                                            qlonglong total)
+{
+    Q_UNUSED(moved)
+    Q_UNUSED(total)
+    Q_EMIT fileTransferProgress(fileName, percent);
+}
+
+void MigrationManager::onWorkerFileCompleted(const QString &fileName)
+{
+    ++m_filesSuccess;
+    Q_EMIT fileTransferCompleted(fileName);
+}
+
+void MigrationManager::onWorkerFileFailed(const QString &fileName, const QString &error)
+{
+    ++m_filesFailed;
+    Q_EMIT fileTransferFailed(fileName, error);
+}
+
+void MigrationManager::onWorkerOverallProgress(const TransferProgress &progress)
+{
+    m_progress = progress;
+    Q_EMIT progressChanged(progress);
+}
+
+void MigrationManager::onWorkerError(const QString &msg)
+{
+    Q_EMIT failed(msg);
+}
+
+} // namespace Zandrove

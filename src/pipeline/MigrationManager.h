@@ -1,0 +1,196 @@
+#pragma once
+
+#include "core/common/Records.h"
+#include "peer/Protocol.h"
+
+#include <QDateTime>
+#include <QJsonObject>
+#include <QList>
+#include <QObject>
+#include <QPointer>
+
+#include <memory>
+
+class QThread;
+
+namespace Zandrove {
+
+class FileReceiverWorker;
+class FileSenderWorker;
+class NetworkManager;
+
+/// Runs one transfer on either PC: owns the workers and their threads, decides the order of the phases, sends
+/// every message that a worker wants sent, hands every message of the peer to its handler, and knows when the
+/// run is over.
+///
+/// Lives on the main thread. A run ends by exactly one of `completed`, `cancelled` (here), `peerCancelled`
+/// and `transferReset`; a failed file is a count in the report. A lost link is not noticed here: the run
+/// stays on until `cancel` or `resetAndListen`.
+///
+/// What arrives on a link that is not accepted is ignored, and nothing of a run leaves on such a link.
+class MigrationManager : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit MigrationManager(QObject *parent = nullptr);
+    /// Cancels a run that is on and stops the workers.
+    ~MigrationManager() override;
+
+    /// Not owned; may die first.
+    void setNetworkManager(NetworkManager *networkManager);
+    /// A `Role`.
+    void setRole(int role);
+    void setConflictConfig(const ConflictConfig &config) { m_conflictConfig = config; }
+    /// Where the New PC puts files that no standard folder is named for.
+    void setDestinationRoot(const QString &root) { m_destRoot = root; }
+
+    /// Begins a run in either role. Ignored while one is on.
+    void start(const QList<AppInfo> &apps, const QList<FolderInfo> &folders,
+               const QList<AccountInfo> &accounts, const QList<SettingInfo> &settings);
+    /// Begins a run as the New PC: waits for what the peer sends. Ignored while one is on.
+    void startReceiving();
+    /// Pauses both sides; the peer is told. Only while a run is on.
+    void pause();
+    void resume();
+    /// Ends the run here and tells the peer. The workers stop for good at `resetAndListen` or the next run.
+    void cancel();
+    /// Does nothing: no item is sent again.
+    void retryFailed() {}
+    /// Ends the run without a word to the peer, stops the workers' work and clears what the run knew.
+    void resetAndListen();
+    /// Tells the peer of a cancel, with the reason in `notification`. To be followed by `cancel`.
+    void sendCancelNotification(const QJsonObject &notification);
+    /// The session with this peer is over: no re-arming that is still due takes place.
+    void endSession();
+
+Q_SIGNALS:
+    void peerCancelled();
+    void started();
+    void paused();
+    void resumed();
+    void cancelled();
+    void progressChanged(const Zandrove::TransferProgress &progress);
+    void completed(const Zandrove::MigrationReport &report);
+    void failed(const QString &reason);               ///< no worker causes it
+    void bufferStatusChanged(qlonglong bytesToWrite); ///< never emitted
+    /// The peer began a run while none was on here; it is being received.
+    void newTransferStarted();
+    void sessionEndReceived();
+    void pausedByPeer();
+    void resumedByPeer();
+    void fileTransferStarted(const QString &fileName);
+    void fileTransferProgress(const QString &fileName, int percent);
+    void fileTransferCompleted(const QString &fileName);
+    void fileTransferFailed(const QString &fileName, const QString &reason);
+    void transferReset();
+    void appInstallProgress(const QString &appName, int percent, const QString &status);
+    void appInstallFinished(const QString &appName, bool success, const QString &error);
+
+public Q_SLOTS:
+    /// The one entry of transfer messages, whatever link they came by.
+    void onNetworkCommandReceived(Zandrove::Protocol::MessageType type, const QByteArray &payload);
+
+private Q_SLOTS:
+    void onLinkCommandReceived(Zandrove::Protocol::MessageType type, const QByteArray &payload);
+
+private:
+    /// How the files of one or more lists ended.
+    struct FileCounts
+    {
+        int success = 0;
+        int failed = 0;
+        int skipped = 0;
+        qint64 bytes = 0;
+    };
+
+    // Workers and threads.
+    void setupConnections();
+    void createReceiver();
+    void createSender();
+    template <typename Worker>
+    void startWorker(Worker *worker);
+    void stopWorkers();
+    [[nodiscard]] static bool endThread(QThread &thread, const char *warning);
+    void invokeStartReceiving();
+    [[nodiscard]] bool mayReadLink() const;
+    void resumeReadingLink();
+    void setWorkersPaused(bool paused);
+    void cancelWorkersDirectly();
+    void cancelWorkersQueued();
+
+    // The run.
+    void clearRunState();
+    void clearReportCounters();
+    void restartReceiving();
+    [[nodiscard]] QList<FileTransferTask> buildTaskList(const QList<FolderInfo> &folders);
+    void checkAllCompleted();
+    void finishFolderPhase();
+    void storeCounts(const FileCounts &counts);
+    void cleanUpReceivedApps();
+    [[nodiscard]] MigrationReport buildReport() const;
+    void sendToPeer(Protocol::MessageType type, const QByteArray &payload = {});
+
+    // What the workers report.
+    void onWorkerFileStarted(const QString &fileName, qlonglong size);
+    void onWorkerFileProgress(const QString &fileName, int percent, qlonglong moved, qlonglong total);
+    void onWorkerFileCompleted(const QString &fileName);
+    void onWorkerFileFailed(const QString &fileName, const QString &error);
+    void onWorkerOverallProgress(const TransferProgress &progress);
+    void onWorkerAllCompleted(int success, int failed, int skipped, qlonglong totalBytes);
+    void onWorkerError(const QString &msg);
+    void onWorkerRequestSendCommand(int type, const QByteArray &payload);
+
+    // What the peer sends.
+    [[nodiscard]] bool admitWhileIdle(Protocol::MessageType type);
+    void restartForNewTransfer();
+    void dispatch(Protocol::MessageType type, const QByteArray &payload);
+    void onTransferStart(const QByteArray &payload);
+    void onFileHeader(const QByteArray &payload);
+    void onFileData(const QByteArray &payload);
+    void onFileEnd(const QByteArray &payload);
+    void onFileAck(const QByteArray &payload);
+    void onPeerPause();
+    void onPeerResume();
+    void handlePeerCancel();
+    void onTransferComplete();
+    void onTransferReset();
+
+    bool settingPhaseDone = false;
+    int m_settingsApplied = 0;
+    int m_settingsFailed = 0;
+    QPointer<NetworkManager> m_networkManager;
+    int m_role = OldPC;
+    ConflictConfig m_conflictConfig;
+    QString m_destRoot;
+    QThread *m_workerThread = nullptr;
+    FileSenderWorker *m_senderWorker = nullptr;     // Old PC only
+    FileReceiverWorker *m_receiverWorker = nullptr; // New PC only
+    bool m_migrating = false;
+    bool m_paused = false;
+    QList<AppInfo> m_apps;
+    QList<FolderInfo> m_folders;
+    QList<AccountInfo> m_accounts; // kept, not used
+    QList<SettingInfo> m_settings;
+    TransferProgress m_progress;
+    QDateTime m_startTime;
+    int m_filesSuccess = 0;
+    int m_filesFailed = 0;
+    int m_filesSkipped = 0;
+    qint64 m_totalBytes = 0;
+    int m_appsSuccess = 0;
+    int m_appsFailed = 0;
+    int m_appsSkipped = 0;
+    bool fileTransferDone = false;
+    bool appMigrationDone = false;
+    bool m_foldersPhaseDone = false;
+    bool m_appFilePhaseDone = false;
+    int m_nextTaskId = 0;
+    FileCounts m_accumulated; // over the lists that the sender of one run is given
+
+    int m_run = 0;                // deliveries made under an older number belong to a run that is over
+    int m_rearmTicket = 0;        // a re-arming under an older number is no longer wanted
+    bool m_refusalLogged = false; // one log line a run for what an unaccepted link keeps from leaving
+};
+
+} // namespace Zandrove

@@ -1,0 +1,283 @@
+// What arrives from the peer.
+
+#include "peer/NetworkManager.h"
+#include "pipeline/FileReceiverWorker.h"
+#include "pipeline/FileSenderWorker.h"
+#include "pipeline/MigrationManager.h"
+#include "pipeline/TransferMessages.h"
+
+#include <QDebug>
+#include <QTimer>
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace Zandrove {
+
+using Protocol::MessageType;
+
+namespace {
+
+constexpr auto RearmDelay = 100ms;
+constexpr int TracedMessages = 100;
+constexpr qsizetype TracedPayloadBytes = 300;
+constexpr int FirstTransferType = int(MessageType::SessionEnd);
+constexpr int LastTransferType = int(MessageType::SettingComplete);
+
+void traceMessage(MessageType type, qsizetype size)
+{
+    static int count = 0;
+    ++count;
+    if (type == MessageType::FileData || (count > TracedMessages && type != MessageType::FileHeader))
+        return;
+    qDebug() << "MSG#" << count << "type:" << Qt::showbase << Qt::hex << int(type) << Qt::dec << int(type)
+             << "size:" << size;
+}
+
+} // namespace
+
+void MigrationManager::onLinkCommandReceived(MessageType type, const QByteArray &payload)
+{
+    if (!m_networkManager || !m_networkManager->isAccepted()) {
+        qDebug() << "Ignoring a message on a link that is not accepted, type:" << int(type);
+        return;
+    }
+    onNetworkCommandReceived(type, payload);
+}
+
+void MigrationManager::onNetworkCommandReceived(MessageType type, const QByteArray &payload)
+{
+    traceMessage(type, payload.size());
+    if (type == MessageType::SessionEnd) {
+        qDebug() << "Received SessionEnd from peer";
+        endSession();
+        Q_EMIT sessionEndReceived();
+        return;
+    }
+    if (!m_migrating && !admitWhileIdle(type))
+        return;
+    if (int(type) < FirstTransferType || int(type) > LastTransferType)
+        return;
+    dispatch(type, payload);
+}
+
+/// Whether a message that arrives with no run on goes on to its handler.
+bool MigrationManager::admitWhileIdle(MessageType type)
+{
+    if (type == MessageType::TransferStart && m_role == NewPC) {
+        qDebug() << "Received TransferStart while not migrating - restarting receiver";
+        restartForNewTransfer();
+        return true;
+    }
+    if (type == MessageType::TransferReset) {
+        qDebug() << "Received TransferReset while not migrating";
+        resetAndListen();
+        Q_EMIT transferReset();
+        return false;
+    }
+    qDebug() << "WARNING: Ignoring command because m_migrating is false!";
+    return false;
+}
+
+void MigrationManager::restartForNewTransfer()
+{
+    resetAndListen();
+    stopWorkers();
+    clearReportCounters();
+    setupConnections();
+    m_migrating = true;
+    m_startTime = QDateTime::currentDateTime();
+    invokeStartReceiving();
+    Q_EMIT newTransferStarted();
+}
+
+void MigrationManager::dispatch(MessageType type, const QByteArray &payload)
+{
+    switch (type) {
+    case MessageType::SessionEnd:
+        qDebug() << "Received SessionEnd from peer (in switch - should not reach here)";
+        Q_EMIT sessionEndReceived();
+        break;
+    case MessageType::TransferStart:
+        onTransferStart(payload);
+        break;
+    case MessageType::FileHeader:
+        onFileHeader(payload);
+        break;
+    case MessageType::FileData:
+        onFileData(payload);
+        break;
+    case MessageType::FileEnd:
+        onFileEnd(payload);
+        break;
+    case MessageType::FileAck:
+        onFileAck(payload);
+        break;
+    case MessageType::TransferPause:
+        onPeerPause();
+        break;
+    case MessageType::TransferResume:
+        onPeerResume();
+        break;
+    case MessageType::TransferCancel:
+        handlePeerCancel();
+        break;
+    case MessageType::TransferComplete:
+        onTransferComplete();
+        break;
+    case MessageType::TransferReset:
+        onTransferReset();
+        break;
+    default:
+        break;
+    }
+}
+
+void MigrationManager::onTransferStart(const QByteArray &payload)
+{
+    const auto start = TransferMessages::Start::fromPayload(payload);
+    qDebug() << "Received TransferStart: fileCount=" << start.fileCount << "totalSize=" << start.totalSize;
+    ++m_rearmTicket;
+    if (!m_receiverWorker)
+        return;
+    QMetaObject::invokeMethod(
+        m_receiverWorker,
+        [receiver = m_receiverWorker, start] { receiver->setTotalInfo(start.fileCount, start.totalSize); },
+        Qt::QueuedConnection);
+}
+
+void MigrationManager::onFileHeader(const QByteArray &payload)
+{
+    qDebug() << ">>> FileHeader CASE ENTERED! payload:" << payload.size();
+    const auto header = TransferMessages::Header::fromPayload(payload);
+    qDebug() << ">>> FileHeader:" << header.relativePath << header.fileSize << header.taskId;
+    if (!m_receiverWorker) {
+        qDebug() << ">>> WARNING: m_receiverWorker is NULL! File will fail!";
+        return;
+    }
+    QMetaObject::invokeMethod(
+        m_receiverWorker,
+        [receiver = m_receiverWorker, header] {
+            receiver->onFileHeader(header.relativePath, header.fileSize, 0, header.taskId);
+        },
+        Qt::QueuedConnection);
+}
+
+void MigrationManager::onFileData(const QByteArray &payload)
+{
+    if (!m_receiverWorker)
+        return;
+    m_receiverWorker->addInflow(payload.size());
+    QMetaObject::invokeMethod(
+        m_receiverWorker, [receiver = m_receiverWorker, payload] { receiver->onFileData(payload); },
+        Qt::QueuedConnection);
+}
+
+void MigrationManager::onFileEnd(const QByteArray &payload)
+{
+    if (!m_receiverWorker)
+        return;
+    QMetaObject::invokeMethod(
+        m_receiverWorker,
+        [receiver = m_receiverWorker, end = TransferMessages::End::fromPayload(payload)] {
+            receiver->onFileEnd(end.relativePath, end.checksum, end.taskId);
+        },
+        Qt::QueuedConnection);
+}
+
+void MigrationManager::onFileAck(const QByteArray &payload)
+{
+    qDebug() << ">>> FileAck CASE ENTERED! payload:" << payload.size();
+    qDebug() << ">>> Raw payload:" << payload.first(std::min(payload.size(), TracedPayloadBytes));
+    const auto ack = TransferMessages::Ack::fromPayload(payload);
+    qDebug() << ">>> FileAck isRequest:" << ack.isRequest;
+    if (ack.isRequest) {
+        qDebug() << ">>> This is a BatchAckRequest!";
+        if (!m_receiverWorker) {
+            qDebug() << ">>> ERROR: m_receiverWorker is NULL! Cannot process BatchAckRequest!";
+            return;
+        }
+        qDebug() << ">>> Calling onBatchAckRequest: batchId=" << ack.batchId
+                 << "startTaskId=" << ack.startTaskId << "endTaskId=" << ack.endTaskId;
+        // Queued, so that the answer stands behind all chunks of the batch.
+        QMetaObject::invokeMethod(
+            m_receiverWorker,
+            [receiver = m_receiverWorker, ack] {
+                receiver->onBatchAckRequest(ack.batchId, ack.startTaskId, ack.endTaskId);
+            },
+            Qt::QueuedConnection);
+        qDebug() << ">>> onBatchAckRequest invoked!";
+        return;
+    }
+    qDebug() << ">>> This is a BatchAck response (for sender)";
+    if (!m_senderWorker) {
+        qDebug() << ">>> ERROR: m_senderWorker is NULL! Cannot process BatchAck!";
+        return;
+    }
+    qDebug() << ">>> Calling onBatchAckReceived: batchId=" << ack.batchId << "success=" << ack.success
+             << "failedCount=" << ack.failedFiles.size();
+    // Directly: the worker's thread is blocked waiting for this answer.
+    m_senderWorker->onBatchAckReceived(ack.batchId, ack.success, ack.failedFiles);
+    qDebug() << ">>> onBatchAckReceived invoked!";
+}
+
+void MigrationManager::onPeerPause()
+{
+    if (m_paused)
+        return;
+    qDebug() << "MigrationManager::onPeerPause() - peer requested pause";
+    setWorkersPaused(true);
+    Q_EMIT pausedByPeer();
+}
+
+void MigrationManager::onPeerResume()
+{
+    if (!m_paused)
+        return;
+    qDebug() << "MigrationManager::onPeerResume() - peer requested resume";
+    setWorkersPaused(false);
+    Q_EMIT resumedByPeer();
+}
+
+void MigrationManager::handlePeerCancel()
+{
+    qDebug() << "Received TransferCancel from peer";
+    qDebug() << "MigrationManager::handlePeerCancel()";
+    m_migrating = false;
+    cancelWorkersQueued();
+    resetAndListen();
+    if (m_role == NewPC) {
+        QTimer::singleShot(RearmDelay, this, [this, ticket = m_rearmTicket] {
+            if (ticket == m_rearmTicket)
+                restartReceiving();
+        });
+    }
+    Q_EMIT peerCancelled();
+}
+
+void MigrationManager::onTransferComplete()
+{
+    qDebug() << "Received TransferComplete message!";
+    if (m_role == NewPC) {
+        qDebug() << "Receiver: Marking all phases as done";
+        appMigrationDone = true;
+        settingPhaseDone = true;
+    }
+    if (!m_receiverWorker) {
+        qDebug() << "WARNING: m_receiverWorker is null!";
+        return;
+    }
+    qDebug() << "Calling receiverWorker->onTransferComplete()";
+    QMetaObject::invokeMethod(m_receiverWorker, &FileReceiverWorker::onTransferComplete,
+                              Qt::QueuedConnection);
+}
+
+void MigrationManager::onTransferReset()
+{
+    qDebug() << "Received TransferReset - peer wants to restart";
+    resetAndListen();
+    Q_EMIT transferReset();
+}
+
+} // namespace Zandrove
