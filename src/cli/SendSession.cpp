@@ -129,9 +129,6 @@ void SendSession::onDisconnected()
 
 void SendSession::onSessionEndReceived()
 {
-    if (link() != Link::Up)
-        return;
-    engine().disconnectFromPeer(); // comes back as onDisconnected unless the state says otherwise
     linkOver(tr("%1 ended the session.").arg(m_peerName));
 }
 
@@ -140,6 +137,7 @@ void SendSession::linkOver(const QString &complaint)
     if (link() != Link::Up || isFinishing())
         return;
     setLink(Link::None);
+    engine().disconnectFromPeer();
     output().disconnected();
     if (m_state == State::Resting) {
         finish(m_results.exitCode());
