@@ -10,6 +10,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class QTcpSocket;
 class QTimer;
 
@@ -43,8 +45,21 @@ public:
     /// `ip` without a "::ffff:" prefix, a "%zone" suffix and blanks.
     [[nodiscard]] static QString normalizeIP(const QString &ip);
 
-    /// Whether `ip`, normalised, is one of this machine's own addresses.
+    /// Whether `ip`, normalised, is one of this machine's own addresses, as they were when last refreshed.
     [[nodiscard]] bool isLocalIP(const QString &ip);
+
+    /// Whether `ip` is written as an IPv4 address in 10/8, 172.16/12 or 192.168/16.
+    [[nodiscard]] static bool isPrivateIP(const QString &ip);
+
+    /// Whether two IPv4 addresses share their first two octets where one of them is link-local, else their
+    /// first three.
+    [[nodiscard]] static bool isSameSubnet(const QString &a, const QString &b);
+
+    /// The addresses that a sweep tries at `layer` (0 to 5), in order: for each link-local address of an
+    /// adapter that is up its own /24 and `layer` neighbours on either side, for each private address its
+    /// /24. Leaves out `ownAddresses` and repeats.
+    [[nodiscard]] static QStringList scanTargets(const QList<NetworkAdapter> &adapters,
+                                                 const QSet<QString> &ownAddresses, int layer);
 
     /// Which of a peer's two addresses to dial: the one in a subnet of this machine, else one that answers a
     /// probe where link-local addresses are about, else the sender's.
@@ -53,6 +68,10 @@ public:
     /// The sweep pauses while a handshake of this copy is open: probes in flight are aborted and count as
     /// tried, and no new batch starts until this is called with false.
     void setHandshakeOpen(bool open);
+
+    /// Says where a connection to an address really goes, so that a made-up network can be swept on the
+    /// loopback. Without it, to that address.
+    void setRoute(std::function<QString(const QString &ip)> route) { m_route = std::move(route); }
 
 public Q_SLOTS:
     /// Starts the sweep at the interfaces' own /24 networks; it widens by itself, up to layer 5, while
@@ -68,6 +87,50 @@ Q_SIGNALS:
     void scanFinished(bool foundDevices);
     /// A listener answered at `ip`, which is not this machine. Fires once per answer; the sweep goes on.
     void deviceFound(const QString &ip);
+
+private:
+    struct Reachability
+    {
+        bool reachable = false;
+        qint64 checkedAt = 0; ///< milliseconds since the epoch
+    };
+
+    [[nodiscard]] bool isReachable(const QString &ip, int timeoutMs);
+    [[nodiscard]] QString localIPInSubnetOf(const QString &ip) const;
+    [[nodiscard]] QString firstReachable(const QString &payloadIP, const QString &senderIP);
+    [[nodiscard]] QStringList getLocalIPs() const;
+    void refreshLocalIPs();
+
+    void collectScanTargets();
+    void scanNextBatch();
+    [[nodiscard]] bool startNextLayer();
+    void launchBatch(qsizetype count);
+    void launchProbe(const QString &ip);
+    void onProbeConnected(QTcpSocket *probe);
+    void onProbeFailed(QTcpSocket *probe);
+    void onScanBatchTimeout();
+    void abortPending();
+    [[nodiscard]] int totalHint() const;
+    [[nodiscard]] QString routeTo(const QString &ip) const { return m_route ? m_route(ip) : ip; }
+
+    AdapterSource m_adapters;
+    int m_currentLayer = 0;
+    bool m_foundDevice = false;
+    QHash<QString, Reachability> m_reachableCache;
+    int m_role = OldPC;
+    quint16 m_targetPort = TcpPort;
+    bool m_cableModeInitialized = false;
+    QSet<QString> m_localIPs;
+    bool m_localIPsValid = false;
+    bool m_scanning = false;
+    QStringList m_scanTargets;
+    qsizetype m_currentIndex = 0;
+    int m_scannedCount = 0;
+    QList<QTcpSocket *> m_pendingSockets;
+    QTimer *m_batchTimer;
+    bool m_launching = false; ///< probes that fail at once must not start the next batch from within this one
+    bool m_handshakeOpen = false;
+    std::function<QString(const QString &ip)> m_route;
 };
 
 } // namespace Zandrove

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "core/common/Records.h"
+#include "peer/FrameReader.h"
 #include "peer/Protocol.h"
+#include "peer/SocketHandling.h"
 #include "support/NetworkAdapters.h"
 
 #include <QAbstractSocket>
@@ -10,6 +12,12 @@
 #include <atomic>
 #include <functional>
 #include <memory>
+#include <optional>
+
+class QTcpServer;
+class QTcpSocket;
+class QTimer;
+class QUdpSocket;
 
 namespace Zandrove {
 
@@ -18,8 +26,9 @@ class CableModeHelper;
 /// What the link takes from the world. The defaults are the real machine; tests replace single members.
 struct LinkEnvironment
 {
-    quint16 tcpPort = TcpPort; ///< port to listen on
-    quint16 udpPort = UdpPort; ///< port to broadcast to and hear on
+    quint16 tcpPort = TcpPort; ///< port to listen on; 0 takes any free one
+    quint16 udpPort =
+        UdpPort; ///< port to broadcast to and hear on; 0 hears on any free one, broadcasts nowhere
     AdapterSource adapters = systemNetworkAdapters;
     std::function<QDateTime()> now = [] { return QDateTime::currentDateTime(); };
     /// Replaces the UDP socket for outgoing datagrams when set.
@@ -65,6 +74,13 @@ public:
 
     void sendSessionEnd();
 
+    /// The port that peers can dial; 0 while this copy cannot listen.
+    [[nodiscard]] quint16 serverPort() const;
+
+    /// Takes one datagram as if it had come from `sender`: a discovery frame of the other role enters or
+    /// refreshes the table, anything else is dropped. The UDP socket hands over all that it hears here.
+    void handleDatagram(const QByteArray &datagram, const QHostAddress &sender);
+
 public Q_SLOTS:
     void startDiscovery();
     void stopDiscovery();
@@ -88,6 +104,9 @@ public Q_SLOTS:
     /// Reads, through the event loop, what the read gate held back.
     void resumeReading();
 
+    /// Drops the peers that have been silent for too long; a timer calls it while discovery runs.
+    void checkPCTimeouts();
+
 Q_SIGNALS:
     void pcDiscovered(const Zandrove::PCInfo &pc);
     void pcLost(const QString &pcId);
@@ -107,6 +126,89 @@ Q_SIGNALS:
     /// Every message that the connection layer does not consume itself, in order of arrival, from any peer:
     /// whether the peer was accepted is for the listener to ask.
     void commandReceived(Zandrove::Protocol::MessageType type, const QByteArray &payload);
+
+private:
+    // NetworkManager.cpp
+    [[nodiscard]] QByteArray buildPacket(Protocol::MessageType type, const QByteArray &payload);
+    [[nodiscard]] bool isSocketOpen() const;
+    void write(const QByteArray &bytes);
+    void notePendingBytes();
+    void onReadyRead(QTcpSocket *socket);
+    void readFrames(QTcpSocket *socket, bool mindGate);
+    void dispatch(const Frame &frame);
+
+    // NetworkManagerDiscovery.cpp
+    void setupDiscovery();
+    void clearTable();
+    void startBurst();
+    void sendBurst();
+    void sendBroadcast();
+    void sendDatagram(const QByteArray &datagram, const QHostAddress &target);
+    [[nodiscard]] QByteArray discoveryPayload() const;
+    void onBroadcastReceived();
+    [[nodiscard]] std::optional<PCInfo> peerFrom(const QByteArray &payload, const QString &senderIP) const;
+    void addOrUpdate(const PCInfo &pc);
+    void update(PCInfo &entry, const PCInfo &pc);
+    [[nodiscard]] bool append(const PCInfo &pc);
+    void forgetTimes(const QString &id);
+    void removeLost(const QString &id);
+    void onDirectScanDeviceFound(const QString &ip);
+
+    // NetworkManagerConnection.cpp
+    void setupConnection();
+    void setupServer();
+    void onNewConnection();
+    void adopt(QTcpSocket *socket, bool dialled);
+    [[nodiscard]] QTcpSocket *releaseSocket();
+    void dropSocket();
+    void hangUp(QTcpSocket *socket);
+    void resetPairing();
+    void endLink();
+    void completePairing();
+    void onSocketConnected(QTcpSocket *socket);
+    void onSocketDisconnected(QTcpSocket *socket);
+    void onSocketError(QTcpSocket *socket, QAbstractSocket::SocketError error);
+    void onConnectionTimeout();
+    void onConnectRequest(const QByteArray &payload);
+    void onConnectAccept();
+    void onConnectReject();
+    void sendHeartbeat();
+    void setHandshake(bool dialOpen, bool questionOpen);
+    [[nodiscard]] bool isQuestionStale() const;
+
+    LinkEnvironment m_environment;
+    CableModeHelper *m_cableHelper;
+    quint32 m_sequence = 0;
+    int m_mode = NetworkMode;
+    int m_role = OldPC;
+    bool m_connected = false;
+    QString m_verifyCode;
+    QUdpSocket *m_udpSocket;
+    QTimer *m_broadcastTimer;
+    QTimer *m_timeoutTimer;
+    QTimer *m_connectionTimer;
+    QList<PCInfo> m_discoveredPCs;
+    QMap<QString, QDateTime> m_lastSeen;
+    QMap<QString, int> m_missedChecks;
+    QTcpServer *m_tcpServer;
+    QTcpSocket *m_tcpSocket = nullptr;
+    QTimer *m_heartbeatTimer;
+    PCInfo m_connectedPC;
+    PCInfo m_pendingPC;
+    FrameReader m_receiveBuffer;
+
+    QTimer *m_burstTimer;
+    int m_burstLeft = 0;          ///< broadcasts of the burst still to be sent
+    QTimer *m_scanDelayTimer;     ///< runs from a start of discovery in cable mode to the start of the sweep
+    bool m_accepted = false;      ///< of the current socket
+    bool m_dialOpen = false;      ///< the current socket is an own dial that has not been answered
+    bool m_questionOpen = false;  ///< a ConnectRequest on the current socket waits for the user
+    quint64 m_socketSerial = 0;   ///< goes up with each new current socket
+    quint64 m_questionSerial = 0; ///< socket that raised the last question, 0 before the first
+    HandledSockets m_handledSockets;
+    std::function<bool()> m_readGate;
+    bool m_readQueued = false;
+    std::shared_ptr<std::atomic<qint64>> m_pendingBytes;
 };
 
 } // namespace Zandrove

@@ -1,0 +1,441 @@
+#include "peer/CableModeHelper.h"
+
+#include <QDateTime>
+#include <QDebug>
+#include <QNetworkProxy>
+#include <QTcpSocket>
+#include <QTimer>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace Zandrove {
+
+namespace {
+
+constexpr qsizetype ProbesPerBatch = 30;
+constexpr auto BatchTimeout = 150ms;
+constexpr int HighestLayer = 5;
+constexpr int FirstHost = 1;
+constexpr int LastHost = 254;
+constexpr int HostsPerSubnet = LastHost - FirstHost + 1;
+constexpr int HighestOctet = 255;
+constexpr int ReachabilityTimeoutMs = 200;
+constexpr qint64 ReachabilityLifetimeMs = 3000;
+constexpr auto TargetProperty = "targetIP";
+
+constexpr auto LinkLocalPrefix = "169.254."_L1;
+constexpr auto LoopbackPrefix = "127."_L1;
+/// The network that Windows gives to the PCs it shares its internet connection with.
+constexpr auto SharingPrefix = "192.168.137."_L1;
+
+bool isIPv4(const AdapterAddress &entry)
+{
+    return entry.ip.protocol() == QHostAddress::IPv4Protocol;
+}
+
+bool isPlainPrivate(const QString &ip)
+{
+    return CableModeHelper::isPrivateIP(ip) && !ip.startsWith(LinkLocalPrefix) &&
+           !ip.startsWith(LoopbackPrefix) && !ip.startsWith(SharingPrefix);
+}
+
+/// Addresses in the order they were added, each once.
+class TargetList
+{
+public:
+    explicit TargetList(const QSet<QString> &excluded)
+        : m_seen(excluded)
+    {
+    }
+
+    /// Adds the hosts of the /24 that starts with `prefix`, as in "10.0.0.".
+    void addSubnet(const QString &prefix)
+    {
+        for (int host = FirstHost; host <= LastHost; ++host) {
+            const QString ip = prefix + QString::number(host);
+            if (m_seen.contains(ip))
+                continue;
+            m_seen.insert(ip);
+            m_targets.append(ip);
+        }
+    }
+
+    [[nodiscard]] QStringList targets() const { return m_targets; }
+
+private:
+    QSet<QString> m_seen;
+    QStringList m_targets;
+};
+
+void addTargetsAround(const QString &ip, const QString &adapterName, int layer, TargetList &list)
+{
+    const QStringList octets = ip.split(u'.');
+    if (octets.size() != 4)
+        return;
+    if (ip.startsWith(LinkLocalPrefix)) {
+        qDebug() << "[CableModeHelper] Found APIPA:" << ip << "on" << adapterName << "layer:" << layer;
+        const int own = octets.at(2).toInt();
+        for (int third = std::max(own - layer, 0); third <= std::min(own + layer, HighestOctet); ++third)
+            list.addSubnet(LinkLocalPrefix + QString::number(third) + u'.');
+    } else if (CableModeHelper::isPrivateIP(ip)) {
+        qDebug() << "[CableModeHelper] Found private network:" << ip;
+        list.addSubnet(octets.first(3).join(u'.') + u'.');
+    }
+}
+
+} // namespace
+
+CableModeHelper::CableModeHelper(AdapterSource adapters, QObject *parent)
+    : QObject(parent)
+    , m_adapters(std::move(adapters))
+    , m_batchTimer(new QTimer(this))
+{
+    m_batchTimer->setSingleShot(true);
+    connect(m_batchTimer, &QTimer::timeout, this, &CableModeHelper::onScanBatchTimeout);
+}
+
+CableModeHelper::~CableModeHelper()
+{
+    stopDirectScan();
+}
+
+bool CableModeHelper::enableCableMode()
+{
+    if (m_cableModeInitialized)
+        return true;
+    qDebug() << "[CableModeHelper] Cable mode: Using automatic addressing";
+    refreshLocalIPs();
+    return false;
+}
+
+QString CableModeHelper::getCableIP() const
+{
+    const QStringList ips = getLocalIPs();
+    const auto startsWith = [](QLatin1StringView prefix) {
+        return [prefix](const QString &ip) { return ip.startsWith(prefix); };
+    };
+    const std::array<std::function<bool(const QString &)>, 3> preferences = {
+        isPlainPrivate, startsWith(SharingPrefix), startsWith(LinkLocalPrefix)};
+    for (const auto &fits : preferences) {
+        const auto ip = std::find_if(ips.cbegin(), ips.cend(), fits);
+        if (ip != ips.cend())
+            return *ip;
+    }
+    return u"127.0.0.1"_s;
+}
+
+QString CableModeHelper::normalizeIP(const QString &ip)
+{
+    QString text = ip;
+    if (text.startsWith("::ffff:"_L1))
+        text = text.mid(7);
+    const qsizetype zone = text.indexOf(u'%');
+    if (zone >= 0)
+        text.truncate(zone);
+    return text.trimmed();
+}
+
+bool CableModeHelper::isLocalIP(const QString &ip)
+{
+    if (!m_localIPsValid)
+        refreshLocalIPs();
+    return m_localIPs.contains(normalizeIP(ip));
+}
+
+bool CableModeHelper::isPrivateIP(const QString &ip)
+{
+    if (ip.startsWith("10."_L1) || ip.startsWith("192.168."_L1))
+        return true;
+    if (!ip.startsWith("172."_L1))
+        return false;
+    const int second = ip.section(u'.', 1, 1).toInt();
+    return second >= 16 && second <= 31;
+}
+
+bool CableModeHelper::isSameSubnet(const QString &a, const QString &b)
+{
+    bool aIsIPv4 = false;
+    bool bIsIPv4 = false;
+    const quint32 first = QHostAddress(a).toIPv4Address(&aIsIPv4);
+    const quint32 second = QHostAddress(b).toIPv4Address(&bIsIPv4);
+    const bool linkLocal = a.startsWith(LinkLocalPrefix) || b.startsWith(LinkLocalPrefix);
+    const quint32 mask = linkLocal ? 0xFFFF0000 : 0xFFFFFF00;
+    return aIsIPv4 && bIsIPv4 && (first & mask) == (second & mask);
+}
+
+QStringList CableModeHelper::scanTargets(const QList<NetworkAdapter> &adapters,
+                                         const QSet<QString> &ownAddresses, int layer)
+{
+    TargetList list(ownAddresses);
+    for (const NetworkAdapter &adapter : adapters) {
+        if (!adapter.up || adapter.loopback)
+            continue;
+        for (const AdapterAddress &entry : adapter.addresses) {
+            if (isIPv4(entry))
+                addTargetsAround(entry.ip.toString(), adapter.name, layer, list);
+        }
+    }
+    return list.targets();
+}
+
+QString CableModeHelper::chooseBestIP(const QString &payloadIP, const QString &senderIP)
+{
+    qDebug() << "[CableModeHelper] chooseBestIP: payload=" << payloadIP << "sender=" << senderIP;
+    if (const QString local = localIPInSubnetOf(senderIP); !local.isEmpty()) {
+        qDebug() << "  -> Using senderIP (same subnet with" << local << "):" << senderIP;
+        return senderIP;
+    }
+    if (const QString local = localIPInSubnetOf(payloadIP); !local.isEmpty()) {
+        qDebug() << "  -> Using payloadIP (same subnet with" << local << "):" << payloadIP;
+        return payloadIP;
+    }
+    if (senderIP.startsWith(LinkLocalPrefix) || payloadIP.startsWith(LinkLocalPrefix)) {
+        if (const QString reachable = firstReachable(payloadIP, senderIP); !reachable.isEmpty())
+            return reachable;
+    }
+    if (!senderIP.isEmpty()) {
+        qDebug() << "  -> Fallback to senderIP:" << senderIP;
+        return senderIP;
+    }
+    qDebug() << "  -> Fallback to payloadIP:" << payloadIP;
+    return payloadIP;
+}
+
+void CableModeHelper::setHandshakeOpen(bool open)
+{
+    if (m_handshakeOpen == open)
+        return;
+    m_handshakeOpen = open;
+    if (!m_scanning)
+        return;
+    if (open) {
+        m_batchTimer->stop();
+        abortPending();
+    } else {
+        m_batchTimer->start(0ms);
+    }
+}
+
+void CableModeHelper::startDirectScan()
+{
+    if (m_scanning) {
+        qDebug() << "[CableModeHelper] Scan already in progress";
+        return;
+    }
+    m_currentLayer = 0;
+    m_foundDevice = false;
+    refreshLocalIPs();
+    collectScanTargets();
+    if (m_scanTargets.isEmpty()) {
+        qDebug() << "[CableModeHelper] No scan targets collected";
+        Q_EMIT scanFinished(false);
+        return;
+    }
+    m_scanning = true;
+    m_currentIndex = 0;
+    m_scannedCount = 0;
+    qDebug() << "[CableModeHelper] Starting scan, targets:" << m_scanTargets.size()
+             << "layer:" << m_currentLayer;
+    Q_EMIT scanStarted();
+    scanNextBatch();
+}
+
+void CableModeHelper::stopDirectScan()
+{
+    if (!m_scanning)
+        return;
+    m_scanning = false;
+    m_batchTimer->stop();
+    abortPending();
+    m_scanTargets.clear();
+    qDebug() << "[CableModeHelper] Scan stopped";
+}
+
+bool CableModeHelper::isReachable(const QString &ip, int timeoutMs)
+{
+    const qint64 now = QDateTime::currentMSecsSinceEpoch();
+    const auto known = m_reachableCache.constFind(ip);
+    if (known != m_reachableCache.cend() && now - known->checkedAt < ReachabilityLifetimeMs)
+        return known->reachable;
+    QTcpSocket probe;
+    probe.setProxy(QNetworkProxy::NoProxy);
+    probe.connectToHost(routeTo(ip), m_targetPort, QIODevice::ReadWrite, QAbstractSocket::AnyIPProtocol);
+    const bool reachable = probe.waitForConnected(timeoutMs);
+    probe.close();
+    m_reachableCache.insert(ip, {reachable, now});
+    return reachable;
+}
+
+/// The own address that shares a subnet with `ip`, empty without one.
+QString CableModeHelper::localIPInSubnetOf(const QString &ip) const
+{
+    if (ip.isEmpty())
+        return {};
+    const QStringList locals = getLocalIPs();
+    const auto local = std::find_if(locals.cbegin(), locals.cend(),
+                                    [&ip](const QString &own) { return isSameSubnet(own, ip); });
+    return local != locals.cend() ? *local : QString();
+}
+
+QString CableModeHelper::firstReachable(const QString &payloadIP, const QString &senderIP)
+{
+    if (!senderIP.isEmpty() && isReachable(senderIP, ReachabilityTimeoutMs)) {
+        qDebug() << "  -> Using senderIP (reachable):" << senderIP;
+        return senderIP;
+    }
+    if (!payloadIP.isEmpty() && isReachable(payloadIP, ReachabilityTimeoutMs)) {
+        qDebug() << "  -> Using payloadIP (reachable):" << payloadIP;
+        return payloadIP;
+    }
+    return {};
+}
+
+QStringList CableModeHelper::getLocalIPs() const
+{
+    QStringList ips;
+    const QList<NetworkAdapter> adapters = m_adapters();
+    for (const NetworkAdapter &adapter : adapters) {
+        if (!adapter.up || !adapter.running || adapter.loopback)
+            continue;
+        for (const AdapterAddress &entry : adapter.addresses) {
+            if (isIPv4(entry))
+                ips.append(entry.ip.toString());
+        }
+    }
+    return ips;
+}
+
+void CableModeHelper::refreshLocalIPs()
+{
+    m_localIPs = {u"127.0.0.1"_s};
+    const QList<NetworkAdapter> adapters = m_adapters();
+    for (const NetworkAdapter &adapter : adapters) {
+        for (const AdapterAddress &entry : adapter.addresses)
+            m_localIPs.insert(normalizeIP(entry.ip.toString()));
+    }
+    m_localIPsValid = true;
+    qDebug() << "[CableModeHelper] Local IPs:" << m_localIPs;
+}
+
+void CableModeHelper::collectScanTargets()
+{
+    m_scanTargets = scanTargets(m_adapters(), m_localIPs, m_currentLayer);
+    qDebug() << "[CableModeHelper] Collected" << m_scanTargets.size()
+             << "scan targets (APIPA layer:" << m_currentLayer << ")";
+}
+
+void CableModeHelper::scanNextBatch()
+{
+    if (!m_scanning || m_handshakeOpen)
+        return;
+    if (m_currentIndex >= m_scanTargets.size() && !startNextLayer())
+        return;
+    const qsizetype count = std::min(ProbesPerBatch, m_scanTargets.size() - m_currentIndex);
+    launchBatch(count);
+    m_scannedCount += int(count);
+    Q_EMIT scanProgress(m_scannedCount, totalHint());
+    if (!m_scanning || m_handshakeOpen)
+        return;
+    // Where every probe failed at once, the next batch still starts from the event loop: from here it would
+    // be a recursion as deep as the sweep is long.
+    m_batchTimer->start(m_pendingSockets.isEmpty() ? 0ms : BatchTimeout);
+}
+
+/// Widens the sweep by one layer. False where there is nothing more to try: the sweep has ended then.
+bool CableModeHelper::startNextLayer()
+{
+    if (m_foundDevice || m_currentLayer >= HighestLayer) {
+        qDebug() << "[CableModeHelper] Scan completed, scanned:" << m_scannedCount
+                 << "found:" << m_foundDevice << "finalLayer:" << m_currentLayer;
+        m_scanning = false;
+        Q_EMIT scanFinished(m_foundDevice);
+        return false;
+    }
+    ++m_currentLayer;
+    qDebug() << "[CableModeHelper] No device found, expanding to APIPA layer:" << m_currentLayer;
+    refreshLocalIPs();
+    collectScanTargets();
+    m_currentIndex = 0;
+    if (!m_scanTargets.isEmpty())
+        return true;
+    m_scanning = false;
+    qDebug() << "[CableModeHelper] No more scan targets";
+    Q_EMIT scanFinished(false);
+    return false;
+}
+
+void CableModeHelper::launchBatch(qsizetype count)
+{
+    m_launching = true;
+    for (qsizetype i = 0; i < count; ++i)
+        launchProbe(m_scanTargets.at(m_currentIndex++));
+    m_launching = false;
+}
+
+void CableModeHelper::launchProbe(const QString &ip)
+{
+    auto *probe = new QTcpSocket(this);
+    probe->setProxy(QNetworkProxy::NoProxy);
+    probe->setProperty(TargetProperty, ip);
+    connect(probe, &QTcpSocket::connected, this, [this, probe] { onProbeConnected(probe); });
+    connect(probe, &QTcpSocket::errorOccurred, this, [this, probe] { onProbeFailed(probe); });
+    m_pendingSockets.append(probe);
+    probe->connectToHost(routeTo(ip), m_targetPort, QIODevice::ReadWrite, QAbstractSocket::AnyIPProtocol);
+}
+
+void CableModeHelper::onProbeConnected(QTcpSocket *probe)
+{
+    const QString ip = probe->property(TargetProperty).toString();
+    qDebug() << "[CableModeHelper] ★ Found device at:" << ip;
+    m_pendingSockets.removeOne(probe);
+    QObject::disconnect(probe, nullptr, this, nullptr);
+    probe->abort();
+    probe->deleteLater();
+    if (isLocalIP(ip))
+        return;
+    m_foundDevice = true;
+    Q_EMIT deviceFound(ip);
+}
+
+void CableModeHelper::onProbeFailed(QTcpSocket *probe)
+{
+    m_pendingSockets.removeOne(probe);
+    QObject::disconnect(probe, nullptr, this, nullptr);
+    probe->deleteLater();
+    if (m_launching || !m_scanning || !m_pendingSockets.isEmpty())
+        return;
+    m_batchTimer->stop();
+    scanNextBatch();
+}
+
+void CableModeHelper::onScanBatchTimeout()
+{
+    abortPending();
+    scanNextBatch();
+}
+
+void CableModeHelper::abortPending()
+{
+    const QList<QTcpSocket *> probes = std::exchange(m_pendingSockets, {});
+    for (QTcpSocket *probe : probes) {
+        QObject::disconnect(probe, nullptr, this, nullptr);
+        probe->abort();
+        probe->deleteLater();
+    }
+}
+
+int CableModeHelper::totalHint() const
+{
+    const int listed = int(m_scanTargets.size());
+    if (m_foundDevice || m_currentLayer >= HighestLayer)
+        return listed;
+    return listed + (HighestLayer - m_currentLayer) * HostsPerSubnet;
+}
+
+} // namespace Zandrove

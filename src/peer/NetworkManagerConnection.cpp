@@ -1,0 +1,341 @@
+#include "peer/NetworkManager.h"
+
+#include "peer/CableModeHelper.h"
+#include "support/Utilities.h"
+
+#include <QDebug>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QNetworkProxy>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QThread>
+#include <QTimer>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace Zandrove {
+
+namespace {
+
+constexpr auto ConnectTimeout = 5000ms;
+constexpr auto HeartbeatInterval = 5000ms;
+constexpr unsigned long ListenRetryMs = 100;
+/// How long a socket that this copy closes may take to deliver what still waits in it.
+constexpr auto ClosingTime = 2000ms;
+/// The two sides differ on purpose: the one that listens is mostly the one that receives.
+constexpr int DialledBufferBytes = 2 * 1024 * 1024;
+constexpr int AcceptedBufferBytes = 16 * 1024 * 1024;
+/// What a socket takes from the system while the read gate is closed.
+constexpr qint64 ReadBufferBytes = 8 * 1024 * 1024;
+/// A name goes into a question to the user as it is: it had better fit a dialog.
+constexpr qsizetype LongestName = 255;
+
+void setBufferSizes(QTcpSocket *socket, int bytes)
+{
+    socket->setSocketOption(QAbstractSocket::SendBufferSizeSocketOption, bytes);
+    socket->setSocketOption(QAbstractSocket::ReceiveBufferSizeSocketOption, bytes);
+}
+
+void setDialledOptions(QTcpSocket *socket)
+{
+    socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+    setBufferSizes(socket, DialledBufferBytes);
+}
+
+bool isConnecting(const QTcpSocket *socket)
+{
+    return socket->state() == QAbstractSocket::HostLookupState ||
+           socket->state() == QAbstractSocket::ConnectingState;
+}
+
+} // namespace
+
+void NetworkManager::setupConnection()
+{
+    m_connectionTimer->setSingleShot(true);
+    m_connectionTimer->setInterval(ConnectTimeout);
+    m_heartbeatTimer->setInterval(HeartbeatInterval);
+    connect(m_connectionTimer, &QTimer::timeout, this, &NetworkManager::onConnectionTimeout);
+    connect(m_heartbeatTimer, &QTimer::timeout, this, &NetworkManager::sendHeartbeat);
+    m_tcpServer->setProxy(QNetworkProxy::NoProxy);
+    connect(m_tcpServer, &QTcpServer::newConnection, this, &NetworkManager::onNewConnection);
+}
+
+void NetworkManager::setupServer()
+{
+    const bool listening = m_tcpServer->isListening();
+    qDebug() << "setupServer() called, currently listening:" << listening;
+    if (listening)
+        return;
+    bool result = m_tcpServer->listen(QHostAddress::Any, m_environment.tcpPort);
+    qDebug() << "TCP Server listen result:" << result << "Port:" << m_environment.tcpPort;
+    if (result)
+        return;
+    qDebug() << "ERROR:" << m_tcpServer->errorString();
+    m_tcpServer->close();
+    QThread::msleep(ListenRetryMs);
+    result = m_tcpServer->listen(QHostAddress::Any, m_environment.tcpPort);
+    qDebug() << "Retry result:" << result;
+}
+
+void NetworkManager::connectToPC(const QString &pcId)
+{
+    qDebug() << "=== connectToPC() ===";
+    qDebug() << "Target:" << pcId;
+    const auto target = std::find_if(m_discoveredPCs.cbegin(), m_discoveredPCs.cend(),
+                                     [&pcId](const PCInfo &pc) { return pc.id == pcId; });
+    m_pendingPC = target != m_discoveredPCs.cend() ? *target : PCInfo();
+    if (m_pendingPC.id.isEmpty()) {
+        Q_EMIT connectionFailed(tr("PC not found"));
+        return;
+    }
+    const QString ip = m_cableHelper->chooseBestIP(m_pendingPC.ip, m_pendingPC.senderIp);
+    qDebug() << "Payload IP:" << m_pendingPC.ip;
+    qDebug() << "Sender IP:" << m_pendingPC.senderIp;
+    qDebug() << "Chosen IP:" << ip;
+    dropSocket();
+    auto *socket = new QTcpSocket(this);
+    setDialledOptions(socket);
+    connect(socket, &QTcpSocket::connected, this, [this, socket] { onSocketConnected(socket); });
+    adopt(socket, true);
+    m_connectionTimer->start();
+    socket->connectToHost(ip, m_pendingPC.port, QIODevice::ReadWrite, QAbstractSocket::AnyIPProtocol);
+}
+
+void NetworkManager::connectByVerifyCode(const QString &code)
+{
+    const auto target = std::find_if(m_discoveredPCs.cbegin(), m_discoveredPCs.cend(),
+                                     [&code](const PCInfo &pc) { return pc.verifyCode == code; });
+    if (target == m_discoveredPCs.cend()) {
+        Q_EMIT connectionFailed(tr("No device found with verification code: %1").arg(code));
+        return;
+    }
+    const QString id = target->id;
+    connectToPC(id);
+}
+
+void NetworkManager::disconnect()
+{
+    sendCommand(Protocol::MessageType::Disconnect);
+    QTcpSocket *socket = releaseSocket();
+    resetPairing();
+    if (socket)
+        hangUp(socket);
+}
+
+void NetworkManager::acceptConnection()
+{
+    qDebug() << "acceptConnection() called";
+    if (!m_tcpSocket || m_tcpSocket->state() != QAbstractSocket::ConnectedState || isQuestionStale())
+        return;
+    sendCommand(Protocol::MessageType::ConnectAccept);
+    completePairing();
+}
+
+void NetworkManager::rejectConnection()
+{
+    if (!m_tcpSocket || isQuestionStale())
+        return;
+    sendCommand(Protocol::MessageType::ConnectReject);
+    setHandshake(false, false);
+    hangUp(m_tcpSocket);
+}
+
+void NetworkManager::onNewConnection()
+{
+    while (QTcpSocket *socket = m_tcpServer->nextPendingConnection()) {
+        dropSocket();
+        socket->setParent(this);
+        setBufferSizes(socket, AcceptedBufferBytes);
+        adopt(socket, false);
+        qDebug() << "New TCP connection from:" << socket->peerAddress();
+    }
+}
+
+/// Makes a fresh socket the current one; none is current when it is called.
+void NetworkManager::adopt(QTcpSocket *socket, bool dialled)
+{
+    socket->setProxy(QNetworkProxy::NoProxy);
+    socket->setReadBufferSize(ReadBufferBytes);
+    connect(socket, &QTcpSocket::disconnected, this, [this, socket] { onSocketDisconnected(socket); });
+    connect(socket, &QTcpSocket::errorOccurred, this,
+            [this, socket](QAbstractSocket::SocketError error) { onSocketError(socket, error); });
+    connect(socket, &QTcpSocket::readyRead, this, [this, socket] { onReadyRead(socket); });
+    connect(socket, &QTcpSocket::bytesWritten, this, &NetworkManager::notePendingBytes);
+    m_tcpSocket = socket;
+    ++m_socketSerial;
+    setHandshake(dialled, false);
+}
+
+/// Forgets the current socket and all that hangs on it, and returns it; null without one.
+QTcpSocket *NetworkManager::releaseSocket()
+{
+    QTcpSocket *socket = std::exchange(m_tcpSocket, nullptr);
+    m_receiveBuffer.clear();
+    m_accepted = false;
+    setHandshake(false, false);
+    notePendingBytes();
+    return socket;
+}
+
+/// Ends the current socket on the spot: the peer gets nothing of what waits, and nobody here hears of it.
+void NetworkManager::dropSocket()
+{
+    QTcpSocket *socket = releaseSocket();
+    if (!socket)
+        return;
+    QObject::disconnect(socket, nullptr, this, nullptr);
+    socket->abort();
+    m_handledSockets.discard(socket);
+}
+
+/// Closes a socket so that what waits in it still reaches the peer, if that can be done soon.
+void NetworkManager::hangUp(QTcpSocket *socket)
+{
+    if (isConnecting(socket))
+        socket->abort();
+    else
+        socket->flush();
+    QTimer::singleShot(ClosingTime, socket, [this, socket] {
+        socket->abort();
+        if (socket != m_tcpSocket)
+            m_handledSockets.discard(socket);
+    });
+    socket->disconnectFromHost();
+}
+
+void NetworkManager::resetPairing()
+{
+    m_connected = false;
+    m_connectedPC = PCInfo();
+    m_heartbeatTimer->stop();
+    m_connectionTimer->stop();
+}
+
+/// The peer has gone, by its word or by the end of the stream.
+void NetworkManager::endLink()
+{
+    m_accepted = false;
+    setHandshake(m_dialOpen, false);
+    resetPairing();
+    Q_EMIT disconnected();
+}
+
+void NetworkManager::completePairing()
+{
+    m_connectionTimer->stop();
+    m_connected = true;
+    m_accepted = true;
+    setHandshake(false, false);
+    m_connectedPC = m_pendingPC;
+    m_heartbeatTimer->start();
+    Q_EMIT connected();
+}
+
+void NetworkManager::onSocketConnected(QTcpSocket *socket)
+{
+    if (socket != m_tcpSocket)
+        return;
+    m_connectionTimer->stop();
+    // Before the connection there was no system socket yet that could have taken them.
+    setDialledOptions(socket);
+    const QJsonObject json{{u"name"_s, getComputerName()}, {u"os"_s, getOSVersion()}};
+    sendCommand(Protocol::MessageType::ConnectRequest, QJsonDocument(json).toJson(QJsonDocument::Compact));
+}
+
+void NetworkManager::onSocketDisconnected(QTcpSocket *socket)
+{
+    const SocketHandling handling(m_handledSockets, socket);
+    readFrames(socket, false);
+    if (socket == m_tcpSocket) {
+        m_dialOpen = false;
+        notePendingBytes();
+        endLink();
+        return;
+    }
+    m_handledSockets.discard(socket);
+    if (!m_tcpSocket)
+        Q_EMIT disconnected();
+}
+
+void NetworkManager::onSocketError(QTcpSocket *socket, QAbstractSocket::SocketError error)
+{
+    const SocketHandling handling(m_handledSockets, socket);
+    readFrames(socket, false);
+    if (socket != m_tcpSocket)
+        return;
+    // A peer that closes an answered link ends it by `disconnected`, which comes next. A peer that closes
+    // instead of answering has failed the dial.
+    if (error == QAbstractSocket::RemoteHostClosedError && !m_dialOpen)
+        return;
+    m_connectionTimer->stop();
+    const QString reason = socket->errorString();
+    dropSocket();
+    Q_EMIT connectionFailed(reason.isEmpty() ? tr("Unknown error") : reason);
+}
+
+void NetworkManager::onConnectionTimeout()
+{
+    qDebug() << "Connection timeout";
+    if (m_tcpSocket && isConnecting(m_tcpSocket))
+        m_tcpSocket->abort();
+    setHandshake(false, m_questionOpen);
+    Q_EMIT connectionTimeout();
+    Q_EMIT connectionFailed(tr("Connection timeout"));
+}
+
+void NetworkManager::onConnectRequest(const QByteArray &payload)
+{
+    const QJsonObject json = QJsonDocument::fromJson(payload).object();
+    m_pendingPC.name = json["name"_L1].toString().left(LongestName);
+    m_pendingPC.os = json["os"_L1].toString().left(LongestName);
+    m_pendingPC.ip = m_tcpSocket->peerAddress().toString();
+    m_pendingPC.id = m_pendingPC.name;
+    m_questionSerial = m_socketSerial;
+    setHandshake(m_dialOpen, true);
+    qDebug() << "Received ConnectRequest from:" << m_pendingPC.name;
+    Q_EMIT connectionRequested(m_pendingPC.name, m_verifyCode);
+}
+
+/// Only the one that dialled can be told the answer: on any other socket it is a stranger who answers for
+/// this copy's user.
+void NetworkManager::onConnectAccept()
+{
+    if (m_dialOpen)
+        completePairing();
+}
+
+void NetworkManager::onConnectReject()
+{
+    if (!m_dialOpen)
+        return;
+    m_connectionTimer->stop();
+    setHandshake(false, m_questionOpen);
+    Q_EMIT connectionFailed(tr("Connection rejected"));
+}
+
+void NetworkManager::sendHeartbeat()
+{
+    if (m_connected && m_tcpSocket)
+        sendCommand(Protocol::MessageType::Heartbeat);
+}
+
+void NetworkManager::setHandshake(bool dialOpen, bool questionOpen)
+{
+    m_dialOpen = dialOpen;
+    m_questionOpen = questionOpen;
+    m_cableHelper->setHandshakeOpen(dialOpen || questionOpen);
+}
+
+/// Whether the user's answer is meant for a socket that another one has replaced since.
+bool NetworkManager::isQuestionStale() const
+{
+    return m_questionSerial != 0 && m_questionSerial != m_socketSerial;
+}
+
+} // namespace Zandrove
