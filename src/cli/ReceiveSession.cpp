@@ -14,6 +14,12 @@ namespace {
 
 constexpr auto GoodbyeTime = 3000ms;
 
+// How long the disk may be silent before a run whose peer has left counts as cut off. A peer that ends the
+// session has finished its run, and a slow disk may have much to write; a broken link mostly means the end.
+constexpr auto PatienceAfterSessionEnd = 30s;
+constexpr auto PatienceAfterBreak = 3s;
+constexpr auto PatienceBeforeFirstSign = 1s;
+
 bool isYes(const QString &line)
 {
     const QString answer = line.trimmed().toLower();
@@ -29,6 +35,8 @@ ReceiveSession::ReceiveSession(const Options &options, TransferEngine &engine, O
     m_timeoutTimer.setSingleShot(true);
     connect(&m_timeoutTimer, &QTimer::timeout, this, &ReceiveSession::onTimeout);
     m_goodbyeTimer.setSingleShot(true);
+    m_drainTimer.setSingleShot(true);
+    connect(&m_drainTimer, &QTimer::timeout, this, &ReceiveSession::onNothingMoreToCome);
     connect(&m_goodbyeTimer, &QTimer::timeout, this, [this] { finish(m_results.exitCode()); });
 }
 
@@ -75,25 +83,22 @@ void ReceiveSession::waitForPeer()
 void ReceiveSession::expectTransfer()
 {
     m_receiving = false;
+    m_expecting = false;
     if (options().timeout)
         m_timeoutTimer.start(*options().timeout);
 }
 
 void ReceiveSession::onConnectionRequested(const QString &name)
 {
-    if (link() == Link::Up) {
+    m_asker = name;
+    if (link() == Link::Up || m_drainTimer.isActive()) {
         // The newest connection wins: the peer of before is gone already.
-        if (options().once) {
-            engine().rejectConnection();
-            onLinkBroken();
-            return;
-        }
-        engine().resetForNewConnection();
-        output().disconnected();
-        waitForPeer();
+        engine().rejectConnection();
+        output().refused(name, tr("this PC is receiving from %1.").arg(m_peerName));
+        onLinkBroken();
+        return;
     }
     setLink(Link::Pending);
-    m_asker = name;
     const bool canAsk = options().control || Platform::isTerminal(Platform::StandardStream::Input);
     output().request(name, canAsk && !options().yes);
     if (options().yes)
@@ -144,11 +149,12 @@ void ReceiveSession::refuse(const QString &why)
 void ReceiveSession::onConnected()
 {
     setLink(Link::Up);
-    const PCInfo peer = engine().connectedPC();
+    const PCInfo peer = connectedPeer();
     m_peerName = peer.name;
     output().connected(peer);
     engine().stopDiscovery();
     engine().startReceiving();
+    m_expecting = true;
 }
 
 void ReceiveSession::onLinkBroken()
@@ -158,33 +164,43 @@ void ReceiveSession::onLinkBroken()
         output().warning(tr("%1 is not there any more.").arg(m_asker));
         return;
     }
-    if (link() != Link::Up)
-        return;
-    setLink(Link::None);
-    const bool interrupted = m_receiving;
-    engine().disconnectFromPeer();
-    engine().resetForNewConnection();
-    afterLink(interrupted ? tr("The link to %1 broke during a transfer.").arg(m_peerName) : QString());
+    onPeerLeft(tr("The link to %1 broke during a transfer.").arg(m_peerName), PatienceAfterBreak);
 }
 
 void ReceiveSession::onSessionEndReceived()
 {
+    onPeerLeft(tr("%1 ended the session during a transfer.").arg(m_peerName), PatienceAfterSessionEnd);
+}
+
+void ReceiveSession::onPeerLeft(const QString &complaint, std::chrono::milliseconds patience)
+{
     if (link() != Link::Up)
         return;
     setLink(Link::None);
-    const bool interrupted = m_receiving;
     engine().disconnectFromPeer();
-    engine().reset();
-    afterLink(interrupted ? tr("%1 ended the session during a transfer.").arg(m_peerName) : QString());
+    if (m_receiving || m_expecting) {
+        m_complaint = m_receiving ? complaint : QString();
+        m_drainTimer.setInterval(m_receiving ? patience : PatienceBeforeFirstSign);
+        m_drainTimer.start();
+    } else {
+        afterLink();
+    }
 }
 
-void ReceiveSession::afterLink(const QString &complaint)
+void ReceiveSession::onNothingMoreToCome()
 {
-    output().disconnected();
-    if (!complaint.isEmpty()) {
-        output().error(complaint);
+    if (!m_complaint.isEmpty()) {
+        output().error(m_complaint);
         m_results.record(RunFailed);
     }
+    afterLink();
+}
+
+void ReceiveSession::afterLink()
+{
+    m_drainTimer.stop();
+    engine().resetForNewConnection();
+    output().disconnected();
     if (!options().once)
         waitForPeer();
     else
@@ -193,7 +209,9 @@ void ReceiveSession::afterLink(const QString &complaint)
 
 void ReceiveSession::onTransferSign()
 {
-    if (link() != Link::Up)
+    if (m_drainTimer.isActive())
+        m_drainTimer.start();
+    else if (link() != Link::Up)
         return;
     m_receiving = true;
     m_timeoutTimer.stop();
@@ -217,6 +235,7 @@ void ReceiveSession::onTransferReset()
     }
     engine().startReceiving();
     expectTransfer();
+    m_expecting = true;
 }
 
 void ReceiveSession::onCompleted(const MigrationReport &report)
@@ -224,14 +243,14 @@ void ReceiveSession::onCompleted(const MigrationReport &report)
     showLastProgress();
     output().report(report);
     m_results.record(exitCodeFor(report));
-    m_receiving = false;
-    if (!options().once) {
-        expectTransfer();
-        return;
+    expectTransfer();
+    m_reported = options().once;
+    if (m_drainTimer.isActive()) {
+        afterLink();
+    } else if (m_reported) {
+        m_timeoutTimer.stop();
+        m_goodbyeTimer.start(GoodbyeTime);
     }
-    m_reported = true;
-    m_timeoutTimer.stop();
-    m_goodbyeTimer.start(GoodbyeTime);
 }
 
 void ReceiveSession::onPeerCancelled()

@@ -3,6 +3,8 @@
 #include "cli/RunResults.h"
 #include "cli/Session.h"
 
+#include <chrono>
+
 namespace Zandrove::Cli {
 
 /// The New PC: shows a code, lets Old PCs in, receives what they send, and waits for the next one until it is
@@ -33,7 +35,9 @@ private:
     void onConnected();
     void onLinkBroken();
     void onSessionEndReceived();
-    void afterLink(const QString &complaint);
+    void onPeerLeft(const QString &complaint, std::chrono::milliseconds patience);
+    void onNothingMoreToCome();
+    void afterLink();
 
     void onTransferSign();
     void onNewTransferStarted();
@@ -47,9 +51,14 @@ private:
 
     QTimer m_timeoutTimer; ///< runs while nothing is arriving
     QTimer m_goodbyeTimer; ///< --once: after the report, until the peer has ended the session
-    QString m_asker;       ///< who asks to be let in
+    /// The peer has left, but the end of the run may still be on its way from the socket to the disk: runs
+    /// from sign of life to sign of life.
+    QTimer m_drainTimer;
+    QString m_complaint; ///< what is to be said if the end of the run does not come
+    QString m_asker;     ///< who asks to be let in
     QString m_peerName;
     RunResults m_results;
+    bool m_expecting = false; ///< armed on a fresh link, nothing has arrived
     bool m_receiving = false; ///< something of a run has arrived
     bool m_reported = false;  ///< --once: the one report is out
 };

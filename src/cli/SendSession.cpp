@@ -86,7 +86,7 @@ void SendSession::onConnected()
     m_lookTimer.stop();
     m_state = State::Settling;
     setLink(Link::Up);
-    const PCInfo peer = engine().connectedPC();
+    const PCInfo peer = connectedPeer();
     m_peerName = peer.name;
     output().connected(peer);
     engine().stopDiscovery();

@@ -3,6 +3,8 @@
 #include "core/engine/TransferEngine.h"
 #include "platform/Terminal.h"
 
+#include <QHostAddress>
+
 #include <chrono>
 
 using namespace std::chrono_literals;
@@ -27,6 +29,16 @@ Session::Session(const Options &options, TransferEngine &engine, Output &output,
 }
 
 Session::~Session() = default;
+
+PCInfo Session::connectedPeer() const
+{
+    PCInfo peer = m_engine.connectedPC();
+    bool isIPv4 = false;
+    const quint32 address = QHostAddress(peer.ip).toIPv4Address(&isIPv4);
+    if (isIPv4)
+        peer.ip = QHostAddress(address).toString(); // "::ffff:10.0.0.1" is how a listener sees it
+    return peer;
+}
 
 void Session::showRuns()
 {

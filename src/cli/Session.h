@@ -52,6 +52,9 @@ protected:
     [[nodiscard]] Link link() const { return m_link; }
     void setLink(Link link) { m_link = link; }
 
+    /// The peer as the user is to see it.
+    [[nodiscard]] PCInfo connectedPeer() const;
+
     /// Passes progress, single files and pauses on to the output.
     void showRuns();
     /// Shows the last progress that was held back; to be called before the end of a run is shown.

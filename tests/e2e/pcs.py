@@ -278,6 +278,16 @@ def tree(folder):
     return found
 
 
+def sizes(folder):
+    """Relative path to size, of a folder that may be changing."""
+    found = {}
+    for path in folder.rglob("*"):
+        with contextlib.suppress(FileNotFoundError):
+            if path.is_file():
+                found[str(path.relative_to(folder))] = path.stat().st_size
+    return found
+
+
 class TestCase(unittest.TestCase):
     """A test on two PCs."""
 

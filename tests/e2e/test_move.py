@@ -8,7 +8,7 @@ import pcs
 BOUNDARY_SIZES = (524287, 524288, 524289, 4194304, 52428800)
 LARGE_FILE = 300 * 1000 * 1000
 ODD_NAMES = ("with blanks .txt", "Größe ä ö ü.txt", "写真 音楽.txt", "right\u200fto left \u05d0.txt",
-             "percent %1 %20.txt", "quote ' \" and \\ slash.txt")
+             "percent %1 %20.txt", "quote ' and \".txt")
 
 
 def large_tree(folder):
