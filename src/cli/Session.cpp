@@ -14,7 +14,11 @@ namespace Zandrove::Cli {
 namespace {
 
 constexpr auto ProgressInterval = 200ms;
-constexpr auto LingerTime = 2500ms; // longest wait for the last frames to leave
+
+// Longest wait for the end of a link: of one on which a run's last bytes may still be leaving, and of one
+// that never came to stand.
+constexpr auto LingerTime = 60s;
+constexpr auto LingerTimePending = 1s;
 
 } // namespace
 
@@ -120,12 +124,17 @@ void Session::finish(ExitCode exitCode)
         conclude();
         return;
     }
-    if (m_link == Link::Up)
+    const bool isUp = m_link == Link::Up;
+    if (isUp)
         m_engine.sendSessionEnd();
+    // The engine says it once by itself, and once more when the socket's last byte has left.
+    constexpr int EndsOfLink = 2;
+    connect(&m_engine, &TransferEngine::disconnected, this, [this, ends = 0]() mutable {
+        if (++ends == EndsOfLink)
+            conclude();
+    });
     m_engine.disconnectFromPeer();
-    // What comes now is the end of the socket itself, behind its last byte.
-    connect(&m_engine, &TransferEngine::disconnected, this, &Session::conclude);
-    QTimer::singleShot(LingerTime, this, &Session::conclude);
+    QTimer::singleShot(isUp ? LingerTime : LingerTimePending, this, &Session::conclude);
 }
 
 void Session::conclude()

@@ -12,6 +12,7 @@ namespace Zandrove::Cli {
 namespace {
 
 constexpr int NarrowestLiveLine = 20; // columns; less says nothing
+constexpr int CountColumns = 8;
 
 int columnsOf(char32_t character)
 {
@@ -195,11 +196,11 @@ void TextOutput::savedFolders(const MigrationReport &report)
 {
     if (report.savedFolderPaths.isEmpty())
         return;
-    line(tr("Saved to:"));
+    line(tr("Files saved:"));
     for (auto folder = report.savedFolderPaths.begin(); folder != report.savedFolderPaths.end(); ++folder) {
         const QString count = QString::number(report.savedFolderCounts.value(folder.key()));
         const QString sample = report.savedFolderSamples.value(folder.key());
-        line(u"  %1: %2 %3"_s.arg(folder.key(), folder.value(), tr("- files: %1").arg(count)) +
+        line(count.rightJustified(CountColumns) + u"  "_s + folder.value() +
              (sample.isEmpty() ? QString() : u' ' + sample));
     }
 }

@@ -231,6 +231,12 @@ class TwoPcs:
         for pc, address in zip((self.old, self.new), self._addresses):
             pc.run("ip", "address", "add", address, "broadcast", "+", "dev", LINK)
             pc.run("ip", "link", "set", LINK, "up")
+        for pc in (self.old, self.new):
+            deadline = time.monotonic() + 5
+            while b"state UP" not in pc.run("ip", "link", "show", LINK).stdout:
+                if time.monotonic() > deadline:
+                    raise RuntimeError("the cable between the PCs does not come up")
+                time.sleep(0.02)
 
     def _made_pc(self, name):
         pc = Pc(name, self.folder / name)

@@ -1,11 +1,11 @@
+#include "cli/Program.h"
+
 #include "cli/DiscoverSession.h"
 #include "cli/FolderCheck.h"
 #include "cli/JsonOutput.h"
-#include "cli/Options.h"
 #include "cli/ReceiveSession.h"
 #include "cli/SendSession.h"
 #include "cli/TextOutput.h"
-#include "core/app/StartUp.h"
 #include "core/engine/TransferEngine.h"
 #include "platform/Terminal.h"
 
@@ -14,10 +14,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <utility>
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
-using namespace Zandrove::Cli;
+namespace Zandrove::Cli {
 
 namespace {
 
@@ -65,7 +64,7 @@ std::unique_ptr<Session> makeSession(const Options &options, TransferEngine &eng
     return std::make_unique<DiscoverSession>(options, engine, output);
 }
 
-/// Makes the folders absolute. Returns what is wrong with the first one that can't be sent.
+/// Makes the folders absolute, each once. Returns what is wrong with the first one that can't be sent.
 QString prepareFolders(Options &options)
 {
     QStringList folders;
@@ -81,14 +80,34 @@ QString prepareFolders(Options &options)
     return {};
 }
 
+} // namespace
+
+void installLog(bool shown)
+{
+    logIsShown = shown;
+    qInstallMessageHandler(onLogMessage);
+}
+
+std::optional<int> answered(ParsedArguments &parsed)
+{
+    if (parsed.options)
+        parsed.error = prepareFolders(*parsed.options);
+    if (!parsed.error.isEmpty()) {
+        write(stderr, errorLine(parsed.error));
+        return WrongUsage;
+    }
+    if (parsed.options)
+        return std::nullopt;
+    write(stdout, parsed.text.toUtf8());
+    return EverythingMoved;
+}
+
 int run(const Options &options)
 {
-    StartUp::ensureFirewallRules();
-    StartUp::registerMetaTypes();
     const std::unique_ptr<Output> output = makeOutput(options);
     TransferEngine engine;
     const std::unique_ptr<Session> session = makeSession(options, engine, *output);
-    Platform::InterruptNotifier interrupts;
+    const Platform::InterruptNotifier interrupts;
     QObject::connect(&interrupts, &Platform::InterruptNotifier::interrupted, session.get(),
                      &Session::interrupt);
     QObject::connect(
@@ -98,30 +117,4 @@ int run(const Options &options)
     return QCoreApplication::exec();
 }
 
-int usageError(const QString &error)
-{
-    write(stderr, errorLine(error));
-    return WrongUsage;
-}
-
-} // namespace
-
-int main(int argc, char *argv[])
-{
-    QCoreApplication application(argc, argv);
-    const QStringList arguments = QCoreApplication::arguments().mid(1);
-    logIsShown = arguments.contains(u"--verbose"_s);
-    qInstallMessageHandler(onLogMessage);
-    StartUp::setIdentity();
-    StartUp::initTranslation();
-
-    ParsedArguments parsed = parseArguments(arguments);
-    if (!parsed.error.isEmpty())
-        return usageError(parsed.error);
-    if (!parsed.options) {
-        write(stdout, parsed.text.toUtf8());
-        return EverythingMoved;
-    }
-    const QString folderError = prepareFolders(*parsed.options);
-    return folderError.isEmpty() ? run(*parsed.options) : usageError(folderError);
-}
+} // namespace Zandrove::Cli

@@ -1,0 +1,23 @@
+#include "cli/Program.h"
+#include "core/app/StartUp.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+using namespace Zandrove;
+
+int main(int argc, char *argv[])
+{
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments().mid(1);
+    Cli::installLog(arguments.contains(u"--verbose"_s));
+    StartUp::setIdentity();
+    StartUp::initTranslation();
+
+    Cli::ParsedArguments parsed = Cli::parseArguments(arguments);
+    if (const std::optional<int> exitCode = Cli::answered(parsed))
+        return *exitCode;
+    StartUp::ensureFirewallRules();
+    StartUp::registerMetaTypes();
+    return Cli::run(*parsed.options);
+}
