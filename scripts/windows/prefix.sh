@@ -13,5 +13,11 @@ export WINEDLLOVERRIDES="mscoree=;mshtml="
 "$wine" wineboot --init >/dev/null 2>&1
 # A fresh prefix says that it is Windows 7; Qt 6 wants Windows 10.
 "$wine" winecfg -v win10 >/dev/null 2>&1
-WINEPREFIX=$WINEPREFIX /usr/lib/wine/wineserver --wait
+/usr/lib/wine/wineserver --wait
 [ -d "$WINEPREFIX/drive_c" ] || { echo "prefix.sh: Wine could not make $1" >&2; exit 1; }
+
+# The user's folders are the PC's own, not links into the home folder of whoever runs this.
+for folder in "$WINEPREFIX"/drive_c/users/*/*; do
+    [ -L "$folder" ] && rm "$folder" && mkdir "$folder"
+done
+exit 0

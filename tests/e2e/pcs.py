@@ -178,9 +178,17 @@ class Pc:
         return subprocess.Popen(self.command(*words, obeys_permissions=obeys_permissions),
                                 env=self.environment, **options)
 
+    def program(self):
+        """The words that begin a command line of zandrove-cli."""
+        return [cli_path()]
+
+    def own_path(self, path):
+        """The path of a file of this PC as its programs name it."""
+        return path
+
     def start(self, *arguments, obeys_permissions=False):
         """Starts zandrove-cli --json here."""
-        process = self.popen(cli_path(), "--json", *arguments, obeys_permissions=obeys_permissions,
+        process = self.popen(*self.program(), "--json", *arguments, obeys_permissions=obeys_permissions,
                              stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True,
                              encoding="utf-8")
         program = Program(process, f"{self.name}: {' '.join(map(str, arguments))}")
@@ -191,7 +199,7 @@ class Pc:
         return self.start("receive", *arguments)
 
     def send(self, target, *folders, options=(), obeys_permissions=False):
-        named = [word for folder in folders for word in ("--folder", folder)]
+        named = [word for folder in folders for word in ("--folder", self.own_path(folder))]
         return self.start("send", "--to", target, *named, *options, obeys_permissions=obeys_permissions)
 
     def received(self, name):
@@ -209,8 +217,9 @@ class Pc:
 class TwoPcs:
     """Context manager: an old and a new PC that can reach each other, and a scratch folder that goes with them."""
 
-    def __init__(self, old_address="192.168.77.1/24", new_address="192.168.77.2/24"):
+    def __init__(self, old_address="192.168.77.1/24", new_address="192.168.77.2/24", old_kind=Pc, new_kind=Pc):
         self._addresses = (old_address, new_address)
+        self._kinds = (old_kind, new_kind)
 
     def __enter__(self):
         self._stack = contextlib.ExitStack()
@@ -224,8 +233,8 @@ class TwoPcs:
     def _set_up(self):
         self.folder = pathlib.Path(self._stack.enter_context(
             tempfile.TemporaryDirectory(prefix="zandrove-pcs-", ignore_cleanup_errors=True)))
-        self.old = self._made_pc("OldBox")
-        self.new = self._made_pc("NewBox")
+        self.old = self._made_pc(self._kinds[0], "OldBox")
+        self.new = self._made_pc(self._kinds[1], "NewBox")
         self.old.run("ip", "link", "add", LINK, "type", "veth", "peer", "name", LINK, "netns",
                      self.new.holder.pid)
         for pc, address in zip((self.old, self.new), self._addresses):
@@ -238,8 +247,8 @@ class TwoPcs:
                     raise RuntimeError("the cable between the PCs does not come up")
                 time.sleep(0.02)
 
-    def _made_pc(self, name):
-        pc = Pc(name, self.folder / name)
+    def _made_pc(self, kind, name):
+        pc = kind(name, self.folder / name)
         self._stack.callback(pc.close)
         return pc
 
