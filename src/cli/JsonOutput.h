@@ -1,0 +1,42 @@
+#pragma once
+
+#include "cli/Output.h"
+
+#include <QJsonObject>
+
+namespace Zandrove::Cli {
+
+/// One JSON object a line on standard output, its first key "event". Errors and questions go to standard
+/// error as well.
+class JsonOutput final : public Output
+{
+public:
+    explicit JsonOutput(Streams streams);
+
+    void code(const QString &code) override;
+    void peer(const PCInfo &pc) override;
+    void peerLost(const QString &id) override;
+    void found(const PCInfo &pc) override;
+    void request(const QString &name, bool asks) override;
+    void refused(const QString &name, const QString &why) override;
+    void connected(const PCInfo &pc) override;
+    void disconnected() override;
+    void progress(const TransferProgress &progress) override;
+    void file(const QString &name, FileStatus status, const QString &reason) override;
+    void paused(Side by) override;
+    void resumed(Side by) override;
+    void cancelled(Side by) override;
+    void report(const MigrationReport &report) override;
+    void warning(const QString &message) override;
+    void error(const QString &message) override;
+
+private:
+    void print(QLatin1StringView event, const QJsonObject &fields);
+
+    Streams m_streams;
+};
+
+/// The fields of a report by their names. Times are ISO 8601 with milliseconds, empty where not set.
+[[nodiscard]] QJsonObject toJson(const MigrationReport &report);
+
+} // namespace Zandrove::Cli

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "core/common/Records.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <functional>
+
+namespace Zandrove::Cli {
+
+/// Which side did something.
+enum class Side { Here, Peer };
+
+enum class FileStatus { Started, Completed, Failed };
+
+/// Where printed bytes go.
+struct Streams
+{
+    std::function<void(const QByteArray &bytes)> out; ///< what was asked for
+    std::function<void(const QByteArray &bytes)> err; ///< errors, questions and warnings
+    std::function<int()> columns; ///< width of the terminal on `out` at this moment, 0 where there is none
+};
+
+/// Says what happens, to a person or to a program. Main thread only.
+class Output
+{
+public:
+    Output() = default;
+    virtual ~Output() = default;
+    Output(const Output &) = delete;
+    Output &operator=(const Output &) = delete;
+
+    virtual void code(const QString &code) = 0; ///< this PC's own code, by which the peer may find it
+    virtual void peer(const PCInfo &pc) = 0;    ///< found, or known better than before
+    virtual void peerLost(const QString &id) = 0;
+    virtual void found(const PCInfo &pc) = 0; ///< the peer that was looked for; its answer is waited for
+    /// A peer asks to be let in; `asks` when the user is to answer, else the answer follows by itself.
+    virtual void request(const QString &name, bool asks) = 0;
+    virtual void refused(const QString &name, const QString &why) = 0; ///< a request was turned down
+    virtual void connected(const PCInfo &pc) = 0;
+    virtual void disconnected() = 0; ///< the link to the peer is over
+    virtual void progress(const TransferProgress &progress) = 0;
+    /// `reason` goes with Failed only.
+    virtual void file(const QString &name, FileStatus status, const QString &reason) = 0;
+    virtual void paused(Side by) = 0;
+    virtual void resumed(Side by) = 0;
+    virtual void cancelled(Side by) = 0;
+    virtual void report(const MigrationReport &report) = 0;
+    virtual void warning(const QString &message) = 0;
+    virtual void error(const QString &message) = 0;
+};
+
+/// `text` without the characters that would steer a terminal, break a line or reorder what stands around
+/// them: names come from other PCs. Each is shown as U+FFFD.
+[[nodiscard]] QString printable(const QString &text);
+
+/// What the user is asked when `name` wants to be let in; no line end.
+[[nodiscard]] QByteArray questionAbout(const QString &name);
+
+/// One line for standard error.
+[[nodiscard]] QByteArray errorLine(const QString &message);
+
+} // namespace Zandrove::Cli

@@ -1,0 +1,328 @@
+#include "cli/ReceiveSession.h"
+
+#include "core/engine/TransferEngine.h"
+#include "platform/Terminal.h"
+
+#include <chrono>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace Zandrove::Cli {
+
+namespace {
+
+constexpr auto GoodbyeTime = 3000ms;
+
+// How long the disk may be silent before a run whose peer has left counts as cut off. A peer that ends the
+// session has finished its run, and a slow disk may have much to write; a broken link mostly means the end.
+constexpr auto PatienceAfterSessionEnd = 30s;
+constexpr auto PatienceAfterBreak = 3s;
+constexpr auto PatienceBeforeFirstSign = 1s;
+
+bool isYes(const QString &line)
+{
+    const QString answer = line.trimmed().toLower();
+    return answer == "y"_L1 || answer == "yes"_L1;
+}
+
+} // namespace
+
+ReceiveSession::ReceiveSession(const Options &options, TransferEngine &engine, Output &output,
+                               QObject *parent)
+    : Session(options, engine, output, parent)
+{
+    m_timeoutTimer.setSingleShot(true);
+    connect(&m_timeoutTimer, &QTimer::timeout, this, &ReceiveSession::onTimeout);
+    m_goodbyeTimer.setSingleShot(true);
+    m_drainTimer.setSingleShot(true);
+    connect(&m_drainTimer, &QTimer::timeout, this, &ReceiveSession::onNothingMoreToCome);
+    connect(&m_goodbyeTimer, &QTimer::timeout, this, [this] { finish(m_results.exitCode()); });
+}
+
+void ReceiveSession::start()
+{
+    connectEngine();
+    showRuns();
+    if (options().control)
+        readInput();
+    else if (!options().yes && !Platform::isTerminal(Platform::StandardStream::Input))
+        output().warning(tr("Nobody can be asked here: every request will be refused without --yes."));
+    engine().setRole(options().role);
+    engine().setMode(options().mode);
+    waitForPeer();
+}
+
+void ReceiveSession::connectEngine()
+{
+    TransferEngine *source = &engine();
+    connect(source, &TransferEngine::pcDiscovered, this, [this](const PCInfo &pc) { output().peer(pc); });
+    connect(source, &TransferEngine::pcLost, this, [this](const QString &id) { output().peerLost(id); });
+    connect(source, &TransferEngine::connectionRequested, this, &ReceiveSession::onConnectionRequested);
+    connect(source, &TransferEngine::connected, this, &ReceiveSession::onConnected);
+    connect(source, &TransferEngine::disconnected, this, &ReceiveSession::onLinkBroken);
+    connect(source, &TransferEngine::connectionFailed, this, &ReceiveSession::onLinkBroken);
+    connect(source, &TransferEngine::sessionEndReceived, this, &ReceiveSession::onSessionEndReceived);
+    connect(source, &TransferEngine::fileTransferStarted, this, &ReceiveSession::onTransferSign);
+    connect(source, &TransferEngine::transferProgressChanged, this, &ReceiveSession::onTransferSign);
+    connect(source, &TransferEngine::newTransferStarted, this, &ReceiveSession::onNewTransferStarted);
+    connect(source, &TransferEngine::transferReset, this, &ReceiveSession::onTransferReset);
+    connect(source, &TransferEngine::transferCompleted, this, &ReceiveSession::onCompleted);
+    connect(source, &TransferEngine::peerCancelled, this, &ReceiveSession::onPeerCancelled);
+    connect(source, &TransferEngine::transferFailed, this, &ReceiveSession::onTransferFailed);
+}
+
+void ReceiveSession::waitForPeer()
+{
+    setLink(Link::None);
+    engine().startDiscovery();
+    output().code(engine().verifyCode());
+    expectTransfer();
+}
+
+void ReceiveSession::expectTransfer()
+{
+    m_receiving = false;
+    m_expecting = false;
+    if (options().timeout)
+        m_timeoutTimer.start(*options().timeout);
+}
+
+void ReceiveSession::onConnectionRequested(const QString &name)
+{
+    m_asker = name;
+    if (link() == Link::Up || m_drainTimer.isActive()) {
+        // The newest connection wins: the peer of before is gone already.
+        engine().rejectConnection();
+        output().refused(name, tr("this PC is receiving from %1.").arg(m_peerName));
+        onLinkBroken();
+        return;
+    }
+    setLink(Link::Pending);
+    const bool canAsk = options().control || Platform::isTerminal(Platform::StandardStream::Input);
+    output().request(name, canAsk && !options().yes);
+    if (options().yes)
+        answer(true);
+    else if (canAsk)
+        readInput();
+    else
+        refuse(tr("nobody can be asked here. Start with --yes to let every PC in."));
+}
+
+void ReceiveSession::onInput(const QString &line)
+{
+    if (options().control)
+        Session::onInput(line);
+    else
+        answer(isYes(line));
+}
+
+void ReceiveSession::onInputEnded()
+{
+    if (!options().control)
+        answer(false);
+}
+
+void ReceiveSession::answer(bool admit)
+{
+    if (link() != Link::Pending || isFinishing())
+        return;
+    if (!admit) {
+        refuse({});
+        return;
+    }
+    engine().acceptConnection(engine().verifyCode());
+    if (link() == Link::Up)
+        return;
+    output().warning(tr("%1 is not there any more.").arg(m_asker));
+    setLink(Link::None);
+    engine().restartBroadcast();
+}
+
+void ReceiveSession::refuse(const QString &why)
+{
+    setLink(Link::None);
+    engine().rejectConnection();
+    output().refused(m_asker, why);
+}
+
+void ReceiveSession::onConnected()
+{
+    setLink(Link::Up);
+    const PCInfo peer = connectedPeer();
+    m_peerName = peer.name;
+    output().connected(peer);
+    engine().stopDiscovery();
+    engine().startReceiving();
+    m_expecting = true;
+}
+
+void ReceiveSession::onLinkBroken()
+{
+    if (link() == Link::Pending) {
+        setLink(Link::None);
+        output().warning(tr("%1 is not there any more.").arg(m_asker));
+        return;
+    }
+    onPeerLeft(tr("The link to %1 broke during a transfer.").arg(m_peerName), PatienceAfterBreak);
+}
+
+void ReceiveSession::onSessionEndReceived()
+{
+    onPeerLeft(tr("%1 ended the session during a transfer.").arg(m_peerName), PatienceAfterSessionEnd);
+}
+
+void ReceiveSession::onPeerLeft(const QString &complaint, std::chrono::milliseconds patience)
+{
+    if (link() != Link::Up)
+        return;
+    setLink(Link::None);
+    engine().disconnectFromPeer();
+    if (m_receiving || m_expecting) {
+        m_complaint = m_receiving ? complaint : QString();
+        m_drainTimer.setInterval(m_receiving ? patience : PatienceBeforeFirstSign);
+        m_drainTimer.start();
+    } else {
+        afterLink();
+    }
+}
+
+void ReceiveSession::onNothingMoreToCome()
+{
+    if (!m_complaint.isEmpty()) {
+        output().error(m_complaint);
+        m_results.record(RunFailed);
+    }
+    afterLink();
+}
+
+void ReceiveSession::afterLink()
+{
+    m_drainTimer.stop();
+    engine().resetForNewConnection();
+    output().disconnected();
+    if (!options().once)
+        waitForPeer();
+    else
+        finish(m_reported ? m_results.exitCode() : RunFailed);
+}
+
+void ReceiveSession::onTransferSign()
+{
+    if (m_drainTimer.isActive())
+        m_drainTimer.start();
+    else if (link() != Link::Up)
+        return;
+    m_receiving = true;
+    m_timeoutTimer.stop();
+}
+
+void ReceiveSession::onNewTransferStarted()
+{
+    if (m_reported) {
+        finish(m_results.exitCode());
+        return;
+    }
+    engine().resetForNewReceive();
+    onTransferSign();
+}
+
+void ReceiveSession::onTransferReset()
+{
+    if (m_reported) {
+        finish(m_results.exitCode());
+        return;
+    }
+    engine().startReceiving();
+    expectTransfer();
+    m_expecting = true;
+}
+
+void ReceiveSession::onCompleted(const MigrationReport &report)
+{
+    showLastProgress();
+    output().report(report);
+    m_results.record(exitCodeFor(report));
+    expectTransfer();
+    m_reported = options().once;
+    if (m_drainTimer.isActive()) {
+        afterLink();
+    } else if (m_reported) {
+        m_timeoutTimer.stop();
+        m_goodbyeTimer.start(GoodbyeTime);
+    }
+}
+
+void ReceiveSession::onPeerCancelled()
+{
+    if (m_receiving)
+        output().cancelled(Side::Peer);
+    runEnded(RunFailed);
+}
+
+void ReceiveSession::onTransferFailed(const QString &reason)
+{
+    output().error(reason);
+    runEnded(RunFailed);
+}
+
+void ReceiveSession::runEnded(ExitCode exitCode)
+{
+    m_results.record(exitCode);
+    if (options().once)
+        finish(exitCode);
+    else
+        expectTransfer();
+}
+
+bool ReceiveSession::obey(const ControlCommand &command)
+{
+    switch (command.kind) {
+    case ControlCommand::Yes:
+    case ControlCommand::No:
+        answer(command.kind == ControlCommand::Yes);
+        return true;
+    case ControlCommand::Cancel:
+        if (m_receiving) {
+            cancelHere();
+            runEnded(Cancelled);
+        }
+        return true;
+    case ControlCommand::End:
+        finish(m_results.exitCode());
+        return true;
+    case ControlCommand::Again:
+        return false;
+    default:
+        return Session::obey(command);
+    }
+}
+
+void ReceiveSession::cancelHere()
+{
+    engine().cancelTransfer();
+    output().cancelled(Side::Here);
+}
+
+void ReceiveSession::onTimeout()
+{
+    if (link() == Link::Pending)
+        engine().rejectConnection();
+    output().error(tr("Nothing began to arrive within %1 seconds.").arg(options().timeout->count()));
+    finish(TimedOut);
+}
+
+void ReceiveSession::interrupt()
+{
+    if (m_reported) {
+        finish(m_results.exitCode());
+        return;
+    }
+    if (link() == Link::Pending)
+        engine().rejectConnection();
+    if (link() == Link::Up && m_receiving)
+        cancelHere();
+    finish(Cancelled);
+}
+
+} // namespace Zandrove::Cli

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "cli/RunResults.h"
+#include "cli/Session.h"
+
+#include <chrono>
+
+namespace Zandrove::Cli {
+
+/// The New PC: shows a code, lets Old PCs in, receives what they send, and waits for the next one until it is
+/// told to end.
+class ReceiveSession final : public Session
+{
+    Q_OBJECT
+
+public:
+    ReceiveSession(const Options &options, TransferEngine &engine, Output &output, QObject *parent = nullptr);
+
+    void start() override;
+    void interrupt() override;
+
+protected:
+    void onInput(const QString &line) override;
+    void onInputEnded() override;
+    bool obey(const ControlCommand &command) override;
+
+private:
+    void connectEngine();
+    void waitForPeer();
+    void expectTransfer();
+
+    void onConnectionRequested(const QString &name);
+    void answer(bool admit);
+    void refuse(const QString &why);
+    void onConnected();
+    void onLinkBroken();
+    void onSessionEndReceived();
+    void onPeerLeft(const QString &complaint, std::chrono::milliseconds patience);
+    void onNothingMoreToCome();
+    void afterLink();
+
+    void onTransferSign();
+    void onNewTransferStarted();
+    void onTransferReset();
+    void onCompleted(const MigrationReport &report);
+    void onPeerCancelled();
+    void onTransferFailed(const QString &reason);
+    void cancelHere();
+    void onTimeout();
+    void runEnded(ExitCode exitCode);
+
+    QTimer m_timeoutTimer; ///< runs while nothing is arriving
+    QTimer m_goodbyeTimer; ///< --once: after the report, until the peer has ended the session
+    /// The peer has left, but the end of the run may still be on its way from the socket to the disk: runs
+    /// from sign of life to sign of life.
+    QTimer m_drainTimer;
+    QString m_complaint; ///< what is to be said if the end of the run does not come
+    QString m_asker;     ///< who asks to be let in
+    QString m_peerName;
+    RunResults m_results;
+    bool m_expecting = false; ///< armed on a fresh link, nothing has arrived
+    bool m_receiving = false; ///< something of a run has arrived
+    bool m_reported = false;  ///< --once: the one report is out
+};
+
+} // namespace Zandrove::Cli

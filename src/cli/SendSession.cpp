@@ -1,0 +1,262 @@
+#include "cli/SendSession.h"
+
+#include "cli/FolderCheck.h"
+#include "cli/PeerMatch.h"
+#include "core/engine/TransferEngine.h"
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace Zandrove::Cli {
+
+namespace {
+
+// A peer's new code enters the table without a signal, so the table is looked at again and again.
+constexpr auto LookInterval = 250ms;
+
+// A New PC with a window goes to its receiving page half a second after pairing and takes only what comes
+// then.
+constexpr auto SettleTime = 1000ms;
+
+} // namespace
+
+SendSession::SendSession(const Options &options, TransferEngine &engine, Output &output, QObject *parent)
+    : Session(options, engine, output, parent)
+    , m_folders(options.folders)
+    , m_staysForMore(options.control)
+{
+    connect(&m_lookTimer, &QTimer::timeout, this, &SendSession::look);
+    m_timeoutTimer.setSingleShot(true);
+    connect(&m_timeoutTimer, &QTimer::timeout, this, &SendSession::onTimeout);
+}
+
+void SendSession::start()
+{
+    connectEngine();
+    showRuns();
+    if (options().control)
+        readInput();
+    if (options().timeout)
+        m_timeoutTimer.start(*options().timeout);
+    engine().setRole(options().role);
+    engine().setMode(options().mode);
+    engine().startDiscovery();
+    m_lookTimer.start(LookInterval);
+}
+
+void SendSession::connectEngine()
+{
+    TransferEngine *source = &engine();
+    connect(source, &TransferEngine::pcDiscovered, this, [this](const PCInfo &pc) { output().peer(pc); });
+    connect(source, &TransferEngine::pcLost, this, [this](const QString &id) { output().peerLost(id); });
+    connect(source, &TransferEngine::connected, this, &SendSession::onConnected);
+    connect(source, &TransferEngine::connectionFailed, this, &SendSession::onConnectionFailed);
+    connect(source, &TransferEngine::connectionRequested, this, &SendSession::onConnectionRequested);
+    connect(source, &TransferEngine::disconnected, this, &SendSession::onDisconnected);
+    connect(source, &TransferEngine::sessionEndReceived, this, &SendSession::onSessionEndReceived);
+    connect(source, &TransferEngine::transferCompleted, this, &SendSession::onCompleted);
+    connect(source, &TransferEngine::peerCancelled, this, &SendSession::onPeerCancelled);
+    connect(source, &TransferEngine::transferFailed, this, &SendSession::onTransferFailed);
+}
+
+void SendSession::look()
+{
+    const std::optional<PCInfo> peer = findPeer(engine().discoveredPCs(), options().target);
+    if (peer)
+        dial(*peer);
+}
+
+void SendSession::dial(const PCInfo &pc)
+{
+    m_lookTimer.stop();
+    m_state = State::Dialling;
+    setLink(Link::Pending);
+    m_peerName = pc.name;
+    output().found(pc);
+    if (pc.verifyCode == options().target)
+        engine().connectByCode(options().target);
+    else
+        engine().connectToPC(pc);
+}
+
+void SendSession::onConnected()
+{
+    m_timeoutTimer.stop();
+    m_lookTimer.stop();
+    m_state = State::Settling;
+    setLink(Link::Up);
+    const PCInfo peer = connectedPeer();
+    m_peerName = peer.name;
+    output().connected(peer);
+    engine().stopDiscovery();
+    QTimer::singleShot(SettleTime, this, [this] {
+        if (m_state == State::Settling && !isFinishing())
+            sendFolders();
+    });
+}
+
+void SendSession::onConnectionFailed(const QString &reason)
+{
+    if (link() == Link::Up) {
+        onDisconnected();
+        return;
+    }
+    output().error(reason);
+    setLink(Link::None);
+    finish(RunFailed);
+}
+
+void SendSession::onConnectionRequested(const QString &name)
+{
+    engine().rejectConnection();
+    output().refused(name, tr("this PC is sending to %1.").arg(options().target));
+    if (link() == Link::Up)
+        onDisconnected(); // the newest connection wins: the link of before is gone already
+}
+
+void SendSession::onDisconnected()
+{
+    if (m_state == State::Dialling) {
+        // Another connection came in and took the place of the unanswered one, as a cable sweep does.
+        m_state = State::Looking;
+        setLink(Link::None);
+        m_lookTimer.start(LookInterval);
+        return;
+    }
+    linkOver(tr("The link to %1 broke.").arg(m_peerName));
+}
+
+void SendSession::onSessionEndReceived()
+{
+    linkOver(tr("%1 ended the session.").arg(m_peerName));
+}
+
+void SendSession::linkOver(const QString &complaint)
+{
+    if (link() != Link::Up || isFinishing())
+        return;
+    setLink(Link::None);
+    engine().disconnectFromPeer();
+    output().disconnected();
+    if (m_state == State::Resting) {
+        finish(m_results.exitCode());
+        return;
+    }
+    output().error(complaint);
+    finish(RunFailed);
+}
+
+void SendSession::sendFolders()
+{
+    m_state = State::Running;
+    engine().setSelectedPaths(m_folders);
+    engine().startTransfer();
+}
+
+void SendSession::sendAgain(const QString &folder)
+{
+    if (!folder.isEmpty()) {
+        const QString path = absoluteFolder(folder);
+        const QString problem = folderProblem(path);
+        if (!problem.isEmpty()) {
+            output().error(problem);
+            return;
+        }
+        m_folders = {path};
+    }
+    if (m_completed)
+        engine().notifyPeerReadyForNew();
+    sendFolders();
+}
+
+void SendSession::onCompleted(const MigrationReport &report)
+{
+    showLastProgress();
+    output().report(report);
+    m_completed = true;
+    runEnded(exitCodeFor(report));
+}
+
+void SendSession::onPeerCancelled()
+{
+    if (m_state != State::Running)
+        return;
+    output().cancelled(Side::Peer);
+    m_completed = false;
+    runEnded(RunFailed);
+}
+
+void SendSession::onTransferFailed(const QString &reason)
+{
+    output().error(reason);
+    m_completed = false;
+    runEnded(RunFailed);
+}
+
+void SendSession::cancelHere()
+{
+    engine().cancelTransfer();
+    output().cancelled(Side::Here);
+    m_completed = false;
+}
+
+void SendSession::runEnded(ExitCode exitCode)
+{
+    m_state = State::Resting;
+    m_results.record(exitCode);
+    if (!m_staysForMore)
+        finish(m_results.exitCode());
+}
+
+void SendSession::onInputEnded()
+{
+    m_staysForMore = false;
+    if (m_state == State::Resting)
+        finish(m_results.exitCode());
+}
+
+bool SendSession::obey(const ControlCommand &command)
+{
+    switch (command.kind) {
+    case ControlCommand::Yes:
+    case ControlCommand::No:
+        return false;
+    case ControlCommand::Cancel:
+        if (m_state == State::Running) {
+            cancelHere();
+            runEnded(Cancelled);
+        }
+        return true;
+    case ControlCommand::Again:
+        if (m_state == State::Resting)
+            sendAgain(command.folder);
+        else
+            output().warning(tr("There is no finished transfer to follow."));
+        return true;
+    case ControlCommand::End:
+        onInputEnded();
+        return true;
+    default:
+        return Session::obey(command);
+    }
+}
+
+void SendSession::onTimeout()
+{
+    output().error(m_state == State::Looking
+                       ? tr("%1 was not found within %2 seconds.")
+                             .arg(options().target, QString::number(options().timeout->count()))
+                       : tr("%1 did not answer within %2 seconds.")
+                             .arg(m_peerName, QString::number(options().timeout->count())));
+    finish(TimedOut);
+}
+
+void SendSession::interrupt()
+{
+    if (m_state == State::Running)
+        cancelHere();
+    finish(Cancelled);
+}
+
+} // namespace Zandrove::Cli

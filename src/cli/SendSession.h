@@ -1,0 +1,63 @@
+#pragma once
+
+#include "cli/RunResults.h"
+#include "cli/Session.h"
+
+namespace Zandrove::Cli {
+
+/// The Old PC: waits until the New PC that the user named is found, asks to be let in, sends the folders and
+/// ends the session.
+class SendSession final : public Session
+{
+    Q_OBJECT
+
+public:
+    /// The folders of `options` are absolute and were found to be readable.
+    SendSession(const Options &options, TransferEngine &engine, Output &output, QObject *parent = nullptr);
+
+    void start() override;
+    void interrupt() override;
+
+protected:
+    void onInputEnded() override;
+    bool obey(const ControlCommand &command) override;
+
+private:
+    enum class State {
+        Looking,
+        Dialling,
+        Settling, ///< connected, the New PC is getting ready
+        Running,
+        Resting, ///< between two runs on the same link
+    };
+
+    void connectEngine();
+    void look();
+    void dial(const PCInfo &pc);
+    void onConnected();
+    void onConnectionFailed(const QString &reason);
+    void onConnectionRequested(const QString &name);
+    void onDisconnected();
+    void onSessionEndReceived();
+    void linkOver(const QString &complaint);
+
+    void sendFolders();
+    void sendAgain(const QString &folder);
+    void onCompleted(const MigrationReport &report);
+    void onPeerCancelled();
+    void onTransferFailed(const QString &reason);
+    void cancelHere();
+    void runEnded(ExitCode exitCode);
+    void onTimeout();
+
+    State m_state = State::Looking;
+    QTimer m_lookTimer;
+    QTimer m_timeoutTimer; ///< runs until the peer has let this PC in
+    QStringList m_folders;
+    QString m_peerName;
+    RunResults m_results;
+    bool m_staysForMore = false; ///< --control: standard input may still ask for a further run
+    bool m_completed = false;    ///< the last run came to its report
+};
+
+} // namespace Zandrove::Cli

@@ -1,0 +1,148 @@
+#include "cli/Session.h"
+
+#include "core/engine/TransferEngine.h"
+#include "platform/Terminal.h"
+
+#include <QHostAddress>
+
+#include <chrono>
+
+using namespace std::chrono_literals;
+
+namespace Zandrove::Cli {
+
+namespace {
+
+constexpr auto ProgressInterval = 200ms;
+
+// Longest wait for the end of a link: of one on which a run's last bytes may still be leaving, and of one
+// that never came to stand.
+constexpr auto LingerTime = 60s;
+constexpr auto LingerTimePending = 1s;
+
+} // namespace
+
+Session::Session(const Options &options, TransferEngine &engine, Output &output, QObject *parent)
+    : QObject(parent)
+    , m_options(options)
+    , m_engine(engine)
+    , m_output(output)
+{
+    connect(&m_engine, &TransferEngine::warning, this,
+            [this](const QString &message) { m_output.warning(message); });
+}
+
+Session::~Session() = default;
+
+PCInfo Session::connectedPeer() const
+{
+    PCInfo peer = m_engine.connectedPC();
+    bool isIPv4 = false;
+    const quint32 address = QHostAddress(peer.ip).toIPv4Address(&isIPv4);
+    if (isIPv4)
+        peer.ip = QHostAddress(address).toString(); // "::ffff:10.0.0.1" is how a listener sees it
+    return peer;
+}
+
+void Session::showRuns()
+{
+    connect(&m_engine, &TransferEngine::transferProgressChanged, this, &Session::showProgress);
+    connect(&m_engine, &TransferEngine::fileTransferStarted, this,
+            [this](const QString &name) { m_output.file(name, FileStatus::Started, {}); });
+    connect(&m_engine, &TransferEngine::fileTransferCompleted, this,
+            [this](const QString &name) { m_output.file(name, FileStatus::Completed, {}); });
+    connect(&m_engine, &TransferEngine::fileTransferFailed, this,
+            [this](const QString &name, const QString &reason) {
+                m_output.file(name, FileStatus::Failed, reason);
+            });
+    connect(&m_engine, &TransferEngine::transferPaused, this, [this] { m_output.paused(Side::Here); });
+    connect(&m_engine, &TransferEngine::pausedByPeer, this, [this] { m_output.paused(Side::Peer); });
+    connect(&m_engine, &TransferEngine::transferResumed, this, [this] { m_output.resumed(Side::Here); });
+    connect(&m_engine, &TransferEngine::resumedByPeer, this, [this] { m_output.resumed(Side::Peer); });
+}
+
+void Session::showProgress(const TransferProgress &progress)
+{
+    m_heldProgress = progress;
+    m_progressHeld = true;
+    if (m_sinceProgress.isValid() && !m_sinceProgress.hasExpired(ProgressInterval.count()))
+        return;
+    m_sinceProgress.start();
+    showLastProgress();
+}
+
+void Session::showLastProgress()
+{
+    if (m_progressHeld)
+        m_output.progress(m_heldProgress);
+    m_progressHeld = false;
+}
+
+void Session::readInput()
+{
+    if (m_input)
+        return;
+    m_input = new Platform::InputLines(this);
+    connect(m_input, &Platform::InputLines::lineRead, this, &Session::onInput);
+    connect(m_input, &Platform::InputLines::ended, this, &Session::onInputEnded);
+}
+
+void Session::onInput(const QString &line)
+{
+    if (m_finishing || line.trimmed().isEmpty())
+        return;
+    const std::optional<ControlCommand> command = parseControlCommand(line);
+    if (!command || !obey(*command))
+        m_output.warning(tr("Unknown command: %1").arg(line));
+}
+
+void Session::onInputEnded() {}
+
+bool Session::obey(const ControlCommand &command)
+{
+    switch (command.kind) {
+    case ControlCommand::Pause:
+        m_engine.pauseTransfer();
+        return true;
+    case ControlCommand::Resume:
+        m_engine.resumeTransfer();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void Session::finish(ExitCode exitCode)
+{
+    if (m_finishing)
+        return;
+    m_finishing = true;
+    m_exitCode = exitCode;
+    QObject::disconnect(&m_engine, nullptr, this, nullptr);
+    m_engine.stopDiscovery();
+    if (m_link == Link::None) {
+        conclude();
+        return;
+    }
+    const bool isUp = m_link == Link::Up;
+    if (isUp)
+        m_engine.sendSessionEnd();
+    // The engine says it once by itself, and once more when the socket's last byte has left.
+    constexpr int EndsOfLink = 2;
+    connect(&m_engine, &TransferEngine::disconnected, this, [this, ends = 0]() mutable {
+        if (++ends == EndsOfLink)
+            conclude();
+    });
+    m_engine.disconnectFromPeer();
+    QTimer::singleShot(isUp ? LingerTime : LingerTimePending, this, &Session::conclude);
+}
+
+void Session::conclude()
+{
+    if (m_concluded)
+        return;
+    m_concluded = true;
+    Q_EMIT finished(m_exitCode);
+}
+
+} // namespace Zandrove::Cli

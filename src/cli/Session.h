@@ -1,0 +1,91 @@
+#pragma once
+
+#include "cli/ControlCommand.h"
+#include "cli/ExitCode.h"
+#include "cli/Options.h"
+#include "cli/Output.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+
+namespace Zandrove {
+class TransferEngine;
+namespace Platform {
+class InputLines;
+}
+} // namespace Zandrove
+
+namespace Zandrove::Cli {
+
+/// One command of the program at work: drives the engine, says on the output what happens, and ends by
+/// exactly one `finished`. Main thread only; engine and output outlive it.
+class Session : public QObject
+{
+    Q_OBJECT
+
+public:
+    Session(const Options &options, TransferEngine &engine, Output &output, QObject *parent = nullptr);
+    ~Session() override;
+
+    virtual void start() = 0;
+
+    /// The user wants to stop: the peer is told before `finished` comes.
+    virtual void interrupt() = 0;
+
+Q_SIGNALS:
+    void finished(int exitCode);
+
+protected:
+    /// What stands between this PC and a peer.
+    enum class Link {
+        None,
+        Pending, ///< a handshake is open
+        Up,
+    };
+
+    [[nodiscard]] const Options &options() const { return m_options; }
+    [[nodiscard]] TransferEngine &engine() { return m_engine; }
+    [[nodiscard]] Output &output() { return m_output; }
+    [[nodiscard]] bool isFinishing() const { return m_finishing; }
+
+    [[nodiscard]] Link link() const { return m_link; }
+    void setLink(Link link) { m_link = link; }
+
+    /// The peer as the user is to see it.
+    [[nodiscard]] PCInfo connectedPeer() const;
+
+    /// Passes progress, single files and pauses on to the output.
+    void showRuns();
+    /// Shows the last progress that was held back; to be called before the end of a run is shown.
+    void showLastProgress();
+
+    /// Reads standard input from now on: each line goes to `onInput`, its end to `onInputEnded`.
+    void readInput();
+    virtual void onInput(const QString &line);
+    virtual void onInputEnded();
+    /// Obeys a command of --control. Returns false for one that the session doesn't know.
+    virtual bool obey(const ControlCommand &command);
+
+    /// Ends a standing link, lets what is on its way reach the peer, and emits `finished`. What the engine
+    /// signals from here on reaches the session no more.
+    void finish(ExitCode exitCode);
+
+private:
+    void showProgress(const TransferProgress &progress);
+    void conclude();
+
+    const Options m_options;
+    TransferEngine &m_engine;
+    Output &m_output;
+    Platform::InputLines *m_input = nullptr;
+    Link m_link = Link::None;
+    QElapsedTimer m_sinceProgress;
+    TransferProgress m_heldProgress;
+    bool m_progressHeld = false;
+    bool m_finishing = false;
+    bool m_concluded = false;
+    ExitCode m_exitCode = EverythingMoved;
+};
+
+} // namespace Zandrove::Cli

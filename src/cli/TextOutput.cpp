@@ -1,0 +1,217 @@
+#include "cli/TextOutput.h"
+
+#include "support/Utilities.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace Zandrove::Cli {
+
+namespace {
+
+constexpr int NarrowestLiveLine = 20; // columns; less says nothing
+
+int columnsOf(char32_t character)
+{
+    const QChar::Category category = QChar::category(character);
+    if (category == QChar::Mark_NonSpacing || category == QChar::Mark_Enclosing ||
+        category == QChar::Other_Format)
+        return 0;
+    constexpr std::pair<char32_t, char32_t> Wide[] = {
+        {0x1100, 0x115F}, {0x2E80, 0xA4CF}, {0xAC00, 0xD7A3},   {0xF900, 0xFAFF},  {0xFE30, 0xFE6F},
+        {0xFF00, 0xFF60}, {0xFFE0, 0xFFE6}, {0x1F300, 0x1F64F}, {0x20000, 0x3FFFD}};
+    const bool isWide = std::any_of(std::begin(Wide), std::end(Wide), [character](const auto &range) {
+        return character >= range.first && character <= range.second;
+    });
+    return isWide ? 2 : 1;
+}
+
+/// Name of a peer for a person, with what is known besides it.
+QString described(const PCInfo &pc)
+{
+    return pc.ip.isEmpty() ? pc.name : u"%1 (%2)"_s.arg(pc.name, pc.ip);
+}
+
+} // namespace
+
+int columnsOf(const QString &text)
+{
+    int columns = 0;
+    for (const char32_t character : text.toUcs4())
+        columns += columnsOf(character);
+    return columns;
+}
+
+QString fitted(const QString &text, int columns)
+{
+    if (columnsOf(text) <= columns)
+        return text;
+    QString result;
+    int used = 1; // of the ellipsis
+    for (const char32_t character : text.toUcs4()) {
+        used += columnsOf(character);
+        if (used > columns)
+            break;
+        result += QString::fromUcs4(&character, 1);
+    }
+    return columns > 0 ? result + u'…' : QString();
+}
+
+TextOutput::TextOutput(Streams streams, int role, bool listsPeers)
+    : m_streams(std::move(streams))
+    , m_role(role)
+    , m_listsPeers(listsPeers)
+{
+}
+
+TextOutput::~TextOutput()
+{
+    clearLiveLine();
+}
+
+void TextOutput::line(const QString &text)
+{
+    clearLiveLine();
+    m_streams.out((printable(text) + u'\n').toUtf8());
+}
+
+void TextOutput::errorText(const QByteArray &bytes)
+{
+    clearLiveLine();
+    m_streams.err(bytes);
+}
+
+void TextOutput::clearLiveLine()
+{
+    if (m_liveLineShown)
+        m_streams.out("\r\x1b[K");
+    m_liveLineShown = false;
+}
+
+void TextOutput::code(const QString &code)
+{
+    line(tr("The code of this PC is %1. Waiting for an Old PC.").arg(code));
+}
+
+void TextOutput::peer(const PCInfo &pc)
+{
+    if (!m_listsPeers)
+        return;
+    QString text = u"+ "_s + described(pc);
+    if (!pc.verifyCode.isEmpty())
+        text += u"  "_s + tr("code %1").arg(pc.verifyCode);
+    if (!pc.os.isEmpty())
+        text += u"  "_s + pc.os;
+    line(text);
+}
+
+void TextOutput::peerLost(const QString &id)
+{
+    if (m_listsPeers)
+        line(u"- "_s + id);
+}
+
+void TextOutput::found(const PCInfo &pc)
+{
+    line(tr("Found %1. Waiting for it to let this PC in.").arg(described(pc)));
+}
+
+void TextOutput::request(const QString &name, bool asks)
+{
+    if (asks)
+        errorText(questionAbout(name));
+}
+
+void TextOutput::refused(const QString &name, const QString &why)
+{
+    errorText(
+        errorLine(why.isEmpty() ? tr("%1 was refused.").arg(name) : tr("%1 was refused: %2").arg(name, why)));
+}
+
+void TextOutput::connected(const PCInfo &pc)
+{
+    m_peerName = pc.name;
+    line(tr("Connected to %1.").arg(described(pc)));
+}
+
+void TextOutput::disconnected()
+{
+    line(tr("Disconnected from %1.").arg(m_peerName));
+}
+
+void TextOutput::progress(const TransferProgress &progress)
+{
+    const int columns = m_streams.columns();
+    if (columns < NarrowestLiveLine)
+        return;
+    const QString action = m_role == NewPC ? tr("Receiving") : tr("Sending");
+    QString text = u"%1 %2%  %3"_s.arg(action, QString::number(progress.overallPercent).rightJustified(3),
+                                       formatSpeed(progress.bytesPerSecond));
+    if (progress.remainingSeconds > 0)
+        text += u"  "_s + tr("%1 left").arg(progress.remainingTimeString());
+    text += u"  "_s + progress.currentFile;
+    m_streams.out("\r" + fitted(printable(text), columns - 1).toUtf8() + "\x1b[K");
+    m_liveLineShown = true;
+}
+
+void TextOutput::file(const QString &name, FileStatus status, const QString &reason)
+{
+    if (status == FileStatus::Failed)
+        errorText(errorLine(tr("%1 was not moved: %2").arg(name, reason)));
+}
+
+void TextOutput::paused(Side by)
+{
+    line(by == Side::Here ? tr("Paused.") : tr("Paused by %1.").arg(m_peerName));
+}
+
+void TextOutput::resumed(Side by)
+{
+    line(by == Side::Here ? tr("Resumed.") : tr("Resumed by %1.").arg(m_peerName));
+}
+
+void TextOutput::cancelled(Side by)
+{
+    line(by == Side::Here ? tr("Cancelled.") : tr("Cancelled by %1.").arg(m_peerName));
+}
+
+void TextOutput::report(const MigrationReport &report)
+{
+    const int seconds = static_cast<int>(report.startTime.secsTo(report.endTime));
+    QString head = tr("Done in %1: %2").arg(formatTime(seconds), formatSize(report.totalBytes));
+    if (report.averageSpeed > 0)
+        head += tr(", %1 on average").arg(formatSpeed(report.averageSpeed));
+    line(head + u'.');
+    const QString format = m_role == NewPC ? tr("Files: %1 received, %2 failed, %3 skipped.")
+                                           : tr("Files: %1 sent, %2 failed, %3 skipped.");
+    line(format.arg(QString::number(report.filesSuccess), QString::number(report.filesFailed),
+                    QString::number(report.filesSkipped)));
+    savedFolders(report);
+}
+
+void TextOutput::savedFolders(const MigrationReport &report)
+{
+    if (report.savedFolderPaths.isEmpty())
+        return;
+    line(tr("Saved to:"));
+    for (auto folder = report.savedFolderPaths.begin(); folder != report.savedFolderPaths.end(); ++folder) {
+        const QString count = QString::number(report.savedFolderCounts.value(folder.key()));
+        const QString sample = report.savedFolderSamples.value(folder.key());
+        line(u"  %1: %2 %3"_s.arg(folder.key(), folder.value(), tr("- files: %1").arg(count)) +
+             (sample.isEmpty() ? QString() : u' ' + sample));
+    }
+}
+
+void TextOutput::warning(const QString &message)
+{
+    errorText(errorLine(message));
+}
+
+void TextOutput::error(const QString &message)
+{
+    errorText(errorLine(message));
+}
+
+} // namespace Zandrove::Cli

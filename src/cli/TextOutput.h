@@ -1,0 +1,56 @@
+#pragma once
+
+#include "cli/Output.h"
+
+#include <QCoreApplication>
+
+namespace Zandrove::Cli {
+
+/// Readable lines for a person and, where standard output is a terminal, one live line with the progress that
+/// is redrawn in place. Failures of single files, questions and errors go to standard error.
+class TextOutput final : public Output
+{
+    Q_DECLARE_TR_FUNCTIONS(Zandrove::Cli::TextOutput)
+
+public:
+    /// `role` is this copy's `Role`; `listsPeers` whether peers that come and go are what was asked for.
+    TextOutput(Streams streams, int role, bool listsPeers);
+    ~TextOutput() override;
+
+    void code(const QString &code) override;
+    void peer(const PCInfo &pc) override;
+    void peerLost(const QString &id) override;
+    void found(const PCInfo &pc) override;
+    void request(const QString &name, bool asks) override;
+    void refused(const QString &name, const QString &why) override;
+    void connected(const PCInfo &pc) override;
+    void disconnected() override;
+    void progress(const TransferProgress &progress) override;
+    void file(const QString &name, FileStatus status, const QString &reason) override;
+    void paused(Side by) override;
+    void resumed(Side by) override;
+    void cancelled(Side by) override;
+    void report(const MigrationReport &report) override;
+    void warning(const QString &message) override;
+    void error(const QString &message) override;
+
+private:
+    void line(const QString &text);
+    void errorText(const QByteArray &bytes);
+    void clearLiveLine();
+    void savedFolders(const MigrationReport &report);
+
+    Streams m_streams;
+    int m_role;
+    bool m_listsPeers;
+    bool m_liveLineShown = false;
+    QString m_peerName;
+};
+
+/// Columns that `text` takes on a terminal: wide East Asian characters two, combining ones none.
+[[nodiscard]] int columnsOf(const QString &text);
+
+/// As much of `text` as fits into `columns`, with "…" in place of a cut end.
+[[nodiscard]] QString fitted(const QString &text, int columns);
+
+} // namespace Zandrove::Cli

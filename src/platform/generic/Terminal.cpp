@@ -1,0 +1,142 @@
+#include "platform/Terminal.h"
+
+#include <QSocketNotifier>
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+namespace Zandrove::Platform {
+
+namespace {
+
+constexpr int InterruptedExitCode = 130;
+constexpr qsizetype LongestLine = 64 * 1024; // bytes
+constexpr std::array InterruptSignals = {SIGINT, SIGTERM, SIGHUP};
+
+// A signal handler reaches nothing but these.
+std::array<int, 2> wakePipe = {-1, -1};
+volatile std::sig_atomic_t interruptSeen = 0;
+
+void onInterruptSignal(int)
+{
+    if (interruptSeen != 0)
+        _exit(InterruptedExitCode);
+    interruptSeen = 1;
+    const int savedError = errno;
+    const char wake = 1;
+    [[maybe_unused]] const ssize_t written = write(wakePipe[1], &wake, 1);
+    errno = savedError;
+}
+
+void setHandler(void (*handler)(int))
+{
+    struct sigaction action = {};
+    action.sa_handler = handler;
+    action.sa_flags = SA_RESTART;
+    sigemptyset(&action.sa_mask);
+    for (const int signal : InterruptSignals)
+        sigaction(signal, &action, nullptr);
+}
+
+int descriptor(StandardStream stream)
+{
+    switch (stream) {
+    case StandardStream::Input:
+        return STDIN_FILENO;
+    case StandardStream::Output:
+        return STDOUT_FILENO;
+    case StandardStream::Error:
+        return STDERR_FILENO;
+    }
+    return -1;
+}
+
+} // namespace
+
+bool isTerminal(StandardStream stream)
+{
+    return isatty(descriptor(stream)) == 1;
+}
+
+int terminalColumns()
+{
+    winsize size = {};
+    if (!isTerminal(StandardStream::Output) || ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0)
+        return 0;
+    constexpr int UsualColumns = 80; // a terminal that doesn't know its size says 0
+    return size.ws_col > 0 ? size.ws_col : UsualColumns;
+}
+
+InterruptNotifier::InterruptNotifier(QObject *parent)
+    : QObject(parent)
+{
+    if (pipe2(wakePipe.data(), O_CLOEXEC | O_NONBLOCK) != 0)
+        return;
+    m_notifier = new QSocketNotifier(wakePipe[0], QSocketNotifier::Read, this);
+    connect(m_notifier, &QSocketNotifier::activated, this, [this] {
+        m_notifier->setEnabled(false);
+        Q_EMIT interrupted();
+    });
+    setHandler(onInterruptSignal);
+}
+
+InterruptNotifier::~InterruptNotifier()
+{
+    setHandler(SIG_DFL);
+    for (int &end : wakePipe) {
+        if (end >= 0)
+            close(end);
+        end = -1;
+    }
+}
+
+InputLines::InputLines(QObject *parent)
+    : QObject(parent)
+    , m_notifier(new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, this))
+{
+    connect(m_notifier, &QSocketNotifier::activated, this, &InputLines::readAvailable);
+}
+
+InputLines::~InputLines() = default;
+
+void InputLines::readAvailable()
+{
+    std::array<char, 4096> chunk;
+    const ssize_t count = read(STDIN_FILENO, chunk.data(), chunk.size());
+    if (count < 0 && (errno == EINTR || errno == EAGAIN))
+        return;
+    if (count > 0) {
+        m_pending.append(chunk.data(), count);
+        deliverLines();
+        return;
+    }
+    m_notifier->setEnabled(false);
+    if (!m_pending.isEmpty() && !m_dropping) {
+        m_pending.append('\n');
+        deliverLines();
+    }
+    Q_EMIT ended();
+}
+
+void InputLines::deliverLines()
+{
+    for (qsizetype end = m_pending.indexOf('\n'); end >= 0; end = m_pending.indexOf('\n')) {
+        QByteArray line = m_pending.left(end);
+        m_pending.remove(0, end + 1);
+        if (line.endsWith('\r'))
+            line.chop(1);
+        if (!m_dropping && line.size() <= LongestLine)
+            Q_EMIT lineRead(QString::fromUtf8(line));
+        m_dropping = false;
+    }
+    if (m_pending.size() > LongestLine) {
+        m_pending.clear();
+        m_dropping = true;
+    }
+}
+
+} // namespace Zandrove::Platform

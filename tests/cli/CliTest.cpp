@@ -1,0 +1,326 @@
+#include "cli/ControlCommand.h"
+#include "cli/FolderCheck.h"
+#include "cli/JsonOutput.h"
+#include "cli/Options.h"
+#include "cli/PeerMatch.h"
+#include "cli/RunResults.h"
+#include "cli/TextOutput.h"
+
+#include <QJsonDocument>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace Zandrove;
+using namespace Zandrove::Cli;
+
+namespace {
+
+/// Standard output and standard error, kept.
+struct Captured
+{
+    QByteArray out;
+    QByteArray err;
+    int columns = 0;
+
+    Streams streams()
+    {
+        return {.out = [this](const QByteArray &bytes) { out += bytes; },
+                .err = [this](const QByteArray &bytes) { err += bytes; },
+                .columns = [this] { return columns; }};
+    }
+};
+
+PCInfo peer(const QString &name, const QString &ip, const QString &senderIp, const QString &code)
+{
+    PCInfo pc;
+    pc.id = pc.name = name;
+    pc.ip = ip;
+    pc.senderIp = senderIp;
+    pc.verifyCode = code;
+    return pc;
+}
+
+} // namespace
+
+class CliTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void refusesWrongArguments_data();
+    void refusesWrongArguments();
+    void readsOptionsInEitherFormAndAnyOrder();
+    void answersHelpAndVersionInsteadOfRunning_data();
+    void answersHelpAndVersionInsteadOfRunning();
+    void findsThePeerThatIsMeant_data();
+    void findsThePeerThatIsMeant();
+    void readsControlLines_data();
+    void readsControlLines();
+    void namesWhatIsWrongWithAFolder();
+    void sumsUpRuns();
+    void printsOneJsonObjectALine();
+    void jsonReportHasTheFieldsOfTheRecord();
+    void namesOfPeersCannotSteerTheTerminal();
+    void liveLineFitsTheTerminalAndLeavesNoTrace();
+    void noLiveLineWithoutATerminal();
+};
+
+void CliTest::refusesWrongArguments_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("mentions");
+
+    QTest::newRow("nothing") << u""_s << u"receive"_s;
+    QTest::newRow("unknown command") << u"fetch"_s << u"fetch"_s;
+    QTest::newRow("second word") << u"receive now"_s << u"now"_s;
+    QTest::newRow("unknown option") << u"receive --fast"_s << u"--fast"_s;
+    QTest::newRow("option of another command") << u"receive --folder x"_s << u"--folder"_s;
+    QTest::newRow("no target") << u"send --folder x"_s << u"--to"_s;
+    QTest::newRow("blank target") << u"send --to= --folder x"_s << u"--to"_s;
+    QTest::newRow("no folder") << u"send --to 1234"_s << u"--folder"_s;
+    QTest::newRow("value missing at the end") << u"send --folder x --to"_s << u"--to"_s;
+    QTest::newRow("value for a flag") << u"receive --yes=1"_s << u"--yes"_s;
+    QTest::newRow("no role") << u"discover"_s << u"--role"_s;
+    QTest::newRow("wrong role") << u"discover --role 0"_s << u"0"_s;
+    QTest::newRow("wrong mode") << u"receive --mode wifi"_s << u"wifi"_s;
+    QTest::newRow("no number") << u"receive --timeout soon"_s << u"soon"_s;
+    QTest::newRow("zero seconds") << u"receive --timeout 0"_s << u"0"_s;
+    QTest::newRow("too long") << u"discover --role old --seconds 99999999"_s << u"99999999"_s;
+}
+
+void CliTest::refusesWrongArguments()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, mentions);
+
+    const ParsedArguments parsed = parseArguments(line.split(u' ', Qt::SkipEmptyParts));
+    QVERIFY(!parsed.options);
+    QVERIFY(parsed.text.isEmpty());
+    QVERIFY2(parsed.error.contains(mentions), qPrintable(parsed.error));
+    QVERIFY(!parsed.error.contains(u'\n'));
+}
+
+void CliTest::readsOptionsInEitherFormAndAnyOrder()
+{
+    const ParsedArguments send = parseArguments({u"--json"_s, u"--timeout=30"_s, u"send"_s, u"--folder"_s,
+                                                 u"-strange name"_s, u"--to"_s, u" old pc "_s,
+                                                 u"--folder=b=c"_s, u"--mode"_s, u"cable"_s, u"--control"_s});
+    QVERIFY2(send.options, qPrintable(send.error));
+    QCOMPARE(int(send.options->command), int(Command::Send));
+    QCOMPARE(send.options->role, int(OldPC));
+    QCOMPARE(send.options->target, u"old pc"_s);
+    QCOMPARE(send.options->folders, QStringList({u"-strange name"_s, u"b=c"_s}));
+    QCOMPARE(send.options->mode, int(CableMode));
+    QVERIFY(send.options->timeout == std::chrono::seconds(30));
+    QVERIFY(send.options->json && send.options->control && !send.options->verbose);
+
+    const ParsedArguments receive = parseArguments({u"receive"_s, u"--yes"_s, u"--once"_s, u"--verbose"_s});
+    QVERIFY(receive.options);
+    QCOMPARE(receive.options->role, int(NewPC));
+    QVERIFY(receive.options->yes && receive.options->once && receive.options->verbose);
+    QVERIFY(!receive.options->timeout);
+
+    const ParsedArguments discover = parseArguments({u"discover"_s, u"--role"_s, u"new"_s});
+    QVERIFY(discover.options);
+    QCOMPARE(discover.options->role, int(NewPC));
+}
+
+void CliTest::answersHelpAndVersionInsteadOfRunning_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QString>("mentions");
+
+    QTest::newRow("general") << QStringList{u"--help"_s} << u"discover"_s;
+    QTest::newRow("short") << QStringList{u"-h"_s} << u"receive"_s;
+    QTest::newRow("of a command, whatever is missing")
+        << QStringList{u"send"_s, u"--help"_s} << u"--folder DIR"_s;
+    QTest::newRow("version") << QStringList{u"--version"_s} << u"" ZANDROVE_VERSION ""_s;
+}
+
+void CliTest::answersHelpAndVersionInsteadOfRunning()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QString, mentions);
+
+    const ParsedArguments parsed = parseArguments(arguments);
+    QVERIFY(!parsed.options && parsed.error.isEmpty());
+    QVERIFY2(parsed.text.contains(mentions), qPrintable(parsed.text));
+    // A word that is only the value of an option asks for nothing.
+    QVERIFY(parseArguments({u"send"_s, u"--to"_s, u"x"_s, u"--folder"_s, u"--help"_s}).options);
+}
+
+void CliTest::findsThePeerThatIsMeant_data()
+{
+    QTest::addColumn<QString>("target");
+    QTest::addColumn<QString>("expected");
+
+    QTest::newRow("code") << u"0427"_s << u"Blue"_s;
+    QTest::newRow("code before a name of four digits") << u"2024"_s << u"Green"_s;
+    QTest::newRow("name of four digits") << u"1999"_s << u"1999"_s;
+    QTest::newRow("name in another case") << u"gReEn"_s << u"Green"_s;
+    QTest::newRow("announced address") << u"10.0.0.1"_s << u"Blue"_s;
+    QTest::newRow("address it spoke from") << u"192.168.1.9"_s << u"Green"_s;
+    QTest::newRow("part of a name") << u"Gre"_s << QString();
+    QTest::newRow("part of a code") << u"042"_s << QString();
+    QTest::newRow("nobody") << u"7777"_s << QString();
+}
+
+void CliTest::findsThePeerThatIsMeant()
+{
+    QFETCH(QString, target);
+    QFETCH(QString, expected);
+
+    const QList<PCInfo> peers = {peer(u"2024"_s, u"10.0.0.5"_s, u"10.0.0.5"_s, u"1111"_s),
+                                 peer(u"Blue"_s, u"10.0.0.1"_s, u"192.168.1.8"_s, u"0427"_s),
+                                 peer(u"Green"_s, u"10.0.0.2"_s, u"192.168.1.9"_s, u"2024"_s),
+                                 peer(u"1999"_s, u"10.0.0.6"_s, u"10.0.0.6"_s, {})};
+    const std::optional<PCInfo> found = findPeer(peers, target);
+    QCOMPARE(found ? found->name : QString(), expected);
+}
+
+void CliTest::readsControlLines_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("folder");
+
+    QTest::newRow("word") << u" pause \t"_s << int(ControlCommand::Pause) << QString();
+    QTest::newRow("again") << u"again"_s << int(ControlCommand::Again) << QString();
+    QTest::newRow("folder with blanks") << u"again  /a b/c "_s << int(ControlCommand::Again) << u"/a b/c"_s;
+    QTest::newRow("too much") << u"cancel all"_s << -1 << QString();
+    QTest::newRow("another word") << u"pauses"_s << -1 << QString();
+}
+
+void CliTest::readsControlLines()
+{
+    QFETCH(QString, line);
+    QFETCH(int, kind);
+    QFETCH(QString, folder);
+
+    const std::optional<ControlCommand> command = parseControlCommand(line);
+    QCOMPARE(command ? int(command->kind) : -1, kind);
+    QCOMPARE(command ? command->folder : QString(), folder);
+}
+
+void CliTest::namesWhatIsWrongWithAFolder()
+{
+    QTemporaryDir scratch;
+    QVERIFY(scratch.isValid());
+    QFile file(scratch.filePath(u"file"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+
+    QVERIFY(folderProblem(scratch.path()).isEmpty());
+    QVERIFY(folderProblem(file.fileName()).contains(u"not a folder"_s));
+    QVERIFY(folderProblem(scratch.filePath(u"missing"_s)).contains(u"no folder"_s));
+    QCOMPARE(absoluteFolder(scratch.path() + u"/a/../b//"_s), scratch.path() + u"/b"_s);
+}
+
+void CliTest::sumsUpRuns()
+{
+    RunResults results;
+    QCOMPARE(results.exitCode(), EverythingMoved);
+    results.record(Cancelled);
+    QCOMPARE(results.exitCode(), Cancelled);
+    results.record(EverythingMoved);
+    QCOMPARE(results.exitCode(), EverythingMoved);
+    results.record(SomethingMissing);
+    results.record(EverythingMoved);
+    QCOMPARE(results.exitCode(), SomethingMissing);
+    results.record(RunFailed);
+    QCOMPARE(results.exitCode(), RunFailed);
+
+    MigrationReport skipped;
+    skipped.filesSkipped = 1;
+    QCOMPARE(exitCodeFor(skipped), SomethingMissing);
+}
+
+void CliTest::printsOneJsonObjectALine()
+{
+    Captured captured;
+    JsonOutput output(captured.streams());
+    output.code(u"0427"_s);
+    output.disconnected();
+    output.file(u"a\n\"b\".txt"_s, FileStatus::Failed, u"why"_s);
+    output.error(u"first\nsecond"_s);
+
+    const QList<QByteArray> lines = captured.out.split('\n');
+    QCOMPARE(lines.size(), 5); // the last one is empty
+    QCOMPARE(lines.at(0), QByteArray(R"({"event":"code","code":"0427"})"));
+    QCOMPARE(lines.at(1), QByteArray(R"({"event":"disconnected"})"));
+    const QJsonObject file = QJsonDocument::fromJson(lines.at(2)).object();
+    QCOMPARE(file.value(u"name"_s).toString(), u"a\n\"b\".txt"_s);
+    QCOMPARE(file.value(u"reason"_s).toString(), u"why"_s);
+    QCOMPARE(captured.err.count('\n'), 1);
+}
+
+void CliTest::jsonReportHasTheFieldsOfTheRecord()
+{
+    MigrationReport report;
+    report.startTime = QDateTime(QDate(2024, 5, 6), QTime(7, 8, 9, 12));
+    report.filesSuccess = 7;
+    report.totalBytes = 5'000'000'000'000;
+    report.savedFolderPaths.insert(u"Music"_s, u"/home/u/Music"_s);
+    report.savedFolderCounts.insert(u"Music"_s, 3);
+    report.failedFiles = QStringList{u"x"_s};
+
+    const QJsonObject json = toJson(report);
+    QCOMPARE(json.value(u"startTime"_s).toString(), u"2024-05-06T07:08:09.012"_s);
+    QCOMPARE(json.value(u"endTime"_s).toString(), QString());
+    QCOMPARE(json.value(u"totalBytes"_s).toInteger(), 5'000'000'000'000);
+    QCOMPARE(json.value(u"savedFolderPaths"_s).toObject().value(u"Music"_s).toString(), u"/home/u/Music"_s);
+    QCOMPARE(json.value(u"savedFolderCounts"_s).toObject().value(u"Music"_s).toInt(), 3);
+    QCOMPARE(json.size(), 18);
+}
+
+void CliTest::namesOfPeersCannotSteerTheTerminal()
+{
+    Captured captured;
+    TextOutput output(captured.streams(), NewPC, true);
+    const QString hostile = u"PC\x1b[2J\r\nroot\u202e\u009b"_s;
+    output.peer(peer(hostile, u"10.0.0.1"_s, {}, u"1234"_s));
+    output.request(hostile, true);
+    output.file(hostile, FileStatus::Failed, hostile);
+
+    for (const QByteArray &printed : {captured.out, captured.err}) {
+        const QString text = QString::fromUtf8(printed);
+        QVERIFY(!text.contains(u'\x1b') && !text.contains(u'\r') && !text.contains(u'\u202e'));
+    }
+    QCOMPARE(captured.out.count('\n'), 1);
+    QVERIFY(captured.err.startsWith("Allow PC"));
+    QVERIFY2(printable(u"Größe 音楽\u200f.txt"_s) == u"Größe 音楽\u200f.txt"_s, "ordinary text stays");
+}
+
+void CliTest::liveLineFitsTheTerminalAndLeavesNoTrace()
+{
+    Captured captured;
+    captured.columns = 40;
+    TextOutput output(captured.streams(), OldPC, false);
+    TransferProgress progress;
+    progress.overallPercent = 42;
+    progress.bytesPerSecond = 1024 * 1024;
+    progress.remainingSeconds = 63;
+    progress.currentFile = u"写真写真写真写真写真写真写真写真.jpg"_s;
+    output.progress(progress);
+
+    QVERIFY(captured.out.startsWith("\r") && captured.out.endsWith("\x1b[K"));
+    const QString shown = QString::fromUtf8(captured.out.mid(1).chopped(3));
+    QVERIFY2(shown.contains(u"42%") && shown.contains(u"1.0 MB/s") && shown.contains(u"1m 3s"),
+             qPrintable(shown));
+    QVERIFY(columnsOf(shown) < 40 && shown.endsWith(u'…'));
+
+    captured.out.clear();
+    output.cancelled(Side::Here);
+    QCOMPARE(captured.out, QByteArray("\r\x1b[KCancelled.\n"));
+}
+
+void CliTest::noLiveLineWithoutATerminal()
+{
+    Captured captured;
+    TextOutput output(captured.streams(), OldPC, false);
+    output.progress({});
+    QVERIFY(captured.out.isEmpty());
+}
+
+QTEST_GUILESS_MAIN(CliTest)
+#include "CliTest.moc"
