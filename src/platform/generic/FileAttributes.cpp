@@ -27,6 +27,12 @@ bool isForeignOrLink(const QString &path)
     return S_ISLNK(status.st_mode) || status.st_uid != ::geteuid();
 }
 
+std::optional<qint64> realFileSize(const QString &path)
+{
+    const QFileInfo file(path);
+    return file.isFile() ? std::optional(file.size()) : std::nullopt;
+}
+
 bool isRegularFile(const QString &path)
 {
     return QFileInfo(path).isFile();

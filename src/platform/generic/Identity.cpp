@@ -7,9 +7,9 @@ std::optional<QString> shortComputerName()
     return std::nullopt;
 }
 
-SystemVersion registeredSystemVersion()
+QString userName()
 {
-    return {};
+    return qEnvironmentVariable("USER");
 }
 
 } // namespace Zandrove::Platform

@@ -1,5 +1,7 @@
 #include "platform/ExternalProgram.h"
 
+#include "platform/ProgramPath.h"
+
 #include <QDeadlineTimer>
 #include <QProcess>
 #include <QThread>
@@ -37,8 +39,7 @@ ProgramResult runProgram(const QString &program, const QStringList &arguments,
 {
     QProcess process;
     process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    process.start(program, arguments, QIODevice::ReadOnly);
+    process.start(programPath(program), arguments, QIODevice::ReadOnly);
 
     const QDeadlineTimer deadline =
         timeout ? QDeadlineTimer(*timeout) : QDeadlineTimer(QDeadlineTimer::Forever);
@@ -49,7 +50,8 @@ ProgramResult runProgram(const QString &program, const QStringList &arguments,
     }
     const bool finished =
         ended && process.error() != QProcess::FailedToStart && process.exitStatus() == QProcess::NormalExit;
-    return {finished, finished ? process.exitCode() : -1, process.readAllStandardOutput()};
+    return {finished, finished ? process.exitCode() : -1, process.readAllStandardOutput(),
+            process.readAllStandardError()};
 }
 
 } // namespace Zandrove::Platform

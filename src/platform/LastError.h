@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QString>
+
+namespace Zandrove::Platform {
+
+/// The number that the system gave the last failed call on this thread. To be asked right behind the call.
+[[nodiscard]] unsigned long lastErrorCode();
+
+/// The system's words for such a number.
+[[nodiscard]] QString errorText(unsigned long code);
+
+} // namespace Zandrove::Platform

@@ -1,0 +1,10 @@
+#include "platform/ProgramPath.h"
+
+namespace Zandrove::Platform {
+
+QString programPath(const QString &program)
+{
+    return program;
+}
+
+} // namespace Zandrove::Platform
