@@ -102,6 +102,11 @@ bool NetworkManager::isAccepted() const
     return m_accepted;
 }
 
+quint64 NetworkManager::acceptedLink() const
+{
+    return m_accepted ? m_socketSerial : 0;
+}
+
 quint16 NetworkManager::serverPort() const
 {
     return m_tcpServer->serverPort();

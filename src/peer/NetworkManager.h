@@ -2,6 +2,7 @@
 
 #include "core/common/Records.h"
 #include "peer/FrameReader.h"
+#include "peer/LinkEnvironment.h"
 #include "peer/Protocol.h"
 #include "peer/SocketHandling.h"
 #include "support/NetworkAdapters.h"
@@ -22,18 +23,6 @@ class QUdpSocket;
 namespace Zandrove {
 
 class CableModeHelper;
-
-/// What the link takes from the world. The defaults are the real machine; tests replace single members.
-struct LinkEnvironment
-{
-    quint16 tcpPort = TcpPort; ///< port to listen on; 0 takes any free one
-    quint16 udpPort =
-        UdpPort; ///< port to broadcast to and hear on; 0 hears on any free one, broadcasts nowhere
-    AdapterSource adapters = systemNetworkAdapters;
-    std::function<QDateTime()> now = [] { return QDateTime::currentDateTime(); };
-    /// Replaces the UDP socket for outgoing datagrams when set.
-    std::function<void(const QByteArray &datagram, const QHostAddress &target, quint16 port)> sendDatagram;
-};
 
 /// The link to other copies: discovery by broadcast, the table of peers, and at most one paired TCP
 /// connection that carries frames.
@@ -62,6 +51,9 @@ public:
     /// Whether the handshake on the current socket is complete: this copy sent or received `ConnectAccept` on
     /// it.
     [[nodiscard]] bool isAccepted() const;
+
+    /// The link that is accepted now: another number for each, 0 while there is none.
+    [[nodiscard]] quint64 acceptedLink() const;
 
     /// Bytes that wait in the current socket's write buffer, kept up to date by this object; 0 without a
     /// socket.

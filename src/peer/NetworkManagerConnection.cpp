@@ -98,6 +98,8 @@ void NetworkManager::connectToPC(const QString &pcId)
     qDebug() << "Payload IP:" << m_pendingPC.ip;
     qDebug() << "Sender IP:" << m_pendingPC.senderIp;
     qDebug() << "Chosen IP:" << ip;
+    if (m_accepted)
+        resetPairing(); // a live link is given up for the new one
     dropSocket();
     auto *socket = new QTcpSocket(this);
     setDialledOptions(socket);

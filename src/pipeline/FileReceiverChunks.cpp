@@ -46,7 +46,7 @@ void FileReceiverWorker::onFileData(const QByteArray &data)
         if (before > InflowMark && before - size <= InflowMark)
             Q_EMIT inflowBelowMark();
     });
-    while (m_paused && !m_cancelled)
+    while (m_paused && !m_cancelled && !m_stopped)
         QThread::msleep(PausePollMs);
     removeOpenFileIfCancelled();
     if (!m_running || m_cancelled || !m_currentFile)

@@ -9,6 +9,9 @@
 #include <QFileInfo>
 #include <QThread>
 
+#include <algorithm>
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace Zandrove {
@@ -22,9 +25,7 @@ FileReceiverWorker::FileReceiverWorker(QObject *parent)
 
 FileReceiverWorker::~FileReceiverWorker()
 {
-    m_cancelled = true;
-    m_running = false;
-    removeOpenFile();
+    endRun();
 }
 
 QString FileReceiverWorker::destinationPath(const QString &relativePath) const
@@ -43,7 +44,7 @@ void FileReceiverWorker::startReceiving()
     qDebug() << "  destRoot:" << m_destRoot;
     qDebug() << "  already running:" << m_running.load();
     removeOpenFileIfCancelled();
-    if (m_running)
+    if (m_running || m_stopped)
         return;
     m_running = true;
     m_cancelled = false;
@@ -66,8 +67,21 @@ void FileReceiverWorker::cancel()
     m_running = false;
     if (QThread::currentThread() == thread())
         removeOpenFile();
-    else
-        QMetaObject::invokeMethod(this, &FileReceiverWorker::removeOpenFileIfCancelled, Qt::QueuedConnection);
+    else // the file is the worker's own, and a beginning of the run may still be queued in front
+        QMetaObject::invokeMethod(this, &FileReceiverWorker::endRun, Qt::QueuedConnection);
+}
+
+void FileReceiverWorker::stop()
+{
+    m_stopped = true;
+    cancel();
+}
+
+void FileReceiverWorker::endRun()
+{
+    m_cancelled = true;
+    m_running = false;
+    removeOpenFile();
 }
 
 void FileReceiverWorker::removeOpenFileIfCancelled()
@@ -167,6 +181,9 @@ FileReceiverWorker::OpenOutcome FileReceiverWorker::createFile()
         return OpenOutcome::Failed;
     }
     qDebug() << "  Directory ready:" << directory;
+    // What was not there at the first look may have been put there by somebody else since.
+    if (!isSafeDestination(m_currentPath, m_currentDestPath))
+        return OpenOutcome::Failed;
     auto file = std::make_unique<QFile>(m_currentDestPath);
     // Unbuffered: the write buffer is this worker's own, and a full disk must show at the write that meets
     // it.
@@ -192,13 +209,16 @@ bool FileReceiverWorker::finalizeFile(quint32 expected)
         qDebug() << "[finalizeFile] flushWriteBuffer failed for:" << m_currentPath;
         return false;
     }
+    bool written = true;
     if (m_currentFile) {
         m_currentFile->flush();
         m_currentFile->close();
+        // Some file systems tell of a full disk only now.
+        written = m_currentFile->error() == QFileDevice::NoError;
         m_currentFile.reset();
     }
     const quint32 calculated = m_currentCrc.value();
-    if (calculated == expected)
+    if (calculated == expected && written)
         return true;
     qDebug() << "[finalizeFile] Checksum mismatch! expected:" << QString::number(expected, 16)
              << "calculated:" << QString::number(calculated, 16) << "fileSize:" << m_currentSize

@@ -39,6 +39,8 @@ public:
     void setConflictPolicy(int policy) { m_conflictPolicy = policy; }
 
     void setPaused(bool paused) { m_paused = paused; }
+    /// A cancel for good: this worker begins no other run.
+    void stop();
 
     /// Counts a chunk message as waiting, on the side that queues it.
     void addInflow(qint64 bytes) { m_inflow += bytes; }
@@ -95,6 +97,7 @@ private:
     void displaceOpenFile();
     void removeOpenFile();
     void removeOpenFileIfCancelled();
+    void endRun();
     [[nodiscard]] QString bareName() const;
 
     void receiveChunk(const QByteArray &data);
@@ -109,7 +112,8 @@ private:
 
     std::atomic<bool> m_paused = false;
     std::atomic<bool> m_running = false;
-    std::atomic<bool> m_cancelled = false;
+    std::atomic<bool> m_cancelled = false; // of the run
+    std::atomic<bool> m_stopped = false;
     std::atomic<qint64> m_inflow = 0;
 
     QString m_destRoot;

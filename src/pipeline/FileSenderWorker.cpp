@@ -23,6 +23,7 @@ namespace {
 
 constexpr std::chrono::duration<unsigned long, std::milli> PausePoll = 100ms;
 constexpr std::chrono::duration<unsigned long, std::milli> BackpressurePoll = 20ms;
+constexpr auto AckPoll = 500ms;
 constexpr int MaxBackpressurePasses = 250;
 constexpr qint64 SocketFillMark = 8388608; ///< 8 MiB
 constexpr int ChunksPerProgress = 16;
@@ -44,31 +45,31 @@ FileSenderWorker::FileSenderWorker(QObject *parent)
 {
 }
 
-void FileSenderWorker::startSending(const QList<FileTransferTask> &tasks)
+void FileSenderWorker::startSending(QList<FileTransferTask> tasks)
 {
     if (m_running.exchange(true))
         return;
-    beginList(tasks);
+    beginList(std::move(tasks));
     const TransferMessages::Start start{int(m_tasks.size()), m_totalBytes};
     Q_EMIT requestSendCommand(wireType(Protocol::MessageType::TransferStart), start.toPayload());
 
     for (int index = 0; index < m_tasks.size(); ++index) {
         waitWhilePaused();
-        if (m_cancelled)
+        if (isCancelled())
             break;
         sendTask(index);
     }
 
     m_running = false;
-    if (!m_cancelled)
+    if (!isCancelled())
         Q_EMIT allCompleted(m_successCount, m_failedCount, m_skippedCount, m_sentBytes);
     qDebug() << "FileSenderWorker: Finished. Success:" << m_successCount << "Failed:" << m_failedCount
              << "Skipped:" << m_skippedCount;
 }
 
-void FileSenderWorker::beginList(const QList<FileTransferTask> &tasks)
+void FileSenderWorker::beginList(QList<FileTransferTask> tasks)
 {
-    m_tasks = tasks;
+    m_tasks = std::move(tasks);
     m_paused = false;
     m_cancelled = false;
     m_successCount = m_failedCount = m_skippedCount = 0;
@@ -152,12 +153,12 @@ FileSenderWorker::ChunkLoop FileSenderWorker::sendChunks(QFile &file, FileTransf
     while (!file.atEnd()) {
         // A cancel seen here ends the file as if it had been read to its end, with a FileEnd for what was
         // sent.
-        if (m_cancelled)
+        if (isCancelled())
             break;
         waitWhilePaused();
-        if (!m_cancelled)
+        if (!isCancelled())
             waitForSocket();
-        if (m_cancelled)
+        if (isCancelled())
             return ChunkLoop::Abandoned;
         if (!sendChunk(file, task, checksum))
             break;
@@ -178,6 +179,8 @@ bool FileSenderWorker::sendChunk(QFile &file, FileTransferTask &task, FileChecks
     if (size <= 0)
         return false;
     payload.truncate(ChunkHeader::Size + size);
+    if (size < ChunkBytes / 2)
+        payload.squeeze(); // many small files may wait for the main thread at once
     ChunkHeader{task.transferredBytes, qint32(size), task.taskId}.writeTo(payload.data());
     checksum.update(QByteArrayView(payload).sliced(ChunkHeader::Size));
     Q_EMIT requestSendCommand(wireType(Protocol::MessageType::FileData), payload);
@@ -219,11 +222,14 @@ void FileSenderWorker::requestAndAwaitAck(const BatchRequest &request)
     Q_EMIT requestSendCommand(wireType(Protocol::MessageType::FileAck),
                               TransferMessages::ackRequestPayload(request));
 
-    const QDeadlineTimer deadline(batchAckTimeout(request.bytes));
+    const auto timeout = batchAckTimeout(request.bytes);
+    QDeadlineTimer deadline(timeout);
     QMutexLocker locker(&m_ackMutex);
-    while (!m_ackReceived && !m_cancelled) {
-        if (!m_ackCondition.wait(&m_ackMutex, deadline))
-            break;
+    while (!m_ackReceived && !isCancelled() && !deadline.hasExpired()) {
+        m_ackCondition.wait(&m_ackMutex, QDeadlineTimer(AckPoll));
+        // A paused peer cannot answer: that time does not count.
+        if (m_paused)
+            deadline.setRemainingTime(timeout);
     }
     if (!(m_ackReceived && m_ackSuccess))
         qDebug() << "Batch ACK timeout for batch" << request.batchId;
@@ -236,6 +242,12 @@ void FileSenderWorker::cancel()
     const QMutexLocker locker(&m_ackMutex);
     m_ackReceived = true;
     m_ackCondition.wakeAll();
+}
+
+void FileSenderWorker::stop()
+{
+    m_stopped = true;
+    cancel();
 }
 
 void FileSenderWorker::onBatchAckReceived(int batchId, bool success, const QStringList &failedFiles)
@@ -251,7 +263,7 @@ void FileSenderWorker::onBatchAckReceived(int batchId, bool success, const QStri
 
 void FileSenderWorker::waitWhilePaused() const
 {
-    while (m_paused && !m_cancelled)
+    while (m_paused && !isCancelled())
         QThread::msleep(PausePoll.count());
 }
 
@@ -264,7 +276,7 @@ void FileSenderWorker::waitForSocket() const
         return;
     qDebug() << "[Sender] Backpressure - buffer:" << level;
     int passes = 0;
-    while (level > SocketFillMark && !m_cancelled) {
+    while (level > SocketFillMark && !isCancelled()) {
         QThread::msleep(BackpressurePoll.count());
         if (++passes > MaxBackpressurePasses) {
             qDebug() << "[Sender] Backpressure timeout!";

@@ -22,8 +22,8 @@ namespace Zandrove {
 /// for the peer's answer, which only paces it: no file is sent twice.
 ///
 /// Its slots run on the thread that it lives in and `startSending` blocks that thread until the list is
-/// through. `cancel`, `setPaused` and `onBatchAckReceived` may be called from any thread, and are meant to
-/// be.
+/// through. `cancel`, `stop`, `setPaused` and `onBatchAckReceived` may be called from any thread, and are
+/// meant to be.
 class FileSenderWorker final : public QObject
 {
     Q_OBJECT
@@ -40,11 +40,13 @@ public:
     void setBufferProbe(std::function<qint64()> probe) { m_bufferProbe = std::move(probe); }
 
     void setPaused(bool paused) { m_paused = paused; }
+    /// A cancel for good: this worker sends no other list.
+    void stop();
 
 public Q_SLOTS:
     /// Sends the list. Ignored while another list is being sent. Ends by `allCompleted`, or silently when
     /// cancelled.
-    void startSending(const QList<Zandrove::FileTransferTask> &tasks);
+    void startSending(QList<Zandrove::FileTransferTask> tasks);
     void pause() { setPaused(true); }
     void resume() { setPaused(false); }
     /// Ends the list at the next chunk and wakes a waiting batch.
@@ -66,7 +68,8 @@ Q_SIGNALS:
 private:
     enum class ChunkLoop { EndOfFile, Abandoned };
 
-    void beginList(const QList<FileTransferTask> &tasks);
+    void beginList(QList<FileTransferTask> tasks);
+    [[nodiscard]] bool isCancelled() const { return m_cancelled || m_stopped; }
     void sendTask(int index);
     [[nodiscard]] bool sendFile(FileTransferTask &task);
     [[nodiscard]] bool failFile(FileTransferTask &task, const QString &reason);
@@ -84,7 +87,8 @@ private:
     int m_conflictPolicy = 0;
     std::atomic<bool> m_running = false;
     std::atomic<bool> m_paused = false;
-    std::atomic<bool> m_cancelled = false;
+    std::atomic<bool> m_cancelled = false; // of the list in work
+    std::atomic<bool> m_stopped = false;
 
     QMutex m_ackMutex; // guards the four fields below
     QWaitCondition m_ackCondition;

@@ -23,6 +23,22 @@ namespace Zandrove {
 
 using Protocol::MessageType;
 
+namespace {
+
+/// Applications and settings have no lane of their own yet.
+void logLeftOut(const QList<AppInfo> &apps, const QList<SettingInfo> &settings)
+{
+    const auto appCount = std::count_if(apps.cbegin(), apps.cend(),
+                                        [](const AppInfo &app) { return app.canTransfer && app.selected; });
+    const auto settingCount =
+        std::count_if(settings.cbegin(), settings.cend(),
+                      [](const SettingInfo &setting) { return setting.selected && setting.available; });
+    if (appCount + settingCount > 0)
+        qDebug() << "Left out of the run:" << appCount << "applications," << settingCount << "settings";
+}
+
+} // namespace
+
 MigrationManager::MigrationManager(QObject *parent)
     : QObject(parent)
 {
@@ -72,24 +88,27 @@ void MigrationManager::start(const QList<AppInfo> &apps, const QList<FolderInfo>
     clearRunState();
     stopWorkers();
     setupConnections();
+    if (m_role == OldPC)
+        m_runLink = m_networkManager ? m_networkManager->acceptedLink() : 0;
     Q_EMIT started();
     if (m_role == NewPC) {
         invokeStartReceiving();
         return;
     }
 
-    if (!m_apps.isEmpty() || !m_settings.isEmpty())
-        qDebug() << "Left out of the run:" << m_apps.size() << "applications," << m_settings.size()
-                 << "settings";
+    logLeftOut(m_apps, m_settings);
     appMigrationDone = true;
     settingPhaseDone = true;
-    const QList<FileTransferTask> tasks = buildTaskList(m_folders);
+    QList<FileTransferTask> tasks = buildTaskList(m_folders);
     qDebug() << "Starting migration:";
     qDebug() << "  - Folder files:" << tasks.size();
     qDebug() << "  - Apps:" << 0;
     qDebug() << "  - Settings:" << 0;
     QMetaObject::invokeMethod(
-        m_senderWorker, [sender = m_senderWorker, tasks] { sender->startSending(tasks); },
+        m_senderWorker,
+        [sender = m_senderWorker, tasks = std::move(tasks)]() mutable {
+            sender->startSending(std::move(tasks));
+        },
         Qt::QueuedConnection);
 }
 
@@ -127,6 +146,8 @@ void MigrationManager::clearReportCounters()
     m_settingsApplied = m_settingsFailed = 0;
     m_paused = false;
     m_refusalLogged = false;
+    m_runLink.reset();
+    m_completing = false;
 }
 
 void MigrationManager::storeCounts(const FileCounts &counts)
@@ -162,9 +183,14 @@ void MigrationManager::cancel()
     if (!m_migrating)
         return;
     qDebug() << "MigrationManager::cancel()";
-    m_migrating = false;
     cancelWorkersQueued();
+    // A paused receiver waits inside a slot: a queued call would wait with it.
+    if (m_paused && m_receiverWorker)
+        m_receiverWorker->cancel();
     sendToPeer(MessageType::TransferCancel);
+    m_migrating = false;
+    m_completing = false;
+    m_deferred.clear();
     resumeReadingLink();
     Q_EMIT cancelled();
 }
@@ -181,10 +207,17 @@ void MigrationManager::endSession()
 
 void MigrationManager::resetAndListen()
 {
+    m_deferred.clear();
+    resetRun();
+}
+
+void MigrationManager::resetRun()
+{
     qDebug() << "MigrationManager::resetAndListen()";
     ++m_run;
     m_migrating = false;
-    cancelWorkersDirectly();
+    m_completing = false;
+    stopWork();
     fileTransferDone = false;
     appMigrationDone = false;
     settingPhaseDone = false;
@@ -223,6 +256,7 @@ void MigrationManager::onWorkerAllCompleted(int success, int failed, int skipped
     if (m_role == NewPC) {
         storeCounts({success, failed, skipped, totalBytes});
         fileTransferDone = true;
+        qDebug() << "Apps pending installation:" << 0;
         cleanUpReceivedApps();
     } else {
         finishFolderPhase();
@@ -233,6 +267,8 @@ void MigrationManager::onWorkerAllCompleted(int success, int failed, int skipped
 void MigrationManager::finishFolderPhase()
 {
     m_foldersPhaseDone = true;
+    qDebug() << "[Serial] Folders phase done. appFilesAllQueued=" << true << "pendingAppTasks=" << 0
+             << "hasAppsToMigrate=" << false;
     m_appFilePhaseDone = true;
     appMigrationDone = true;
     qDebug() << "[Serial] No app files to send, marking app file phase done.";
@@ -252,15 +288,17 @@ void MigrationManager::checkAllCompleted()
     if (m_role == OldPC && !(m_foldersPhaseDone && m_appFilePhaseDone))
         return;
 
-    m_migrating = false;
-    resumeReadingLink();
     const MigrationReport report = buildReport();
     if (m_role == OldPC && m_networkManager) {
         qDebug() << "Sending final TransferComplete to receiver";
         sendToPeer(MessageType::TransferComplete, TransferMessages::completePayload(report));
     }
+    m_migrating = false;
+    m_completing = false;
+    resumeReadingLink();
     Q_EMIT completed(report);
     qDebug() << "All migration completed!";
+    processDeferred();
 }
 
 void MigrationManager::cleanUpReceivedApps()
@@ -314,15 +352,22 @@ MigrationReport MigrationManager::buildReport() const
     return report;
 }
 
+/// Whether there is a peer that this side said yes to, and the run is one with that peer.
+bool MigrationManager::isLinkOfRun() const
+{
+    const quint64 link = m_networkManager ? m_networkManager->acceptedLink() : 0;
+    return link != 0 && (!m_migrating || !m_runLink || *m_runLink == link);
+}
+
 /// Nothing of a run leaves on a link that nobody on this side said yes to: whoever dials in the middle of a
 /// run takes the socket over, and must not be sent the rest of the user's files.
 void MigrationManager::sendToPeer(MessageType type, const QByteArray &payload)
 {
     if (!m_networkManager)
         return;
-    if (!m_networkManager->isAccepted()) {
+    if (!isLinkOfRun()) {
         if (!m_refusalLogged)
-            qDebug() << "Not sent, the link is not accepted, type:" << int(type);
+            qDebug() << "Not sent, the link is not accepted or not that of the run, type:" << int(type);
         m_refusalLogged = true;
         return;
     }

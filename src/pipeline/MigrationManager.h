@@ -9,7 +9,7 @@
 #include <QObject>
 #include <QPointer>
 
-#include <memory>
+#include <optional>
 
 class QThread;
 
@@ -24,10 +24,11 @@ class NetworkManager;
 /// run is over.
 ///
 /// Lives on the main thread. A run ends by exactly one of `completed`, `cancelled` (here), `peerCancelled`
-/// and `transferReset`; a failed file is a count in the report. A lost link is not noticed here: the run
-/// stays on until `cancel` or `resetAndListen`.
+/// and `transferReset`, or silently by `resetAndListen`; a failed file is a count in the report. A lost link
+/// is not noticed here: the run stays on until `cancel` or `resetAndListen`.
 ///
-/// What arrives on a link that is not accepted is ignored, and nothing of a run leaves on such a link.
+/// What arrives on a link that is not accepted is ignored, and nothing of a run leaves on such a link. A run
+/// of the Old PC belongs to the link it began on: it has nothing to do with a later one.
 class MigrationManager : public QObject
 {
     Q_OBJECT
@@ -44,6 +45,9 @@ public:
     void setConflictConfig(const ConflictConfig &config) { m_conflictConfig = config; }
     /// Where the New PC puts files that no standard folder is named for.
     void setDestinationRoot(const QString &root) { m_destRoot = root; }
+
+    /// A run is on.
+    [[nodiscard]] bool isMigrating() const { return m_migrating; }
 
     /// Begins a run in either role. Ignored while one is on.
     void start(const QList<AppInfo> &apps, const QList<FolderInfo> &folders,
@@ -95,6 +99,13 @@ private Q_SLOTS:
     void onLinkCommandReceived(Zandrove::Protocol::MessageType type, const QByteArray &payload);
 
 private:
+    /// A message that waits for the run in front of it to end.
+    struct Message
+    {
+        Protocol::MessageType type;
+        QByteArray payload;
+    };
+
     /// How the files of one or more lists ended.
     struct FileCounts
     {
@@ -114,13 +125,15 @@ private:
     [[nodiscard]] static bool endThread(QThread &thread, const char *warning);
     void invokeStartReceiving();
     [[nodiscard]] bool mayReadLink() const;
+    [[nodiscard]] bool isLinkOfRun() const;
     void resumeReadingLink();
     void setWorkersPaused(bool paused);
-    void cancelWorkersDirectly();
+    void stopWork();
     void cancelWorkersQueued();
 
     // The run.
     void clearRunState();
+    void resetRun();
     void clearReportCounters();
     void restartReceiving();
     [[nodiscard]] QList<FileTransferTask> buildTaskList(const QList<FolderInfo> &folders);
@@ -142,6 +155,9 @@ private:
     void onWorkerRequestSendCommand(int type, const QByteArray &payload);
 
     // What the peer sends.
+    void process(Protocol::MessageType type, const QByteArray &payload);
+    [[nodiscard]] bool mustWaitForReport(Protocol::MessageType type) const;
+    void processDeferred();
     [[nodiscard]] bool admitWhileIdle(Protocol::MessageType type);
     void restartForNewTransfer();
     void dispatch(Protocol::MessageType type, const QByteArray &payload);
@@ -188,9 +204,13 @@ private:
     int m_nextTaskId = 0;
     FileCounts m_accumulated; // over the lists that the sender of one run is given
 
-    int m_run = 0;                // deliveries made under an older number belong to a run that is over
-    int m_rearmTicket = 0;        // a re-arming under an older number is no longer wanted
-    bool m_refusalLogged = false; // one log line a run for what an unaccepted link keeps from leaving
+    int m_run = 0;                    // deliveries made under an older number belong to a run that is over
+    int m_rearmTicket = 0;            // a re-arming under an older number is no longer wanted
+    bool m_refusalLogged = false;     // one log line a run for what an unaccepted link keeps from leaving
+    bool m_strangerLogged = false;    // and one for what it brings
+    std::optional<quint64> m_runLink; // Old PC: the link that the run began on
+    bool m_completing = false;        // New PC: all has arrived, the receiver is still working it off
+    QList<Message> m_deferred;        // what arrived meanwhile
 };
 
 } // namespace Zandrove

@@ -9,6 +9,7 @@
 #include <QDebug>
 #include <QTimer>
 
+#include <algorithm>
 #include <chrono>
 
 using namespace std::chrono_literals;
@@ -39,10 +40,17 @@ void traceMessage(MessageType type, qsizetype size)
 
 void MigrationManager::onLinkCommandReceived(MessageType type, const QByteArray &payload)
 {
-    if (!m_networkManager || !m_networkManager->isAccepted()) {
-        qDebug() << "Ignoring a message on a link that is not accepted, type:" << int(type);
+    const bool accepted = m_networkManager && m_networkManager->isAccepted();
+    // The end of a session concerns whoever is paired, also when a run still stands that began with somebody
+    // else.
+    if (!accepted || (type != MessageType::SessionEnd && !isLinkOfRun())) {
+        if (!m_strangerLogged)
+            qDebug() << "Ignoring messages on a link that is not accepted or not that of the run, type:"
+                     << int(type);
+        m_strangerLogged = true;
         return;
     }
+    m_strangerLogged = false;
     onNetworkCommandReceived(type, payload);
 }
 
@@ -55,6 +63,32 @@ void MigrationManager::onNetworkCommandReceived(MessageType type, const QByteArr
         Q_EMIT sessionEndReceived();
         return;
     }
+    if (mustWaitForReport(type))
+        m_deferred.append({type, payload});
+    else
+        process(type, payload);
+}
+
+/// Between the last message of a run and its report the receiver still works off what is queued: what begins
+/// or resets a run waits for that, and so does what follows it.
+bool MigrationManager::mustWaitForReport(MessageType type) const
+{
+    if (type == MessageType::TransferPause || type == MessageType::TransferResume)
+        return false;
+    const bool touchesTheRun = type == MessageType::TransferStart || type == MessageType::TransferReset;
+    return !m_deferred.isEmpty() || (m_completing && touchesTheRun);
+}
+
+void MigrationManager::processDeferred()
+{
+    while (!m_deferred.isEmpty() && !m_completing) {
+        const Message message = m_deferred.takeFirst();
+        process(message.type, message.payload);
+    }
+}
+
+void MigrationManager::process(MessageType type, const QByteArray &payload)
+{
     if (!m_migrating && !admitWhileIdle(type))
         return;
     if (int(type) < FirstTransferType || int(type) > LastTransferType)
@@ -72,7 +106,7 @@ bool MigrationManager::admitWhileIdle(MessageType type)
     }
     if (type == MessageType::TransferReset) {
         qDebug() << "Received TransferReset while not migrating";
-        resetAndListen();
+        resetRun();
         Q_EMIT transferReset();
         return false;
     }
@@ -82,7 +116,7 @@ bool MigrationManager::admitWhileIdle(MessageType type)
 
 void MigrationManager::restartForNewTransfer()
 {
-    resetAndListen();
+    resetRun();
     stopWorkers();
     clearReportCounters();
     setupConnections();
@@ -246,7 +280,7 @@ void MigrationManager::handlePeerCancel()
     qDebug() << "MigrationManager::handlePeerCancel()";
     m_migrating = false;
     cancelWorkersQueued();
-    resetAndListen();
+    resetRun();
     if (m_role == NewPC) {
         QTimer::singleShot(RearmDelay, this, [this, ticket = m_rearmTicket] {
             if (ticket == m_rearmTicket)
@@ -269,6 +303,7 @@ void MigrationManager::onTransferComplete()
         return;
     }
     qDebug() << "Calling receiverWorker->onTransferComplete()";
+    m_completing = true;
     QMetaObject::invokeMethod(m_receiverWorker, &FileReceiverWorker::onTransferComplete,
                               Qt::QueuedConnection);
 }
@@ -276,7 +311,7 @@ void MigrationManager::onTransferComplete()
 void MigrationManager::onTransferReset()
 {
     qDebug() << "Received TransferReset - peer wants to restart";
-    resetAndListen();
+    resetRun();
     Q_EMIT transferReset();
 }
 

@@ -112,7 +112,7 @@ void MigrationManager::startWorker(Worker *worker)
 void MigrationManager::stopWorkers()
 {
     ++m_run;
-    cancelWorkersDirectly();
+    stopWork();
     if (m_senderWorker)
         QObject::disconnect(m_senderWorker, nullptr, nullptr, nullptr);
     if (m_receiverWorker)
@@ -162,12 +162,13 @@ void MigrationManager::setWorkersPaused(bool paused)
         resumeReadingLink();
 }
 
-void MigrationManager::cancelWorkersDirectly()
+/// Directly, and for good: every run has workers of its own.
+void MigrationManager::stopWork()
 {
     if (m_senderWorker)
-        m_senderWorker->cancel();
+        m_senderWorker->stop();
     if (m_receiverWorker)
-        m_receiverWorker->cancel();
+        m_receiverWorker->stop();
 }
 
 void MigrationManager::cancelWorkersQueued()
@@ -182,6 +183,8 @@ void MigrationManager::cancelWorkersQueued()
 /// bounded. A paused run reads on: the peer's resume stands behind its data.
 bool MigrationManager::mayReadLink() const
 {
+    if (m_completing && !m_paused)
+        return false;
     return !m_migrating || m_paused || !m_receiverWorker ||
            m_receiverWorker->inflow() <= FileReceiverWorker::InflowMark;
 }

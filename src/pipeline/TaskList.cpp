@@ -3,6 +3,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QDirIterator>
+#include <QFileInfo>
 #include <QPair>
 #include <QSet>
 #include <QStandardPaths>
@@ -39,6 +40,8 @@ StandardFolders standardFolders()
     StandardFolders standard;
     for (const auto &[location, word] : Locations) {
         const QString path = QDir::cleanPath(QStandardPaths::writableLocation(location));
+        if (path.isEmpty())
+            continue;
         standard.insert(path.toLower(), {word, path.size()});
     }
     return standard;
@@ -55,7 +58,7 @@ QString taskRoot(const QString &folderPath, const StandardFolders &standard)
         if (lower.startsWith(entry.key() + u'/') || lower.startsWith(entry.key() + u'\\'))
             return folder.rootWord + u'/' + cleaned.mid(folder.length + 1);
     }
-    return QDir(folderPath).dirName();
+    return QDir(QDir::cleanPath(QFileInfo(folderPath).absoluteFilePath())).dirName();
 }
 
 QList<FileTransferTask> taskListFor(const QList<FolderInfo> &folders, int &nextTaskId)

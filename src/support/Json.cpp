@@ -4,6 +4,8 @@
 #include <QJsonValue>
 #include <QVariant>
 
+#include <algorithm>
+
 namespace Zandrove {
 
 namespace {
@@ -28,10 +30,11 @@ std::optional<QJsonObject> parseJsonObject(const QByteArray &json)
 
 qint64 jsonSize(const QJsonObject &object, const QString &key)
 {
-    const double number = object.value(key).toVariant().toDouble();
-    if (!(number > 0.0))
-        return 0;
-    return number >= double(MaxExactInteger) ? MaxExactInteger : qint64(number);
+    const QVariant value = object.value(key).toVariant();
+    // Bounded first: beyond the range of 64 bits the conversion would be undefined.
+    if (value.typeId() == QMetaType::Double)
+        return qRound64(std::clamp(value.toDouble(), 0.0, double(MaxExactInteger)));
+    return std::clamp<qint64>(value.toLongLong(), 0, MaxExactInteger);
 }
 
 quint32 jsonUInt32(const QJsonObject &object, const QString &key)

@@ -10,6 +10,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QThread>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
@@ -24,7 +25,11 @@ private Q_SLOTS:
     void init();
     void receivedRunEndsWithOneReport();
     void secondRunRestartsTheReceiver();
+    void nextRunWaitsForTheReportOfTheLast();
     void peerCancelRearmsTheNewPC();
+    void cancelWhilePausedLeavesNothingBehind();
+    void resetBeforeTheReceiverBeganStandsFast();
+    void stopRightAfterStartIsQuick();
     void rearmingIsDroppedWhenNoLongerWanted_data();
     void rearmingIsDroppedWhenNoLongerWanted();
     void pauseAndResumeActOnce();
@@ -104,6 +109,69 @@ void MigrationManagerTest::secondRunRestartsTheReceiver()
     QVERIFY(completed.wait());
     QCOMPARE(completed.last().first().value<MigrationReport>().filesSuccess, 1);
     QVERIFY(QFile::exists(m_root->filePath(u"y"_s)));
+}
+
+void MigrationManagerTest::nextRunWaitsForTheReportOfTheLast()
+{
+    QSignalSpy completed(m_manager.get(), &MigrationManager::completed);
+    QSignalSpy restarted(m_manager.get(), &MigrationManager::newTransferStarted);
+    m_manager->startReceiving();
+    for (int id = 0; id < 6; ++id)
+        peerSends(u"first/%1"_s.arg(id), someBytes(9 * 1024 * 1024), id);
+    peer(MessageType::TransferComplete);
+    // All of this arrives while the receiver still works off the first run.
+    peer(MessageType::TransferReset);
+    peer(MessageType::TransferStart, TransferMessages::Start{1, 3}.toPayload());
+    peerSends(u"second"_s, "abc", 0);
+    peer(MessageType::TransferComplete);
+    QTRY_COMPARE(completed.size(), 2);
+    QCOMPARE(restarted.size(), 1);
+    QCOMPARE(completed.at(0).first().value<MigrationReport>().filesSuccess, 6);
+    QCOMPARE(completed.at(1).first().value<MigrationReport>().filesSuccess, 1);
+    QVERIFY(QFile::exists(m_root->filePath(u"second"_s)));
+}
+
+void MigrationManagerTest::cancelWhilePausedLeavesNothingBehind()
+{
+    m_manager->startReceiving();
+    peer(MessageType::FileHeader, TransferMessages::Header{0, u"half"_s, {}, 6, 0}.toPayload());
+    QTRY_VERIFY(QFile::exists(m_root->filePath(u"half"_s)));
+    m_manager->pause();
+    peerSends(u"more"_s, "abc", 1);
+    m_manager->cancel();
+    QTRY_VERIFY(!QFile::exists(m_root->filePath(u"more"_s)));
+}
+
+void MigrationManagerTest::resetBeforeTheReceiverBeganStandsFast()
+{
+    for (int round = 0; round < 50; ++round) {
+        m_manager->startReceiving();
+        peer(MessageType::FileHeader, TransferMessages::Header{0, u"half"_s, {}, 6, 0}.toPayload());
+        m_manager->resetAndListen();
+        m_manager->startReceiving(); // whatever the last receiver still had to do is done now
+        m_manager->resetAndListen();
+        QVERIFY(!QFile::exists(m_root->filePath(u"half"_s)));
+    }
+}
+
+void MigrationManagerTest::stopRightAfterStartIsQuick()
+{
+    FolderInfo folder;
+    folder.path = m_root->path();
+    folder.selected = true;
+    QFile file(m_root->filePath(u"x"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    m_manager->setRole(OldPC);
+    QElapsedTimer timer;
+    timer.start();
+    for (int round = 0; round < 100; ++round) {
+        m_manager->start({}, {folder}, {}, {});
+        QThread::usleep(static_cast<unsigned long>(round) * 2);
+        m_manager->resetAndListen();
+    }
+    m_manager.reset();
+    QVERIFY2(timer.elapsed() < 2500, "a worker missed its stop");
 }
 
 void MigrationManagerTest::peerCancelRearmsTheNewPC()

@@ -25,9 +25,9 @@ QString debugSpeed(double bytesPerSecond)
 
 } // namespace
 
-QString roleName(int role)
+const char *roleName(int role)
 {
-    return role == OldPC ? u"OldPC"_s : u"NewPC"_s;
+    return role == OldPC ? "OldPC" : "NewPC";
 }
 
 QString TransferProgress::remainingTimeString() const
@@ -48,11 +48,11 @@ QString TransferProgress::remainingTimeString() const
 QDebug operator<<(QDebug debug, const PCInfo &pc)
 {
     const QDebugStateSaver saver(debug);
-    debug.nospace() << "PCInfo("
-                    << "id:" << pc.id << ", "
-                    << "name:" << pc.name << ", "
-                    << "ip:" << pc.ip << ":" << pc.port << ", "
-                    << "online:" << pc.online << ")";
+    debug.nospace().quote() << "PCInfo("
+                            << "id:" << pc.id << ", "
+                            << "name:" << pc.name << ", "
+                            << "ip:" << pc.ip << ":" << pc.port << ", "
+                            << "online:" << pc.online << ")";
     return debug;
 }
 

@@ -25,7 +25,7 @@ enum Role : int {
 };
 
 /// "OldPC" for 0, "NewPC" for anything else, as log lines name a role.
-[[nodiscard]] QString roleName(int role);
+[[nodiscard]] const char *roleName(int role);
 
 /// How peers are looked for.
 enum DiscoveryMode : int {

@@ -1,5 +1,6 @@
 #include "core/engine/TransferEngine.h"
 
+#include "peer/NetworkManager.h"
 #include "pipeline/MigrationManager.h"
 
 #include <QDebug>
@@ -38,7 +39,8 @@ TransferEngine::TransferEngine(QObject *parent, LinkEnvironment environment)
     m_migrationManager = new MigrationManager(this);
     m_destinationRoot = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation) + u"/Zandrove"_s;
     setupConnections();
-    drawVerifyCode();
+    configureMigration(m_role); // from now on it hears the peer, whoever begins
+    m_verifyCode = generateVerifyCode();
 }
 
 TransferEngine::~TransferEngine()
@@ -77,7 +79,7 @@ void TransferEngine::setupLinkConnections()
 void TransferEngine::setupMigrationConnections()
 {
     using Run = MigrationManager;
-    connect(m_migrationManager, &Run::transferReset, this, &TransferEngine::transferReset);
+    connect(m_migrationManager, &Run::transferReset, this, &TransferEngine::onTransferReset);
     connect(m_migrationManager, &Run::peerCancelled, this, &TransferEngine::onPeerCancelled);
     connect(m_migrationManager, &Run::sessionEndReceived, this, &TransferEngine::sessionEndReceived);
     connect(m_migrationManager, &Run::pausedByPeer, this, [this] { setPausedByPeer(true); });

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/common/Records.h"
-#include "peer/NetworkManager.h"
+#include "peer/LinkEnvironment.h"
 
 #include <QList>
 #include <QObject>
@@ -10,6 +10,7 @@
 namespace Zandrove {
 
 class MigrationManager;
+class NetworkManager;
 
 /// The facade of the back end, and all that a face of the program sees of it: discovery and pairing, the
 /// user's selection, a transfer, its report, and the ways back to another round.
@@ -153,7 +154,9 @@ private:
     void setupConnections();
     void setupLinkConnections();
     void setupMigrationConnections();
-    void drawVerifyCode();
+    [[nodiscard]] static QString generateVerifyCode();
+    [[nodiscard]] bool hasLink();
+    void forgetPeerDialledInVain();
     [[nodiscard]] bool knowsPeer(const QString &id) const;
 
     void beginTransfer();
@@ -161,6 +164,7 @@ private:
     [[nodiscard]] QList<FolderInfo> foldersToSend() const;
     void onNewTransferStarted();
     void onPeerCancelled();
+    void onTransferReset();
     void setPausedByPeer(bool paused);
     void clearAll();
 

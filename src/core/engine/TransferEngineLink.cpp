@@ -1,6 +1,7 @@
 // TransferEngine: discovery and connection.
 
 #include "core/engine/TransferEngine.h"
+#include "peer/NetworkManager.h"
 #include "pipeline/MigrationManager.h"
 
 #include <QDebug>
@@ -16,19 +17,30 @@ constexpr int CodeDigits = 4;
 
 } // namespace
 
-void TransferEngine::drawVerifyCode()
+QString TransferEngine::generateVerifyCode()
 {
-    m_verifyCode.clear();
+    QString code;
     for (int digit = 0; digit < CodeDigits; ++digit)
-        m_verifyCode += QString::number(QRandomGenerator::global()->bounded(10));
-    qDebug() << "Generated verify code:" << m_verifyCode;
+        code += QString::number(QRandomGenerator::global()->bounded(10));
+    qDebug() << "Generated verify code:" << code;
+    return code;
+}
+
+/// Says so when there is no link layer, which never happens in a whole engine.
+bool TransferEngine::hasLink()
+{
+    if (!m_networkManager)
+        Q_EMIT error(tr("Network manager not initialized"));
+    return m_networkManager != nullptr;
 }
 
 void TransferEngine::startDiscovery()
 {
+    if (!hasLink())
+        return;
     qDebug() << "startDiscovery() with role:" << roleName(m_role);
     m_networkManager->setRole(m_role);
-    drawVerifyCode();
+    m_verifyCode = generateVerifyCode();
     m_networkManager->setVerifyCode(m_verifyCode);
     m_networkManager->startDiscovery();
     Q_EMIT discoveryStarted();
@@ -37,20 +49,24 @@ void TransferEngine::startDiscovery()
 
 void TransferEngine::restartBroadcast()
 {
+    if (!hasLink())
+        return;
     qDebug() << "TransferEngine::restartBroadcast() with code:" << m_verifyCode;
+    m_networkManager->setVerifyCode(m_verifyCode);
     m_networkManager->restartBroadcast();
     Q_EMIT info(tr("Broadcast restarted. Verification code: %1").arg(m_verifyCode));
 }
 
 void TransferEngine::stopDiscovery()
 {
-    m_networkManager->stopDiscovery();
+    if (m_networkManager)
+        m_networkManager->stopDiscovery();
     Q_EMIT discoveryStopped();
 }
 
 QList<PCInfo> TransferEngine::discoveredPCs() const
 {
-    return m_networkManager->discoveredPCs();
+    return m_networkManager ? m_networkManager->discoveredPCs() : QList<PCInfo>();
 }
 
 bool TransferEngine::knowsPeer(const QString &id) const
@@ -73,6 +89,10 @@ void TransferEngine::onPCLost(const QString &pcId)
 
 void TransferEngine::connectToPC(const PCInfo &pc)
 {
+    if (!m_networkManager) {
+        Q_EMIT connectionFailed(tr("Network manager not initialized"));
+        return;
+    }
     m_connectedPC = pc;
     Q_EMIT connecting();
     m_dialingUnknownPeer = !knowsPeer(pc.id);
@@ -82,6 +102,10 @@ void TransferEngine::connectToPC(const PCInfo &pc)
 
 void TransferEngine::connectByCode(const QString &code)
 {
+    if (!m_networkManager) {
+        Q_EMIT connectionFailed(tr("Network manager not initialized"));
+        return;
+    }
     Q_EMIT connecting();
     const QList<PCInfo> peers = discoveredPCs();
     const auto peer = std::find_if(peers.cbegin(), peers.cend(),
@@ -99,18 +123,21 @@ void TransferEngine::acceptConnection(const QString &code)
         Q_EMIT connectionFailed(tr("Invalid verification code"));
         return;
     }
-    m_networkManager->acceptConnection();
+    if (m_networkManager)
+        m_networkManager->acceptConnection();
 }
 
 void TransferEngine::rejectConnection()
 {
-    m_networkManager->rejectConnection();
+    if (m_networkManager)
+        m_networkManager->rejectConnection();
 }
 
 void TransferEngine::disconnectFromPeer()
 {
     m_migrationManager->endSession();
-    m_networkManager->disconnect();
+    if (m_networkManager)
+        m_networkManager->disconnect();
     m_connectedPC = PCInfo();
     Q_EMIT disconnected();
 }
@@ -119,7 +146,7 @@ bool TransferEngine::isConnected() const
 {
     if (!m_connectedPC.id.isEmpty() && !m_connectedPC.ip.isEmpty() && m_connectedPC.port > 0)
         return true;
-    return m_networkManager->isConnected();
+    return m_networkManager && m_networkManager->isConnected();
 }
 
 void TransferEngine::onConnected()
@@ -138,18 +165,24 @@ void TransferEngine::onDisconnected()
     Q_EMIT stateChanged();
 }
 
-void TransferEngine::onConnectionFailed(const QString &reason)
+/// A peer that was dialled in vain must not count as connected. One that the table does not know fails inside
+/// the call, where the caller asked for it.
+void TransferEngine::forgetPeerDialledInVain()
 {
-    // A peer that was dialled in vain must not count as connected. One that the table does not know fails
-    // inside the call, where the caller asked for it.
     if (!m_dialingUnknownPeer && !m_networkManager->isConnected())
         m_connectedPC = PCInfo();
+}
+
+void TransferEngine::onConnectionFailed(const QString &reason)
+{
+    forgetPeerDialledInVain();
     Q_EMIT connectionFailed(reason);
     Q_EMIT error(tr("Connection failed: %1").arg(reason));
 }
 
 void TransferEngine::onConnectionTimeout()
 {
+    forgetPeerDialledInVain();
     Q_EMIT connectionTimeout();
     Q_EMIT error(tr("Connection timeout"));
 }

@@ -1,6 +1,7 @@
 // TransferEngine: selection, transfer, and the ways back to another round.
 
 #include "core/engine/TransferEngine.h"
+#include "peer/NetworkManager.h"
 #include "pipeline/MigrationManager.h"
 
 #include <QDebug>
@@ -123,6 +124,8 @@ void TransferEngine::startTransfer()
     qDebug() << "Starting transfer - Apps:" << apps.size() << "Folders:" << folders.size()
              << "Accounts:" << accounts.size() << "Settings:" << settings.size();
     configureMigration(m_role);
+    if (m_migrationManager->isMigrating())
+        m_migrationManager->resetAndListen(); // a run that nobody here waits for any more
     m_migrationManager->start(apps, folders, accounts, settings);
     Q_EMIT transferStarted();
     Q_EMIT info(tr("Transfer started - %1 items selected").arg(selectedCount()));
@@ -194,14 +197,22 @@ void TransferEngine::onNewTransferStarted()
     Q_EMIT stateChanged();
 }
 
-/// The Old PC is free for another transfer then; the New PC arms itself again and goes on counting as
-/// receiving.
+/// The New PC arms itself again and goes on counting as receiving.
 void TransferEngine::onPeerCancelled()
 {
     m_paused = false;
     if (m_role == OldPC)
         m_transferring = false;
     Q_EMIT peerCancelled();
+}
+
+void TransferEngine::onTransferReset()
+{
+    if (m_role == OldPC) {
+        m_paused = false;
+        m_transferring = false;
+    }
+    Q_EMIT transferReset();
 }
 
 void TransferEngine::setPausedByPeer(bool paused)
@@ -262,6 +273,8 @@ void TransferEngine::onFileTransferFailed(const QString &fileName, const QString
 void TransferEngine::reset()
 {
     cancelTransfer();
+    if (m_migrationManager->isMigrating())
+        m_migrationManager->resetAndListen();
     if (isConnected())
         disconnectFromPeer();
     clearAll();
@@ -279,7 +292,7 @@ void TransferEngine::clearAll()
     m_scanResult.scanTime = QDateTime();
     m_progress = TransferProgress();
     m_report = MigrationReport();
-    drawVerifyCode();
+    m_verifyCode = generateVerifyCode();
     m_selectedPaths.clear();
 }
 

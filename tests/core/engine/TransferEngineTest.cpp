@@ -1,4 +1,5 @@
 #include "core/engine/TransferEngine.h"
+#include "peer/NetworkManager.h"
 #include "peer/Protocol.h"
 #include "pipeline/MigrationManager.h"
 
@@ -99,6 +100,7 @@ private Q_SLOTS:
     void cancelLeavesBothSidesReady();
     void pauseCanBeEndedFromTheOtherSide();
     void vanishedPeerCostsTheRunAndNoMore();
+    void brokenRunDoesNotGoOnWithALaterPeer();
     void strangerCanNeitherWriteNorEndTheSession();
     void strangerInMidRunIsSentNothing();
     void successRateIgnoresWhatWasSkipped();
@@ -280,6 +282,37 @@ void TransferEngineTest::vanishedPeerCostsTheRunAndNoMore()
     m_old->engine.setSelectedPaths({m_photos});
     m_old->engine.startTransfer();
     QVERIFY(arrived.wait());
+    QVERIFY(tree(received()) == tree(m_photos));
+}
+
+void TransferEngineTest::brokenRunDoesNotGoOnWithALaterPeer()
+{
+    for (int i = 0; i < 40; ++i)
+        write(m_photos + u"/%1"_s.arg(i), QByteArray(2 * 1024 * 1024, char(i)));
+    QVERIFY(pair());
+    m_new->engine.startReceiving();
+    m_old->engine.setSelectedPaths({m_photos});
+    QSignalSpy progress(&m_new->engine, &TransferEngine::transferProgressChanged);
+    QSignalSpy sent(&m_old->engine, &TransferEngine::transferCompleted);
+    QSignalSpy gone(&m_new->engine, &TransferEngine::disconnected);
+    m_old->engine.startTransfer();
+    QVERIFY(progress.wait());
+    m_old->engine.pauseTransfer();
+    m_old->link().findChild<QTcpSocket *>()->abort();
+    QVERIFY(gone.wait());
+    m_new->engine.resetForNewConnection();
+    QVERIFY(pair());
+    m_new->engine.startReceiving();
+    QSignalSpy heard(&m_new->link(), &NetworkManager::commandReceived);
+    m_old->engine.resumeTransfer();
+    QVERIFY(!sent.wait(700));
+    QCOMPARE(heard.size(), 0);
+
+    m_old->engine.resetForNewConnection(); // and a run of its own begins from the first file
+    QSignalSpy arrived(&m_new->engine, &TransferEngine::transferCompleted);
+    m_old->engine.startTransfer();
+    QVERIFY(arrived.wait());
+    QTRY_COMPARE(sent.size(), 1);
     QVERIFY(tree(received()) == tree(m_photos));
 }
 

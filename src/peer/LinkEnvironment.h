@@ -1,0 +1,26 @@
+#pragma once
+
+#include "core/common/Records.h"
+#include "support/NetworkAdapters.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QHostAddress>
+
+#include <functional>
+
+namespace Zandrove {
+
+/// What the link takes from the world. The defaults are the real machine; tests replace single members.
+struct LinkEnvironment
+{
+    quint16 tcpPort = TcpPort; ///< port to listen on; 0 takes any free one
+    quint16 udpPort =
+        UdpPort; ///< port to broadcast to and hear on; 0 hears on any free one, broadcasts nowhere
+    AdapterSource adapters = systemNetworkAdapters;
+    std::function<QDateTime()> now = [] { return QDateTime::currentDateTime(); };
+    /// Replaces the UDP socket for outgoing datagrams when set.
+    std::function<void(const QByteArray &datagram, const QHostAddress &target, quint16 port)> sendDatagram;
+};
+
+} // namespace Zandrove
