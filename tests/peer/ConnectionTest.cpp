@@ -388,7 +388,10 @@ private Q_SLOTS:
                     second = std::make_unique<Stranger>(newPC);
                     second->ask(u"second"_s);
                     QVERIFY(newPC.requested.wait()); // an event loop of its own, as a dialog has
+                    // The code that emits for the first socket still stands below, so the socket must as
+                    // well.
                     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+                    QCOMPARE(newPC.manager.findChildren<QTcpSocket *>(Qt::FindDirectChildrenOnly).size(), 2);
                 });
         first.ask(u"first"_s);
         QTRY_COMPARE(newPC.requested.size(), 2);

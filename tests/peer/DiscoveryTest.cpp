@@ -160,7 +160,7 @@ private Q_SLOTS:
         QCOMPARE(old.entry(2).id, u"d"_s);
         QCOMPARE(old.discovered.size(), 3);
         old.pass(16);
-        old.check(1); // a and b for the third time; d begins anew, and nothing of c is left behind
+        old.check(1); // a and b for the third time; d began anew
         QCOMPARE(old.lost, (QList<QVariantList>{{u"b"_s}, {u"a"_s}}));
         QCOMPARE(old.entry(0).id, u"d"_s);
     }
