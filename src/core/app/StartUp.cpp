@@ -99,7 +99,7 @@ QString chooseLanguage(const QString &storedLanguage, const QString &localeName)
     }
     const QString twoLetters = localeName.section(u'_', 0, 0).left(2);
     qDebug() << "[Main] System language:" << twoLetters;
-    const QString language = languageForCode(twoLetters);
+    QString language = languageForCode(twoLetters);
     qDebug() << "[Main] Auto-detected:" << language;
     return language;
 }
@@ -138,7 +138,7 @@ QString initTranslation()
     const QSettings settings(AppConfig::userOrganisation(), AppConfig::appName());
     const QString stored = settings.value("language"_L1, QString()).toString();
     qDebug() << "[Main] User language from settings:" << stored;
-    const QString language = chooseLanguage(stored, QLocale::system().name());
+    QString language = chooseLanguage(stored, QLocale::system().name());
     installTranslation(QCoreApplication::applicationDirPath(), language);
     qDebug() << "=======================================";
     return language;

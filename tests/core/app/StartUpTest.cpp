@@ -14,22 +14,26 @@ using namespace Zandrove;
 
 namespace {
 
-QStringList s_logLines;
+QStringList &logLines()
+{
+    static QStringList lines;
+    return lines;
+}
 
 void recordLine(QtMsgType, const QMessageLogContext &, const QString &line)
 {
-    s_logLines.append(line);
+    logLines().append(line);
 }
 
 /// The debug lines that `work` writes.
 template <typename Work>
 QStringList logOf(Work work)
 {
-    s_logLines.clear();
+    logLines().clear();
     const auto previous = qInstallMessageHandler(recordLine);
     work();
     qInstallMessageHandler(previous);
-    return s_logLines;
+    return logLines();
 }
 
 /// A compiled translation of the one text "Hello" in the context "Test".
