@@ -162,6 +162,7 @@ private:
     [[nodiscard]] QTcpSocket *releaseSocket();
     void dropSocket();
     void hangUp(QTcpSocket *socket);
+    void closeAllSockets();
     void resetPairing();
     void endLink();
     void completePairing();

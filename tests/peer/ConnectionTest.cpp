@@ -176,7 +176,9 @@ private Q_SLOTS:
         do {
             crowd.push_back(std::make_unique<QTcpSocket>());
             crowd.back()->connectToHost(OtherMachine, full.serverPort());
-        } while (crowd.back()->waitForConnected(200) && crowd.size() < 20);
+        } while (crowd.back()->waitForConnected(500) && crowd.size() < 20);
+        if (crowd.size() == 20)
+            QSKIP("no black hole here: a full backlog still takes connections");
         Copy oldPC(OldPC);
         oldPC.know(u"hole"_s, full.serverPort());
         QSignalSpy timeout(&oldPC.manager, &NetworkManager::connectionTimeout);

