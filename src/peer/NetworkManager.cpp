@@ -14,10 +14,11 @@ namespace Zandrove {
 
 namespace {
 
+constexpr qint64 MiB = 1 << 20;
 /// Above this much waiting in the socket each further frame leaves a log line.
-constexpr qint64 HighBufferBytes = 16 * 1024 * 1024;
+constexpr qint64 HighBufferBytes = 16 * MiB;
 /// What a peer that nobody has said yes to may keep waiting here in an unfinished frame.
-constexpr qsizetype UnacceptedLimitBytes = 16 * 1024 * 1024;
+constexpr qsizetype UnacceptedLimitBytes = 16 * MiB;
 
 } // namespace
 

@@ -34,7 +34,7 @@ constexpr auto FarewellTime = 200ms;
 constexpr int DialledBufferBytes = 2 * 1024 * 1024;
 constexpr int AcceptedBufferBytes = 16 * 1024 * 1024;
 /// What a socket takes from the system while the read gate is closed.
-constexpr qint64 ReadBufferBytes = 8 * 1024 * 1024;
+constexpr qint64 ReadBufferBytes = 8 << 20;
 /// A name goes into a question to the user as it is: it had better fit a dialog.
 constexpr qsizetype LongestName = 255;
 
