@@ -1,11 +1,11 @@
 #include "peer/NetworkManager.h"
 
 #include "peer/CableModeHelper.h"
+#include "support/Json.h"
 #include "support/Utilities.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QNetworkProxy>
 #include <QTcpServer>
@@ -271,7 +271,7 @@ void NetworkManager::onSocketConnected(QTcpSocket *socket)
     // Before the connection there was no system socket yet that could have taken them.
     setDialledOptions(socket);
     const QJsonObject json{{u"name"_s, getComputerName()}, {u"os"_s, getOSVersion()}};
-    sendCommand(Protocol::MessageType::ConnectRequest, QJsonDocument(json).toJson(QJsonDocument::Compact));
+    sendCommand(Protocol::MessageType::ConnectRequest, compactJson(json));
 }
 
 void NetworkManager::onSocketDisconnected(QTcpSocket *socket)
@@ -317,7 +317,7 @@ void NetworkManager::onConnectionTimeout()
 
 void NetworkManager::onConnectRequest(const QByteArray &payload)
 {
-    const QJsonObject json = QJsonDocument::fromJson(payload).object();
+    const QJsonObject json = parseJsonObject(payload).value_or(QJsonObject());
     m_pendingPC.name = json["name"_L1].toString().left(LongestName);
     m_pendingPC.os = json["os"_L1].toString().left(LongestName);
     m_pendingPC.ip = m_tcpSocket->peerAddress().toString();
