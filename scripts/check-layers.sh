@@ -18,6 +18,8 @@ declare -A floor=(
     [core/app/main.cpp]=9
 )
 first_floor_with_widgets=8
+# What a face of the program may include besides its own folder.
+seen_by_faces='^(platform|core/common|support|core/engine|core/app|ui|cli)$'
 
 failures=0
 complain() {
@@ -51,6 +53,8 @@ check_include() {
             complain "$file:$line: \"$name\" is not written from src/, or its folder has no floor"
         elif [ "$target" != "$folder" ] && [ "${floor[$target]}" -ge "${floor[$folder]}" ]; then
             complain "$file:$line: $folder must not include $target (\"$name\")"
+        elif [[ $folder =~ ^(ui|cli)$ && ! $target =~ $seen_by_faces ]]; then
+            complain "$file:$line: a face sees nothing behind the engine (\"$name\")"
         fi
     elif [ "${floor[$folder]}" -lt "$first_floor_with_widgets" ]; then
         if [[ $name == QtWidgets* || -e $widget_headers/$name ]]; then

@@ -1,7 +1,8 @@
 #include "cli/JsonOutput.h"
 
+#include "support/Json.h"
+
 #include <QJsonArray>
-#include <QJsonDocument>
 
 #include <utility>
 
@@ -56,7 +57,7 @@ JsonOutput::JsonOutput(Streams streams)
 
 void JsonOutput::print(QLatin1StringView event, const QJsonObject &fields)
 {
-    const QByteArray rest = QJsonDocument(fields).toJson(QJsonDocument::Compact).mid(1);
+    const QByteArray rest = compactJson(fields).mid(1);
     const QByteArray head = "{\"event\":\"" + QByteArray(event.data(), event.size()) + '"';
     m_streams.out(head + (fields.isEmpty() ? "" : ",") + rest + '\n');
 }

@@ -196,7 +196,7 @@ QString CableModeHelper::chooseBestIP(const QString &payloadIP, const QString &s
         return payloadIP;
     }
     if (senderIP.startsWith(LinkLocalPrefix) || payloadIP.startsWith(LinkLocalPrefix)) {
-        if (const QString reachable = firstReachable(payloadIP, senderIP); !reachable.isEmpty())
+        if (QString reachable = firstReachable(payloadIP, senderIP); !reachable.isEmpty())
             return reachable;
     }
     if (!senderIP.isEmpty()) {

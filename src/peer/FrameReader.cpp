@@ -10,7 +10,7 @@ namespace Zandrove {
 namespace {
 
 /// Bytes taken for a payload at first: a file chunk fits, and a header that lies costs no more.
-constexpr qsizetype FirstRoom = 1024 * 1024;
+constexpr qsizetype FirstRoom = 1 << 20;
 
 /// The whole frame's size as both sides reckon it: 32 bits, signed. Below the header size it is no frame.
 qint32 frameSize(quint32 length)

@@ -14,9 +14,10 @@ namespace Zandrove {
 /// What the link takes from the world. The defaults are the real machine; tests replace single members.
 struct LinkEnvironment
 {
-    quint16 tcpPort = TcpPort; ///< port to listen on; 0 takes any free one
-    quint16 udpPort =
-        UdpPort; ///< port to broadcast to and hear on; 0 hears on any free one, broadcasts nowhere
+    /// Port to listen on; 0 takes any free one.
+    quint16 tcpPort = TcpPort;
+    /// Port to broadcast to and hear on; 0 hears on any free one and broadcasts nowhere.
+    quint16 udpPort = UdpPort;
     AdapterSource adapters = systemNetworkAdapters;
     std::function<QDateTime()> now = [] { return QDateTime::currentDateTime(); };
     /// Replaces the UDP socket for outgoing datagrams when set.

@@ -2,9 +2,7 @@
 
 #include "peer/CableModeHelper.h"
 
-#include <QDeadlineTimer>
 #include <QDebug>
-#include <QNetworkProxy>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
@@ -12,19 +10,15 @@
 
 #include <utility>
 
-using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
-
 namespace Zandrove {
 
 namespace {
 
+constexpr qint64 MiB = 1 << 20;
 /// Above this much waiting in the socket each further frame leaves a log line.
-constexpr qint64 HighBufferBytes = 16 * 1024 * 1024;
+constexpr qint64 HighBufferBytes = 16 * MiB;
 /// What a peer that nobody has said yes to may keep waiting here in an unfinished frame.
-constexpr qsizetype UnacceptedLimitBytes = 16 * 1024 * 1024;
-/// How long the end of the program waits for the last frames to leave.
-constexpr auto FarewellTime = 200ms;
+constexpr qsizetype UnacceptedLimitBytes = 16 * MiB;
 
 } // namespace
 
@@ -50,20 +44,7 @@ NetworkManager::NetworkManager(QObject *parent, LinkEnvironment environment)
 NetworkManager::~NetworkManager()
 {
     stopDiscovery();
-    if (m_tcpSocket)
-        sendCommand(Protocol::MessageType::Disconnect);
-    // Sockets that an earlier disconnect() left closing are waited for as well.
-    const auto sockets = findChildren<QTcpSocket *>(Qt::FindDirectChildrenOnly);
-    const QDeadlineTimer deadline(FarewellTime);
-    for (QTcpSocket *socket : sockets) {
-        QObject::disconnect(socket, nullptr, this, nullptr);
-        socket->flush();
-        while (socket->bytesToWrite() > 0 && !deadline.hasExpired() &&
-               socket->waitForBytesWritten(int(deadline.remainingTime()))) {
-        }
-        socket->disconnectFromHost();
-    }
-    m_pendingBytes->store(0);
+    closeAllSockets();
 }
 
 void NetworkManager::setRole(int role)

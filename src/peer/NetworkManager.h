@@ -37,9 +37,9 @@ public:
     explicit NetworkManager(QObject *parent = nullptr, LinkEnvironment environment = {});
     ~NetworkManager() override;
 
-    void setRole(int role);
-    void setMode(int mode);
-    void setVerifyCode(const QString &code);
+    void setRole(int role);                  ///< a `Role`; peers of the same one are not listed
+    void setMode(int mode);                  ///< a `DiscoveryMode`, looked at when discovery starts
+    void setVerifyCode(const QString &code); ///< this copy's own code, announced from the next broadcast on
 
     /// The peers heard or found, in order of discovery.
     [[nodiscard]] QList<PCInfo> discoveredPCs() const;
@@ -64,6 +64,7 @@ public:
     /// always reads.
     void setReadGate(std::function<bool()> mayRead);
 
+    /// Tells the peer that this run of the program's flow is over. The link stays.
     void sendSessionEnd();
 
     /// The port that peers can dial; 0 while this copy cannot listen.
@@ -74,17 +75,27 @@ public:
     void handleDatagram(const QByteArray &datagram, const QHostAddress &sender);
 
 public Q_SLOTS:
+    /// Empties the table and broadcasts twice a second, the first five times 50 ms apart; in cable mode the
+    /// sweep starts 500 ms later. Nothing happens while it runs already.
     void startDiscovery();
+    /// Ends broadcasts, ageing and sweep. The table stays, and peers are still heard.
     void stopDiscovery();
+    /// Empties the table, without `pcLost`, and broadcasts and sweeps anew, whether it runs or not.
     void restartBroadcast();
 
     /// Dials the table's entry with this id. Emits `connected` once the peer's user said yes, or
     /// `connectionFailed`; "PC not found" comes inside the call.
     void connectToPC(const QString &pcId);
+    /// Dials the first entry with this code.
     void connectByVerifyCode(const QString &code);
+    /// Says goodbye and forgets the peer at once; what was sent before is still delivered, for up to 2 s.
+    /// `disconnected` follows when the socket has closed, unless another one has taken its place by then.
     /// Hides QObject::disconnect on purpose: always write that one qualified.
     void disconnect();
+    /// The user's yes: tells the peer and emits `connected`. Nothing happens when the one that asked has gone
+    /// or has been replaced; ask isConnected().
     void acceptConnection();
+    /// The user's no: tells the peer and closes. Nothing happens when the one that asked has been replaced.
     void rejectConnection();
 
     /// Writes bytes without a frame. Only while paired.
@@ -100,8 +111,8 @@ public Q_SLOTS:
     void checkPCTimeouts();
 
 Q_SIGNALS:
-    void pcDiscovered(const Zandrove::PCInfo &pc);
-    void pcLost(const QString &pcId);
+    void pcDiscovered(const Zandrove::PCInfo &pc); ///< add or update
+    void pcLost(const QString &pcId);              ///< comes while the table still has the entry
     void directScanStarted();
     void directScanProgress(int scanned, int total);
     void directScanFinished(bool found);
@@ -109,12 +120,12 @@ Q_SIGNALS:
     /// A peer asks to pair; `verifyCode` is this copy's own code. Answer with acceptConnection or
     /// rejectConnection.
     void connectionRequested(const QString &pcName, const QString &verifyCode);
-    void connecting(); ///< never emitted
-    void connected();
-    void disconnected();
-    void connectionFailed(const QString &reason);
-    void connectionTimeout();                  ///< followed by connectionFailed
-    void dataReceived(const QByteArray &data); ///< never emitted
+    void connecting();                            ///< never emitted
+    void connected();                             ///< paired, on either side
+    void disconnected();                          ///< the link has closed; may come twice for one link
+    void connectionFailed(const QString &reason); ///< a dial or the link has failed, or the peer said no
+    void connectionTimeout();                     ///< followed by connectionFailed
+    void dataReceived(const QByteArray &data);    ///< never emitted
     /// Every message that the connection layer does not consume itself, in order of arrival, from any peer:
     /// whether the peer was accepted is for the listener to ask.
     void commandReceived(Zandrove::Protocol::MessageType type, const QByteArray &payload);
@@ -154,6 +165,7 @@ private:
     [[nodiscard]] QTcpSocket *releaseSocket();
     void dropSocket();
     void hangUp(QTcpSocket *socket);
+    void closeAllSockets();
     void resetPairing();
     void endLink();
     void completePairing();

@@ -1,10 +1,11 @@
 #include "peer/NetworkManager.h"
 
 #include "peer/CableModeHelper.h"
+#include "support/Json.h"
 #include "support/Utilities.h"
 
+#include <QDeadlineTimer>
 #include <QDebug>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QNetworkProxy>
 #include <QTcpServer>
@@ -27,11 +28,13 @@ constexpr auto HeartbeatInterval = 5000ms;
 constexpr unsigned long ListenRetryMs = 100;
 /// How long a socket that this copy closes may take to deliver what still waits in it.
 constexpr auto ClosingTime = 2000ms;
+/// How long the end of the program waits for the last frames to leave.
+constexpr auto FarewellTime = 200ms;
 /// The two sides differ on purpose: the one that listens is mostly the one that receives.
 constexpr int DialledBufferBytes = 2 * 1024 * 1024;
 constexpr int AcceptedBufferBytes = 16 * 1024 * 1024;
 /// What a socket takes from the system while the read gate is closed.
-constexpr qint64 ReadBufferBytes = 8 * 1024 * 1024;
+constexpr qint64 ReadBufferBytes = 8 << 20;
 /// A name goes into a question to the user as it is: it had better fit a dialog.
 constexpr qsizetype LongestName = 255;
 
@@ -211,6 +214,27 @@ void NetworkManager::hangUp(QTcpSocket *socket)
     socket->disconnectFromHost();
 }
 
+/// The end of this object: says goodbye, and lets what waits in the current socket, and in those that
+/// disconnect() left closing, still go out.
+void NetworkManager::closeAllSockets()
+{
+    if (m_tcpSocket && !isConnecting(m_tcpSocket))
+        sendCommand(Protocol::MessageType::Disconnect);
+    const QDeadlineTimer deadline(FarewellTime);
+    const auto sockets = findChildren<QTcpSocket *>(Qt::FindDirectChildrenOnly);
+    for (QTcpSocket *socket : sockets) {
+        QObject::disconnect(socket, nullptr, this, nullptr);
+        if (isConnecting(socket))
+            socket->abort();
+        socket->flush();
+        while (socket->bytesToWrite() > 0 && !deadline.hasExpired() &&
+               socket->waitForBytesWritten(int(deadline.remainingTime()))) {
+        }
+        socket->disconnectFromHost();
+    }
+    m_pendingBytes->store(0);
+}
+
 void NetworkManager::resetPairing()
 {
     m_connected = false;
@@ -247,7 +271,7 @@ void NetworkManager::onSocketConnected(QTcpSocket *socket)
     // Before the connection there was no system socket yet that could have taken them.
     setDialledOptions(socket);
     const QJsonObject json{{u"name"_s, getComputerName()}, {u"os"_s, getOSVersion()}};
-    sendCommand(Protocol::MessageType::ConnectRequest, QJsonDocument(json).toJson(QJsonDocument::Compact));
+    sendCommand(Protocol::MessageType::ConnectRequest, compactJson(json));
 }
 
 void NetworkManager::onSocketDisconnected(QTcpSocket *socket)
@@ -293,7 +317,7 @@ void NetworkManager::onConnectionTimeout()
 
 void NetworkManager::onConnectRequest(const QByteArray &payload)
 {
-    const QJsonObject json = QJsonDocument::fromJson(payload).object();
+    const QJsonObject json = parseJsonObject(payload).value_or(QJsonObject());
     m_pendingPC.name = json["name"_L1].toString().left(LongestName);
     m_pendingPC.os = json["os"_L1].toString().left(LongestName);
     m_pendingPC.ip = m_tcpSocket->peerAddress().toString();

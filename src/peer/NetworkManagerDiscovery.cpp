@@ -1,10 +1,10 @@
 #include "peer/NetworkManager.h"
 
 #include "peer/CableModeHelper.h"
+#include "support/Json.h"
 #include "support/Utilities.h"
 
 #include <QDebug>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QNetworkDatagram>
 #include <QNetworkProxy>
@@ -205,7 +205,7 @@ QByteArray NetworkManager::discoveryPayload() const
     const QJsonObject json{{u"id"_s, name},          {u"name"_s, name},         {u"ip"_s, ip},
                            {u"port"_s, port},        {u"os"_s, getOSVersion()}, {u"role"_s, m_role},
                            {u"code"_s, m_verifyCode}};
-    return QJsonDocument(json).toJson(QJsonDocument::Compact);
+    return compactJson(json);
 }
 
 void NetworkManager::onBroadcastReceived()
@@ -237,7 +237,7 @@ void NetworkManager::handleDatagram(const QByteArray &datagram, const QHostAddre
 /// The peer that a payload announces; nothing where it is none, or one of the own role.
 std::optional<PCInfo> NetworkManager::peerFrom(const QByteArray &payload, const QString &senderIP) const
 {
-    const QJsonObject json = QJsonDocument::fromJson(payload).object();
+    const QJsonObject json = parseJsonObject(payload).value_or(QJsonObject());
     PCInfo pc;
     pc.id = json["id"_L1].toString();
     pc.name = json["name"_L1].toString();

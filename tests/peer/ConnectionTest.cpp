@@ -176,7 +176,9 @@ private Q_SLOTS:
         do {
             crowd.push_back(std::make_unique<QTcpSocket>());
             crowd.back()->connectToHost(OtherMachine, full.serverPort());
-        } while (crowd.back()->waitForConnected(200) && crowd.size() < 20);
+        } while (crowd.back()->waitForConnected(500) && crowd.size() < 20);
+        if (crowd.size() == 20)
+            QSKIP("no black hole here: a full backlog still takes connections");
         Copy oldPC(OldPC);
         oldPC.know(u"hole"_s, full.serverPort());
         QSignalSpy timeout(&oldPC.manager, &NetworkManager::connectionTimeout);
@@ -388,7 +390,10 @@ private Q_SLOTS:
                     second = std::make_unique<Stranger>(newPC);
                     second->ask(u"second"_s);
                     QVERIFY(newPC.requested.wait()); // an event loop of its own, as a dialog has
+                    // The code that emits for the first socket still stands below, so the socket must as
+                    // well.
                     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+                    QCOMPARE(newPC.manager.findChildren<QTcpSocket *>(Qt::FindDirectChildrenOnly).size(), 2);
                 });
         first.ask(u"first"_s);
         QTRY_COMPARE(newPC.requested.size(), 2);

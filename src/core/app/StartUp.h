@@ -2,9 +2,10 @@
 
 #include <QString>
 
-/// What happens before the event loop of a program begins, each step a function. They run on the main thread,
-/// in the order in which they stand here, after the application object is made. No failure stops a program:
-/// it goes on with that much less.
+/// What happens before the event loop of a program begins, each step a function. A program with a window
+/// takes them in the order in which they stand here; a headless one chooses its language first, so that it
+/// can say what is wrong with its arguments. They run on the main thread, after the application object is
+/// made. No failure stops a program: it goes on with that much less.
 namespace Zandrove::StartUp {
 
 /// Names the application, its version and its organisation.

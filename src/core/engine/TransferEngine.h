@@ -18,7 +18,8 @@ class NetworkManager;
 /// Main thread only. No operation returns a result; a failure leaves through a signal with a translated text:
 /// `connectionFailed` for pairing, `transferFailed` for a transfer that cannot start, `error` and `warning`
 /// for the rest. A transfer that started ends by `transferCompleted`, `transferCancelled` (here),
-/// `peerCancelled` or `transferReset` (there), or by `disconnected` when the link is gone.
+/// `peerCancelled` or `transferReset` (there). It does not end by itself when the link goes, which
+/// `disconnected` tells, or `connectionFailed` where the link ended in an error: cancel or reset it then.
 class TransferEngine : public QObject
 {
     Q_OBJECT
@@ -49,11 +50,14 @@ public:
     void connectByCode(const QString &code);
     /// The user's yes to a `connectionRequested`; `code` must be this PC's own.
     void acceptConnection(const QString &code);
+    /// The user's no.
     void rejectConnection();
+    /// Ends the link. Emits `disconnected` at once, and again when the peer has been told.
     void disconnectFromPeer();
-    /// Also true between `connectToPC` and its outcome: ask only after `connected`.
+    /// Also true between `connectToPC` and its outcome, and after `connectToPC` for a peer that is not in the
+    /// table: ask only after `connected`.
     [[nodiscard]] bool isConnected() const;
-    /// The peer, a default record without one.
+    /// The peer, or the one being dialled; a default record without one.
     [[nodiscard]] PCInfo connectedPC() const { return m_connectedPC; }
 
     [[nodiscard]] const ScanResult &scanResult() const { return m_scanResult; }
@@ -74,7 +78,9 @@ public:
     void startTransfer();
     /// Waits, as the New PC, for what the peer sends. Emits `transferStarted`.
     void startReceiving();
+    /// Holds the transfer on both sides. Emits `transferPaused`.
     void pauseTransfer();
+    /// Goes on, whichever side paused. Emits `transferResumed`.
     void resumeTransfer();
     /// Ends the running transfer and tells the peer. Emits `transferCancelled`.
     void cancelTransfer();
@@ -86,7 +92,7 @@ public:
 
     /// Back to the very start: ends everything, disconnects, clears all state.
     void reset();
-    /// The peer went away and another one is waited for.
+    /// The peer went away and another one is waited for: what was running is over, the selection stays.
     void resetForNewConnection();
     /// New PC: back to waiting for a further transfer on the same link.
     void resetForNewReceive();

@@ -32,14 +32,26 @@ void onInterruptSignal(int)
     errno = savedError;
 }
 
-void setHandler(void (*handler)(int))
+std::array<struct sigaction, InterruptSignals.size()> formerActions = {};
+
+/// Signals that whoever started the program wants ignored stay so: "nohup" relies on it.
+void handleInterrupts()
 {
     struct sigaction action = {};
-    action.sa_handler = handler;
+    action.sa_handler = onInterruptSignal;
     action.sa_flags = SA_RESTART;
     sigemptyset(&action.sa_mask);
-    for (const int signal : InterruptSignals)
-        sigaction(signal, &action, nullptr);
+    for (std::size_t i = 0; i < InterruptSignals.size(); ++i) {
+        sigaction(InterruptSignals[i], nullptr, &formerActions[i]);
+        if (formerActions[i].sa_handler != SIG_IGN)
+            sigaction(InterruptSignals[i], &action, nullptr);
+    }
+}
+
+void restoreInterrupts()
+{
+    for (std::size_t i = 0; i < InterruptSignals.size(); ++i)
+        sigaction(InterruptSignals[i], &formerActions[i], nullptr);
 }
 
 int descriptor(StandardStream stream)
@@ -81,12 +93,13 @@ InterruptNotifier::InterruptNotifier(QObject *parent)
         m_notifier->setEnabled(false);
         Q_EMIT interrupted();
     });
-    setHandler(onInterruptSignal);
+    handleInterrupts();
 }
 
 InterruptNotifier::~InterruptNotifier()
 {
-    setHandler(SIG_DFL);
+    if (m_notifier != nullptr)
+        restoreInterrupts();
     for (int &end : wakePipe) {
         if (end >= 0)
             close(end);
