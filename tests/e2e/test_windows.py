@@ -83,7 +83,7 @@ class Windows(pcs.TestCase):
         self.assertEqual(code, 2)
         receiver = pair.new.receive("--yes")
         code = receiver.wait_for("code")["code"]
-        _, output = pair.old.run_windows("discover", "--role", "new", "--seconds", "3")
+        _, output = pair.old.run_windows("discover", "--role", "old", "--seconds", "3")
         self.assertIn("NewBox", output)
         self.assertIn(code, output)
 
