@@ -1,12 +1,15 @@
 #include "cli/Program.h"
 #include "core/app/StartUp.h"
+#include "platform/Terminal.h"
 
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
 
-int main(int argc, char *argv[])
+namespace {
+
+int runProgram(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments().mid(1);
@@ -20,4 +23,11 @@ int main(int argc, char *argv[])
     StartUp::ensureFirewallRules();
     StartUp::registerMetaTypes();
     return Cli::run(*parsed.options);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    return Platform::endProcess(runProgram(argc, argv));
 }

@@ -18,6 +18,20 @@ namespace Zandrove {
 
 using TransferMessages::FileBatchResult;
 
+namespace {
+
+/// Somebody else may look into a new file just now, a virus scanner say, and on some systems keeps it from
+/// being removed meanwhile.
+void removeFile(const QString &path)
+{
+    constexpr int Attempts = 10;
+    constexpr unsigned long PauseMs = 50;
+    for (int attempt = 0; attempt < Attempts && !QFile::remove(path) && QFile::exists(path); ++attempt)
+        QThread::msleep(PauseMs);
+}
+
+} // namespace
+
 FileReceiverWorker::FileReceiverWorker(QObject *parent)
     : QObject(parent)
 {
@@ -95,7 +109,7 @@ void FileReceiverWorker::removeOpenFile()
     if (!m_currentFile)
         return;
     m_currentFile->close();
-    QFile::remove(m_currentDestPath);
+    removeFile(m_currentDestPath);
     m_currentFile.reset();
     m_openedHere = false;
     m_writeBuffer.resize(0);
@@ -226,7 +240,7 @@ bool FileReceiverWorker::finalizeFile(quint32 expected)
     // Only what this header itself wrote: never a file that was there before or that an earlier FileEnd
     // closed.
     if (m_openedHere)
-        QFile::remove(m_currentDestPath);
+        removeFile(m_currentDestPath);
     return false;
 }
 

@@ -18,6 +18,11 @@ enum class StandardStream { Input, Output, Error };
 /// Columns of the terminal on standard output; 0 where standard output is no terminal.
 [[nodiscard]] int terminalColumns();
 
+/// The last thing a program without a window does: makes sure that all output has left, and gives back
+/// `exitCode` for main to return. On Windows it does not come back: the process ends there and then, because
+/// the ordinary end waits for threads of the system's own libraries, which now and then wait for it.
+[[nodiscard]] int endProcess(int exitCode);
+
 /// Turns the first request to end the program (Ctrl-C, a polite kill, a closed terminal) into a signal on the
 /// thread that made the object. A second request ends the process at once with exit code 130.
 ///

@@ -2,6 +2,7 @@
 
 #include "peer/CableModeHelper.h"
 
+#include <QNetworkDatagram>
 #include <QSignalSpy>
 #include <QTest>
 #include <QUdpSocket>
@@ -37,6 +38,16 @@ public:
     [[nodiscard]] PCInfo entry(qsizetype i) const { return manager.discoveredPCs().value(i); }
     [[nodiscard]] qsizetype count() const { return manager.discoveredPCs().size(); }
 };
+
+/// Whether what `speaker` sends on loopback arrives from the address it is bound to.
+bool keepsItsAddress(QUdpSocket &speaker)
+{
+    QUdpSocket ear;
+    if (!ear.bind(QHostAddress::LocalHost))
+        return false;
+    speaker.writeDatagram("x", QHostAddress::LocalHost, ear.localPort());
+    return ear.waitForReadyRead(1000) && ear.receiveDatagram().senderAddress() == speaker.localAddress();
+}
 
 } // namespace
 
@@ -236,7 +247,8 @@ private Q_SLOTS:
     void hearsDatagramsOnItsPort()
     {
         QUdpSocket speaker;
-        QVERIFY(speaker.bind(OtherMachine));
+        if (!speaker.bind(OtherMachine) || !keepsItsAddress(speaker))
+            QSKIP("datagrams here all come from the first loopback address");
         quint16 port = 0;
         {
             QUdpSocket finder;

@@ -8,9 +8,11 @@
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QThread>
+#include <QUuid>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
@@ -77,11 +79,14 @@ void MigrationManagerTest::receivedRunEndsWithOneReport()
     peer(MessageType::TransferStart, TransferMessages::Start{6, 18}.toPayload());
     for (const QString &top : {u"a"_s, u"b"_s, u"c"_s, u"d"_s})
         peerSends(top + u"/x"_s, "abc", top.front().unicode());
-    peerSends(u"Documents/x"_s, "abc", 1);
+    const QString document = u"x-%1"_s.arg(QUuid::createUuid().toString(QUuid::WithoutBraces));
+    peerSends(u"Documents/"_s + document, "abc", 1);
     peerSends(u"a/x"_s, "xyz", 2); // there already
     peer(MessageType::TransferComplete);
     QVERIFY(completed.wait());
     const auto report = completed.takeFirst().first().value<MigrationReport>();
+    QVERIFY(
+        QFile::remove(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u'/' + document));
     QCOMPARE(report.filesSuccess, 5);
     QCOMPARE(report.filesSkipped, 1);
     QCOMPARE(report.filesFailed, 1);

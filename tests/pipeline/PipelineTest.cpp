@@ -12,7 +12,8 @@ int main(int argc, char *argv[])
     const QTemporaryDir home;
     qputenv("HOME", home.path().toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", home.filePath(QStringLiteral("config")).toLocal8Bit());
-    qputenv("TMPDIR", home.filePath(QStringLiteral("tmp")).toLocal8Bit());
+    for (const char *name : {"TMPDIR", "TMP", "TEMP"})
+        qputenv(name, home.filePath(QStringLiteral("tmp")).toLocal8Bit());
     QDir(home.path()).mkpath(QStringLiteral("tmp"));
 
     QCoreApplication app(argc, argv);

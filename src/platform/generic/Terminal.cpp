@@ -83,6 +83,11 @@ int terminalColumns()
     return size.ws_col > 0 ? size.ws_col : UsualColumns;
 }
 
+int endProcess(int exitCode)
+{
+    return exitCode;
+}
+
 InterruptNotifier::InterruptNotifier(QObject *parent)
     : QObject(parent)
 {

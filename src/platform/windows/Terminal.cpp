@@ -6,6 +6,7 @@
 #include <array>
 #include <atomic>
 #include <condition_variable>
+#include <cstdio>
 #include <cstdlib>
 #include <functional>
 #include <mutex>
@@ -183,6 +184,13 @@ int terminalColumns()
     if (GetConsoleScreenBufferInfo(handleOf(StandardStream::Output), &info) == 0)
         return 0;
     return std::max(info.srWindow.Right - info.srWindow.Left + 1, 1);
+}
+
+int endProcess(int exitCode)
+{
+    std::fflush(nullptr);
+    TerminateProcess(GetCurrentProcess(), UINT(exitCode));
+    return exitCode;
 }
 
 InterruptNotifier::InterruptNotifier(QObject *parent)

@@ -10,6 +10,7 @@
 #include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QUuid>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
@@ -107,10 +108,11 @@ private Q_SLOTS:
 
 private:
     [[nodiscard]] bool pair();
-    [[nodiscard]] QString received() const { return m_new->engine.destinationRoot() + u"/Photos"_s; }
+    [[nodiscard]] QString received() const { return m_received; }
 
     std::unique_ptr<QTemporaryDir> m_disk;
     QString m_photos;
+    QString m_received;
     std::unique_ptr<Pc> m_old;
     std::unique_ptr<Pc> m_new;
 };
@@ -118,16 +120,19 @@ private:
 void TransferEngineTest::init()
 {
     m_disk = std::make_unique<QTemporaryDir>();
-    m_photos = m_disk->filePath(u"Photos"_s);
+    // A name that nobody has: the downloads may be those of whoever runs the tests.
+    const QString name = u"Photos "_s + QUuid::createUuid().toString(QUuid::WithoutBraces);
+    m_photos = m_disk->filePath(name);
     m_old = std::make_unique<Pc>(OldPC);
     m_new = std::make_unique<Pc>(NewPC);
-    QDir(m_new->engine.destinationRoot()).removeRecursively();
+    m_received = m_new->engine.destinationRoot() + u'/' + name;
 }
 
 void TransferEngineTest::cleanup()
 {
     m_old.reset();
     m_new.reset();
+    QDir(m_received).removeRecursively();
 }
 
 bool TransferEngineTest::pair()
@@ -325,13 +330,16 @@ void TransferEngineTest::strangerCanNeitherWriteNorEndTheSession()
     stranger.connectToHost(u"127.0.0.1"_s, m_new->link().serverPort());
     QVERIFY(stranger.waitForConnected());
     stranger.write(frame(MessageType::TransferStart, R"({"fileCount":1,"totalSize":0})"));
-    stranger.write(frame(MessageType::FileHeader, R"({"taskId":0,"relativePath":"Photos/x","fileSize":0})"));
-    stranger.write(frame(MessageType::FileEnd, R"({"taskId":0,"relativePath":"Photos/x","checksum":0})"));
+    const QByteArray path = QFileInfo(m_received).fileName().toUtf8() + "/x";
+    stranger.write(
+        frame(MessageType::FileHeader, R"({"taskId":0,"fileSize":0,"relativePath":")" + path + "\"}"));
+    stranger.write(
+        frame(MessageType::FileEnd, R"({"taskId":0,"checksum":0,"relativePath":")" + path + "\"}"));
     stranger.write(frame(MessageType::SessionEnd));
     QSignalSpy heard(&m_new->link(), &NetworkManager::commandReceived);
     QTRY_COMPARE(heard.size(), 4);
     QTest::qWait(100);
-    QVERIFY(tree(m_new->engine.destinationRoot()).isEmpty());
+    QVERIFY(tree(received()).isEmpty());
     QCOMPARE(ended.size() + restarted.size(), 0);
 }
 
