@@ -10,7 +10,7 @@ build() {
     cd "$root"
     scripts/setup.sh
     [ -x "$program" ] || echo "Building Zandrove ..."
-    cmake --preset release --log-level=WARNING -DZANDROVE_BUILD_TESTS=OFF -DZANDROVE_BUILD_BENCHMARKS=OFF >/dev/null
+    cmake --preset release --log-level=WARNING >/dev/null
     cmake --build --preset release --target zandrove-cli -- --quiet
 }
 (build) >&2

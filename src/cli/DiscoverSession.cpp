@@ -41,7 +41,7 @@ void DiscoverSession::start()
         QTimer::singleShot(*options().seconds, this, [this] { finish(EverythingMoved); });
 }
 
-void DiscoverSession::interrupt()
+void DiscoverSession::onInterrupt()
 {
     finish(Cancelled);
 }

@@ -16,7 +16,9 @@ public:
                     QObject *parent = nullptr);
 
     void start() override;
-    void interrupt() override;
+
+protected:
+    void onInterrupt() override;
 
 private:
     void show(const PCInfo &pc);

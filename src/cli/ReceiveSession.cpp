@@ -312,7 +312,7 @@ void ReceiveSession::onTimeout()
     finish(TimedOut);
 }
 
-void ReceiveSession::interrupt()
+void ReceiveSession::onInterrupt()
 {
     if (m_reported) {
         finish(m_results.exitCode());

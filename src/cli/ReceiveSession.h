@@ -17,9 +17,9 @@ public:
     ReceiveSession(const Options &options, TransferEngine &engine, Output &output, QObject *parent = nullptr);
 
     void start() override;
-    void interrupt() override;
 
 protected:
+    void onInterrupt() override;
     void onInput(const QString &line) override;
     void onInputEnded() override;
     bool obey(const ControlCommand &command) override;

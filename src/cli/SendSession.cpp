@@ -252,7 +252,7 @@ void SendSession::onTimeout()
     finish(TimedOut);
 }
 
-void SendSession::interrupt()
+void SendSession::onInterrupt()
 {
     if (m_state == State::Running)
         cancelHere();

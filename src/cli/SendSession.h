@@ -16,9 +16,9 @@ public:
     SendSession(const Options &options, TransferEngine &engine, Output &output, QObject *parent = nullptr);
 
     void start() override;
-    void interrupt() override;
 
 protected:
+    void onInterrupt() override;
     void onInputEnded() override;
     bool obey(const ControlCommand &command) override;
 

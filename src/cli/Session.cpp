@@ -15,10 +15,13 @@ namespace {
 
 constexpr auto ProgressInterval = 200ms;
 
-// Longest wait for the end of a link: of one on which a run's last bytes may still be leaving, and of one
-// that never came to stand.
-constexpr auto LingerTime = 60s;
-constexpr auto LingerTimePending = 1s;
+// How long the peer may take to hang up: after a completed run, whose last bytes may still be leaving over a
+// slow link, and otherwise.
+constexpr auto FarewellTimeCompleted = 60s;
+constexpr auto FarewellTime = 2s;
+
+// How long the last frames of a link may take to leave when this side hangs up.
+constexpr auto HangUpTime = 2500ms;
 
 } // namespace
 
@@ -112,6 +115,16 @@ bool Session::obey(const ControlCommand &command)
     }
 }
 
+void Session::interrupt()
+{
+    if (!m_finishing) {
+        onInterrupt();
+        return;
+    }
+    m_exitCode = Cancelled;
+    conclude();
+}
+
 void Session::finish(ExitCode exitCode)
 {
     if (m_finishing)
@@ -120,13 +133,33 @@ void Session::finish(ExitCode exitCode)
     m_exitCode = exitCode;
     QObject::disconnect(&m_engine, nullptr, this, nullptr);
     m_engine.stopDiscovery();
-    if (m_link == Link::None) {
-        conclude();
-        return;
-    }
-    const bool isUp = m_link == Link::Up;
-    if (isUp)
+    if (m_link == Link::Up) {
+        const bool completed = exitCode == EverythingMoved || exitCode == SomethingMissing;
+        connect(&m_engine, &TransferEngine::disconnected, this, &Session::conclude);
+        connect(&m_engine, &TransferEngine::connectionFailed, this, &Session::conclude);
         m_engine.sendSessionEnd();
+        QTimer::singleShot(completed ? FarewellTimeCompleted : FarewellTime, this, &Session::onNoFarewell);
+    } else if (m_link == Link::Pending) {
+        hangUp();
+    } else {
+        conclude();
+    }
+}
+
+void Session::onNoFarewell()
+{
+    if (m_concluded)
+        return;
+    if (m_exitCode == EverythingMoved || m_exitCode == SomethingMissing) {
+        m_output.error(tr("The other PC did not end the session: not everything may have arrived."));
+        m_exitCode = RunFailed;
+    }
+    QObject::disconnect(&m_engine, nullptr, this, nullptr);
+    hangUp();
+}
+
+void Session::hangUp()
+{
     // The engine says it once by itself, and once more when the socket's last byte has left.
     constexpr int EndsOfLink = 2;
     connect(&m_engine, &TransferEngine::disconnected, this, [this, ends = 0]() mutable {
@@ -134,7 +167,7 @@ void Session::finish(ExitCode exitCode)
             conclude();
     });
     m_engine.disconnectFromPeer();
-    QTimer::singleShot(isUp ? LingerTime : LingerTimePending, this, &Session::conclude);
+    QTimer::singleShot(HangUpTime, this, &Session::conclude);
 }
 
 void Session::conclude()

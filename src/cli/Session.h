@@ -30,8 +30,9 @@ public:
 
     virtual void start() = 0;
 
-    /// The user wants to stop: the peer is told before `finished` comes.
-    virtual void interrupt() = 0;
+    /// The user wants to stop: the peer is told before `finished` comes, unless the session is ending
+    /// already.
+    void interrupt();
 
 Q_SIGNALS:
     void finished(int exitCode);
@@ -67,11 +68,17 @@ protected:
     /// Obeys a command of --control. Returns false for one that the session doesn't know.
     virtual bool obey(const ControlCommand &command);
 
-    /// Ends a standing link, lets what is on its way reach the peer, and emits `finished`. What the engine
-    /// signals from here on reaches the session no more.
+    /// Stops what is going on and comes to `finish`.
+    virtual void onInterrupt() = 0;
+
+    /// Ends a standing link and emits `finished`. The peer hangs up first, so that everything that is on its
+    /// way has reached it; one that doesn't is left after a while, which is a failure when `exitCode` says
+    /// that a run was completed. What the engine signals from here on reaches the session no more.
     void finish(ExitCode exitCode);
 
 private:
+    void hangUp();
+    void onNoFarewell();
     void showProgress(const TransferProgress &progress);
     void conclude();
 

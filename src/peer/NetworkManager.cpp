@@ -85,12 +85,17 @@ bool NetworkManager::isAccepted() const
 
 quint64 NetworkManager::acceptedLink() const
 {
-    return m_accepted ? m_socketSerial : 0;
+    return m_accepted ? m_linkSerial : 0;
 }
 
 quint16 NetworkManager::serverPort() const
 {
     return m_tcpServer->serverPort();
+}
+
+quint64 NetworkManager::openQuestion() const
+{
+    return m_questionOpen ? m_questionSerial : 0;
 }
 
 std::shared_ptr<const std::atomic<qint64>> NetworkManager::pendingBytes() const
@@ -174,7 +179,7 @@ void NetworkManager::onReadyRead(QTcpSocket *socket)
 
 void NetworkManager::readFrames(QTcpSocket *socket, bool mindGate)
 {
-    while (socket == m_tcpSocket && (!mindGate || !m_readGate || m_readGate())) {
+    while (socket == m_tcpSocket && !m_refused && (!mindGate || !m_readGate || m_readGate())) {
         const auto frame =
             m_receiveBuffer.read(*socket, m_accepted ? FrameReader::NoLimit : UnacceptedLimitBytes);
         if (!frame)

@@ -55,6 +55,9 @@ public:
     /// The link that is accepted now: another number for each, 0 while there is none.
     [[nodiscard]] quint64 acceptedLink() const;
 
+    /// The question that waits for the user: another number for each, 0 while there is none.
+    [[nodiscard]] quint64 openQuestion() const;
+
     /// Bytes that wait in the current socket's write buffer, kept up to date by this object; 0 without a
     /// socket.
     [[nodiscard]] std::shared_ptr<const std::atomic<qint64>> pendingBytes() const;
@@ -88,15 +91,17 @@ public Q_SLOTS:
     void connectToPC(const QString &pcId);
     /// Dials the first entry with this code.
     void connectByVerifyCode(const QString &code);
-    /// Says goodbye and forgets the peer at once; what was sent before is still delivered, for up to 2 s.
+    /// Says goodbye and forgets the peer at once; what was sent before is still delivered, for as long
+    /// as bytes move, up to a minute, and for 2 s without.
     /// `disconnected` follows when the socket has closed, unless another one has taken its place by then.
     /// Hides QObject::disconnect on purpose: always write that one qualified.
     void disconnect();
-    /// The user's yes: tells the peer and emits `connected`. Nothing happens when the one that asked has gone
-    /// or has been replaced; ask isConnected().
-    void acceptConnection();
-    /// The user's no: tells the peer and closes. Nothing happens when the one that asked has been replaced.
-    void rejectConnection();
+    /// The user's yes to `question`, 0 for the open one: tells the peer and emits `connected`. Nothing
+    /// happens when the one that asked has gone or has been replaced, or the question has been answered; ask
+    /// isConnected().
+    void acceptConnection(quint64 question = 0);
+    /// The user's no: tells the peer and closes. Nothing happens where a yes would do nothing either.
+    void rejectConnection(quint64 question = 0);
 
     /// Writes bytes without a frame. Only while paired.
     void sendData(const QByteArray &data);
@@ -151,7 +156,8 @@ private:
     void onBroadcastReceived();
     [[nodiscard]] std::optional<PCInfo> peerFrom(const QByteArray &payload, const QString &senderIP) const;
     void addOrUpdate(const PCInfo &pc);
-    void update(PCInfo &entry, const PCInfo &pc);
+    void update(qsizetype index, const PCInfo &pc);
+    void giveUpId(const QString &id);
     [[nodiscard]] bool append(const PCInfo &pc);
     void forgetTimes(const QString &id);
     void removeLost(const QString &id);
@@ -178,7 +184,7 @@ private:
     void onConnectReject();
     void sendHeartbeat();
     void setHandshake(bool dialOpen, bool questionOpen);
-    [[nodiscard]] bool isQuestionStale() const;
+    [[nodiscard]] bool mayAnswer(quint64 question) const;
 
     LinkEnvironment m_environment;
     CableModeHelper *m_cableHelper;
@@ -207,8 +213,10 @@ private:
     bool m_accepted = false;      ///< of the current socket
     bool m_dialOpen = false;      ///< the current socket is an own dial that has not been answered
     bool m_questionOpen = false;  ///< a ConnectRequest on the current socket waits for the user
-    quint64 m_socketSerial = 0;   ///< goes up with each new current socket
-    quint64 m_questionSerial = 0; ///< socket that raised the last question, 0 before the first
+    bool m_refused = false;       ///< the current socket was told no: nothing of it is read any more
+    quint64 m_linkSerial = 0;     ///< goes up with each pairing
+    quint64 m_questionSerial = 0; ///< goes up with each question, 0 before the first
+    int m_tableGeneration = 0;    ///< goes up when the table is cleared
     HandledSockets m_handledSockets;
     std::function<bool()> m_readGate;
     bool m_readQueued = false;

@@ -1,6 +1,8 @@
 #include "peer/NetworkManager.h"
 
 #include "peer/CableModeHelper.h"
+#include "peer/PeerText.h"
+#include "platform/SocketShutdown.h"
 #include "support/Json.h"
 #include "support/Utilities.h"
 
@@ -26,8 +28,10 @@ namespace {
 constexpr auto ConnectTimeout = 5000ms;
 constexpr auto HeartbeatInterval = 5000ms;
 constexpr unsigned long ListenRetryMs = 100;
-/// How long a socket that this copy closes may take to deliver what still waits in it.
+/// How long a socket that this copy closes may stand still before it is dropped, and how long it may take at
+/// all.
 constexpr auto ClosingTime = 2000ms;
+constexpr auto LongestClosingTime = 60000ms;
 /// How long the end of the program waits for the last frames to leave.
 constexpr auto FarewellTime = 200ms;
 /// The two sides differ on purpose: the one that listens is mostly the one that receives.
@@ -35,8 +39,6 @@ constexpr int DialledBufferBytes = 2 * 1024 * 1024;
 constexpr int AcceptedBufferBytes = 16 * 1024 * 1024;
 /// What a socket takes from the system while the read gate is closed.
 constexpr qint64 ReadBufferBytes = 8 << 20;
-/// A name goes into a question to the user as it is: it had better fit a dialog.
-constexpr qsizetype LongestName = 255;
 
 void setBufferSizes(QTcpSocket *socket, int bytes)
 {
@@ -133,21 +135,24 @@ void NetworkManager::disconnect()
         hangUp(socket);
 }
 
-void NetworkManager::acceptConnection()
+void NetworkManager::acceptConnection(quint64 question)
 {
     qDebug() << "acceptConnection() called";
-    if (!m_tcpSocket || m_tcpSocket->state() != QAbstractSocket::ConnectedState || isQuestionStale())
+    if (!m_tcpSocket || m_tcpSocket->state() != QAbstractSocket::ConnectedState || !mayAnswer(question))
         return;
     sendCommand(Protocol::MessageType::ConnectAccept);
     completePairing();
 }
 
-void NetworkManager::rejectConnection()
+void NetworkManager::rejectConnection(quint64 question)
 {
-    if (!m_tcpSocket || isQuestionStale())
+    if (!m_tcpSocket || !mayAnswer(question))
         return;
     sendCommand(Protocol::MessageType::ConnectReject);
     setHandshake(false, false);
+    m_accepted = false;
+    m_refused = true;
+    m_receiveBuffer.clear();
     hangUp(m_tcpSocket);
 }
 
@@ -173,7 +178,7 @@ void NetworkManager::adopt(QTcpSocket *socket, bool dialled)
     connect(socket, &QTcpSocket::readyRead, this, [this, socket] { onReadyRead(socket); });
     connect(socket, &QTcpSocket::bytesWritten, this, &NetworkManager::notePendingBytes);
     m_tcpSocket = socket;
-    ++m_socketSerial;
+    m_refused = false;
     setHandshake(dialled, false);
 }
 
@@ -202,16 +207,35 @@ void NetworkManager::dropSocket()
 /// Closes a socket so that what waits in it still reaches the peer, if that can be done soon.
 void NetworkManager::hangUp(QTcpSocket *socket)
 {
-    if (isConnecting(socket))
-        socket->abort();
-    else
-        socket->flush();
-    QTimer::singleShot(ClosingTime, socket, [this, socket] {
+    auto *patience = new QTimer(socket);
+    patience->setSingleShot(true);
+    patience->start(ClosingTime);
+    connect(patience, &QTimer::timeout, this, [this, socket] {
         socket->abort();
         if (socket != m_tcpSocket)
             m_handledSockets.discard(socket);
     });
-    socket->disconnectFromHost();
+    if (isConnecting(socket)) {
+        socket->abort();
+        notePendingBytes();
+        return;
+    }
+
+    // Closing while the peer still sends would make the system throw away what has not left yet: only the
+    // sending direction ends here, the peer's own end closes the socket.
+    socket->setReadBufferSize(0);
+    const auto discard = [socket] { socket->readAll(); };
+    connect(socket, &QTcpSocket::readyRead, socket, discard);
+    discard();
+    const auto endWhenSent = [socket, patience, latest = QDeadlineTimer(LongestClosingTime)] {
+        if (socket->bytesToWrite() == 0)
+            Platform::endSending(socket->socketDescriptor());
+        else if (!latest.hasExpired())
+            patience->start(ClosingTime);
+    };
+    connect(socket, &QTcpSocket::bytesWritten, socket, endWhenSent);
+    socket->flush();
+    endWhenSent();
 }
 
 /// The end of this object: says goodbye, and lets what waits in the current socket, and in those that
@@ -229,6 +253,11 @@ void NetworkManager::closeAllSockets()
         socket->flush();
         while (socket->bytesToWrite() > 0 && !deadline.hasExpired() &&
                socket->waitForBytesWritten(int(deadline.remainingTime()))) {
+        }
+        if (socket->state() == QAbstractSocket::ConnectedState) {
+            socket->setReadBufferSize(0);
+            Platform::endSending(socket->socketDescriptor());
+            socket->waitForDisconnected(int(deadline.remainingTime()));
         }
         socket->disconnectFromHost();
     }
@@ -257,6 +286,7 @@ void NetworkManager::completePairing()
     m_connectionTimer->stop();
     m_connected = true;
     m_accepted = true;
+    ++m_linkSerial;
     setHandshake(false, false);
     m_connectedPC = m_pendingPC;
     m_heartbeatTimer->start();
@@ -310,6 +340,7 @@ void NetworkManager::onConnectionTimeout()
     qDebug() << "Connection timeout";
     if (m_tcpSocket && isConnecting(m_tcpSocket))
         m_tcpSocket->abort();
+    notePendingBytes();
     setHandshake(false, m_questionOpen);
     Q_EMIT connectionTimeout();
     Q_EMIT connectionFailed(tr("Connection timeout"));
@@ -318,11 +349,11 @@ void NetworkManager::onConnectionTimeout()
 void NetworkManager::onConnectRequest(const QByteArray &payload)
 {
     const QJsonObject json = parseJsonObject(payload).value_or(QJsonObject());
-    m_pendingPC.name = json["name"_L1].toString().left(LongestName);
-    m_pendingPC.os = json["os"_L1].toString().left(LongestName);
+    m_pendingPC.name = boundedText(json["name"_L1]);
+    m_pendingPC.os = boundedText(json["os"_L1]);
     m_pendingPC.ip = m_tcpSocket->peerAddress().toString();
     m_pendingPC.id = m_pendingPC.name;
-    m_questionSerial = m_socketSerial;
+    ++m_questionSerial;
     setHandshake(m_dialOpen, true);
     qDebug() << "Received ConnectRequest from:" << m_pendingPC.name;
     Q_EMIT connectionRequested(m_pendingPC.name, m_verifyCode);
@@ -358,10 +389,13 @@ void NetworkManager::setHandshake(bool dialOpen, bool questionOpen)
     m_cableHelper->setHandshakeOpen(dialOpen || questionOpen);
 }
 
-/// Whether the user's answer is meant for a socket that another one has replaced since.
-bool NetworkManager::isQuestionStale() const
+/// Whether an answer of the user may be taken: one that was asked for, and not for a question that another
+/// one has replaced. Where nobody ever asked, an answer means whoever is there.
+bool NetworkManager::mayAnswer(quint64 question) const
 {
-    return m_questionSerial != 0 && m_questionSerial != m_socketSerial;
+    if (m_questionSerial == 0)
+        return true;
+    return m_questionOpen && (question == 0 || question == m_questionSerial);
 }
 
 } // namespace Zandrove

@@ -1,6 +1,7 @@
 #include "peer/NetworkManager.h"
 
 #include "peer/CableModeHelper.h"
+#include "peer/PeerText.h"
 #include "support/Json.h"
 #include "support/Utilities.h"
 
@@ -152,6 +153,7 @@ void NetworkManager::stopDiscovery()
 
 void NetworkManager::clearTable()
 {
+    ++m_tableGeneration;
     m_discoveredPCs.clear();
     m_lastSeen.clear();
     m_missedChecks.clear();
@@ -239,12 +241,12 @@ std::optional<PCInfo> NetworkManager::peerFrom(const QByteArray &payload, const 
 {
     const QJsonObject json = parseJsonObject(payload).value_or(QJsonObject());
     PCInfo pc;
-    pc.id = json["id"_L1].toString();
-    pc.name = json["name"_L1].toString();
-    pc.ip = json["ip"_L1].toString();
+    pc.id = boundedText(json["id"_L1]);
+    pc.name = boundedText(json["name"_L1]);
+    pc.ip = boundedText(json["ip"_L1]);
     pc.port = portFrom(json["port"_L1]);
-    pc.os = json["os"_L1].toString();
-    pc.verifyCode = json["code"_L1].toString();
+    pc.os = boundedText(json["os"_L1]);
+    pc.verifyCode = boundedText(json["code"_L1]);
     pc.senderIp = senderIP;
     pc.online = true;
     pc.lastSeen = m_environment.now();
@@ -260,24 +262,23 @@ void NetworkManager::addOrUpdate(const PCInfo &pc)
             return entry.id == pc.id || (!pc.ip.isEmpty() && entry.ip == pc.ip);
         });
     if (known != m_discoveredPCs.end())
-        update(*known, pc);
+        update(known - m_discoveredPCs.begin(), pc);
     else if (append(pc))
         Q_EMIT pcDiscovered(pc);
 }
 
-void NetworkManager::update(PCInfo &entry, const PCInfo &pc)
+void NetworkManager::update(qsizetype index, const PCInfo &pc)
 {
-    const bool wasScanDiscovered = isScanDiscovered(entry);
-    if (entry.id != pc.id)
-        forgetTimes(entry.id);
-    const QString senderIp = entry.senderIp;
-    entry = pc;
-    entry.senderIp = senderIp;
+    const PCInfo former = m_discoveredPCs.at(index);
+    PCInfo upgraded = pc;
+    upgraded.senderIp = former.senderIp;
+    m_discoveredPCs[index] = upgraded;
+    if (former.id != pc.id)
+        giveUpId(former.id);
     m_lastSeen[pc.id] = pc.lastSeen;
     m_missedChecks[pc.id] = 0;
-    if (!wasScanDiscovered)
+    if (!isScanDiscovered(former))
         return;
-    const PCInfo upgraded = entry;
     qDebug() << "Updated scan-discovered device:" << upgraded.name;
     Q_EMIT pcDiscovered(upgraded);
 }
@@ -299,6 +300,16 @@ void NetworkManager::forgetTimes(const QString &id)
     m_missedChecks.remove(id);
 }
 
+/// An entry goes by another id from now on: what is known of the old one goes, unless a second entry bears
+/// it.
+void NetworkManager::giveUpId(const QString &id)
+{
+    const bool borne = std::any_of(m_discoveredPCs.cbegin(), m_discoveredPCs.cend(),
+                                   [&id](const PCInfo &pc) { return pc.id == id; });
+    if (!borne)
+        forgetTimes(id);
+}
+
 void NetworkManager::checkPCTimeouts()
 {
     const QDateTime now = m_environment.now();
@@ -313,8 +324,10 @@ void NetworkManager::checkPCTimeouts()
             m_missedChecks[id] = 0;
         } else if (++m_missedChecks[id] >= MissedChecksToLose) {
             qDebug() << "Removing PC:" << id;
+            const int generation = m_tableGeneration;
             Q_EMIT pcLost(id);
-            removeLost(id);
+            if (generation == m_tableGeneration)
+                removeLost(id);
         }
     }
 }
@@ -322,8 +335,6 @@ void NetworkManager::checkPCTimeouts()
 /// The slots of `pcLost` may have emptied the table or heard the peer again, so nothing is taken for granted.
 void NetworkManager::removeLost(const QString &id)
 {
-    if (m_missedChecks.value(id) < MissedChecksToLose)
-        return;
     m_discoveredPCs.removeIf([&id](const PCInfo &pc) { return pc.id == id; });
     forgetTimes(id);
 }

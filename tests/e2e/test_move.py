@@ -7,6 +7,7 @@ import pcs
 
 BOUNDARY_SIZES = (524287, 524288, 524289, 4194304, 52428800)
 LARGE_FILE = 300 * 1000 * 1000
+UNCONFIRMED_FILE = (1 << 30) + (64 << 20)  # above 1 GiB no answer of the New PC is waited for
 ODD_NAMES = ("with blanks .txt", "Größe ä ö ü.txt", "写真 音楽.txt", "right\u200fto left \u05d0.txt",
              "percent %1 %20.txt", "quote ' and \".txt")
 
@@ -119,6 +120,22 @@ class Move(pcs.TestCase):
         sender = pair.old.send("NewBox", folder, options=("--mode", "cable"))
         self.check_both(sender, receiver, 30)
         self.assertSameTree(folder, pair.new.received("things"))
+
+
+    def test_the_end_of_an_unconfirmed_file_over_a_link_that_turns_slow(self):
+        """The Old PC is through with such a file long before the New PC has it, and must not cut it off."""
+        pair = self.two_pcs()
+        folder = pair.old.home / "huge"
+        folder.mkdir()
+        with (folder / "one.bin").open("wb") as file:
+            file.truncate(UNCONFIRMED_FILE)
+        receiver = pair.new.receive("--yes", "--once")
+        sender = pair.old.send("NewBox", folder)
+        sender.wait_for_bytes(UNCONFIRMED_FILE - (32 << 20), within=90)
+        pair.limit_speed(20)
+
+        self.check_both(sender, receiver, 1, UNCONFIRMED_FILE)
+        self.assertSameTree(folder, pair.new.received("huge"))
 
 
 # Holds the discovery port for itself, so that the program beside it hears no datagram.

@@ -1,9 +1,21 @@
 """What both sides say and do when not everything can go well."""
 
 import os
+import pty
+import select
 import subprocess
 
 import pcs
+
+
+def read_until(terminal, text, within=20):
+    """What a terminal shows until `text` appears."""
+    shown = b""
+    while text.encode() not in shown:
+        if not select.select([terminal], [], [], within)[0]:
+            raise AssertionError(f"{text!r} does not appear: {shown!r}")
+        shown += os.read(terminal, 4096)
+    return shown.decode()
 
 
 class Outcomes(pcs.TestCase):
@@ -127,6 +139,24 @@ class Outcomes(pcs.TestCase):
                 self.assertEqual(ended.returncode, 2)
                 self.assertEqual(ended.stderr.count("\n"), 1, ended.stderr)
                 self.assertEqual(ended.stdout, "")
+
+    def test_a_person_at_a_terminal_is_asked_and_sees_the_progress(self):
+        folder = self.pair.old.home / "things"
+        pcs.write_file(folder / "large.bin", 50_000_000)
+        person, terminal = pty.openpty()
+        self.addCleanup(os.close, person)
+        receiver = self.pair.new.popen(pcs.cli_path(), "receive", "--once", stdin=terminal, stdout=terminal,
+                                       stderr=terminal)
+        os.close(terminal)
+        sender = self.pair.old.send("NewBox", folder)
+        self.assertIn("Allow OldBox to connect? [y/N] ", read_until(person, "[y/N] "))
+        os.write(person, b"y\n")
+        shown = read_until(person, "Files saved:")
+
+        self.assertExits(0, sender)
+        self.assertEqual(receiver.wait(10), 0)
+        self.assertRegex(shown, r"\rReceiving +\d+%  [\d.]+ .B/s .*large\.bin\x1b\[K")
+        self.assertRegex(shown, r"\r\x1b\[KDone in ")
 
     def test_a_person_reads_lines(self):
         folder = pcs.small_tree(self.pair.old.home / "things")

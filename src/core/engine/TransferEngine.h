@@ -48,10 +48,14 @@ public:
     void connectToPC(const PCInfo &pc);
     /// Dials the peer whose screen shows `code`.
     void connectByCode(const QString &code);
-    /// The user's yes to a `connectionRequested`; `code` must be this PC's own.
-    void acceptConnection(const QString &code);
+    /// The question of the last `connectionRequested`, 0 when none is open. A face that may show several, one
+    /// after the other, answers with the number of the one it shows.
+    [[nodiscard]] quint64 openQuestion() const;
+    /// The user's yes to a `connectionRequested`, 0 for the open one; `code` must be this PC's own. An answer
+    /// that comes too late does nothing: ask isConnected().
+    void acceptConnection(const QString &code, quint64 question = 0);
     /// The user's no.
-    void rejectConnection();
+    void rejectConnection(quint64 question = 0);
     /// Ends the link. Emits `disconnected` at once, and again when the peer has been told.
     void disconnectFromPeer();
     /// Also true between `connectToPC` and its outcome, and after `connectToPC` for a peer that is not in the

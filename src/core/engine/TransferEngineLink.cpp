@@ -117,20 +117,25 @@ void TransferEngine::connectByCode(const QString &code)
     m_networkManager->connectToPC(peer->id);
 }
 
-void TransferEngine::acceptConnection(const QString &code)
+quint64 TransferEngine::openQuestion() const
+{
+    return m_networkManager ? m_networkManager->openQuestion() : 0;
+}
+
+void TransferEngine::acceptConnection(const QString &code, quint64 question)
 {
     if (code != m_verifyCode) {
         Q_EMIT connectionFailed(tr("Invalid verification code"));
         return;
     }
     if (m_networkManager)
-        m_networkManager->acceptConnection();
+        m_networkManager->acceptConnection(question);
 }
 
-void TransferEngine::rejectConnection()
+void TransferEngine::rejectConnection(quint64 question)
 {
     if (m_networkManager)
-        m_networkManager->rejectConnection();
+        m_networkManager->rejectConnection(question);
 }
 
 void TransferEngine::disconnectFromPeer()
