@@ -9,12 +9,12 @@ namespace Zandrove::Platform {
 
 struct ShellLink
 {
-    QString path; ///< what it starts, as it was written: environment variables stand as they are
-    QString arguments;
-    QString workingDirectory;
-    QString iconPath;
+    QString path = {}; ///< what it starts, as it was written: environment variables stand as they are
+    QString arguments = {};
+    QString workingDirectory = {};
+    QString iconPath = {};
     int iconIndex = 0;
-    QString description;
+    QString description = {};
 
     bool operator==(const ShellLink &) const = default;
 };

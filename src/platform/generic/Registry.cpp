@@ -3,7 +3,7 @@
 #include "platform/RegistryPath.h"
 #include "platform/generic/RegistryFile.h"
 
-#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -72,8 +72,8 @@ QString asText(const RegistryValue &value)
 class RegistryKey::Source
 {
 public:
-    Source(const QString &keyPath, RegistryView keyView)
-        : path(keyPath)
+    Source(QString keyPath, RegistryView keyView)
+        : path(std::move(keyPath))
         , view(keyView)
     {
         read();

@@ -5,10 +5,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QSaveFile>
 
 #include <sys/stat.h>
 
+#include <cstdio>
 #include <mutex>
 
 using namespace Qt::StringLiterals;
@@ -67,6 +67,16 @@ Snapshot takeSnapshot(FileState state)
     return {std::move(state), std::move(file), std::move(registry)};
 }
 
+/// Readers see the old content or the new, never a part. What a power failure leaves is of no interest here.
+bool replaceFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path + u".new"_s);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size() || !file.flush())
+        return false;
+    return std::rename(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData()) ==
+           0;
+}
+
 } // namespace
 
 QString registryFileName()
@@ -103,11 +113,7 @@ bool changeRegistryFile(const std::function<bool(RegistryNode &registry)> &chang
     RegistryNode registry;
     if (!load(before, registry) || !change(registry))
         return false;
-    QSaveFile after(path);
-    if (!after.open(QIODevice::WriteOnly))
-        return false;
-    after.write(encodeRegistryFile(registryText(registry)));
-    return after.commit();
+    return replaceFile(path, encodeRegistryFile(registryText(registry)));
 }
 
 } // namespace Zandrove::Platform

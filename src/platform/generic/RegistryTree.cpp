@@ -2,8 +2,6 @@
 
 #include <QtEndian>
 
-#include <utility>
-
 namespace Zandrove::Platform {
 
 namespace {
@@ -25,6 +23,18 @@ QString textFrom(const QByteArray &data, qsizetype begin)
     for (qsizetype i = begin; i < unitsOf(data) && unitAt(data, i) != 0; ++i)
         text.append(QChar(unitAt(data, i)));
     return text;
+}
+
+template <typename Node>
+Node *findBelow(Node *node, const QString &path)
+{
+    for (const QString &name : path.split(u'\\', Qt::SkipEmptyParts)) {
+        const auto child = node->subkeys.find(name);
+        if (child == node->subkeys.end())
+            return nullptr;
+        node = child->second.get();
+    }
+    return node;
 }
 
 } // namespace
@@ -65,19 +75,12 @@ std::optional<quint64> numberOf(const RegistryValue &value)
 
 const RegistryNode *RegistryNode::find(const QString &path) const
 {
-    const RegistryNode *node = this;
-    for (const QString &name : path.split(u'\\', Qt::SkipEmptyParts)) {
-        const auto child = node->subkeys.find(name);
-        if (child == node->subkeys.end())
-            return nullptr;
-        node = child->second.get();
-    }
-    return node;
+    return findBelow(this, path);
 }
 
 RegistryNode *RegistryNode::find(const QString &path)
 {
-    return const_cast<RegistryNode *>(std::as_const(*this).find(path));
+    return findBelow(this, path);
 }
 
 RegistryNode &RegistryNode::make(const QString &path)

@@ -15,7 +15,7 @@ namespace Zandrove::Platform {
 
 namespace {
 
-constexpr qint64 LargestFile = 1024 * 1024; // bytes
+constexpr qint64 LargestFile = qint64(1024) * 1024; // bytes
 
 constexpr QLatin1StringView Title = "[ShellLink]"_L1;
 constexpr std::array FieldNames = {"Path="_L1,     "Arguments="_L1, "WorkingDirectory="_L1,

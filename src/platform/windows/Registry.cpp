@@ -9,6 +9,7 @@
 #include <qt_windows.h>
 
 #include <type_traits>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -94,10 +95,10 @@ QString asText(const QVariant &value)
 class RegistryKey::Source
 {
 public:
-    Source(const QString &keyPath, RegistryView keyView)
-        : path(keyPath)
+    Source(QString keyPath, RegistryView keyView)
+        : path(std::move(keyPath))
         , view(keyView)
-        , parts(splitRegistryPath(keyPath))
+        , parts(splitRegistryPath(path))
     {
         read();
     }

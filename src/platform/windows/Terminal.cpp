@@ -155,10 +155,8 @@ QByteArray readInput()
         return readConsole(input);
     QByteArray bytes(4096, Qt::Uninitialized);
     DWORD count = 0;
-    do {
-        if (ReadFile(input, bytes.data(), DWORD(bytes.size()), &count, nullptr) == 0)
-            return {};
-    } while (count == 0 && GetFileType(input) == FILE_TYPE_PIPE); // an empty write
+    if (ReadFile(input, bytes.data(), DWORD(bytes.size()), &count, nullptr) == 0)
+        return {};
     return bytes.first(qsizetype(count));
 }
 

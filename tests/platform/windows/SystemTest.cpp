@@ -1,0 +1,192 @@
+#include "../PlatformTests.h"
+
+#include "SimulatedPc.h"
+
+#include "platform/Drives.h"
+#include "platform/ExternalProgram.h"
+#include "platform/FileAttributes.h"
+#include "platform/Identity.h"
+#include "platform/LastError.h"
+#include "platform/ShellLink.h"
+#include "platform/SpecialFolders.h"
+#include "platform/SystemParameters.h"
+
+#include <QDir>
+#include <QFile>
+#include <QLibrary>
+#include <QScopeGuard>
+#include <QTest>
+#include <QThread>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using namespace Zandrove;
+using Platform::SpecialFolder;
+
+/// What the calls of Windows do on the PC at hand.
+class SystemTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init() { m_pc = std::make_unique<SimulatedPc>(); }
+    void cleanup() { m_pc.reset(); }
+
+    void nameThatMeansSomethingElseIsUnsafe_data();
+    void nameThatMeansSomethingElseIsUnsafe();
+    void systemProgramGoesBeforeOneLyingAround();
+    void shellLinkWorksOnAThreadOfAnyMode_data();
+    void shellLinkWorksOnAThreadOfAnyMode();
+    void foldersAreTheSystemsOwn();
+    void programFilesFollowTheEnvironment();
+    void identityIsTold();
+    void wallpaperAndParametersAreTaken();
+
+private:
+    std::unique_ptr<SimulatedPc> m_pc;
+};
+
+void SystemTest::nameThatMeansSomethingElseIsUnsafe_data()
+{
+    QTest::addColumn<QString>("path");
+
+    for (const char *path : {"CON",
+                             "a/nul",
+                             "NUL.txt",
+                             "aux.tar.gz",
+                             "com1",
+                             "LPT9.log",
+                             "COM\u00b2",
+                             "conin$",
+                             "nul .txt",
+                             "PRN/x",
+                             "a:b",
+                             "C:/x",
+                             "file.txt:stream",
+                             "t.txt.",
+                             "t.txt ",
+                             "a./b",
+                             "a /b",
+                             "...",
+                             " ",
+                             "./a"})
+        QTest::newRow(path) << QString::fromUtf8(path);
+}
+
+void SystemTest::nameThatMeansSomethingElseIsUnsafe()
+{
+    QFETCH(QString, path);
+    QVERIFY(Platform::isUnsafeRelativePath(path));
+    QVERIFY(Platform::isUnsafeRelativePath(u"Documents\\"_s + path));
+}
+
+void SystemTest::systemProgramGoesBeforeOneLyingAround()
+{
+    QVERIFY(QFile::copy(helperProgram() + u".exe"_s, m_pc->path(u"reg.exe"_s)));
+    const QString previous = QDir::currentPath();
+    QDir::setCurrent(m_pc->path(u"."_s)); // searched before the system's folder
+    const auto restore = qScopeGuard([&previous] { QDir::setCurrent(previous); });
+    for (const QString &name : {u"reg"_s, u"reg.exe"_s, u"REG.EXE"_s}) {
+        const auto result = Platform::runProgram(name, {u"query"_s, u"HKEY_CURRENT_USER\\no\\such\\key"_s});
+        QVERIFY(result.finished);
+        QCOMPARE(result.exitCode, 1);
+    }
+}
+
+void SystemTest::shellLinkWorksOnAThreadOfAnyMode_data()
+{
+    QTest::addColumn<int>("mode");
+    QTest::newRow("multi-threaded") << 0;
+    QTest::newRow("apartment") << 2;
+    QTest::newRow("none") << -1;
+}
+
+void SystemTest::shellLinkWorksOnAThreadOfAnyMode()
+{
+    QFETCH(int, mode);
+    using Initialize = long(__stdcall *)(void *, unsigned long);
+    const auto initialize = reinterpret_cast<Initialize>(QLibrary::resolve(u"ole32"_s, "CoInitializeEx"));
+    const auto uninitialize =
+        reinterpret_cast<void(__stdcall *)()>(QLibrary::resolve(u"ole32"_s, "CoUninitialize"));
+    QVERIFY(initialize && uninitialize);
+
+    const QString file = m_pc->path(u"x.lnk"_s);
+    int good = 0;
+    const std::unique_ptr<QThread> thread(QThread::create([&] {
+        if (mode >= 0 && initialize(nullptr, static_cast<unsigned long>(mode)) < 0)
+            return;
+        for (int i = 0; i < 50; ++i) {
+            const QString path = u"C:\\%1.exe"_s.arg(i);
+            const bool written = Platform::writeShellLink(file, {.path = path});
+            const auto read = Platform::readShellLink(file);
+            good += int(written && read && read->path == path);
+        }
+        if (mode >= 0)
+            uninitialize();
+    }));
+    thread->start();
+    QVERIFY(thread->wait());
+    QCOMPARE(good, 50);
+}
+
+void SystemTest::foldersAreTheSystemsOwn()
+{
+    for (const auto &[folder, end] :
+         {std::pair(SpecialFolder::LocalAppData, u"/AppData/Local"_s),
+          std::pair(SpecialFolder::RoamingAppData, u"/AppData/Roaming"_s),
+          std::pair(SpecialFolder::CommonAppData, u"/ProgramData"_s),
+          std::pair(SpecialFolder::StartMenuPrograms, u"/Start Menu/Programs"_s)}) {
+        const QString path = Platform::specialFolder(folder);
+        QVERIFY2(path.endsWith(end), qPrintable(path));
+        QVERIFY2(QDir(path).exists(), qPrintable(path));
+    }
+    QVERIFY(Platform::fixedDrives().contains(u"C:"_s));
+    QVERIFY(!Platform::fixedDrives().contains(u"A:"_s));
+}
+
+void SystemTest::programFilesFollowTheEnvironment()
+{
+    m_pc->environment().set("ProgramFiles", "D:\\Programs");
+    QCOMPARE(Platform::specialFolder(SpecialFolder::ProgramFiles), u"D:\\Programs"_s);
+    m_pc->environment().unset("ProgramFiles");
+    QCOMPARE(Platform::specialFolder(SpecialFolder::ProgramFiles), u"C:/Program Files"_s);
+}
+
+void SystemTest::identityIsTold()
+{
+    const auto computer = Platform::shortComputerName();
+    QVERIFY(!computer || (!computer->isEmpty() && computer->size() <= 15));
+    QVERIFY(!Platform::userName().isEmpty());
+    QCOMPARE(Platform::userName(), qEnvironmentVariable("USERNAME"));
+    QVERIFY(!Platform::registeredSystemVersion().productName.isEmpty());
+    QVERIFY(Platform::registeredSystemVersion().currentBuildNumber.toInt() > 7000);
+    QVERIFY(Platform::errorText(5).contains(u"denied"_s, Qt::CaseInsensitive));
+}
+
+void SystemTest::wallpaperAndParametersAreTaken()
+{
+    if (!qEnvironmentVariableIsSet("ZANDROVE_SCRATCH_PC"))
+        QSKIP("Needs a PC that ZANDROVE_SCRATCH_PC gives away for tests");
+    QVERIFY(Platform::wallpaper().has_value());
+    const QString picture = QDir::toNativeSeparators(m_pc->writeFile(u"sea.bmp"_s, "BM"));
+    QVERIFY(Platform::setWallpaper(picture));
+    QCOMPARE(Platform::wallpaper(), picture);
+    QVERIFY(Platform::setSystemParameter(Platform::SystemParameter::KeyboardDelay, 1));
+    QVERIFY(Platform::setSystemParameter(Platform::SystemParameter::KeyboardSpeed, 30));
+    QVERIFY(Platform::setSystemParameter(Platform::SystemParameter::MouseSpeed, 9));
+    QVERIFY(Platform::setSystemParameter(Platform::SystemParameter::DoubleClickTime, 450));
+    QVERIFY(Platform::setSystemParameter(Platform::SystemParameter::MouseButtonSwap, 0));
+    QVERIFY(m_pc->registryText(u"HKEY_CURRENT_USER\\Control Panel\\Mouse"_s)
+                .contains(u"\"DoubleClickSpeed\"=\"450\""_s));
+    Platform::broadcastSettingChange(u"Environment"_s);
+    Platform::broadcastSettingChange(QString());
+    Platform::notifyAssociationsChanged();
+}
+
+QObject *makeSystemTest()
+{
+    return new SystemTest;
+}
+
+#include "SystemTest.moc"
