@@ -190,7 +190,7 @@ void MigrationManager::cancel()
     sendToPeer(MessageType::TransferCancel);
     m_migrating = false;
     m_completing = false;
-    m_deferred.clear();
+    dropDeferred();
     resumeReadingLink();
     Q_EMIT cancelled();
 }
@@ -207,7 +207,7 @@ void MigrationManager::endSession()
 
 void MigrationManager::resetAndListen()
 {
-    m_deferred.clear();
+    dropDeferred();
     resetRun();
 }
 

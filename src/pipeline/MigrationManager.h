@@ -158,6 +158,7 @@ private:
     void process(Protocol::MessageType type, const QByteArray &payload);
     [[nodiscard]] bool mustWaitForReport(Protocol::MessageType type) const;
     void processDeferred();
+    void dropDeferred();
     [[nodiscard]] bool admitWhileIdle(Protocol::MessageType type);
     void restartForNewTransfer();
     void dispatch(Protocol::MessageType type, const QByteArray &payload);

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -57,12 +58,6 @@ void MigrationManager::onLinkCommandReceived(MessageType type, const QByteArray 
 void MigrationManager::onNetworkCommandReceived(MessageType type, const QByteArray &payload)
 {
     traceMessage(type, payload.size());
-    if (type == MessageType::SessionEnd) {
-        qDebug() << "Received SessionEnd from peer";
-        endSession();
-        Q_EMIT sessionEndReceived();
-        return;
-    }
     if (mustWaitForReport(type))
         m_deferred.append({type, payload});
     else
@@ -75,7 +70,10 @@ bool MigrationManager::mustWaitForReport(MessageType type) const
 {
     if (type == MessageType::TransferPause || type == MessageType::TransferResume)
         return false;
-    const bool touchesTheRun = type == MessageType::TransferStart || type == MessageType::TransferReset;
+    if (type == MessageType::SessionEnd && m_paused)
+        return false;
+    const bool touchesTheRun = type == MessageType::TransferStart || type == MessageType::TransferReset ||
+                               type == MessageType::SessionEnd;
     return !m_deferred.isEmpty() || (m_completing && touchesTheRun);
 }
 
@@ -87,8 +85,26 @@ void MigrationManager::processDeferred()
     }
 }
 
+/// The run in front of them has been called off. The end of the session stands all the same.
+void MigrationManager::dropDeferred()
+{
+    const QList<Message> dropped = std::exchange(m_deferred, {});
+    const bool sessionEnded = std::any_of(dropped.cbegin(), dropped.cend(), [](const Message &message) {
+        return message.type == MessageType::SessionEnd;
+    });
+    if (sessionEnded)
+        QMetaObject::invokeMethod(
+            this, [this] { process(MessageType::SessionEnd, {}); }, Qt::QueuedConnection);
+}
+
 void MigrationManager::process(MessageType type, const QByteArray &payload)
 {
+    if (type == MessageType::SessionEnd) {
+        qDebug() << "Received SessionEnd from peer";
+        endSession();
+        Q_EMIT sessionEndReceived();
+        return;
+    }
     if (!m_migrating && !admitWhileIdle(type))
         return;
     if (int(type) < FirstTransferType || int(type) > LastTransferType)

@@ -234,23 +234,28 @@ void FileSenderTest::cancelInTheLastFileDoesNotWaitForAnAnswer()
 void FileSenderTest::cancelWakesAWaitingBatch()
 {
     QThread thread;
-    QSignalSpy messages(m_sender.get(), &FileSenderWorker::requestSendCommand);
+    bool asked = false;
+    connect(m_sender.get(), &FileSenderWorker::requestSendCommand, this,
+            [&asked](int type) { asked = asked || MessageType(type) == MessageType::FileAck; });
     const auto task = taskFor(u"a"_s, "abc");
     m_sender->moveToThread(&thread);
     thread.start();
     QMetaObject::invokeMethod(m_sender.get(), [this, task] { m_sender->startSending({task}); });
-    while (messages.isEmpty() || messages.last().first().toInt() != int(MessageType::FileAck))
-        QVERIFY(messages.wait());
+    const bool askedInTime = QTest::qWaitFor([&asked] { return asked; });
     m_sender->cancel();
     thread.quit();
     QVERIFY(thread.wait(2000));
+    QVERIFY(askedInTime);
 }
 
 void FileSenderTest::pauseHoldsTheListAndResumeLetsItGo()
 {
     answerBatches(true);
     QThread thread;
-    const auto task = taskFor(u"big"_s, someBytes(2 * FileSenderWorker::ChunkBytes));
+    bool started = false;
+    bool completed = false;
+    connect(m_sender.get(), &FileSenderWorker::fileStarted, this, [&started] { started = true; });
+    connect(m_sender.get(), &FileSenderWorker::allCompleted, this, [&completed] { completed = true; });
     connect(
         m_sender.get(), &FileSenderWorker::requestSendCommand, this,
         [this](int type) {
@@ -258,17 +263,17 @@ void FileSenderTest::pauseHoldsTheListAndResumeLetsItGo()
                 m_sender->setPaused(true);
         },
         Qt::DirectConnection);
-    QSignalSpy started(m_sender.get(), &FileSenderWorker::fileStarted);
-    QSignalSpy completed(m_sender.get(), &FileSenderWorker::allCompleted);
+    const auto task = taskFor(u"big"_s, someBytes(2 * FileSenderWorker::ChunkBytes));
     m_sender->moveToThread(&thread);
     thread.start();
     QMetaObject::invokeMethod(m_sender.get(), [this, task] { m_sender->startSending({task}); });
-    QVERIFY(started.size() == 1 || started.wait());
-    QVERIFY(!completed.wait(300));
+    const bool begun = QTest::qWaitFor([&started] { return started; });
+    const bool held = !QTest::qWaitFor([&completed] { return completed; }, 300);
     m_sender->setPaused(false);
-    QVERIFY(completed.wait());
+    const bool ended = QTest::qWaitFor([&completed] { return completed; });
     thread.quit();
     QVERIFY(thread.wait(2000));
+    QVERIFY(begun && held && ended);
 }
 
 void FileSenderTest::fullSocketHoldsTheNextChunk()

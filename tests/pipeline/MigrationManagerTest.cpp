@@ -125,11 +125,15 @@ void MigrationManagerTest::nextRunWaitsForTheReportOfTheLast()
         peerSends(u"first/%1"_s.arg(id), someBytes(9 * 1024 * 1024), id);
     peer(MessageType::TransferComplete);
     // All of this arrives while the receiver still works off the first run.
+    QSignalSpy ended(m_manager.get(), &MigrationManager::sessionEndReceived);
+    peer(MessageType::SessionEnd);
+    QCOMPARE(ended.size(), 0);
     peer(MessageType::TransferReset);
     peer(MessageType::TransferStart, TransferMessages::Start{1, 3}.toPayload());
     peerSends(u"second"_s, "abc", 0);
     peer(MessageType::TransferComplete);
     QTRY_COMPARE(completed.size(), 2);
+    QCOMPARE(ended.size(), 1);
     QCOMPARE(restarted.size(), 1);
     QCOMPARE(completed.at(0).first().value<MigrationReport>().filesSuccess, 6);
     QCOMPARE(completed.at(1).first().value<MigrationReport>().filesSuccess, 1);
