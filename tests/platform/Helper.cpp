@@ -39,13 +39,9 @@ int copyInput()
     return EXIT_SUCCESS;
 }
 
-} // namespace
-
-/// exit CODE | say TEXT | complain TEXT | wait MILLISECONDS | copy | lines; several, one behind the other.
-int main(int argc, char *argv[])
+/// What the words ask for, one behind the other.
+int obey(QStringList words)
 {
-    QCoreApplication app(argc, argv);
-    QStringList words = QCoreApplication::arguments().mid(1);
     while (!words.isEmpty()) {
         const QString action = words.takeFirst();
         if (action == "copy"_L1)
@@ -63,4 +59,13 @@ int main(int argc, char *argv[])
             std::this_thread::sleep_for(std::chrono::milliseconds(argument.toInt()));
     }
     return EXIT_SUCCESS;
+}
+
+} // namespace
+
+/// exit CODE | say TEXT | complain TEXT | wait MILLISECONDS | copy | lines
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    return Platform::endProcess(obey(QCoreApplication::arguments().mid(1)));
 }

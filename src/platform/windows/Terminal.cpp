@@ -48,13 +48,16 @@ public:
                 SetConsoleMode(handleOf(stream), mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
         }
     }
-    ~ConsoleSetup()
+    ~ConsoleSetup() { restore(); }
+    ConsoleSetup(const ConsoleSetup &) = delete;
+    ConsoleSetup &operator=(const ConsoleSetup &) = delete;
+
+    /// What runs in this console next gets it as it was.
+    void restore() const
     {
         if (m_codePage != 0)
             SetConsoleOutputCP(m_codePage);
     }
-    ConsoleSetup(const ConsoleSetup &) = delete;
-    ConsoleSetup &operator=(const ConsoleSetup &) = delete;
 
 private:
     UINT m_codePage;
@@ -187,6 +190,7 @@ int terminalColumns()
 int endProcess(int exitCode)
 {
     std::fflush(nullptr);
+    consoleSetup.restore();
     TerminateProcess(GetCurrentProcess(), UINT(exitCode));
     return exitCode;
 }

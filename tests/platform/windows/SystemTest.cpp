@@ -35,7 +35,7 @@ private Q_SLOTS:
 
     void nameThatMeansSomethingElseIsUnsafe_data();
     void nameThatMeansSomethingElseIsUnsafe();
-    void systemProgramGoesBeforeOneLyingAround();
+    void systemProgramGoesBeforeOneBesideThisProgram();
     void shellLinkWorksOnAThreadOfAnyMode_data();
     void shellLinkWorksOnAThreadOfAnyMode();
     void foldersAreTheSystemsOwn();
@@ -81,12 +81,11 @@ void SystemTest::nameThatMeansSomethingElseIsUnsafe()
     QVERIFY(Platform::isUnsafeRelativePath(u"Documents\\"_s + path));
 }
 
-void SystemTest::systemProgramGoesBeforeOneLyingAround()
+void SystemTest::systemProgramGoesBeforeOneBesideThisProgram()
 {
-    QVERIFY(QFile::copy(helperProgram() + u".exe"_s, m_pc->path(u"reg.exe"_s)));
-    const QString previous = QDir::currentPath();
-    QDir::setCurrent(m_pc->path(u"."_s)); // searched before the system's folder
-    const auto restore = qScopeGuard([&previous] { QDir::setCurrent(previous); });
+    const QString beside = QCoreApplication::applicationDirPath() + u"/reg.exe"_s;
+    QVERIFY(QFile::copy(helperProgram() + u".exe"_s, beside));
+    const auto remove = qScopeGuard([&beside] { QFile::remove(beside); });
     for (const QString &name : {u"reg"_s, u"reg.exe"_s, u"REG.EXE"_s}) {
         const auto result = Platform::runProgram(name, {u"query"_s, u"HKEY_CURRENT_USER\\no\\such\\key"_s});
         QVERIFY(result.finished);
