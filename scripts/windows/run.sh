@@ -7,6 +7,8 @@ root=$(cd "$(dirname "$0")/../.." && pwd)
 : "${ZANDROVE_QT_MINGW:?must name the folder of a Qt for mingw-w64}"
 export WINEPREFIX=${WINEPREFIX:-$root/build/windows/prefix} WINEARCH=win64 WINEDEBUG=${WINEDEBUG:--all}
 export WINEDLLOVERRIDES="mscoree=;mshtml="
+# A prefix is nobody's real PC: tests may change its settings.
+export ZANDROVE_SCRATCH_PC=1
 
 [ -d "$WINEPREFIX/drive_c" ] || "$root/scripts/windows/prefix.sh" "$WINEPREFIX"
 
