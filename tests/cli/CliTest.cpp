@@ -5,6 +5,7 @@
 #include "cli/PeerMatch.h"
 #include "cli/RunResults.h"
 #include "cli/TextOutput.h"
+#include "TestMain.h"
 
 #include <QJsonDocument>
 #include <QTemporaryDir>
@@ -322,5 +323,5 @@ void CliTest::noLiveLineWithoutATerminal()
     QVERIFY(captured.out.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(CliTest)
+ZANDROVE_TEST_MAIN(CliTest)
 #include "CliTest.moc"

@@ -1,6 +1,7 @@
 #include "SimulatedPc.h"
 
 #include "platform/ShellIcons.h"
+#include "TestMain.h"
 
 #include <QTest>
 #include <QtEndian>
@@ -92,5 +93,5 @@ void ShellIconsTest::systemLibraryHasIcons()
     QVERIFY(!Platform::fileTypeIcon(u".exe"_s).isNull());
 }
 
-QTEST_GUILESS_MAIN(ShellIconsTest)
+ZANDROVE_TEST_MAIN(ShellIconsTest)
 #include "ShellIconsTest.moc"

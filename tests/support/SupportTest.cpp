@@ -1,4 +1,5 @@
 #include "support/Utilities.h"
+#include "TestMain.h"
 
 #include <QTest>
 
@@ -191,5 +192,5 @@ void SupportTest::thisMachineHasALoopbackAdapter()
     QVERIFY(!loopback->up || loopback->addresses.constFirst().ip.isLoopback());
 }
 
-QTEST_GUILESS_MAIN(SupportTest)
+ZANDROVE_TEST_MAIN(SupportTest)
 #include "SupportTest.moc"

@@ -1,5 +1,6 @@
 #include "core/common/AppConfig.h"
 #include "core/common/Records.h"
+#include "TestMain.h"
 
 #include <QDir>
 #include <QSettings>
@@ -135,5 +136,5 @@ void CommonTest::configIsOneObjectThatWritesNothing()
     QCOMPARE(QDir(m_settings.path()).entryList(everything), QStringList());
 }
 
-QTEST_GUILESS_MAIN(CommonTest)
+ZANDROVE_TEST_MAIN(CommonTest)
 #include "CommonTest.moc"
