@@ -38,6 +38,8 @@ private:
 template <typename... Makers>
 [[nodiscard]] int runTests(Makers... makers)
 {
+    // Else the log goes to the debugger on Windows.
+    qputenv("QT_ASSUME_STDERR_HAS_CONSOLE", "1");
     QStringList arguments = QCoreApplication::arguments();
     const QString only =
         arguments.value(1).endsWith(QLatin1String("Test")) ? arguments.takeAt(1) : QString();
