@@ -64,3 +64,18 @@ function(zandrove_windows_resources target)
     set_property(SOURCE ${CMAKE_CURRENT_BINARY_DIR}/${target}.rc APPEND PROPERTY OBJECT_DEPENDS
         "${CMAKE_SOURCE_DIR}/resources/icons/app.ico;${CMAKE_SOURCE_DIR}/resources/windows/program.manifest")
 endfunction()
+
+# zandrove_install(TARGET): the program as a part of an installation. On Windows everything that it needs beside the
+# system lies in one folder with it.
+function(zandrove_install target)
+    include(GNUInstallDirs)
+    if(NOT WIN32)
+        install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+        return()
+    endif()
+    install(TARGETS ${target} RUNTIME DESTINATION .)
+    set(ZANDROVE_INSTALLED_PROGRAM $<TARGET_FILE:${target}>)
+    configure_file(${CMAKE_SOURCE_DIR}/cmake/InstallLibraries.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/${target}.cmake.in @ONLY)
+    file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${target}-libraries.cmake INPUT ${CMAKE_CURRENT_BINARY_DIR}/${target}.cmake.in)
+    install(SCRIPT ${CMAKE_CURRENT_BINARY_DIR}/${target}-libraries.cmake)
+endfunction()

@@ -255,7 +255,8 @@ void NetworkManager::closeAllSockets()
                socket->waitForBytesWritten(int(deadline.remainingTime()))) {
         }
         if (socket->bytesToWrite() > 0) {
-            // Too late. Once the stream's end is announced, waiting for it with bytes still to write has none.
+            // Too late. Once the stream's end is announced, waiting for it with bytes still to write has
+            // none.
             socket->abort();
         } else if (socket->state() == QAbstractSocket::ConnectedState) {
             socket->setReadBufferSize(0);

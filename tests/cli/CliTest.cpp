@@ -1,3 +1,4 @@
+#include "TestMain.h"
 #include "cli/ControlCommand.h"
 #include "cli/FolderCheck.h"
 #include "cli/JsonOutput.h"
@@ -5,7 +6,6 @@
 #include "cli/PeerMatch.h"
 #include "cli/RunResults.h"
 #include "cli/TextOutput.h"
-#include "TestMain.h"
 
 #include <QJsonDocument>
 #include <QTemporaryDir>

@@ -1,7 +1,7 @@
 #include "SimulatedPc.h"
 
-#include "platform/ShellIcons.h"
 #include "TestMain.h"
+#include "platform/ShellIcons.h"
 
 #include <QTest>
 #include <QtEndian>

@@ -1,5 +1,5 @@
-#include "support/Utilities.h"
 #include "TestMain.h"
+#include "support/Utilities.h"
 
 #include <QTest>
 

@@ -33,16 +33,15 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// Runs the test objects that `makers` make, one after the other; one alone, with QtTest's own arguments after
-/// it, when its class name is the first argument. Returns the number of failures.
+/// Runs the test objects that `makers` make, one after the other; one alone, with QtTest's own arguments
+/// after it, when its class name is the first argument. Returns the number of failures.
 template <typename... Makers>
 [[nodiscard]] int runTests(Makers... makers)
 {
     // Else the log goes to the debugger on Windows.
     qputenv("QT_ASSUME_STDERR_HAS_CONSOLE", "1");
     QStringList arguments = QCoreApplication::arguments();
-    const QString only =
-        arguments.value(1).endsWith(QLatin1String("Test")) ? arguments.takeAt(1) : QString();
+    const QString only = arguments.value(1).endsWith(QLatin1String("Test")) ? arguments.takeAt(1) : QString();
     int failures = 0;
     const auto run = [&](const std::unique_ptr<QObject> &test) {
         if (only.isEmpty() || only == QLatin1String(test->metaObject()->className()))
@@ -55,10 +54,10 @@ template <typename... Makers>
 } // namespace Zandrove::TestMain
 
 /// The main function of a program with one test class.
-#define ZANDROVE_TEST_MAIN(TestClass)                                                                                  \
-    int main(int argc, char *argv[])                                                                                   \
-    {                                                                                                                  \
-        const QCoreApplication app(argc, argv);                                                                        \
-        return Zandrove::Platform::endProcess(                                                                         \
-            Zandrove::TestMain::runTests([] { return std::make_unique<TestClass>(); }));                               \
+#define ZANDROVE_TEST_MAIN(TestClass)                                                                        \
+    int main(int argc, char *argv[])                                                                         \
+    {                                                                                                        \
+        const QCoreApplication app(argc, argv);                                                              \
+        return Zandrove::Platform::endProcess(                                                               \
+            Zandrove::TestMain::runTests([] { return std::make_unique<TestClass>(); }));                     \
     }

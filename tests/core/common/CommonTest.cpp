@@ -1,6 +1,6 @@
+#include "TestMain.h"
 #include "core/common/AppConfig.h"
 #include "core/common/Records.h"
-#include "TestMain.h"
 
 #include <QDir>
 #include <QSettings>

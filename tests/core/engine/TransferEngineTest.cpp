@@ -1,8 +1,8 @@
 #include "core/engine/TransferEngine.h"
+#include "TestMain.h"
 #include "peer/NetworkManager.h"
 #include "peer/Protocol.h"
 #include "pipeline/MigrationManager.h"
-#include "TestMain.h"
 
 #include <QDir>
 #include <QDirIterator>
