@@ -21,8 +21,8 @@ public:
     /// The one manager of the process, made on first use and never deleted.
     [[nodiscard]] static LinkManager &instance();
 
-    /// Reads the links from `document`; one that cannot be read leaves the manager without links. The language
-    /// is the one of the user's settings or, where that is none of the document's, the system's.
+    /// Reads the links from `document`; one that cannot be read leaves the manager without links. The
+    /// language is the one of the user's settings or, where that is none of the document's, the system's.
     explicit LinkManager(const QString &document = QStringLiteral(":/links/links.json"),
                          QObject *parent = nullptr);
 
@@ -32,8 +32,8 @@ public:
     /// there is none.
     [[nodiscard]] QString getLink(const QString &category, const QString &key) const;
 
-    /// Opens a link in the default browser. On failure the user is told in a modal dialog over `parent`, or not
-    /// at all without one, and the result is false.
+    /// Opens a link in the default browser. On failure the user is told in a modal dialog over `parent`, or
+    /// not at all without one, and the result is false.
     bool openLink(const QString &category, const QString &key, QWidget *parent);
 
     /// Chooses the language of the links and writes it to the user's settings. A language that the document

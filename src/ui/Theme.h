@@ -91,14 +91,16 @@ enum Weight : int { Regular = 400, Medium = 500, SemiBold = 600, Bold = 700 };
 
 /// A linear gradient from the upper left to the lower right, as the value of a background.
 [[nodiscard]] QString gradient(QLatin1StringView from, QLatin1StringView to);
+/// The same through a third colour half way.
+[[nodiscard]] QString gradient(QLatin1StringView from, QLatin1StringView middle, QLatin1StringView to);
 
-/// The style of a text without a box of its own: size in pixels, colour, weight.
+/// The style sheet of a label without a box of its own: size in pixels, colour, weight.
 [[nodiscard]] QString textStyle(int pixels, QLatin1StringView colour, int weight = Regular);
 /// A status line: 12 pixels, in the colour of `status`.
 [[nodiscard]] QString statusStyle(Status status);
 
-/// The properties of a filled box with round corners, for use within a style sheet. `background` is a colour or
-/// a gradient(); a border is 1 pixel wide, none without a colour.
+/// The properties of a filled box with round corners, for use within a style sheet. `background` is a colour
+/// or a gradient(); a border is 1 pixel wide, none without a colour.
 [[nodiscard]] QString boxProperties(const QString &background, int radius,
                                     QLatin1StringView border = QLatin1StringView());
 /// The same as a whole style sheet for `type`, which names the widget itself and not its children:
@@ -121,6 +123,7 @@ struct ButtonLook
     int weight = Medium;
     QLatin1StringView padding = QLatin1StringView("10px 24px");
     int radius = 8;
+    int minimumWidth = 0; ///< of the text's area, in pixels; 0 for none
 };
 
 /// The filled blue button of the program.

@@ -2,8 +2,8 @@
 
 namespace Zandrove {
 
-/// Whether this copy of the program is registered: a yes or no. This copy always is; another answer is that of
-/// a class derived from this one.
+/// Whether this copy of the program is registered: a yes or no. This copy always is; another answer is that
+/// of a class derived from this one.
 class License
 {
 public:

@@ -9,8 +9,8 @@ namespace Zandrove {
 class RoleCard;
 class TransferEngine;
 
-/// The second page: which end of the move this PC is. A click on a card goes to the engine at once; once made,
-/// the choice can only be swapped.
+/// The second page: which end of the move this PC is. A click on a card goes to the engine at once; once
+/// made, the choice can only be swapped.
 class RolePage final : public QWidget
 {
     Q_OBJECT

@@ -3,8 +3,8 @@
 #include <QIcon>
 #include <QString>
 
-/// The icon of an application, from the file that holds it. There is always one: every failure ends in a default
-/// icon that all share. Main thread only.
+/// The icon of an application, from the file that holds it. There is always one: every failure ends in a
+/// default icon that all share. Main thread only.
 namespace Zandrove::AppIconHelper {
 
 /// The icon in `path`: a picture file, or a program or library that carries one.

@@ -6,8 +6,9 @@
 
 namespace Zandrove {
 
-/// A label of one line that shortens its text with an ellipsis where the line is too narrow, and then shows the
-/// whole of it as a tool tip. The text is shown as it is, never as markup; line breaks in it become blanks.
+/// A label of one line that shortens its text with an ellipsis where the line is too narrow, and then shows
+/// the whole of it as a tool tip. The text is shown as it is, never as markup; line breaks in it become
+/// blanks.
 ///
 /// text() is the whole text.
 class ElidedLabel final : public QLabel

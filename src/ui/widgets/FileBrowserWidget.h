@@ -13,8 +13,8 @@ class QTreeWidgetItem;
 namespace Zandrove {
 
 /// A tree of folders to tick, with a list of the usual places beside it. Folders are read when they are first
-/// opened, at most 100 subfolders each. What it gives is the set of ticked paths; a ticked folder stands for all
-/// that is in it, whether it was opened or not. The ticks survive a change of what the tree shows.
+/// opened, at most 100 subfolders each. What it gives is the set of ticked paths; a ticked folder stands for
+/// all that is in it, whether it was opened or not. The ticks survive a change of what the tree shows.
 class FileBrowserWidget final : public QWidget
 {
     Q_OBJECT

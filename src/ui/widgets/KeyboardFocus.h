@@ -9,8 +9,9 @@ class QWidget;
 
 namespace Zandrove {
 
-/// Shows who works by keyboard where the focus is: a frame around the focused widget, for as long as the focus
-/// stays there. It comes only after Tab, Backtab or a shortcut, so that who works by mouse never sees it.
+/// Shows who works by keyboard where the focus is: a frame around the focused widget, for as long as the
+/// focus stays there. It comes only after Tab, Backtab or a shortcut, so that who works by mouse never sees
+/// it.
 ///
 /// One object serves every window of the program; the application must exist. In addition, Enter on a focused
 /// push button or check box does what Space does.
@@ -35,8 +36,8 @@ private:
     QPointer<QWidget> m_frame;
 };
 
-/// Lets `widget` take the focus by Tab, never by a click, and makes Space and Enter call `click`, which must not
-/// outlive the widget.
+/// Lets `widget` take the focus by Tab, never by a click, and makes Space and Enter call `click`, which must
+/// not outlive the widget.
 void clickByKey(QWidget *widget, std::function<void()> click);
 
 } // namespace Zandrove

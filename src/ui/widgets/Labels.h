@@ -11,8 +11,9 @@ namespace Zandrove {
 
 /// A label that shows `text` as it is, never as markup: size in pixels, colour and weight as in
 /// Theme::textStyle().
-[[nodiscard]] QLabel *makeLabel(const QString &text, int pixels, QLatin1StringView colour = Theme::Colour::Text,
-                                int weight = Theme::Regular, QWidget *parent = nullptr);
+[[nodiscard]] QLabel *makeLabel(const QString &text, int pixels,
+                                QLatin1StringView colour = Theme::Colour::Text, int weight = Theme::Regular,
+                                QWidget *parent = nullptr);
 
 /// The same, with the text centred and wrapped where it does not fit.
 [[nodiscard]] QLabel *makeCentredLabel(const QString &text, int pixels,

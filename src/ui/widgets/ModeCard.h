@@ -7,8 +7,8 @@ class QLabel;
 
 namespace Zandrove {
 
-/// A big clickable choice with an icon, a title, a subtitle and a badge; 88 pixels high. Selecting it is up to
-/// its owner.
+/// A big clickable choice with an icon, a title, a subtitle and a badge; 88 pixels high. Selecting it is up
+/// to its owner.
 class ModeCard final : public QWidget
 {
     Q_OBJECT
@@ -17,7 +17,8 @@ class ModeCard final : public QWidget
 public:
     explicit ModeCard(QWidget *parent = nullptr);
 
-    /// SVG files, shown at 28 x 28. A file that is no SVG leaves the tile as it is; an empty path does nothing.
+    /// SVG files, shown at 28 x 28. A file that is no SVG leaves the tile as it is; an empty path does
+    /// nothing.
     void setIcons(const QString &unselectedPath, const QString &selectedPath);
     void setTitle(const QString &title);
     void setSubtitle(const QString &subtitle);
