@@ -66,6 +66,7 @@ void MainWindow::updateNavigation()
 
     const bool last = m_currentPage == PageComplete;
     m_nextButton->setText(last ? tr("Finish") : tr("Next →"));
+    m_nextButton->setAccessibleName(last ? tr("Finish") : tr("Next"));
     Theme::ButtonLook look = Theme::primaryButton();
     if (last) {
         look.background = Theme::Colour::Success;

@@ -107,6 +107,7 @@ void MainWindow::setupUi()
 QWidget *MainWindow::createNavBar()
 {
     m_backButton = makeNavButton(tr("← Back"));
+    m_backButton->setAccessibleName(tr("Back"));
     m_backButton->setStyleSheet(Theme::buttonStyle(backLook()));
     m_nextButton = makeNavButton(tr("Next →"));
     m_progressDots = new ProgressDots(PageCount);

@@ -1,6 +1,7 @@
 #include "ui/pages/CompletePage.h"
 
 #include "core/engine/TransferEngine.h"
+#include "support/PrintableText.h"
 #include "ui/Theme.h"
 #include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/Labels.h"
@@ -169,9 +170,10 @@ void CompletePage::setupWaiting()
 
 QBoxLayout *CompletePage::createButtons()
 {
-    const auto makeButton = [](const QString &text, Theme::ButtonLook look) {
+    const auto makeButton = [](const QString &text, const QString &spoken, Theme::ButtonLook look) {
         look.padding = "12px 24px"_L1;
         auto *button = new QPushButton(text);
+        button->setAccessibleName(spoken);
         button->setCursor(Qt::PointingHandCursor);
         button->setStyleSheet(Theme::buttonStyle(look));
         return button;
@@ -182,9 +184,9 @@ QBoxLayout *CompletePage::createButtons()
     finishLook.border = Theme::Colour::BorderStrong;
     finishLook.text = Theme::Colour::TextSecondary;
 
-    m_finishButton = makeButton(tr("✓ Finished"), finishLook);
+    m_finishButton = makeButton(tr("✓ Finished"), tr("Finished"), finishLook);
     connect(m_finishButton, &QPushButton::clicked, this, &CompletePage::sessionEndRequested);
-    m_sendMoreButton = makeButton(tr("📂 Send More Files..."), Theme::primaryButton());
+    m_sendMoreButton = makeButton(tr("📂 Send More Files..."), tr("Send More Files..."), Theme::primaryButton());
     connect(m_sendMoreButton, &QPushButton::clicked, this, &CompletePage::backToSelectionRequested);
 
     auto *layout = new QHBoxLayout;
@@ -248,10 +250,10 @@ QWidget *CompletePage::createFolderRow(const SavedFolderEntry &entry)
     path->setToolTip(plainToolTip(entry.path));
     auto *texts = new QVBoxLayout;
     texts->setSpacing(1);
-    texts->addWidget(new ElidedLabel(entry.name, 12, Theme::Colour::Text, Theme::SemiBold));
+    texts->addWidget(new ElidedLabel(printable(entry.name), 12, Theme::Colour::Text, Theme::SemiBold));
     texts->addWidget(path);
     if (!entry.sample.isEmpty()) {
-        auto *sample = new ElidedLabel(entry.sample, 10, Theme::Colour::TextFaint);
+        auto *sample = new ElidedLabel(printable(entry.sample), 10, Theme::Colour::TextFaint);
         sample->setStyleSheet(sample->styleSheet() + u" font-style: italic;"_s);
         texts->addWidget(sample);
     }

@@ -241,6 +241,7 @@ void TransferPage::showPaused(bool paused)
 {
     m_isPaused = paused;
     m_pauseButton->setText(paused ? tr("▶ Resume") : tr("⏸ Pause"));
+    m_pauseButton->setAccessibleName(paused ? tr("Resume") : tr("Pause"));
     m_pauseButton->setStyleSheet(Theme::buttonStyle(paused ? resumeLook() : pauseLook()));
 }
 
