@@ -134,8 +134,8 @@ void MainWindow::setupPages()
     m_selectionPage = new SelectionPage(m_engine);
     m_transferPage = new TransferPage(m_engine);
     m_completePage = new CompletePage(m_engine);
-    const std::array<QWidget *, PageCount> pages = {m_welcomePage,   m_rolePage,     m_connectionPage,
-                                                    m_scanningPage,  m_selectionPage, m_transferPage,
+    const std::array<QWidget *, PageCount> pages = {m_welcomePage,  m_rolePage,      m_connectionPage,
+                                                    m_scanningPage, m_selectionPage, m_transferPage,
                                                     m_completePage};
     for (QWidget *page : pages)
         m_pageStack->addWidget(page);

@@ -1,5 +1,5 @@
-// The window of the program with a pair of hands: obeys one JSON command a line from standard input, by clicks and key
-// strokes alone, and answers each with one line. tests/e2e/wizard.py speaks to it.
+// The window of the program with a pair of hands: obeys one JSON command a line from standard input, by
+// clicks and key strokes alone, and answers each with one line. tests/e2e/wizard.py speaks to it.
 
 #include "WizardView.h"
 
@@ -11,7 +11,6 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
-#include <QJsonDocument>
 #include <QKeySequence>
 #include <QPixmap>
 #include <QRegularExpression>
@@ -35,10 +34,10 @@ public:
         , m_view(&window)
     {
         connect(&m_input, &Platform::InputLines::lineRead, this, [this](const QString &line) {
-            // From an event of its own: a click may open a dialog, and then does not return until it is closed.
-            QTimer::singleShot(0, this, [this, line] {
-                obey(QJsonDocument::fromJson(line.toUtf8()).object());
-            });
+            // From an event of its own: a click may open a dialog, and then does not return until it is
+            // closed.
+            QTimer::singleShot(
+                0, this, [this, line] { obey(parseJsonObject(line.toUtf8()).value_or(QJsonObject())); });
         });
         connect(&m_input, &Platform::InputLines::ended, qApp, &QApplication::quit);
         connect(&m_look, &QTimer::timeout, this, &Driver::lookAgain);

@@ -1,5 +1,5 @@
-// Renders the window in its notable states to PNG files: zandrove-gallery FOLDER. Each state is reached through the
-// window's own ways: its buttons, and what the engine would tell it.
+// Renders the window in its notable states to PNG files: zandrove-gallery FOLDER. Each state is reached
+// through the window's own ways: its buttons, and what the engine would tell it.
 
 #include "WizardView.h"
 
@@ -84,7 +84,8 @@ struct Stage
     void transferSome(int role)
     {
         transfer(role);
-        for (const char *done : {"Documents/letter.odt", "Documents/Größe ä ö ü.txt", "Pictures/写真 2024.jpg"}) {
+        for (const char *done :
+             {"Documents/letter.odt", "Documents/Größe ä ö ü.txt", "Pictures/写真 2024.jpg"}) {
             Q_EMIT engine->fileTransferStarted(QString::fromUtf8(done));
             Q_EMIT engine->fileTransferCompleted(QString::fromUtf8(done));
         }
@@ -113,9 +114,8 @@ struct Stage
     {
         QByteArray announcement;
         LinkEnvironment environment = silentEnvironment();
-        environment.sendDatagram = [&announcement](const QByteArray &datagram, const QHostAddress &, quint16) {
-            announcement = datagram;
-        };
+        environment.sendDatagram = [&announcement](const QByteArray &datagram, const QHostAddress &,
+                                                   quint16) { announcement = datagram; };
         silentPeer = std::make_unique<TransferEngine>(nullptr, environment);
         silentPeer->setRole(role == OldPC ? NewPC : OldPC);
         silentPeer->startDiscovery();
@@ -134,7 +134,8 @@ struct Stage
 ScanResult Stage::scanResult()
 {
     ScanResult result;
-    const auto addApp = [&result](const QString &name, const QString &version, qint64 size, bool canTransfer) {
+    const auto addApp = [&result](const QString &name, const QString &version, qint64 size,
+                                  bool canTransfer) {
         AppInfo app;
         app.name = name;
         app.version = version;
@@ -187,12 +188,14 @@ MigrationReport goodReport()
 MigrationReport reportWithFolders()
 {
     MigrationReport report = goodReport();
-    const auto addFolder = [&report](const QString &name, const QString &path, int count, const QString &sample) {
+    const auto addFolder = [&report](const QString &name, const QString &path, int count,
+                                     const QString &sample) {
         report.savedFolderPaths[name] = path;
         report.savedFolderCounts[name] = count;
         report.savedFolderSamples[name] = sample;
     };
-    addFolder(u"Documents"_s, u"C:/Users/anna/Documents"_s, 1204, u"(letter.odt, taxes.ods, notes.txt, ...)"_s);
+    addFolder(u"Documents"_s, u"C:/Users/anna/Documents"_s, 1204,
+              u"(letter.odt, taxes.ods, notes.txt, ...)"_s);
     addFolder(u"Pictures"_s, u"C:/Users/anna/Pictures"_s, 611, u"(写真 2024.jpg, Größe.png)"_s);
     addFolder(u"<b>Projects</b>"_s,
               u"C:/Users/anna/Downloads/Zandrove/a folder that lies deep down/and deeper still/in a tree of "
@@ -210,8 +213,8 @@ struct Scene
 void listPeers(Stage &stage)
 {
     Q_EMIT stage.engine->pcDiscovered(peer(u"ANNAS-LAPTOP"_s, u"192.168.1.23"_s));
-    Q_EMIT stage.engine->pcDiscovered(peer(u"<img src='x'> a name far too long for the list that it stands in"_s,
-                                           u"192.168.1.40"_s));
+    Q_EMIT stage.engine->pcDiscovered(
+        peer(u"<img src='x'> a name far too long for the list that it stands in"_s, u"192.168.1.40"_s));
     Q_EMIT stage.engine->pcDiscovered(peer(u"OFFICE-PC"_s, u"192.168.1.7"_s, false));
 }
 

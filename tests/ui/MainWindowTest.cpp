@@ -71,7 +71,10 @@ private Q_SLOTS:
     void everyPageCanBeClosed();
 
 private:
-    [[nodiscard]] int page() const { return m_window->findChild<QStackedWidget *>(u"PageStack"_s)->currentIndex(); }
+    [[nodiscard]] int page() const
+    {
+        return m_window->findChild<QStackedWidget *>(u"PageStack"_s)->currentIndex();
+    }
     [[nodiscard]] QPushButton *button(const QString &accessibleName) const;
     void press(const QString &accessibleName) { QTest::mouseClick(button(accessibleName), Qt::LeftButton); }
     /// Ticks the last thing that the selection offers, and goes on.
@@ -208,13 +211,17 @@ void MainWindowTest::signalsMoveTheWizard_data()
         QTest::newRow(name) << role << from << step << to;
     };
     const Step connected = [](auto &test) { Q_EMIT test.m_engine->connected(); };
-    const Step autoAdvance = [](auto &test) { Q_EMIT test.template the<ConnectionPage>().requestAutoAdvance(); };
+    const Step autoAdvance = [](auto &test) {
+        Q_EMIT test.template the<ConnectionPage>().requestAutoAdvance();
+    };
     const Step localCancel = [](auto &test) { Q_EMIT test.template the<TransferPage>().transferCancelled(); };
     const Step peerCancel = [](auto &test) { Q_EMIT test.m_engine->peerCancelled(); };
     const Step sessionEnd = [](auto &test) { Q_EMIT test.m_engine->sessionEndReceived(); };
     const Step reset = [](auto &test) { Q_EMIT test.m_engine->transferReset(); };
     const Step newTransfer = [](auto &test) { Q_EMIT test.m_engine->newTransferStarted(); };
-    const Step sendMore = [](auto &test) { Q_EMIT test.template the<CompletePage>().backToSelectionRequested(); };
+    const Step sendMore = [](auto &test) {
+        Q_EMIT test.template the<CompletePage>().backToSelectionRequested();
+    };
     const Step finish = [](auto &test) { Q_EMIT test.template the<CompletePage>().sessionEndRequested(); };
     const Step finishButton = [](auto &test) { test.button(u"Finish"_s)->click(); };
     const auto back = [](const QString &name) {

@@ -61,7 +61,8 @@ Item::Status statusOf(const TransferPage &page, const QString &fileName)
 }
 
 /// Answers the next modal question by the button of that text, after `meanwhile` has happened behind it.
-void answerQuestion(const QString &text, const std::function<void()> &meanwhile = [] {})
+void answerQuestion(
+    const QString &text, const std::function<void()> &meanwhile = [] {})
 {
     QTimer::singleShot(0, qApp, [=] {
         auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
@@ -194,7 +195,8 @@ void RunPagesTest::titlesFollowTheRun_data()
 
     QTest::newRow("Old PC") << int(OldPC)
                             << QStringList({u"Sending Data"_s, u"Sending Data - 42%"_s, u"Sending Paused"_s,
-                                            u"Sending Data - 42%"_s, u"Sending Data"_s, u"Transfer Failed"_s});
+                                            u"Sending Data - 42%"_s, u"Sending Data"_s,
+                                            u"Transfer Failed"_s});
     QTest::newRow("New PC") << int(NewPC)
                             << QStringList({u"Receiving Data"_s, u"Receiving Data - 42%"_s,
                                             u"Receiving Paused"_s, u"Receiving Data - 42%"_s,
@@ -227,7 +229,8 @@ void RunPagesTest::titlesFollowTheRun()
         QCoreApplication::processEvents();
         QCOMPARE(shownTexts(page).first(), titles.at(index));
     }
-    for (const QString &text : {u"42%"_s, u"1.5 KB/s"_s, u"1:01:01"_s, u"1023 B"_s, u"of 1.0 MB"_s, u"3 failed"_s})
+    for (const QString &text :
+         {u"42%"_s, u"1.5 KB/s"_s, u"1:01:01"_s, u"1023 B"_s, u"of 1.0 MB"_s, u"3 failed"_s})
         QVERIFY2(shownTexts(page).contains(text), qPrintable(text));
     QVERIFY(!shownTexts(page).contains(u"reason"_s));
 }
@@ -347,7 +350,8 @@ void RunPagesTest::reportIsShownByRole_data()
     QTest::addColumn<QStringList>("shown");
     QTest::addColumn<QStringList>("buttons");
 
-    QTest::newRow("Old PC") << int(OldPC) << QStringList() << QStringList({u"✓ Finished"_s, u"📂 Send More Files..."_s});
+    QTest::newRow("Old PC") << int(OldPC) << QStringList()
+                            << QStringList({u"✓ Finished"_s, u"📂 Send More Files..."_s});
     QTest::newRow("New PC") << int(NewPC)
                             << QStringList({u"Files saved to:"_s, u"Waiting for more files..."_s})
                             << QStringList();
@@ -383,7 +387,8 @@ void RunPagesTest::foldersAreListedOnceAndAsPlainText()
     CompletePage page(m_engine.get());
     MigrationReport report;
     const QString hostile = u"<img src='file://host/x'>"_s;
-    report.savedFolderPaths = {{hostile, u"/home/anna/<b>x</b>"_s}, {u"Documents"_s, u"/home/anna/Documents"_s}};
+    report.savedFolderPaths = {{hostile, u"/home/anna/<b>x</b>"_s},
+                               {u"Documents"_s, u"/home/anna/Documents"_s}};
     report.savedFolderCounts = {{hostile, 7}};
     report.savedFolderSamples = {{hostile, u"(<i>a</i>, b)"_s}};
     page.setReport(report);
@@ -393,7 +398,8 @@ void RunPagesTest::foldersAreListedOnceAndAsPlainText()
     QCOMPARE(rows.size(), 2);
     QCOMPARE(shownTexts(*rows.at(0)),
              QStringList({u"📂"_s, hostile, u"/home/anna/<b>x</b>"_s, u"(<i>a</i>, b)"_s, u"7 files"_s}));
-    QCOMPARE(shownTexts(*rows.at(1)), QStringList({u"📂"_s, u"Documents"_s, u"/home/anna/Documents"_s, u"0 files"_s}));
+    QCOMPARE(shownTexts(*rows.at(1)),
+             QStringList({u"📂"_s, u"Documents"_s, u"/home/anna/Documents"_s, u"0 files"_s}));
     for (const QLabel *label : rows.at(0)->findChildren<QLabel *>()) {
         QCOMPARE(label->textFormat(), Qt::PlainText);
         QVERIFY(!label->toolTip().contains("<b>"_L1));

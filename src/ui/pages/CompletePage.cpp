@@ -89,9 +89,8 @@ QWidget *CompletePage::createContent()
     column->addSpacing(16);
     column->addWidget(makeCentredLabel(tr("Transfer Complete!"), 26, Theme::Colour::Text, Theme::Bold));
     column->addSpacing(8);
-    column->addWidget(
-        makeCentredLabel(tr("Your files, apps and settings have been successfully transferred"), 14,
-                         Theme::Colour::TextMuted));
+    column->addWidget(makeCentredLabel(tr("Your files, apps and settings have been successfully transferred"),
+                                       14, Theme::Colour::TextMuted));
     column->addSpacing(24);
     column->addLayout(createCounters());
     column->addSpacing(20);
@@ -132,8 +131,8 @@ void CompletePage::setupSavedFolders()
     m_filesSavedWidget = new QWidget;
     m_filesSavedWidget->setObjectName(u"filesSavedWidget"_s);
     m_filesSavedWidget->setAttribute(Qt::WA_StyledBackground);
-    m_filesSavedWidget->setStyleSheet(Theme::boxStyle("#filesSavedWidget"_L1, Theme::Colour::SkyTint, 12,
-                                                      Theme::Colour::SkyBorder));
+    m_filesSavedWidget->setStyleSheet(
+        Theme::boxStyle("#filesSavedWidget"_L1, Theme::Colour::SkyTint, 12, Theme::Colour::SkyBorder));
 
     auto *header = new QHBoxLayout;
     header->setSpacing(8);
@@ -186,7 +185,8 @@ QBoxLayout *CompletePage::createButtons()
 
     m_finishButton = makeButton(tr("✓ Finished"), tr("Finished"), finishLook);
     connect(m_finishButton, &QPushButton::clicked, this, &CompletePage::sessionEndRequested);
-    m_sendMoreButton = makeButton(tr("📂 Send More Files..."), tr("Send More Files..."), Theme::primaryButton());
+    m_sendMoreButton =
+        makeButton(tr("📂 Send More Files..."), tr("Send More Files..."), Theme::primaryButton());
     connect(m_sendMoreButton, &QPushButton::clicked, this, &CompletePage::backToSelectionRequested);
 
     auto *layout = new QHBoxLayout;

@@ -66,9 +66,10 @@ QString cancelQuestionStyle()
 {
     const auto button = [](const QString &text, QLatin1StringView background, QLatin1StringView hover,
                            QLatin1StringView colour, QLatin1StringView border) {
-        return u"QPushButton[text=\"%1\"] { background: %2; color: %4; border: 1px solid %5; border-radius: 6px; "
-               "padding: 8px 20px; font-size: 13px; } QPushButton[text=\"%1\"]:hover { background: %3; }"_s.arg(
-                   text, background, hover, colour, border);
+        return u"QPushButton[text=\"%1\"] { background: %2; color: %4; border: 1px solid %5; border-radius: "
+               u"6px; "
+               "padding: 8px 20px; font-size: 13px; } QPushButton[text=\"%1\"]:hover { background: %3; }"_s
+                   .arg(text, background, hover, colour, border);
     };
     using namespace Theme::Colour;
     return u"QMessageBox { background: %1; } QLabel { color: %2; font-size: 13px; }"_s.arg(White, SlateText) +
@@ -78,7 +79,8 @@ QString cancelQuestionStyle()
 
 QString linkStyle()
 {
-    return u"QPushButton { background: transparent; border: none; color: %1; font-size: 13px; text-decoration: "
+    return u"QPushButton { background: transparent; border: none; color: %1; font-size: 13px; "
+           u"text-decoration: "
            "underline; padding: 4px; }"_s.arg(Theme::Colour::Primary);
 }
 
@@ -186,7 +188,8 @@ void TransferPage::setupConnections()
     listen(&Engine::pausedByPeer, &TransferPage::onPausedByPeer);
     listen(&Engine::resumedByPeer, &TransferPage::onResumedByPeer);
 
-    // At once: an answer that is given to the open question before the queued calls arrive is too late as well.
+    // At once: an answer that is given to the open question before the queued calls arrive is too late as
+    // well.
     for (auto end : {&Engine::peerCancelled, &Engine::transferReset, &Engine::sessionEndReceived})
         connect(m_engine, end, this, &TransferPage::onRunEnded);
     connect(m_engine, &Engine::transferCompleted, this, &TransferPage::onRunEnded);
@@ -420,9 +423,9 @@ void TransferPage::trimFileItems()
         auto oldest = m_fileItems.end();
         for (const auto status : {TransferFileItem::Success, TransferFileItem::Failed}) {
             if (oldest == m_fileItems.end())
-                oldest = std::find_if(
-                    m_fileItems.begin(), m_fileItems.end(),
-                    [status](const TransferFileItem *item) { return item->status() == status; });
+                oldest =
+                    std::find_if(m_fileItems.begin(), m_fileItems.end(),
+                                 [status](const TransferFileItem *item) { return item->status() == status; });
         }
         if (oldest == m_fileItems.end())
             return;
@@ -455,7 +458,8 @@ void TransferPage::onFileStarted(const QString &fileName)
     item->setProgress(0);
     // The layout makes room for the row first.
     QMetaObject::invokeMethod(
-        this, [this] { m_fileScroll->verticalScrollBar()->setValue(m_fileScroll->verticalScrollBar()->maximum()); },
+        this,
+        [this] { m_fileScroll->verticalScrollBar()->setValue(m_fileScroll->verticalScrollBar()->maximum()); },
         Qt::QueuedConnection);
 }
 

@@ -10,7 +10,7 @@
 #include <QPainter>
 #include <QScrollArea>
 #include <QStackedWidget>
-#include <QTabWidget>
+#include <QTabBar>
 #include <QTest>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
@@ -105,12 +105,21 @@ QWidget *WizardView::control(const QString &name) const
 
 bool WizardView::click(const QString &name) const
 {
-    QWidget *widget = control(name);
-    if (!widget)
-        return false;
-    scrollTo(widget);
-    clickAt(widget, widget->rect().center());
-    return true;
+    if (QWidget *widget = control(name)) {
+        scrollTo(widget);
+        clickAt(widget, widget->rect().center());
+        return true;
+    }
+    const QList<QTabBar *> bars = front()->findChildren<QTabBar *>();
+    for (QTabBar *bar : bars) {
+        for (int tab = 0; tab < bar->count(); ++tab) {
+            if (bar->isVisible() && bar->tabText(tab) == name) {
+                clickAt(bar, bar->tabRect(tab).center());
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 bool WizardView::clickFolder(const QString &path) const
@@ -160,9 +169,7 @@ QPixmap WizardView::picture() const
             continue;
         const QPixmap dialog = above->grab();
         const QPoint middle = m_window->rect().center() - above->rect().center();
-        const QPoint position = (above->windowType() == Qt::Popup)
-                                    ? above->pos() - m_window->pos()
-                                    : middle;
+        const QPoint position = (above->windowType() == Qt::Popup) ? above->pos() - m_window->pos() : middle;
         QPainter(&picture).drawPixmap(position, dialog);
     }
     return picture;
@@ -176,11 +183,17 @@ QJsonObject WizardView::state() const
         if (widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus))
             controls.append(nameOf(widget));
     }
+    QJsonArray tabs;
+    for (const QTabBar *bar : front()->findChildren<QTabBar *>()) {
+        for (int tab = 0; bar->isVisible() && tab < bar->count(); ++tab)
+            tabs.append(bar->tabText(tab));
+    }
     QWidget *focus = QApplication::focusWidget();
     return {{u"page"_s, page()},
             {u"dialog"_s, dialogTitle()},
             {u"focus"_s, focus ? nameOf(focus) : QString()},
             {u"controls"_s, controls},
+            {u"tabs"_s, tabs},
             {u"texts"_s, QJsonArray::fromStringList(texts())}};
 }
 

@@ -11,9 +11,9 @@ class QWidget;
 
 namespace Zandrove {
 
-/// The window of the program as a user has it: what can be read, what can be pressed, a picture of it. Controls
-/// are known by what they say, which is what a screen reader says too. Where a dialog or a menu stands open,
-/// only that is seen.
+/// The window of the program as a user has it: what can be read, what can be pressed, a picture of it.
+/// Controls are known by what they say, which is what a screen reader says too. Where a dialog or a menu
+/// stands open, only that is seen.
 class WizardView final
 {
 public:
@@ -34,8 +34,8 @@ public:
     /// What a screen reader calls `widget`.
     [[nodiscard]] static QString nameOf(QWidget *widget);
 
-    /// One click of the left mouse button, in the middle of the control, as the window system would deliver it.
-    /// False when there is no such control in sight.
+    /// One click of the left mouse button, in the middle of the control or the tab of that name, as the
+    /// window system would deliver it. False when there is no such control in sight.
     bool click(const QString &name) const;
     /// The same on the box of the folder tree's item that stands for `path`, or on the entry of a list.
     bool clickFolder(const QString &path) const;
