@@ -96,19 +96,19 @@ bool MainWindow::canGoNext() const
 
 void MainWindow::showPage(int index)
 {
+    const QWidget *focused = focusWidget();
     m_currentPage = index;
     m_pageStack->setCurrentIndex(index);
-}
-
-void MainWindow::goToPage(int index)
-{
-    const QWidget *focused = focusWidget();
-    showPage(index);
-    m_titleBar->setRole(isNewPC());
     updateNavigation();
     // A control that went out of sight or was disabled has handed the focus to any other.
     if (!focused || focusWidget() != focused)
         moveFocusToPage();
+}
+
+void MainWindow::goToPage(int index)
+{
+    showPage(index);
+    m_titleBar->setRole(isNewPC());
 }
 
 /// Who works by keyboard begins at the first control of the page.
@@ -231,6 +231,19 @@ void MainWindow::onRequestAutoAdvance()
     enterTransferPage();
 }
 
+void MainWindow::onScanFinished()
+{
+    if (m_currentPage == PageScanning)
+        goToPage(PageSelection);
+}
+
+/// Queued behind the engine's own signals: by now the peer may have ended the session as well.
+void MainWindow::onTransferFinished()
+{
+    if (m_currentPage == PageTransfer)
+        goToPage(PageComplete);
+}
+
 void MainWindow::onScanCompleted(const ScanResult &result)
 {
     Q_UNUSED(result)
@@ -251,7 +264,6 @@ void MainWindow::onTransferReset()
     m_transferPage->resetForNewTransfer();
     m_transferPage->setRole(NewPC);
     showPage(PageTransfer);
-    updateNavigation();
     m_engine->startReceiving();
     qDebug() << "New PC: Switched to waiting page";
 }
@@ -276,7 +288,8 @@ void MainWindow::onLocalCancel()
 {
     const int role = m_engine->role();
     qDebug() << "Local cancel - Role:" << roleName(role);
-    returnFromCancel(role != OldPC);
+    if (m_currentPage >= PageSelection) // else the session has ended meanwhile
+        returnFromCancel(role != OldPC);
 }
 
 void MainWindow::onPeerCancelled()

@@ -100,6 +100,8 @@ private:
     void navigateBack(const QString &pageName);
 
     void onRequestAutoAdvance();
+    void onScanFinished();
+    void onTransferFinished();
     void onTransferReset();
     void onLocalCancel();
     void onPeerCancelled();

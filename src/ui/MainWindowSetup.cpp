@@ -181,8 +181,8 @@ void MainWindow::connectPages()
     connect(m_connectionPage, &ConnectionPage::requestAutoAdvance, this, &MainWindow::onRequestAutoAdvance);
     connect(m_engine, &TransferEngine::transferReset, this, &MainWindow::onTransferReset);
     connect(m_selectionPage, &SelectionPage::selectionChanged, this, &MainWindow::updateNavigation);
-    connect(m_scanningPage, &ScanningPage::scanFinished, this, [this] { goToPage(PageSelection); });
-    connect(m_transferPage, &TransferPage::transferFinished, this, [this] { goToPage(PageComplete); });
+    connect(m_scanningPage, &ScanningPage::scanFinished, this, &MainWindow::onScanFinished);
+    connect(m_transferPage, &TransferPage::transferFinished, this, &MainWindow::onTransferFinished);
     connect(m_transferPage, &TransferPage::transferFinishedWithReport, m_completePage,
             &CompletePage::setReport);
     connect(m_transferPage, &TransferPage::navigateBack, this, &MainWindow::navigateBack);

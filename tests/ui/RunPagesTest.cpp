@@ -94,6 +94,7 @@ private Q_SLOTS:
     void completionMarksTheRowsAndReports();
     void cancelAsksFirst_data();
     void cancelAsksFirst();
+    void sessionEndStopsTheNewPcFromListeningAgain_data();
     void sessionEndStopsTheNewPcFromListeningAgain();
     void reportIsShownByRole_data();
     void reportIsShownByRole();
@@ -328,14 +329,23 @@ void RunPagesTest::cancelAsksFirst()
         QTRY_COMPARE(shownTexts(page).first(), u"Sender cancelled. Waiting..."_s);
 }
 
+void RunPagesTest::sessionEndStopsTheNewPcFromListeningAgain_data()
+{
+    QTest::addColumn<bool>("atOnce");
+    QTest::newRow("behind the cancel") << true;
+    QTest::newRow("a little later") << false;
+}
+
 void RunPagesTest::sessionEndStopsTheNewPcFromListeningAgain()
 {
     TransferPage page(m_engine.get());
     m_engine->setRole(NewPC);
     page.setRole(NewPC);
     const QSignalSpy rearmed(m_engine.get(), &TransferEngine::transferStarted);
+    QFETCH(bool, atOnce);
     Q_EMIT m_engine->peerCancelled();
-    QCoreApplication::processEvents();
+    if (!atOnce)
+        QCoreApplication::processEvents();
     Q_EMIT m_engine->sessionEndReceived();
 
     bool later = false;

@@ -193,6 +193,7 @@ void TransferPage::setupConnections()
     for (auto end : {&Engine::peerCancelled, &Engine::transferReset, &Engine::sessionEndReceived})
         connect(m_engine, end, this, &TransferPage::onRunEnded);
     connect(m_engine, &Engine::transferCompleted, this, &TransferPage::onRunEnded);
+    connect(m_engine, &Engine::sessionEndReceived, this, [this] { m_sessionEnded = true; });
 }
 
 void TransferPage::setRole(int role)
@@ -213,6 +214,7 @@ void TransferPage::setFiles(const QStringList &files)
 void TransferPage::startTransfer()
 {
     qDebug() << "TransferPage::startTransfer() - Starting real transfer as sender";
+    m_sessionEnded = false;
     clearFileItems();
     showPaused(false);
     clearCard(u"0 MB/s"_s, u"--"_s);
@@ -223,6 +225,7 @@ void TransferPage::startTransfer()
 void TransferPage::startReceiving()
 {
     qDebug() << "TransferPage::startReceiving() - Waiting for incoming data";
+    m_sessionEnded = false;
     showPaused(false);
     m_titleLabel->setText(tr("Waiting for Data..."));
     clearCard(tr("Waiting..."), u"-- GB"_s);
@@ -369,7 +372,7 @@ void TransferPage::onCancelClicked()
 void TransferPage::listenAgainSoon(const char *logLine)
 {
     QTimer::singleShot(RearmDelay, this, [this, logLine, round = m_round] {
-        if (!m_engine || round != m_round)
+        if (!m_engine || m_sessionEnded || round != m_round)
             return;
         if (logLine)
             qDebug() << logLine;

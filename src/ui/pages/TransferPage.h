@@ -104,6 +104,7 @@ private:
     TransferProgress m_progress;
     QPointer<QMessageBox> m_cancelQuestion; ///< while it is open
     int m_round = 0;                        ///< goes up when a run ends
+    bool m_sessionEnded = false;            ///< by the peer; until the page is entered again
 };
 
 } // namespace Zandrove
