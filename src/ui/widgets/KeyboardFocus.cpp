@@ -129,7 +129,8 @@ void KeyboardFocus::setArea(QWidget *control, QWidget *area, int cornerRadius)
     control->setProperty(RadiusProperty, cornerRadius);
 }
 
-// A reason alone tells too little: Qt also gives Tab where a control that had the focus is hidden or disabled.
+// A reason alone tells too little: Qt also gives Tab where a control that had the focus is hidden or
+// disabled.
 void KeyboardFocus::noteInput(const QEvent &event)
 {
     if (event.type() == QEvent::Shortcut) {
@@ -168,8 +169,8 @@ bool KeyboardFocus::eventFilter(QObject *watched, QEvent *event)
 
 void KeyboardFocus::onFocusIn(QWidget *control, Qt::FocusReason reason)
 {
-    const bool byKey = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                       reason == Qt::ShortcutFocusReason;
+    const bool byKey =
+        reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
     if (byKey && m_tabbing)
         showFrame(control);
     else if (m_control != control)

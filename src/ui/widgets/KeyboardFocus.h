@@ -37,7 +37,7 @@ private:
     void showFrame(QWidget *control);
     void hideFrame();
 
-    bool m_tabbing = false; ///< the focus was last moved by key, with no click since
+    bool m_tabbing = false;      ///< the focus was last moved by key, with no click since
     QPointer<QWidget> m_control; ///< that the frame is for
     QPointer<QWidget> m_frame;
 };

@@ -39,7 +39,7 @@ QLabel *makeTile(const QString &glyph, int glyphPixels, int side, int radius, co
 void setTileBackground(QLabel *tile, int glyphPixels, int radius, const QString &background)
 {
     tile->setStyleSheet(u"QLabel { %1 font-size: %2px; }"_s.arg(Theme::boxProperties(background, radius),
-                                                                 QString::number(glyphPixels)));
+                                                                QString::number(glyphPixels)));
 }
 
 QString plainToolTip(const QString &text)

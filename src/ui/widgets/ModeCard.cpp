@@ -144,9 +144,8 @@ void ModeCard::setSelected(bool selected)
 
 void ModeCard::refreshTile()
 {
-    m_iconTile->setStyleSheet(
-        u"QWidget { %1 } QLabel { background: transparent; }"_s.arg(
-            Theme::boxProperties(m_selected ? Theme::Colour::Primary : Theme::Colour::Hover, 12)));
+    m_iconTile->setStyleSheet(u"QWidget { %1 } QLabel { background: transparent; }"_s.arg(
+        Theme::boxProperties(m_selected ? Theme::Colour::Primary : Theme::Colour::Hover, 12)));
     const QString &path = m_selected ? m_selectedIcon : m_unselectedIcon;
     if (path.isEmpty())
         return;

@@ -42,11 +42,10 @@ void RoleCard::setupUi()
     setCursor(Qt::PointingHandCursor);
 
     m_iconTile = makeTile(u"🖥️"_s, GlyphPixels, 80, TileRadius, Theme::Colour::Hover);
-    m_titleLabel = makeCentredLabel(m_role == OldPC ? tr("Old PC") : tr("New PC"), 18, Theme::Colour::Text,
-                                    Theme::Bold);
-    m_subtitleLabel =
-        makeCentredLabel(m_role == OldPC ? tr("Source / Sender") : tr("Target / Receiver"), 13,
-                         Theme::Colour::TextMuted);
+    m_titleLabel =
+        makeCentredLabel(m_role == OldPC ? tr("Old PC") : tr("New PC"), 18, Theme::Colour::Text, Theme::Bold);
+    m_subtitleLabel = makeCentredLabel(m_role == OldPC ? tr("Source / Sender") : tr("Target / Receiver"), 13,
+                                       Theme::Colour::TextMuted);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 12, 12, 12);
