@@ -1,5 +1,9 @@
 #include "core/engine/TransferEngine.h"
 
+#include "inventory/AccountScanner.h"
+#include "inventory/AppScanner.h"
+#include "inventory/FileScanner.h"
+#include "inventory/SettingScanner.h"
 #include "peer/NetworkManager.h"
 #include "pipeline/MigrationManager.h"
 
@@ -36,6 +40,10 @@ TransferEngine::TransferEngine(QObject *parent, LinkEnvironment environment)
 {
     registerMetaTypes();
     m_networkManager = new NetworkManager(this, std::move(environment));
+    m_appScanner = new AppScanner(this);
+    m_fileScanner = new FileScanner(this);
+    m_accountScanner = new AccountScanner(this);
+    m_settingScanner = new SettingScanner(this);
     m_migrationManager = new MigrationManager(this);
     m_destinationRoot = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation) + u"/Zandrove"_s;
     setupConnections();
@@ -45,11 +53,13 @@ TransferEngine::TransferEngine(QObject *parent, LinkEnvironment environment)
 
 TransferEngine::~TransferEngine()
 {
+    cancelScan();
     cancelTransfer();
     if (isConnected())
         disconnectFromPeer();
-    QObject::disconnect(m_networkManager, nullptr, this, nullptr);
-    QObject::disconnect(m_migrationManager, nullptr, this, nullptr);
+    const QObjectList backEnd = children();
+    for (const QObject *child : backEnd)
+        QObject::disconnect(child, nullptr, this, nullptr);
     // While the link it may still want to write to stands.
     m_migrationManager->resetAndListen();
     delete m_migrationManager;
@@ -58,6 +68,7 @@ TransferEngine::~TransferEngine()
 void TransferEngine::setupConnections()
 {
     setupLinkConnections();
+    setupScanConnections();
     setupMigrationConnections();
 }
 
@@ -74,6 +85,22 @@ void TransferEngine::setupLinkConnections()
     connect(m_networkManager, &Link::directScanStarted, this, &TransferEngine::directScanStarted);
     connect(m_networkManager, &Link::directScanProgress, this, &TransferEngine::directScanProgress);
     connect(m_networkManager, &Link::directScanFinished, this, &TransferEngine::directScanFinished);
+}
+
+void TransferEngine::setupScanConnections()
+{
+    connect(m_appScanner, &AppScanner::finished, this, &TransferEngine::onAppScanFinished);
+    connect(m_fileScanner, &FileScanner::finished, this, &TransferEngine::onFileScanFinished);
+    connect(m_accountScanner, &AccountScanner::finished, this, &TransferEngine::onAccountScanFinished);
+    connect(m_settingScanner, &SettingScanner::finished, this, &TransferEngine::onSettingScanFinished);
+    const auto connectProgressOf = [this]<typename Scanner>(const Scanner *scanner) {
+        connect(scanner, &Scanner::progress, this, &TransferEngine::onScanProgress);
+        connect(scanner, &Scanner::error, this, &TransferEngine::onScanError);
+    };
+    connectProgressOf(m_appScanner);
+    connectProgressOf(m_fileScanner);
+    connectProgressOf(m_accountScanner);
+    connectProgressOf(m_settingScanner);
 }
 
 void TransferEngine::setupMigrationConnections()

@@ -9,17 +9,22 @@
 
 namespace Zandrove {
 
+class AccountScanner;
+class AppScanner;
+class FileScanner;
 class MigrationManager;
 class NetworkManager;
+class SettingScanner;
 
 /// The facade of the back end, and all that a face of the program sees of it: discovery and pairing, the
-/// user's selection, a transfer, its report, and the ways back to another round.
+/// inventory of the Old PC, the user's selection, a transfer, its report, and the ways back to another round.
 ///
 /// Main thread only. No operation returns a result; a failure leaves through a signal with a translated text:
-/// `connectionFailed` for pairing, `transferFailed` for a transfer that cannot start, `error` and `warning`
-/// for the rest. A transfer that started ends by `transferCompleted`, `transferCancelled` (here),
-/// `peerCancelled` or `transferReset` (there). It does not end by itself when the link goes, which
-/// `disconnected` tells, or `connectionFailed` where the link ended in an error: cancel or reset it then.
+/// `connectionFailed` for pairing, `scanFailed` and `transferFailed` for a scan and a transfer that cannot
+/// start, `error` and `warning` for the rest. A scan that started ends by `scanCompleted` or `scanCancelled`.
+/// A transfer that started ends by `transferCompleted`, `transferCancelled` (here), `peerCancelled` or
+/// `transferReset` (there). It does not end by itself when the link goes, which `disconnected` tells, or
+/// `connectionFailed` where the link ended in an error: cancel or reset it then.
 class TransferEngine : public QObject
 {
     Q_OBJECT
@@ -64,6 +69,15 @@ public:
     /// The peer, or the one being dialled; a default record without one.
     [[nodiscard]] PCInfo connectedPC() const { return m_connectedPC; }
 
+    /// Lists what can be moved from this PC. Emits `scanStarted`, `scanProgress` and in the end
+    /// `scanCompleted`; or `warning` while a scan is running, and `scanFailed` for a New PC without a peer.
+    /// The applications are looked for on another thread; everything else is done before this returns, which
+    /// takes as long as reading the user's folders does.
+    void startScan();
+    /// Gives a running scan up. Emits `scanCancelled`.
+    void cancelScan();
+
+    /// What the last scan found; empty while one is running.
     [[nodiscard]] const ScanResult &scanResult() const { return m_scanResult; }
     /// Select by position in the scan result; positions outside it are ignored.
     void setSelectedApps(const QList<int> &indexes);
@@ -77,8 +91,8 @@ public:
     /// downloads.
     [[nodiscard]] QString destinationRoot() const { return m_destinationRoot; }
 
-    /// Sends the selection. Emits `transferStarted`, or `transferFailed` when there is no peer or nothing
-    /// selected.
+    /// Sends the selection. Emits `transferStarted`, or `transferFailed` when there is no peer, nothing
+    /// selected, or a scan under way.
     void startTransfer();
     /// Waits, as the New PC, for what the peer sends. Emits `transferStarted`.
     void startReceiving();
@@ -130,6 +144,14 @@ Q_SIGNALS:
     void connectionTimeout(); ///< followed by connectionFailed
     /// A peer asks to pair: answer with acceptConnection(code) or rejectConnection.
     void connectionRequested(const QString &pcName, const QString &code);
+    void scanStarted();
+    /// `percent` from 0 to 100, of the part of the scan that reports; `currentItem` is what it is looking at.
+    /// The number of applications grows during the scan, those of folders and accounts stay 0.
+    void scanProgress(int percent, const QString &currentItem, int appsFound, int foldersFound,
+                      int accountsFound);
+    void scanCompleted(const Zandrove::ScanResult &result);
+    void scanCancelled();
+    void scanFailed(const QString &reason); ///< the scan was not begun
     void transferStarted();
     void transferProgressChanged(const Zandrove::TransferProgress &progress);
     void transferPaused();
@@ -152,6 +174,12 @@ private Q_SLOTS:
     void onDisconnected();
     void onConnectionFailed(const QString &reason);
     void onConnectionTimeout();
+    void onAppScanFinished(const QList<Zandrove::AppInfo> &apps);
+    void onFileScanFinished(const QList<Zandrove::FolderInfo> &folders);
+    void onAccountScanFinished(const QList<Zandrove::AccountInfo> &accounts);
+    void onSettingScanFinished(const QList<Zandrove::SettingInfo> &settings);
+    void onScanProgress(int percent, const QString &item);
+    void onScanError(const QString &message);
     void onMigrationProgress(const Zandrove::TransferProgress &progress);
     void onMigrationCompleted(const Zandrove::MigrationReport &report);
     void onMigrationFailed(const QString &reason);
@@ -163,11 +191,16 @@ private Q_SLOTS:
 private:
     void setupConnections();
     void setupLinkConnections();
+    void setupScanConnections();
     void setupMigrationConnections();
     [[nodiscard]] static QString generateVerifyCode();
     [[nodiscard]] bool hasLink();
     void forgetPeerDialledInVain();
     [[nodiscard]] bool knowsPeer(const QString &id) const;
+
+    void startScanners();
+    void clearScanResult();
+    void joinScans();
 
     void beginTransfer();
     void configureMigration(int role);
@@ -179,6 +212,10 @@ private:
     void clearAll();
 
     NetworkManager *m_networkManager = nullptr;
+    AppScanner *m_appScanner = nullptr;
+    FileScanner *m_fileScanner = nullptr;
+    AccountScanner *m_accountScanner = nullptr;
+    SettingScanner *m_settingScanner = nullptr;
     MigrationManager *m_migrationManager = nullptr;
     int m_mode = NetworkMode;
     int m_role = OldPC;
@@ -189,6 +226,11 @@ private:
     TransferProgress m_progress;
     MigrationReport m_report;
     QString m_verifyCode;
+    bool m_scanning = false;
+    int m_completedScans = 0; // scanners that are through, 0 to 4
+    quint64 m_scanNumber = 0; // tells a scan from older ones and from one that a reset has forgotten
+    int m_appsFound = 0;      // during a scan
+    int m_accountsFound = 0;  // stays 0
     bool m_transferring = false;
     bool m_paused = false;
     QStringList m_selectedPaths;

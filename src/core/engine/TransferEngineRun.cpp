@@ -112,7 +112,7 @@ void TransferEngine::startTransfer()
         Q_EMIT warning(tr("Transfer already in progress"));
         return;
     }
-    if (!isConnected() || selectedCount() == 0) {
+    if (!isConnected() || m_scanning || selectedCount() == 0) {
         Q_EMIT transferFailed(tr("Cannot start transfer. Check connection and selection."));
         return;
     }
@@ -272,6 +272,7 @@ void TransferEngine::onFileTransferFailed(const QString &fileName, const QString
 
 void TransferEngine::reset()
 {
+    cancelScan();
     cancelTransfer();
     if (m_migrationManager->isMigrating())
         m_migrationManager->resetAndListen();
@@ -285,11 +286,8 @@ void TransferEngine::reset()
 void TransferEngine::clearAll()
 {
     m_connectedPC = PCInfo();
-    m_scanResult.apps.clear();
-    m_scanResult.folders.clear();
-    m_scanResult.accounts.clear();
-    m_scanResult.settings.clear();
-    m_scanResult.scanTime = QDateTime();
+    ++m_scanNumber; // a result that is still to be told would be an empty one
+    clearScanResult();
     m_progress = TransferProgress();
     m_report = MigrationReport();
     m_verifyCode = generateVerifyCode();
