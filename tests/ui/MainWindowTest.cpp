@@ -249,7 +249,8 @@ void MainWindowTest::signalsMoveTheWizard_data()
     row("peer cancels, New PC", NewPC, 5, 5, peerCancel);
     row("session end", OldPC, 4, 1, sessionEnd);
     row("session end, New PC", NewPC, 6, 1, sessionEnd);
-    row("session end behind the last file", NewPC, 5, 1, endBehind(&TransferEngine::transferCompleted, MigrationReport()));
+    row("session end behind the last file", NewPC, 5, 1,
+        endBehind(&TransferEngine::transferCompleted, MigrationReport()));
     row("session end behind a cancel", OldPC, 5, 1, endBehind(&TransferEngine::peerCancelled));
     row("reset", NewPC, 6, 5, reset);
     row("reset, Old PC", OldPC, 6, 6, reset);
