@@ -6,4 +6,7 @@ set(zandrove_icons
 list(TRANSFORM zandrove_icons PREPEND ${CMAKE_SOURCE_DIR}/resources/icons/)
 list(TRANSFORM zandrove_icons APPEND .svg)
 
-zandrove_library(zandrove_resources SOURCES Resources.cpp)
+qt_add_resources(zandrove_ui looks PREFIX / BASE ${CMAKE_SOURCE_DIR}/resources
+    FILES ${zandrove_icons} ${CMAKE_SOURCE_DIR}/resources/icons/app.ico ${CMAKE_SOURCE_DIR}/resources/styles/style.qss)
+qt_add_resources(zandrove_links links PREFIX / BASE ${CMAKE_SOURCE_DIR}/resources
+    FILES ${CMAKE_SOURCE_DIR}/resources/links/links.json)
