@@ -14,6 +14,7 @@
 #include "ui/widgets/TransferFileItem.h"
 #include "ui/widgets/VerifyCodeWidget.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QProgressBar>
