@@ -12,6 +12,6 @@ namespace Zandrove {
 void makeAccessibleChoice(QWidget *card, QAccessible::Role role = QAccessible::RadioButton);
 
 /// Tells a screen reader that the property `selected` of such a card has changed.
-void notifySelected(QWidget *card, bool selected);
+void notifySelected(QWidget *card);
 
 } // namespace Zandrove

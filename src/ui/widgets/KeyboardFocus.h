@@ -23,16 +23,22 @@ public:
     explicit KeyboardFocus(QObject *parent = nullptr);
     ~KeyboardFocus() override;
 
-    /// Draws the frame of `control` around `area` instead, such as the row that a check box stands for.
-    static void setArea(QWidget *control, QWidget *area);
+    /// Draws the frame of `control` within `area`, such as the row that a check box stands for; `area` is
+    /// `control` itself or around it. Its corners are as round as those of the area, in pixels.
+    static void setArea(QWidget *control, QWidget *area, int cornerRadius);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void noteInput(const QEvent &event);
+    void onFocusIn(QWidget *control, Qt::FocusReason reason);
+    void onFocusOut(Qt::FocusReason reason);
     void showFrame(QWidget *control);
     void hideFrame();
 
+    bool m_tabbing = false;      ///< the focus was last moved by key, with no click since
+    QPointer<QWidget> m_control; ///< that the frame is for
     QPointer<QWidget> m_frame;
 };
 
