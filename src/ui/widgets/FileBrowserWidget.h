@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <QWidget>
 
+class QIcon;
 class QListWidget;
 class QListWidgetItem;
 class QTreeWidget;
@@ -48,7 +49,8 @@ private:
     void setupTree();
     void fillShortcuts();
     void addShortcut(const QString &label, const QString &path, const QString &iconWord);
-    [[nodiscard]] QTreeWidgetItem *createFolderItem(const QString &label, const QString &path) const;
+    [[nodiscard]] static QTreeWidgetItem *createFolderItem(const QString &label, const QString &path,
+                                                           const QIcon &icon);
     void loadSubfolders(QTreeWidgetItem *parent, const QString &path);
     void updateChildren(QTreeWidgetItem *item, Qt::CheckState state);
     static void updateParents(const QTreeWidgetItem *item);
