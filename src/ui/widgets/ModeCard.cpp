@@ -47,9 +47,9 @@ QPixmap renderSvg(const QString &path)
 ModeCard::ModeCard(QWidget *parent)
     : QWidget(parent)
 {
+    makeAccessibleChoice(this);
     setupUi();
     refreshTile();
-    makeAccessibleChoice(this);
     clickByKey(this, [this] { Q_EMIT clicked(); });
     KeyboardFocus::setArea(this, this, CornerRadius);
 }
