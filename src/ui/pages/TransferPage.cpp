@@ -88,6 +88,7 @@ QPushButton *makeButton(const QString &text, const Theme::ButtonLook &look)
     auto *button = new QPushButton(text);
     button->setCursor(Qt::PointingHandCursor);
     button->setStyleSheet(Theme::buttonStyle(look));
+    button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred); // one height, whatever the glyphs
     return button;
 }
 
