@@ -201,9 +201,9 @@ void SelectionPagesTest::tabGoesDownThePage()
         if (qobject_cast<const QCheckBox *>(stop))
             boxes.append(stop->objectName() + QLatin1StringView(stop->parent()->metaObject()->className()));
     }
-    QCOMPARE(boxes, QStringList({u"selectAllAppsQWidget"_s, u"Zandrove::AppListItem"_s, u"Zandrove::AppListItem"_s,
-                                 u"Zandrove::AccountListItem"_s, u"selectAllSettingsQWidget"_s,
-                                 u"Zandrove::SettingListItem"_s}));
+    QCOMPARE(boxes, QStringList({u"selectAllAppsQWidget"_s, u"Zandrove::AppListItem"_s,
+                                 u"Zandrove::AppListItem"_s, u"Zandrove::AccountListItem"_s,
+                                 u"selectAllSettingsQWidget"_s, u"Zandrove::SettingListItem"_s}));
 }
 
 void SelectionPagesTest::fiveHundredAppsTakeNoTime()
