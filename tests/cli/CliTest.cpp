@@ -1,3 +1,4 @@
+#include "TestMain.h"
 #include "cli/ControlCommand.h"
 #include "cli/FolderCheck.h"
 #include "cli/JsonOutput.h"
@@ -323,5 +324,5 @@ void CliTest::noLiveLineWithoutATerminal()
     QVERIFY(captured.out.isEmpty());
 }
 
-QTEST_GUILESS_MAIN(CliTest)
+ZANDROVE_TEST_MAIN(CliTest)
 #include "CliTest.moc"
