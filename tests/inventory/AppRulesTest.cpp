@@ -11,6 +11,26 @@ using namespace Zandrove;
 
 namespace {
 
+/// The items of a table: one or several a line, with semicolons between them.
+QStringList itemsIn(QString table)
+{
+    QStringList items;
+    const QStringList texts = table.replace(u'\n', u';').split(u';', Qt::SkipEmptyParts);
+    for (const QString &text : texts)
+        items.append(text.trimmed());
+    items.removeAll(QString());
+    return items;
+}
+
+/// Items of two texts each.
+QList<std::pair<QString, QString>> pairsIn(const QString &table, QChar separator)
+{
+    QList<std::pair<QString, QString>> pairs;
+    for (const QString &item : itemsIn(table))
+        pairs.append({item.section(separator, 0, 0).trimmed(), item.section(separator, 1).trimmed()});
+    return pairs;
+}
+
 AppInfo app(const QString &name, const QString &path, qint64 size)
 {
     AppInfo info;
@@ -45,33 +65,16 @@ void AppRulesTest::normalizesNames_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("form");
 
-    const auto row = [](const QString &name, const QString &form) {
+    for (const auto &[name, form] : pairsIn(uR"(
+        Foo Bar > foobar ; Foo - > foo ; Foo3 > foo3 ; Foo 2 - > foo2
+        Foo (x64 en) > foo ; Foo (x86) > foo ; Foo x64 > foo ; Max64Tool > matool ; Foox86 > foo
+        Foo (64-bit) > foo ; Foo (32 bit) > foo ; Foo (64bit) > foo ; Foo (64--bit) > foo64bit
+        Foo (de-AT) > foo ; Foo (deu-at) > foodeuat
+        Foo Version 3.1 Pro > foopro ; Foo v3.1 > foo ; Foo 3.1 (x64) > foo ; Foo 1 2 > foo1
+        7 Foo > foo ; v2 Foo 3 > foo
+        天气 2.0 > 天气 ; 天气 预报 X > x ; *** > ***)"_s,
+                                            u'>'))
         QTest::addRow("%s", qPrintable(name)) << name << form;
-    };
-    row(u"  Foo Bar "_s, u"foobar"_s);
-    row(u"Foo (x64 en)"_s, u"foo"_s);
-    row(u"Foo (x86)"_s, u"foo"_s);
-    row(u"Foo (64-bit)"_s, u"foo"_s);
-    row(u"Foo (32 bit)"_s, u"foo"_s);
-    row(u"Foo (64bit)"_s, u"foo"_s);
-    row(u"Foo (64--bit)"_s, u"foo64bit"_s);
-    row(u"Foo x64"_s, u"foo"_s);
-    row(u"Max64Tool"_s, u"matool"_s);
-    row(u"Foox86"_s, u"foo"_s);
-    row(u"Foo (de-AT)"_s, u"foo"_s);
-    row(u"Foo (deu-at)"_s, u"foodeuat"_s);
-    row(u"Foo Version 3.1 Pro"_s, u"foopro"_s);
-    row(u"Foo v3.1"_s, u"foo"_s);
-    row(u"Foo 3.1 (x64)"_s, u"foo"_s);
-    row(u"Foo3"_s, u"foo3"_s);
-    row(u"7 Foo"_s, u"foo"_s);
-    row(u"v2 Foo 3"_s, u"foo"_s);
-    row(u"Foo 1 2"_s, u"foo1"_s);
-    row(u"Foo -"_s, u"foo"_s);
-    row(u"Foo 2 -"_s, u"foo2"_s);
-    row(u"天气 2.0"_s, u"天气"_s);
-    row(u"天气 预报 X"_s, u"x"_s);
-    row(u"***"_s, u"***"_s);
 }
 
 void AppRulesTest::normalizesNames()
@@ -86,85 +89,29 @@ void AppRulesTest::comparesNames_data()
     QTest::addColumn<QString>("b");
     QTest::addColumn<bool>("same");
 
-    const auto rows = [](bool same, const QList<std::pair<QString, QString>> &pairs) {
-        for (const auto &[a, b] : pairs)
+    const auto rows = [](bool same, const QString &text) {
+        for (const auto &[a, b] : pairsIn(text, u'/'))
             QTest::addRow("%s / %s", qPrintable(a), qPrintable(b)) << a << b << same;
     };
-    rows(true, {
-                   // equal forms
-                   {u"Foo"_s, u"foo"_s},
-                   {u"Foo"_s, u"Foo 2.1"_s},
-                   {u"Foo"_s, u"F-O-O"_s},
-                   {u"Foo 1"_s, u"Foo v9.9"_s},
-                   {u"Foo (x64)"_s, u"Foo (x86)"_s},
-                   {u"Foo 64"_s, u"Foo"_s},
-                   {u"Foo (en-us)"_s, u"Foo (zh-cn)"_s},
-                   {u"Foo (64-bit)"_s, u"Foo (32-bit)"_s},
-                   {u"Foo Version 1.0"_s, u"Foo Version 2.0"_s},
-                   {u"2023 Foo"_s, u"Foo"_s},
-                   {u"Foo -"_s, u"Foo"_s},
-                   {u"A"_s, u"a 3"_s},
-                   {u"Max64Tool"_s, u"Matool"_s},
-                   {u"天气"_s, u"天气 2.0"_s},
-                   {u"Uninstall Foo"_s, u"UNINSTALL foo 2"_s},
-                   {u"1.0"_s, u"1.0 "_s},
-                   {u""_s, u" "_s},
-                   // a word of at least five in both, kept where there are no Latin letters
-                   {u"长江记事本"_s, u"长江记事本 增强"_s},
-                   {u"长江记事本 标准"_s, u"增强 长江记事本"_s},
-                   {u"программа один"_s, u"программа два"_s},
-                   // at least half of the longer one, from five characters on
-                   {u"Stone"_s, u"Stonebridg"_s},
-                   {u"Stone"_s, u"Bridgstone"_s},
-                   {u"Stone"_s, u"Bristoneab"_s},
-                   {u"Foo Edit"_s, u"My Foo Edit"_s},
-                   {u"Photo Lab"_s, u"Photo Lab Pro"_s},
-                   {u"Photo Lab"_s, u"Photo Laboratory"_s},
-                   {u"Viewer"_s, u"The Viewer"_s},
-                   {u"Notes"_s, u"Notes+ 64"_s},
-                   // a common beginning of six or more, and seven tenths of the shorter one
-                   {u"Clarityabc"_s, u"Clarityxyz"_s},
-                   {u"Clarityabc"_s, u"Clarityxyzuvwxyz"_s},
-                   {u"Quicktab"_s, u"Quicktor"_s},
-                   {u"Foobarx"_s, u"Foobary"_s},
-                   {u"Painter One"_s, u"Painter Two"_s},
-                   {u"Developer Kit"_s, u"Developer Kip"_s},
-               });
-    rows(false, {
-                    // only one removes the other
-                    {u"Uninstall Foo"_s, u"Foo"_s},
-                    {u"Uninstall Foo"_s, u"UninstallFoo"_s},
-                    {u"uninstall Photo Lab"_s, u"Photo Lab"_s},
-                    // below four characters only equality counts
-                    {u"Abc"_s, u"Abd"_s},
-                    {u"Abc"_s, u"Abcd"_s},
-                    {u"Foo"_s, u"Foo Pro"_s},
-                    {u"A"_s, u"B"_s},
-                    {u"三国"_s, u"三国志"_s},
-                    {u"Foo"_s, u"Foo (deu-at)"_s},
-                    // words that are no common ones, or too short
-                    {u"长江记事 标准"_s, u"增强 长江记事"_s},
-                    {u"长江记事本"_s, u"黄河记事本"_s},
-                    {u"один два"_s, u"один три"_s},
-                    // less than half, or too short to be contained
-                    {u"Stone"_s, u"Stonebridge"_s},
-                    {u"Stone"_s, u"The Old Stone House"_s},
-                    {u"Edit"_s, u"My Edit"_s},
-                    {u"Word"_s, u"Words"_s},
-                    {u"View"_s, u"Viewer"_s},
-                    // a common beginning too short, or too little of it
-                    {u"Horizoabcd"_s, u"Horizowxyz"_s},
-                    {u"Abcdexy"_s, u"Abcdeuv"_s},
-                    {u"Paint Box"_s, u"Paint Set"_s},
-                    {u"Spring Data"_s, u"Spring Mail"_s},
-                    {u"Amber Notes"_s, u"Amber Draw"_s},
-                    {u"Photo Lab"_s, u"Video Lab"_s},
-                    {u"Alpha"_s, u"Omega"_s},
-                    {u"Foo 3"_s, u"Bar 3"_s},
-                    {u"Foobar Tool"_s, u"Tool Foobar"_s},
-                    {u"Office"_s, u""_s},
-                    {u"天气"_s, u"Weather"_s},
-                });
+    // One rule a line: equal forms; a word of five; half of the longer one; a common beginning.
+    rows(true, uR"(
+        Foo / foo ; Foo / F-O-O ; A / a 3 ; Foo - / Foo ; 1.0 / (1.0) ; Foo 64 / Foo ; 2023 Foo / Foo
+        Foo / Foo 2.1 ; Foo 1 / Foo v9.9 ; Foo Version 1.0 / Foo Version 2.0 ; 天气 / 天气 2.0
+        Foo (x64) / Foo (x86) ; Foo (en-us) / Foo (zh-cn) ; Foo (64-bit) / Foo (32-bit)
+        Max64Tool / Matool ; Uninstall Foo / UNINSTALL foo 2
+        长江记事本 / 长江记事本 增强 ; 长江记事本 标准 / 增强 长江记事本 ; программа один / программа два
+        Stone / Stonebridg ; Stone / Bridgstone ; Stone / Bristoneab ; Photo Lab / Photo Laboratory
+        Foo Edit / My Foo Edit ; Photo Lab / Photo Lab Pro ; Viewer / The Viewer ; Notes / Notes+ 64
+        Clarityabc / Clarityxyz ; Clarityabc / Clarityxyzuvwxyz ; Quicktab / Quicktor
+        Foobarx / Foobary ; Painter One / Painter Two ; Developer Kit / Developer Kip)"_s);
+    // Only one removes the other; below four characters; no common word; too little of it; too short a start.
+    rows(false, uR"(
+        Uninstall Foo / Foo ; Uninstall Foo / UninstallFoo ; uninstall Photo Lab / Photo Lab
+        Abc / Abd ; Abc / Abcd ; Foo / Foo Pro ; A / B ; 三国 / 三国志 ; Foo / Foo (deu-at) ; Foo 3 / Bar 3
+        长江记事 标准 / 增强 长江记事 ; 长江记事本 / 黄河记事本 ; один два / один три ; 天气 / Weather
+        Stone / Stonebridge ; Stone / The Old Stone House ; Edit / My Edit ; Word / Words ; View / Viewer
+        Horizoabcd / Horizowxyz ; Abcdexy / Abcdeuv ; Paint Box / Paint Set ; Spring Data / Spring Mail
+        Amber Notes / Amber Draw ; Photo Lab / Video Lab ; Alpha / Omega ; One Two / Two Three ; Mail x64 / Maps x64 ; Foobar Tool / Tool Foobar)"_s);
 }
 
 void AppRulesTest::comparesNames()
@@ -268,40 +215,21 @@ void AppRulesTest::tellsFilesThatStayBehind_data()
     QTest::addColumn<QString>("path");
     QTest::addColumn<bool>("staysBehind");
 
-    const auto row = [](bool staysBehind, const QString &path) {
-        QTest::addRow("%s", qPrintable(path)) << path << staysBehind;
+    const auto rows = [](bool staysBehind, const QString &text) {
+        for (const QString &path : itemsIn(text))
+            QTest::addRow("%s", qPrintable(path)) << path << staysBehind;
     };
-    row(true, u"C:/App/CACHE/a.bin"_s);
-    row(true, u"C:\\App\\Code Cache\\a.bin"_s);
-    row(true, u"C:/App/fontcache/a.bin"_s);
-    row(true, u"C:/App/DiskCache/a.bin"_s);
-    row(false, u"C:\\App\\DiskCache\\a.bin"_s); // no form with backslashes
-    row(false, u"C:/App/mycache/a.bin"_s);
-    row(false, u"C:/App/cache"_s);
-    row(true, u"C:/temp/App/app.exe"_s);
-    row(true, u"C:\\App\\.temp\\a"_s);
-    row(false, u"C:/App/templates/a"_s);
-    row(true, u"C:\\App\\Crash Reports\\a.dmp"_s);
-    row(true, u"C:/App/foo-updater/a.dll"_s);
-    row(true, u"C:\\App\\Update\\a.dll"_s);
-    row(true, u"C:/App/AutoUpdate.exe"_s);
-    row(true, u"C:/App/mysetup.EXE"_s);
-    row(false, u"C:/App/setup.exe.config"_s);
-    row(true, u"C:/App/Thumbs.db"_s);
-    row(true, u"C:/App/~$report.docx"_s);
-    row(true, u"C:\\App\\~$report.docx"_s);
-    row(true, u"C:/App/report~$"_s);
-    row(false, u"C:/~$App/report.docx"_s);
-    row(true, u"C:/App/IndexedDB/1"_s);
-    row(true, u"C:\\network\\App\\a.dll"_s);
-    row(true, u"C:/App/data.db-wal"_s);
-    row(false, u"C:/App/data.db"_s);
-    row(true, u"C:/Downloads/App.zip"_s);
-    row(true, u"C:\\Downloads\\a\\App.7z"_s);
-    row(false, u"C:/Downloads/notes.txt"_s);
-    row(false, u"C:/App/App.zip"_s);
-    row(false, u"C:/Program Files/App/app.exe"_s);
-    row(false, u""_s);
+    rows(true, uR"(
+        C:/App/CACHE/a.bin ; C:\App\Code Cache\a.bin ; C:/App/fontcache/a.bin ; C:/App/DiskCache/a.bin
+        C:/temp/App/app.exe ; C:\App\.temp\a ; C:\App\Crash Reports\a.dmp
+        C:/App/foo-updater/a.dll ; C:\App\Update\a.dll ; C:/App/AutoUpdate.exe ; C:/App/mysetup.EXE
+        C:/App/Thumbs.db ; C:/App/~$report.docx ; C:\App\~$report.docx ; C:/App/report~$
+        C:/App/IndexedDB/1 ; C:\network\App\a.dll ; C:/App/data.db-wal
+        C:/Downloads/App.zip ; C:\Downloads\a\App.7z)"_s);
+    rows(false, uR"(
+        C:\App\DiskCache\a.bin ; C:/App/mycache/a.bin ; C:/App/cache ; C:/App/templates/a
+        C:/App/setup.exe.config ; C:/~$App/report.docx ; C:/App/data.db
+        C:/Downloads/notes.txt ; C:/App/App.zip ; C:/Program Files/App/app.exe)"_s);
 }
 
 void AppRulesTest::tellsFilesThatStayBehind()

@@ -187,7 +187,7 @@ void ScannersTest::folderSizeHasItsLimits()
 {
     const QString folder = m_pc->path(u"many"_s);
     QDir().mkpath(folder);
-    for (int i = 0; i < 20000; ++i) {
+    for (int i = 0; i < 10500; ++i) {
         QFile file(folder + u'/' + QString::number(i));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write("xx") == 2);
     }
