@@ -220,10 +220,12 @@ void AppScannerTest::destructionWaitsForTheScan()
     int cancels = 0;
     connect(scanner.get(), &AppScanner::cancelled, this, [&cancels] { ++cancels; });
     QSignalSpy progress(scanner.get(), &AppScanner::progress);
+    QSignalSpy finished(scanner.get(), &AppScanner::finished);
     scanner->start();
-    QTRY_VERIFY(progress.size() >= reports);
+    QTRY_VERIFY_WITH_TIMEOUT(progress.size() >= reports, 60000);
+    const bool wasOver = !finished.isEmpty(); // a slow test may come too late
     scanner.reset();
-    QCOMPARE(cancels, 1);
+    QCOMPARE(cancels, wasOver ? 0 : 1);
 }
 
 QObject *makeAppScannerTest()
