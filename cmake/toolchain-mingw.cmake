@@ -23,5 +23,10 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE BOTH)
 set(QT_HOST_PATH /usr CACHE PATH "")
 set(QT_HOST_PATH_CMAKE_DIR /usr/lib/x86_64-linux-gnu/cmake CACHE PATH "")
 
+# Where the compiler keeps the libraries that its programs need at run time.
+execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=libstdc++-6.dll
+    OUTPUT_VARIABLE ZANDROVE_MINGW_RUNTIME OUTPUT_STRIP_TRAILING_WHITESPACE)
+get_filename_component(ZANDROVE_MINGW_RUNTIME ${ZANDROVE_MINGW_RUNTIME} DIRECTORY)
+
 # CTest runs the programs under Wine.
 set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../scripts/windows/run.sh)

@@ -5,6 +5,11 @@ set -euo pipefail
 [ $# -eq 1 ] || { echo "usage: prefix.sh DIR" >&2; exit 2; }
 mkdir -p "$(dirname "$1")"
 export WINEPREFIX=$(realpath -m "$1") WINEARCH=win64 WINEDEBUG=-all DISPLAY=
+# A prefix that is in use can't go away.
+if [ -d "$WINEPREFIX" ]; then
+    /usr/lib/wine/wineserver --kill || true
+    /usr/lib/wine/wineserver --wait || true
+fi
 rm -rf "$WINEPREFIX"
 
 wine=/usr/lib/wine/wine64

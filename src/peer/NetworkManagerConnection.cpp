@@ -254,7 +254,11 @@ void NetworkManager::closeAllSockets()
         while (socket->bytesToWrite() > 0 && !deadline.hasExpired() &&
                socket->waitForBytesWritten(int(deadline.remainingTime()))) {
         }
-        if (socket->state() == QAbstractSocket::ConnectedState) {
+        if (socket->bytesToWrite() > 0) {
+            // Too late. Once the stream's end is announced, waiting for it with bytes still to write has
+            // none.
+            socket->abort();
+        } else if (socket->state() == QAbstractSocket::ConnectedState) {
             socket->setReadBufferSize(0);
             Platform::endSending(socket->socketDescriptor());
             socket->waitForDisconnected(int(deadline.remainingTime()));

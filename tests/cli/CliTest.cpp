@@ -1,3 +1,4 @@
+#include "TestMain.h"
 #include "cli/ControlCommand.h"
 #include "cli/FolderCheck.h"
 #include "cli/JsonOutput.h"
@@ -352,5 +353,5 @@ void CliTest::showsTheInventory()
     QCOMPARE(object.value(u"folders"_s).toArray().first().toObject().value(u"files"_s).toInt(), 3);
 }
 
-QTEST_GUILESS_MAIN(CliTest)
+ZANDROVE_TEST_MAIN(CliTest)
 #include "CliTest.moc"

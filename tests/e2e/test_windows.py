@@ -4,9 +4,9 @@ import os
 
 import pcs
 import test_move
-from windows_pcs import WindowsPc
+from windows_pcs import PackagedPc, WindowsPc
 
-KINDS = {"linux": pcs.Pc, "windows": WindowsPc}
+KINDS = {"linux": pcs.Pc, "windows": WindowsPc, "packaged": PackagedPc}
 
 # Names that Linux knows and Windows does not: none may reach a device, another file, or a hidden stream.
 NAMES_NOT_FOR_WINDOWS = ("colon: here.txt", "CON", "NUL.txt", "com1.log", "ends with a dot.", "ends with a blank ", "... ",
@@ -20,7 +20,7 @@ class Windows(pcs.TestCase):
     def odd_tree(self, folder, kinds):
         """The odd names, without what Windows cannot name."""
         test_move.odd_tree(folder)
-        if "windows" in kinds:
+        if kinds != ("linux", "linux"):
             for path in folder.rglob('*"*'):
                 path.unlink()
         return folder
@@ -75,8 +75,11 @@ class Windows(pcs.TestCase):
         self.assertNotIn("colon", "".join(path.name for path in pair.new.received("names").iterdir()))
         self.assertExits(4, receiver)
 
+    def test_zip_on_an_empty_pc(self):
+        self.move("packaged", "packaged")
+
     def test_console_program(self):
-        pair = self.pair_of("windows", "linux")
+        pair = self.pair_of("packaged", "linux")
         code, output = pair.old.run_windows("--version")
         self.assertEqual((code, output.strip()), (0, "zandrove-cli " + os.environ.get("ZANDROVE_VERSION", "5.0")))
         code, _ = pair.old.run_windows("send")

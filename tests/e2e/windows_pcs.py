@@ -1,15 +1,17 @@
 """A Windows PC for the end-to-end tests: the cross-built program under Wine, in a prefix of its own.
 
 Taken from the environment: ZANDROVE_CLI_WINDOWS, the program; ZANDROVE_WINE_TEMPLATE, a fresh prefix that is copied for
-each PC; ZANDROVE_QT_MINGW, the Qt whose libraries the program needs.
+each PC; ZANDROVE_QT_MINGW, the Qt whose libraries the program needs; ZANDROVE_PACKAGES, the folder with the portable zip.
 """
 
 import os
 import pathlib
 import subprocess
+import zipfile
 
 import pcs
 
+WINE = "/usr/lib/wine/wine64"
 RUNNER = pcs.ROOT / "scripts" / "windows" / "run.sh"
 STOP_DEADLINE = 20.0  # seconds
 
@@ -44,3 +46,22 @@ class WindowsPc(pcs.Pc):
         # The programs of a prefix live on in its server: it ends them all.
         subprocess.run(self.command("/usr/lib/wine/wineserver", "--kill"), env=self.environment, timeout=STOP_DEADLINE)
         super().close()
+
+
+class PackagedPc(WindowsPc):
+    """A Windows PC that has nothing of the build: the zip has been unpacked there, and that is all."""
+
+    def __init__(self, name, folder):
+        super().__init__(name, folder)
+        archive, = pathlib.Path(os.environ["ZANDROVE_PACKAGES"]).glob("*-windows-x64.zip")
+        with zipfile.ZipFile(archive) as package:
+            package.extractall(self.home / "Desktop")
+        self.folder, = (self.home / "Desktop").glob("Zandrove-*")
+
+    @property
+    def environment(self):
+        plain = {key: value for key, value in super().environment.items() if not key.startswith("ZANDROVE_")}
+        return plain | {"WINEARCH": "win64", "WINEDEBUG": "-all", "WINEDLLOVERRIDES": "mscoree=;mshtml="}
+
+    def program(self):
+        return [WINE, str(self.folder / "zandrove-cli.exe")]

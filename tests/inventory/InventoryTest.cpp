@@ -1,15 +1,19 @@
 #include "InventoryTests.h"
 
-#include <QCoreApplication>
-#include <QTest>
+#include "TestMain.h"
+
+namespace {
+
+int runAll(int argc, char *argv[])
+{
+    const QCoreApplication app(argc, argv);
+    return Zandrove::TestMain::runTests(makeAppRulesTest, makeSearchTest, makeScannersTest,
+                                        makeAppScannerTest);
+}
+
+} // namespace
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication app(argc, argv);
-    int failures = 0;
-    for (QObject *test : {makeAppRulesTest(), makeSearchTest(), makeScannersTest(), makeAppScannerTest()}) {
-        failures += QTest::qExec(test, argc, argv);
-        delete test;
-    }
-    return failures;
+    return Zandrove::Platform::endProcess(runAll(argc, argv));
 }

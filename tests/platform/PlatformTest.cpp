@@ -1,16 +1,10 @@
 #include "PlatformTests.h"
 
-#include <QCoreApplication>
-#include <QTest>
+#include "TestMain.h"
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication app(argc, argv);
-    int failures = 0;
-    for (QObject *test :
-         {makeFilesTest(), makeProgramTest(), makeRegistryTest(), makeTerminalTest(), makeSystemTest()}) {
-        failures += QTest::qExec(test, argc, argv);
-        delete test;
-    }
-    return failures;
+    const QCoreApplication app(argc, argv);
+    return Zandrove::Platform::endProcess(Zandrove::TestMain::runTests(
+        makeFilesTest, makeProgramTest, makeRegistryTest, makeTerminalTest, makeSystemTest));
 }

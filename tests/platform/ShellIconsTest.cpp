@@ -1,5 +1,6 @@
 #include "SimulatedPc.h"
 
+#include "TestMain.h"
 #include "platform/ShellIcons.h"
 
 #include <QTest>
@@ -92,5 +93,5 @@ void ShellIconsTest::systemLibraryHasIcons()
     QVERIFY(!Platform::fileTypeIcon(u".exe"_s).isNull());
 }
 
-QTEST_GUILESS_MAIN(ShellIconsTest)
+ZANDROVE_TEST_MAIN(ShellIconsTest)
 #include "ShellIconsTest.moc"

@@ -1,3 +1,4 @@
+#include "TestMain.h"
 #include "support/Utilities.h"
 
 #include <QTest>
@@ -191,5 +192,5 @@ void SupportTest::thisMachineHasALoopbackAdapter()
     QVERIFY(!loopback->up || loopback->addresses.constFirst().ip.isLoopback());
 }
 
-QTEST_GUILESS_MAIN(SupportTest)
+ZANDROVE_TEST_MAIN(SupportTest)
 #include "SupportTest.moc"

@@ -1,3 +1,4 @@
+#include "TestMain.h"
 #include "core/common/AppConfig.h"
 #include "core/common/Records.h"
 
@@ -135,5 +136,5 @@ void CommonTest::configIsOneObjectThatWritesNothing()
     QCOMPARE(QDir(m_settings.path()).entryList(everything), QStringList());
 }
 
-QTEST_GUILESS_MAIN(CommonTest)
+ZANDROVE_TEST_MAIN(CommonTest)
 #include "CommonTest.moc"

@@ -3,6 +3,7 @@
 #include "inventory/FileScanner.h"
 
 #include "SimulatedPc.h"
+#include "TestMain.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -163,6 +164,6 @@ void ScanTest::totalsCountWhatIsDropped()
     QCOMPARE(m_engine->scanResult().totalFiles, 3);
 }
 
-QTEST_GUILESS_MAIN(ScanTest)
+ZANDROVE_TEST_MAIN(ScanTest)
 
 #include "ScanTest.moc"

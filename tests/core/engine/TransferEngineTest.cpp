@@ -1,4 +1,5 @@
 #include "core/engine/TransferEngine.h"
+#include "TestMain.h"
 #include "peer/NetworkManager.h"
 #include "peer/Protocol.h"
 #include "pipeline/MigrationManager.h"
@@ -374,12 +375,12 @@ void TransferEngineTest::successRateIgnoresWhatWasSkipped()
 
 int main(int argc, char *argv[])
 {
-    const QTemporaryDir home;
-    qputenv("HOME", home.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", home.filePath(u"config"_s).toLocal8Bit());
-    QCoreApplication app(argc, argv);
-    TransferEngineTest test;
-    return QTest::qExec(&test, argc, argv);
+    const auto runAll = [&] {
+        const TestMain::OwnHome home;
+        const QCoreApplication app(argc, argv);
+        return TestMain::runTests([] { return std::make_unique<TransferEngineTest>(); });
+    };
+    return Platform::endProcess(runAll());
 }
 
 #include "TransferEngineTest.moc"
