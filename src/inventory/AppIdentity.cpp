@@ -1,5 +1,7 @@
 #include "inventory/AppIdentity.h"
 
+#include "inventory/WordLists.h"
+
 #include <QLatin1StringView>
 #include <QRegularExpression>
 
@@ -43,13 +45,6 @@ const std::array<QRegularExpression, 14> &decorations()
         QRegularExpression(u"\\s+$"_s),
     };
     return Decorations;
-}
-
-template <typename Words>
-bool containsAny(const QString &text, const Words &words)
-{
-    return std::any_of(words.begin(), words.end(),
-                       [&text](QLatin1StringView word) { return text.contains(word); });
 }
 
 bool shareATellingWord(const AppIdentity &a, const AppIdentity &b)
@@ -122,7 +117,7 @@ bool isPartOfTheSystem(const QString &name)
                                          "redistributable"_L1,
                                          "runtime broker"_L1};
     return name.startsWith("windows"_L1) || name.startsWith("microsoft windows"_L1) ||
-           std::find(Names.begin(), Names.end(), name) != Names.end() || containsAny(name, Parts);
+           equalsAny(name, Names) || containsAny(name, Parts);
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "inventory/AppScan.h"
 
 #include "inventory/InstallPathSearch.h"
+#include "inventory/WordLists.h"
 #include "support/Paths.h"
 
 #include <QDebug>
@@ -22,19 +23,6 @@ using Platform::RegistryKey;
 namespace {
 
 const QString UserSoftware = u"HKEY_CURRENT_USER\\Software"_s;
-
-template <typename Words>
-bool equalsAny(const QString &text, const Words &words)
-{
-    return std::any_of(words.begin(), words.end(), [&text](QLatin1StringView word) { return text == word; });
-}
-
-template <typename Words>
-bool containsAny(const QString &text, const Words &words)
-{
-    return std::any_of(words.begin(), words.end(),
-                       [&text](QLatin1StringView word) { return text.contains(word); });
-}
 
 /// Whether a folder below Program Files belongs to the system or to no single program.
 bool isSharedFolder(const QString &lowerName)

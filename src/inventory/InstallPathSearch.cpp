@@ -1,6 +1,7 @@
 #include "inventory/InstallPathSearch.h"
 
 #include "inventory/AppIdentity.h"
+#include "inventory/WordLists.h"
 #include "support/Paths.h"
 
 #include <QDebug>
@@ -176,8 +177,7 @@ bool isHelperProgram(const QString &lowerFile)
 {
     static constexpr std::array Signs = {"uninstall"_L1, "uninst"_L1, "update"_L1,
                                          "updater"_L1,   "setup"_L1,  "install"_L1};
-    return std::any_of(Signs.begin(), Signs.end(),
-                       [&lowerFile](QLatin1StringView sign) { return lowerFile.contains(sign); });
+    return containsAny(lowerFile, Signs);
 }
 
 QString lowerBaseName(const QString &file)

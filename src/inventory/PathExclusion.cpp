@@ -1,5 +1,6 @@
 #include "inventory/PathExclusion.h"
 
+#include "inventory/WordLists.h"
 #include "support/Paths.h"
 
 #include <QLatin1StringView>
@@ -78,20 +79,6 @@ constexpr std::array DatabaseSidecars = {"-journal"_L1, "-wal"_L1, "-shm"_L1, ".
 
 constexpr std::array DownloadsDirPatterns = {"/downloads/"_L1, "\\downloads\\"_L1};
 constexpr std::array DownloadedPackages = {".exe"_L1, ".msi"_L1, ".zip"_L1, ".7z"_L1};
-
-template <typename Patterns>
-bool containsAny(const QString &text, const Patterns &patterns)
-{
-    return std::any_of(patterns.begin(), patterns.end(),
-                       [&text](QLatin1StringView pattern) { return text.contains(pattern); });
-}
-
-template <typename Patterns>
-bool endsWithAny(const QString &text, const Patterns &patterns)
-{
-    return std::any_of(patterns.begin(), patterns.end(),
-                       [&text](QLatin1StringView pattern) { return text.endsWith(pattern); });
-}
 
 QStringView fileNameOf(QStringView path)
 {
