@@ -35,7 +35,7 @@ private Q_SLOTS:
 
     void nameThatMeansSomethingElseIsUnsafe_data();
     void nameThatMeansSomethingElseIsUnsafe();
-    void systemProgramGoesBeforeOneBesideThisProgram();
+    void programBesideThisOneIsNeverStarted();
     void shellLinkWorksOnAThreadOfAnyMode_data();
     void shellLinkWorksOnAThreadOfAnyMode();
     void foldersAreTheSystemsOwn();
@@ -81,15 +81,22 @@ void SystemTest::nameThatMeansSomethingElseIsUnsafe()
     QVERIFY(Platform::isUnsafeRelativePath(u"Documents\\"_s + path));
 }
 
-void SystemTest::systemProgramGoesBeforeOneBesideThisProgram()
+void SystemTest::programBesideThisOneIsNeverStarted()
 {
-    const QString beside = QCoreApplication::applicationDirPath() + u"/reg.exe"_s;
+    const QString place = QCoreApplication::applicationDirPath() + u'/';
+    const QString beside = place + u"reg.exe"_s;
     QVERIFY(QFile::copy(helperProgram() + u".exe"_s, beside));
     const auto remove = qScopeGuard([&beside] { QFile::remove(beside); });
     for (const QString &name : {u"reg"_s, u"reg.exe"_s, u"REG.EXE"_s}) {
         const auto result = Platform::runProgram(name, {u"query"_s, u"HKEY_CURRENT_USER\\no\\such\\key"_s});
         QVERIFY(result.finished);
         QCOMPARE(result.exitCode, 1);
+    }
+    for (const QString &name : {u"platform_helper"_s, u"platform_helper.exe"_s}) {
+        QVERIFY(!Platform::runProgram(name, {}).finished);
+        ScopedEnvironment environment;
+        environment.set("PATH", QFile::encodeName(place) + ';' + qgetenv("PATH"));
+        QVERIFY(Platform::runProgram(name, {}).finished);
     }
 }
 
