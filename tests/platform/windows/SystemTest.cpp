@@ -4,7 +4,6 @@
 
 #include "platform/Drives.h"
 #include "platform/ExternalProgram.h"
-#include "platform/FileAttributes.h"
 #include "platform/Identity.h"
 #include "platform/LastError.h"
 #include "platform/Registry.h"
@@ -35,8 +34,6 @@ private Q_SLOTS:
     void init() { m_pc = std::make_unique<SimulatedPc>(); }
     void cleanup() { m_pc.reset(); }
 
-    void nameThatMeansSomethingElseIsUnsafe_data();
-    void nameThatMeansSomethingElseIsUnsafe();
     void programBesideThisOneIsNeverStarted();
     void shellLinkWorksOnAThreadOfAnyMode_data();
     void shellLinkWorksOnAThreadOfAnyMode();
@@ -48,40 +45,6 @@ private Q_SLOTS:
 private:
     std::unique_ptr<SimulatedPc> m_pc;
 };
-
-void SystemTest::nameThatMeansSomethingElseIsUnsafe_data()
-{
-    QTest::addColumn<QString>("path");
-
-    for (const char *path : {"CON",
-                             "a/nul",
-                             "NUL.txt",
-                             "aux.tar.gz",
-                             "com1",
-                             "LPT9.log",
-                             "COM\u00b2",
-                             "conin$",
-                             "nul .txt",
-                             "PRN/x",
-                             "a:b",
-                             "C:/x",
-                             "file.txt:stream",
-                             "t.txt.",
-                             "t.txt ",
-                             "a./b",
-                             "a /b",
-                             "...",
-                             " ",
-                             "./a"})
-        QTest::newRow(path) << QString::fromUtf8(path);
-}
-
-void SystemTest::nameThatMeansSomethingElseIsUnsafe()
-{
-    QFETCH(QString, path);
-    QVERIFY(Platform::isUnsafeRelativePath(path));
-    QVERIFY(Platform::isUnsafeRelativePath(u"Documents\\"_s + path));
-}
 
 void SystemTest::programBesideThisOneIsNeverStarted()
 {
