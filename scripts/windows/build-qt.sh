@@ -15,16 +15,18 @@ trap 'rm -rf "$work"' EXIT
 # Source packages from where the machine has its binary ones; the machine's own lists stay as they are.
 apt_options=()
 prepare_sources() {
-    local list sources
-    mkdir -p "$work/lists/partial" "$work/sources"
-    for list in /etc/apt/sources.list /etc/apt/sources.list.d/*.list; do
-        [ ! -f "$list" ] || sed -nE 's/^deb( +\[[^]]*\])? /deb-src\1 /p' "$list" >"$work/sources/$(basename "$list" .list).list"
+    mkdir -p "$work/lists/partial" "$work/sources.d"
+    local file
+    for file in /etc/apt/sources.list /etc/apt/sources.list.d/*; do
+        [ -f "$file" ] || continue
+        case $file in
+            *.list) sed -nE 's/^deb( |\t)/deb-src\1/p' "$file" >"$work/sources.d/$(basename "$file")" ;;
+            *.sources) sed -E 's/^Types:.*/Types: deb-src/' "$file" >"$work/sources.d/$(basename "$file")" ;;
+        esac
     done
-    for sources in /etc/apt/sources.list.d/*.sources; do
-        [ ! -f "$sources" ] || sed -E 's/^Types:.*/Types: deb-src/' "$sources" >"$work/sources/$(basename "$sources")"
-    done
-    apt_options=(-o "Dir::Etc::SourceList=-" -o "Dir::Etc::SourceParts=$work/sources"
+    apt_options=(-o "Dir::Etc::SourceList=-" -o "Dir::Etc::SourceParts=$work/sources.d"
         -o "Dir::State::Lists=$work/lists" -o "APT::Sandbox::User=root")
+    # A vendor without sources is no matter when the packages can be had all the same.
     apt-get "${apt_options[@]}" -q update || true
 }
 
