@@ -3,6 +3,7 @@
 #include <QAccessibleWidget>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QWidget>
 
 namespace Zandrove {
 
