@@ -49,7 +49,7 @@ QLabel *makeCircle()
     constexpr int Diameter = 72;
     QLabel *circle = makeLabel(u"✓"_s, 36, Theme::Colour::Success);
     circle->setStyleSheet(circle->styleSheet() +
-                          Theme::boxProperties(Theme::Colour::SuccessSoftTint, Diameter / 2));
+                          Theme::boxStyle("QLabel"_L1, Theme::Colour::SuccessSoftTint, Diameter / 2));
     circle->setFixedSize(Diameter, Diameter);
     circle->setAlignment(Qt::AlignCenter);
     return circle;
@@ -269,7 +269,7 @@ QWidget *CompletePage::createFolderRow(const SavedFolderEntry &entry)
     texts->addWidget(path);
     if (!entry.sample.isEmpty()) {
         auto *sample = new ElidedLabel(printable(entry.sample), 10, Theme::Colour::TextFaint);
-        sample->setStyleSheet(sample->styleSheet() + u" font-style: italic;"_s);
+        sample->setStyleSheet(sample->styleSheet() + u" QLabel { font-style: italic; }"_s);
         texts->addWidget(sample);
     }
 
