@@ -1,6 +1,7 @@
 // Renders the window in its notable states to PNG files: zandrove-gallery FOLDER. Each state is reached
 // through the window's own ways: its buttons, and what the engine would tell it.
 
+#include "SilentEngine.h"
 #include "WizardView.h"
 
 #include "core/app/StartUp.h"
@@ -58,16 +59,6 @@ struct Stage
 
     /// Lets rows find their places.
     static void settle() { QCoreApplication::processEvents(); }
-
-    static LinkEnvironment silentEnvironment()
-    {
-        LinkEnvironment environment;
-        environment.tcpPort = 0;
-        environment.udpPort = 0;
-        environment.adapters = [] { return QList<NetworkAdapter>(); };
-        environment.sendDatagram = [](const QByteArray &, const QHostAddress &, quint16) {};
-        return environment;
-    }
 
     void choose(int role)
     {
