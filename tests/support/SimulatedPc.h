@@ -48,7 +48,8 @@ public:
 
     /// Adds keys and values to the registry, in the text form of a .reg file without its header line.
     void addRegistry(const QString &text);
-    /// The registry at `key` and below, in that text form with the header line; everything for an empty key.
+    /// The registry at `key` and below, in that text form with the header line; on a made-up PC everything
+    /// for an empty key.
     [[nodiscard]] QString registryText(const QString &key = QString()) const;
 
     /// Whether the programs are stand-ins and the registry is a file; what follows is of use only then.
