@@ -54,10 +54,6 @@ public:
     virtual void error(const QString &message) = 0;
 };
 
-/// `text` without the characters that would steer a terminal, break a line or reorder what stands around
-/// them: names come from other PCs. Each is shown as U+FFFD.
-[[nodiscard]] QString printable(const QString &text);
-
 /// What the user is asked when `name` wants to be let in; no line end.
 [[nodiscard]] QByteArray questionAbout(const QString &name);
 

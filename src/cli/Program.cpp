@@ -9,6 +9,7 @@
 #include "cli/TextOutput.h"
 #include "core/engine/TransferEngine.h"
 #include "platform/Terminal.h"
+#include "support/PrintableText.h"
 
 #include <QCoreApplication>
 

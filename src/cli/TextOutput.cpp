@@ -1,5 +1,6 @@
 #include "cli/TextOutput.h"
 
+#include "support/PrintableText.h"
 #include "support/Utilities.h"
 
 #include <algorithm>

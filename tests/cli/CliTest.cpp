@@ -6,6 +6,7 @@
 #include "cli/PeerMatch.h"
 #include "cli/RunResults.h"
 #include "cli/TextOutput.h"
+#include "support/PrintableText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>

@@ -144,4 +144,12 @@ QString initTranslation()
     return language;
 }
 
+QString styleSheet(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return {};
+    return QString::fromUtf8(file.readAll());
+}
+
 } // namespace Zandrove::StartUp

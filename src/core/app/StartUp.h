@@ -35,4 +35,7 @@ bool installTranslation(const QString &applicationDir, const QString &language);
 /// when there is no translation into it.
 QString initTranslation();
 
+/// The style sheet of the window, out of the resource at `path`; empty when it cannot be read.
+[[nodiscard]] QString styleSheet(const QString &path = QStringLiteral(":/styles/style.qss"));
+
 } // namespace Zandrove::StartUp

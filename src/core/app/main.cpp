@@ -1,0 +1,31 @@
+#include "core/app/StartUp.h"
+#include "core/common/License.h"
+#include "support/LinkManager.h"
+#include "ui/MainWindow.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QIcon>
+
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using namespace Zandrove;
+
+int main(int argc, char *argv[])
+{
+    const QApplication application(argc, argv);
+    QApplication::setWindowIcon(QIcon(u":/icons/app.png"_s));
+    StartUp::setIdentity();
+    StartUp::ensureFirewallRules();
+    StartUp::registerMetaTypes();
+    LinkManager::instance().setLanguage(StartUp::initTranslation());
+    if (const QString styleSheet = StartUp::styleSheet(); !styleSheet.isEmpty())
+        qApp->setStyleSheet(styleSheet);
+    const bool registered = License::ofThisCopy().isRegistered();
+    qDebug() << "[Main] Registered:" << registered;
+
+    const auto window = std::make_unique<MainWindow>(nullptr);
+    window->show();
+    return QApplication::exec();
+}

@@ -1,0 +1,227 @@
+"""Two people move a PC with the window alone."""
+
+import time
+
+import pcs
+import wizard
+
+FILM = 24 << 20
+SLOW = 40  # megabit a second
+CLOSING = 6.0  # seconds that the end of a window may take
+
+
+class WizardTest(pcs.TestCase):
+    def setUp(self):
+        self.pair = self.two_pcs()
+        home = self.pair.old.home
+        self.work = pcs.small_tree(home / "Documents" / "Work")
+        pcs.write_file(self.work / "film.bin", FILM)
+        self.album = pcs.small_tree(home / "Documents" / "Größe 写真", count=12, seed=7)
+        pcs.small_tree(home / "Documents" / "Not ticked", count=3)
+
+    def window(self, pc):
+        window = wizard.Wizard(pc, pc.name)
+        self.addCleanup(window.end)
+        return window
+
+    def both(self):
+        return self.window(self.pair.old), self.window(self.pair.new)
+
+    def to_connection(self, window, role):
+        window.picture("0-welcome")
+        window.click("Next")
+        window.wait(page=1)
+        window.click(role)
+        window.picture("1-role")
+        window.click("Next")
+        window.wait(page=2)
+
+    def pair_up(self, old, new):
+        """From the first page to a link: the Old PC's user types the code, the New PC's user says yes."""
+        self.to_connection(new, "New PC")
+        self.to_connection(old, "Old PC")
+        old.wait(text="NewBox")
+        old.click("Their code, character 1")
+        old.type(new.code())
+        old.picture("2-connection")
+        old.click("Connect")
+        new.wait(dialog="Connection Request", text="OldBox")
+        new.picture("2-question")
+        new.click("Yes")
+
+    def to_selection(self, old, new):
+        self.pair_up(old, new)
+        new.wait(page=5, text="Waiting for Data")
+        old.picture("3-scanning")
+        old.wait(page=4)
+        old.picture("4-applications")
+
+    def tick(self, old, *folders):
+        """From the tab of the applications on."""
+        old.click(next(text for text in old.tabs() if text.startswith("Files")))
+        old.do("clickListEntry", "My Documents")
+        for folder in folders:
+            old.do("clickFolder", folder)
+        old.wait(enabled="Next")
+        old.picture("4-files")
+
+    def assertMoved(self, folder):
+        self.assertSameTree(folder, self.pair.new.home / "Documents" / folder.name)
+
+    def assertCloses(self, *windows, by_system=False):
+        for window in windows:
+            began = time.monotonic()
+            code = window.close_by_system() if by_system else window.close()
+            self.assertEqual(code, 0, window.log[-4000:])
+            self.assertLess(time.monotonic() - began, CLOSING)
+
+    def test_by_mouse_with_pause_and_a_second_transfer(self):
+        old, new = self.both()
+        self.to_selection(old, new)
+        new.picture("5-waiting")
+        self.tick(old, self.work)
+        self.pair.limit_speed(SLOW)
+        old.click("Next")
+        for window, title in ((old, "Sending"), (new, "Receiving")):
+            window.wait(page=5, text=f"^{title} Data - [1-9]")
+            window.picture("5-transfer")
+
+        old.click("Pause")
+        new.wait(text="Receiving Paused", enabled="Resume")
+        new.picture("5-paused")
+        old.picture("5-paused")
+        new.click("Resume")
+        old.wait(enabled="Pause")
+        self.pair.free_speed()
+        old.wait(page=6, text="Transfer Complete!")
+        new.wait(page=6, text="Files saved to:")
+        for window in (old, new):
+            window.picture("6-complete")
+        self.assertMoved(self.work)
+
+        old.click("Send More Files...")
+        old.wait(page=4)
+        new.wait(page=5, text=r"^Waiting\.\.\.$")
+        old.click("Clear")
+        self.tick(old, self.album)
+        old.click("Next")
+        for window in (old, new):
+            window.wait(page=6, text="Transfer Complete!")
+        self.assertMoved(self.album)
+        self.assertFalse((self.pair.new.home / "Documents" / "Not ticked").exists())
+
+        old.click("Finished")
+        for window in (old, new):
+            window.wait(page=1)
+        self.assertCloses(old, new)
+
+    def test_by_keyboard(self):
+        old, new = self.both()
+        for window, role in ((new, "New PC"), (old, "Old PC")):
+            window.tab_to("Next")
+            window.key("Return")
+            window.wait(page=1)
+            window.tab_to(role)
+            window.key("Space")
+            window.picture("keyboard-1-role")
+            window.tab_to("Next")
+            window.key("Space")
+        old.wait(text="NewBox")
+        old.tab_to("Their code, character 1")
+        old.type(new.code())
+        self.assertEqual(old.do("state")["focus"], "Connect")
+        old.key("Return")
+        new.wait(dialog="Connection Request")
+        new.key("Return")
+        new.wait(page=5)
+
+        old.wait(page=4)
+        old.tab_to(old.tabs()[0])
+        old.key("Right")
+        old.tab_to("Quick Access")
+        old.key("Home", "Return")
+        old.tab_to("Select folders to transfer")
+        old.key("Home", "Down", "Space")
+        old.wait(enabled="Next")
+        old.picture("keyboard-4-files")
+        old.tab_to("Next")
+        old.key("Return")
+        for window in (old, new):
+            window.wait(page=6)
+        old.tab_to("Finished")
+        old.key("Return")
+        for window in (old, new):
+            window.wait(page=1)
+        self.assertMoved(self.album)
+
+    def test_cancel_by_either_side(self):
+        old, new = self.both()
+        self.to_selection(old, new)
+        self.tick(old, self.work)
+        self.pair.limit_speed(SLOW)
+        old.click("Next")
+        new.wait(page=5, text="^Receiving Data - [1-9]")
+        new.click("Cancel")
+        new.wait(dialog="Cancel Transfer")
+        new.picture("5-cancel-question")
+        new.click("Yes, Cancel")
+        old.wait(page=4)
+        new.wait(page=5, text="Waiting for Data")
+
+        old.click("Next")
+        old.wait(page=5, text="^Sending Data - [1-9]")
+        old.click("Cancel", "Yes, Cancel")
+        old.wait(page=4)
+        new.wait(page=5, text="Sender cancelled")
+
+        self.pair.free_speed()
+        old.click("Next")
+        for window in (old, new):
+            window.wait(page=6)
+        self.assertMoved(self.work)
+
+    def test_close_on_the_pages_before_the_link(self):
+        old, new = self.both()
+        self.assertCloses(old)
+        old = self.window(self.pair.old)
+        old.click("Next")
+        self.assertCloses(old)
+        old = self.window(self.pair.old)
+        self.to_connection(old, "Old PC")
+        self.to_connection(new, "New PC")
+        old.wait(text="NewBox")
+        old.click("Their code, character 1")
+        old.type(new.code())
+        old.click("Connect")
+        new.wait(dialog="Connection Request")
+        self.assertCloses(old)
+        self.assertCloses(new, by_system=True)
+
+    def test_close_while_scanning_and_choosing(self):
+        old, new = self.both()
+        self.pair_up(old, new)
+        old.wait(page=3)
+        self.assertCloses(old)
+        new.wait(page=5)
+        self.assertCloses(new)
+
+        old, new = self.both()
+        self.to_selection(old, new)
+        self.assertCloses(new, old)
+
+    def test_close_in_mid_transfer(self):
+        for closes_old in (True, False):
+            with self.subTest(closes_old=closes_old):
+                old, new = self.both()
+                self.to_selection(old, new)
+                self.tick(old, self.work)
+                self.pair.limit_speed(SLOW)
+                old.click("Next")
+                old.wait(page=5, text="^Sending Data - [1-9]")
+                new.wait(page=5, text="^Receiving Data - [1-9]")
+                self.assertCloses(*((old, new) if closes_old else (new, old)))
+                self.pair.free_speed()
+
+
+if __name__ == "__main__":
+    pcs.main()

@@ -1,0 +1,402 @@
+// Renders the window in its notable states to PNG files: zandrove-gallery FOLDER. Each state is reached
+// through the window's own ways: its buttons, and what the engine would tell it.
+
+#include "SilentEngine.h"
+#include "WizardView.h"
+
+#include "core/app/StartUp.h"
+#include "core/engine/TransferEngine.h"
+#include "peer/NetworkManager.h"
+#include "support/Utilities.h"
+#include "ui/MainWindow.h"
+#include "ui/pages/ConnectionPage.h"
+#include "ui/pages/ScanningPage.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QMessageBox>
+#include <QTabWidget>
+#include <QTest>
+#include <QTextStream>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using namespace Zandrove;
+
+namespace {
+
+constexpr auto LookInterval = 20ms;
+constexpr auto SettlingTime = 100ms;
+
+PCInfo peer(const QString &name, const QString &ip, bool online = true)
+{
+    PCInfo pc;
+    pc.id = name;
+    pc.name = name;
+    pc.ip = ip;
+    pc.os = u"Windows 11 Pro 23H2 (Build 22631)"_s;
+    pc.online = online;
+    return pc;
+}
+
+/// A window on a PC that hears and is heard by nobody.
+struct Stage
+{
+    Stage()
+        : engine(new TransferEngine(nullptr, silentEnvironment()))
+        , window(nullptr, License::ofThisCopy(), engine)
+        , view(&window)
+    {
+        window.show();
+        window.activateWindow();
+        settle();
+    }
+
+    /// Lets rows find their places.
+    static void settle() { QCoreApplication::processEvents(); }
+
+    void choose(int role)
+    {
+        view.click(u"Next"_s);
+        view.click(role == OldPC ? u"Old PC"_s : u"New PC"_s);
+    }
+
+    void connectTo(int role)
+    {
+        choose(role);
+        view.click(u"Next"_s);
+    }
+
+    void select()
+    {
+        connectTo(OldPC);
+        Q_EMIT engine->connected();
+        Q_EMIT engine->scanCompleted(scanResult());
+        Q_EMIT window.findChild<ScanningPage *>()->scanFinished();
+    }
+
+    void transfer(int role)
+    {
+        if (role == NewPC) {
+            connectTo(NewPC);
+            Q_EMIT window.findChild<ConnectionPage *>()->requestAutoAdvance();
+            return;
+        }
+        select();
+        view.click(u"Select All Applications"_s);
+        view.click(u"Next"_s);
+    }
+
+    void transferSome(int role)
+    {
+        transfer(role);
+        for (const char *done :
+             {"Documents/letter.odt", "Documents/Größe ä ö ü.txt", "Pictures/写真 2024.jpg"}) {
+            Q_EMIT engine->fileTransferStarted(QString::fromUtf8(done));
+            Q_EMIT engine->fileTransferCompleted(QString::fromUtf8(done));
+        }
+        Q_EMIT engine->fileTransferStarted(u"Pictures/locked.raw"_s);
+        Q_EMIT engine->fileTransferFailed(u"Pictures/locked.raw"_s, u"unreadable"_s);
+        Q_EMIT engine->fileTransferStarted(u"Videos/<b>holiday</b> in the mountains.mp4"_s);
+        Q_EMIT engine->fileTransferProgress(u"Videos/<b>holiday</b> in the mountains.mp4"_s, 60);
+        TransferProgress progress;
+        progress.overallPercent = 42;
+        progress.bytesPerSecond = 58.3 * 1024 * 1024;
+        progress.remainingSeconds = 754;
+        progress.transferredBytes = 34LL << 30;
+        progress.totalBytes = 81LL << 30;
+        progress.failedItems = 1;
+        Q_EMIT engine->transferProgressChanged(progress);
+    }
+
+    void finish(int role, const MigrationReport &report)
+    {
+        transferSome(role);
+        Q_EMIT engine->transferCompleted(report);
+    }
+
+    /// Finds a PC whose user does not answer, and picks it.
+    void dialSilentPeer(int role)
+    {
+        LinkEnvironment environment = silentEnvironment();
+        environment.sendDatagram = [this](const QByteArray &datagram, const QHostAddress &, quint16) {
+            announcement = datagram;
+        };
+        silentPeer = std::make_unique<TransferEngine>(nullptr, environment);
+        silentPeer->setRole(role == OldPC ? NewPC : OldPC);
+        silentPeer->startDiscovery();
+        engine->findChild<NetworkManager *>()->handleDatagram(announcement, QHostAddress(u"127.0.0.2"_s));
+        settle();
+        view.click(getComputerName());
+    }
+
+    static ScanResult scanResult();
+
+    QByteArray announcement; ///< the last one of the silent peer
+    std::unique_ptr<TransferEngine> silentPeer;
+    TransferEngine *engine;
+    MainWindow window;
+    WizardView view;
+};
+
+ScanResult Stage::scanResult()
+{
+    ScanResult result;
+    const auto addApp = [&result](const QString &name, const QString &version, qint64 size,
+                                  bool canTransfer) {
+        AppInfo app;
+        app.name = name;
+        app.version = version;
+        app.size = size;
+        app.canTransfer = canTransfer;
+        result.apps.append(app);
+    };
+    addApp(u"Photo Workshop"_s, u"12.4.1"_s, 3LL << 30, true);
+    addApp(u"Office Suite Professional"_s, u"24.2"_s, 2LL << 30, true);
+    addApp(u"System Runtime"_s, u"6.0.1"_s, 180LL << 20, false);
+    addApp(u"An application whose maker could not stop writing its name before the row was full of it"_s,
+           u"1.0.0.0-beta.17"_s, 90LL << 20, true);
+    for (int index = 1; index <= 8; ++index)
+        addApp(u"Little Helper %1"_s.arg(index), u"%1.0"_s.arg(index), qint64(index) << 20, true);
+    for (const char *name : {"anna", "bruno"}) {
+        AccountInfo account;
+        account.userName = QString::fromUtf8(name);
+        account.accountType = u"Local User"_s;
+        result.accounts.append(account);
+    }
+    for (const char *name : {"Desktop Wallpaper", "Mouse Settings", "Keyboard Settings", "Power Plan"}) {
+        SettingInfo setting;
+        setting.id = QString::fromUtf8(name);
+        setting.name = setting.id;
+        result.settings.append(setting);
+    }
+    return result;
+}
+
+MigrationReport goodReport()
+{
+    MigrationReport report;
+    report.filesSuccess = 1834;
+    report.appsSuccess = 12;
+    report.settingsSuccess = 7;
+    return report;
+}
+
+MigrationReport reportWithFolders()
+{
+    MigrationReport report = goodReport();
+    const auto addFolder = [&report](const QString &name, const QString &path, int count,
+                                     const QString &sample) {
+        report.savedFolderPaths[name] = path;
+        report.savedFolderCounts[name] = count;
+        report.savedFolderSamples[name] = sample;
+    };
+    addFolder(u"Documents"_s, u"C:/Users/anna/Documents"_s, 1204,
+              u"(letter.odt, taxes.ods, notes.txt, ...)"_s);
+    addFolder(u"Pictures"_s, u"C:/Users/anna/Pictures"_s, 611, u"(写真 2024.jpg, Größe.png)"_s);
+    addFolder(u"<b>Projects</b>"_s,
+              u"C:/Users/anna/Downloads/Zandrove/a folder that lies deep down/and deeper still/in a tree of "
+              "folders/that goes on and on/Projects"_s,
+              19, QString());
+    return report;
+}
+
+struct Scene
+{
+    QString name;
+    std::function<void(Stage &)> arrange;
+};
+
+void listPeers(Stage &stage)
+{
+    Q_EMIT stage.engine->pcDiscovered(peer(u"ANNAS-LAPTOP"_s, u"192.168.1.23"_s));
+    Q_EMIT stage.engine->pcDiscovered(
+        peer(u"<img src='x'> a name far too long for the list that it stands in"_s, u"192.168.1.40"_s));
+    Q_EMIT stage.engine->pcDiscovered(peer(u"OFFICE-PC"_s, u"192.168.1.7"_s, false));
+}
+
+void showTab(Stage &stage, int index)
+{
+    stage.select();
+    stage.window.findChild<QTabWidget *>()->setCurrentIndex(index);
+}
+
+/// Pages that look the same on both PCs but for their roles.
+QList<Scene> connectionScenes(int role)
+{
+    const QString pc = role == OldPC ? u"old"_s : u"new"_s;
+    return {
+        {u"2-connection-%1-empty"_s.arg(pc), [role](Stage &stage) { stage.connectTo(role); }},
+        {u"2-connection-%1-listing"_s.arg(pc),
+         [role](Stage &stage) {
+             stage.connectTo(role);
+             listPeers(stage);
+         }},
+        {u"2-connection-%1-connecting"_s.arg(pc),
+         [role](Stage &stage) {
+             stage.connectTo(role);
+             stage.dialSilentPeer(role);
+         }},
+        {u"2-connection-%1-failed"_s.arg(pc),
+         [role](Stage &stage) {
+             stage.connectTo(role);
+             listPeers(stage);
+             Q_EMIT stage.engine->connectionFailed(u"Connection rejected by peer"_s);
+         }},
+        {u"2-connection-%1-direct-scan"_s.arg(pc),
+         [role](Stage &stage) {
+             stage.connectTo(role);
+             Q_EMIT stage.engine->directScanStarted();
+             Q_EMIT stage.engine->directScanProgress(96, 254);
+         }},
+        {u"2-connection-%1-question"_s.arg(pc),
+         [role](Stage &stage) {
+             stage.connectTo(role);
+             Q_EMIT stage.engine->connectionRequested(u"<b>ANNAS-LAPTOP</b>"_s, QString());
+         }},
+    };
+}
+
+QList<Scene> transferScenes(int role)
+{
+    const QString pc = role == OldPC ? u"old"_s : u"new"_s;
+    return {
+        {u"5-transfer-%1-begin"_s.arg(pc),
+         [role](Stage &stage) {
+             stage.transfer(role);
+             stage.settle(); // without a link it has failed by now
+             if (role == OldPC)
+                 Q_EMIT stage.engine->transferProgressChanged({});
+         }},
+        {u"5-transfer-%1-running"_s.arg(pc), [role](Stage &stage) { stage.transferSome(role); }},
+        {u"5-transfer-%1-paused"_s.arg(pc),
+         [role](Stage &stage) {
+             stage.transferSome(role);
+             Q_EMIT stage.engine->pausedByPeer();
+         }},
+        {u"5-transfer-%1-failed"_s.arg(pc),
+         [role](Stage &stage) {
+             stage.transferSome(role);
+             Q_EMIT stage.engine->transferFailed(u"the peer is gone"_s);
+         }},
+        {u"5-transfer-%1-cancel-question"_s.arg(pc),
+         [role](Stage &stage) {
+             stage.transferSome(role);
+             stage.view.click(u"Cancel"_s);
+         }},
+        {u"5-transfer-%1-cancelled-by-peer"_s.arg(pc),
+         [role](Stage &stage) {
+             stage.transferSome(role);
+             Q_EMIT stage.engine->peerCancelled();
+         }},
+    };
+}
+
+QList<Scene> scenes()
+{
+    QList<Scene> scenes = {
+        {u"0-welcome-network"_s, [](Stage &) {}},
+        {u"0-welcome-cable"_s, [](Stage &stage) { stage.view.click(u"Cable Mode"_s); }},
+        {u"0-welcome-menu"_s, [](Stage &stage) { stage.view.click(u"Menu"_s); }},
+        {u"0-welcome-keyboard"_s, [](Stage &stage) { stage.view.press(Qt::Key_Tab); }},
+        {u"1-role-none"_s, [](Stage &stage) { stage.view.click(u"Next"_s); }},
+        {u"1-role-old"_s, [](Stage &stage) { stage.choose(OldPC); }},
+        {u"1-role-new"_s, [](Stage &stage) { stage.choose(NewPC); }},
+        {u"3-scanning-begin"_s,
+         [](Stage &stage) {
+             stage.connectTo(OldPC);
+             Q_EMIT stage.engine->connected();
+         }},
+        {u"3-scanning-running"_s,
+         [](Stage &stage) {
+             stage.connectTo(OldPC);
+             Q_EMIT stage.engine->connected();
+             Q_EMIT stage.engine->scanProgress(64, u"Photo Workshop"_s, 23, 0, 2);
+         }},
+        {u"3-scanning-done"_s,
+         [](Stage &stage) {
+             stage.connectTo(OldPC);
+             Q_EMIT stage.engine->connected();
+             Q_EMIT stage.engine->scanCompleted(Stage::scanResult());
+         }},
+        {u"4-selection-apps"_s, [](Stage &stage) { stage.select(); }},
+        {u"4-selection-apps-ticked"_s,
+         [](Stage &stage) {
+             stage.select();
+             stage.view.click(u"Photo Workshop"_s);
+         }},
+        {u"4-selection-files"_s,
+         [](Stage &stage) {
+             showTab(stage, 1);
+             stage.view.clickListEntry(u"My Documents"_s);
+         }},
+        {u"4-selection-settings"_s, [](Stage &stage) { showTab(stage, 2); }},
+        {u"4-selection-empty"_s,
+         [](Stage &stage) {
+             stage.select();
+             Q_EMIT stage.engine->scanCompleted({});
+         }},
+        {u"6-complete-old"_s, [](Stage &stage) { stage.finish(OldPC, goodReport()); }},
+        {u"6-complete-new-folders"_s, [](Stage &stage) { stage.finish(NewPC, reportWithFolders()); }},
+        {u"6-complete-new-no-folders"_s, [](Stage &stage) { stage.finish(NewPC, {}); }},
+    };
+    for (int role : {OldPC, NewPC})
+        scenes += connectionScenes(role) + transferScenes(role);
+    return scenes;
+}
+
+/// Makes the picture once the scene stands, or a dialog or menu of it stands open, and all that is queued has
+/// arrived.
+bool render(const Scene &scene, const QString &file)
+{
+    Stage stage;
+    bool arranged = false;
+    bool saved = false;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &stage.window, [&] {
+        if (!arranged && stage.view.front() == &stage.window)
+            return;
+        look.stop();
+        QTimer::singleShot(SettlingTime, &stage.window, [&] {
+            saved = stage.view.picture().save(file);
+            QApplication::exit();
+        });
+    });
+    QTimer::singleShot(0, &stage.window, [&] {
+        scene.arrange(stage);
+        arranged = true;
+    });
+    look.start(LookInterval);
+    QApplication::exec();
+    return saved;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication application(argc, argv);
+    StartUp::setIdentity();
+    StartUp::registerMetaTypes();
+    application.setStyleSheet(StartUp::styleSheet());
+    application.setQuitOnLastWindowClosed(false);
+
+    const QDir folder(QApplication::arguments().value(1));
+    const QString only = QApplication::arguments().value(2);
+    int failures = 0;
+    for (const Scene &scene : scenes()) {
+        if (!scene.name.contains(only))
+            continue;
+        const QString file = folder.filePath(scene.name + u".png"_s);
+        if (!render(scene, file)) {
+            QTextStream(stderr) << "zandrove-gallery: cannot write " << file << Qt::endl;
+            ++failures;
+        }
+    }
+    return failures == 0 ? 0 : 1;
+}

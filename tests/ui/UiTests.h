@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QObject>
+
+QObject *makeConnectionPageTest();
+QObject *makeDrawingTest();
+QObject *makeMainWindowTest();
+QObject *makeRunPagesTest();
+QObject *makeSelectionPagesTest();
+QObject *makeWidgetsTest();
