@@ -65,6 +65,7 @@ private Q_SLOTS:
     void backFromSelectionScansAnew();
     void unregisteredCopyDoesNotSend();
     void focusGoesAlongToTheNextPage();
+    void tabGoesFromThePageOverTheNavigationToTheTitleBar();
 
 private:
     [[nodiscard]] int page() const
@@ -318,6 +319,16 @@ void MainWindowTest::focusGoesAlongToTheNextPage()
         QVERIFY(m_window->focusWidget());
         QVERIFY2(shown->isAncestorOf(m_window->focusWidget()), QByteArray::number(at).constData());
     }
+}
+
+void MainWindowTest::tabGoesFromThePageOverTheNavigationToTheTitleBar()
+{
+    QStringList names;
+    for (int step = 0; step < 8; ++step) {
+        names.append(m_window->focusWidget()->accessibleName());
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(names, u"Network Mode,Cable Mode,Next,Menu,Minimize,Maximize,Close,Network Mode"_s.split(u','));
 }
 
 QObject *makeMainWindowTest()
