@@ -14,6 +14,7 @@
 #include <QActionGroup>
 #include <QFile>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
@@ -86,14 +87,38 @@ void ChromeTest::cleanup()
 
 void ChromeTest::resourcesAreThere()
 {
-    for (const QString &name :
-         {u"arrow-left"_s,  u"arrow-right"_s,  u"cable"_s,           u"cable-gray"_s,       u"cable-white"_s,
-          u"check"_s,       u"computer"_s,     u"checkbox-checked"_s, u"checkbox-partial"_s, u"desktop"_s,
-          u"documents"_s,   u"chevron-down"_s, u"checkbox-unchecked"_s, u"chevron-right"_s,  u"close"_s,
-          u"downloads"_s,   u"drive"_s,        u"folder"_s,          u"maximize"_s,         u"minimize"_s,
-          u"monitor"_s,     u"music"_s,        u"pause"_s,           u"pictures"_s,         u"refresh"_s,
-          u"settings"_s,    u"user"_s,         u"videos"_s,          u"wifi"_s,             u"wifi-gray"_s,
-          u"wifi-white"_s,  u"app"_s})
+    for (const QString &name : {u"arrow-left"_s,
+                                u"arrow-right"_s,
+                                u"cable"_s,
+                                u"cable-gray"_s,
+                                u"cable-white"_s,
+                                u"check"_s,
+                                u"computer"_s,
+                                u"checkbox-checked"_s,
+                                u"checkbox-partial"_s,
+                                u"desktop"_s,
+                                u"documents"_s,
+                                u"chevron-down"_s,
+                                u"checkbox-unchecked"_s,
+                                u"chevron-right"_s,
+                                u"close"_s,
+                                u"downloads"_s,
+                                u"drive"_s,
+                                u"folder"_s,
+                                u"maximize"_s,
+                                u"minimize"_s,
+                                u"monitor"_s,
+                                u"music"_s,
+                                u"pause"_s,
+                                u"pictures"_s,
+                                u"refresh"_s,
+                                u"settings"_s,
+                                u"user"_s,
+                                u"videos"_s,
+                                u"wifi"_s,
+                                u"wifi-gray"_s,
+                                u"wifi-white"_s,
+                                u"app"_s})
         QVERIFY2(QSvgRenderer(u":/icons/%1.svg"_s.arg(name)).isValid(), qPrintable(name));
     QVERIFY(QFile::exists(u":/icons/app.ico"_s));
     QVERIFY(QFile::exists(u":/styles/style.qss"_s));
@@ -143,11 +168,13 @@ void ChromeTest::activateIsOfferedToOldPcs()
 void ChromeTest::menuLeavesBySignals()
 {
     const QList<std::pair<QString, void (TitleBar::*)()>> entries = {
-        {u"ℹ️  About"_s, &TitleBar::aboutClicked},    {u"🔑  Register"_s, &TitleBar::activateClicked},
-        {u"🛒  Purchase"_s, &TitleBar::purchaseClicked}, {u"❓  Help"_s, &TitleBar::helpClicked},
+        {u"ℹ️  About"_s, &TitleBar::aboutClicked},
+        {u"🔑  Register"_s, &TitleBar::activateClicked},
+        {u"🛒  Purchase"_s, &TitleBar::purchaseClicked},
+        {u"❓  Help"_s, &TitleBar::helpClicked},
         {u"💬  Support"_s, &TitleBar::supportClicked}};
     QStringList texts;
-    for (QAction *action : m_bar->findChild<QMenu *>(Qt::FindDirectChildrenOnly)->actions()) {
+    for (QAction *action : m_bar->findChild<QMenu *>(QString(), Qt::FindDirectChildrenOnly)->actions()) {
         texts.append(action->text());
         for (const auto &[text, signal] : entries) {
             const QSignalSpy told(m_bar, signal);
@@ -200,8 +227,8 @@ void ChromeTest::frameIsPainted_data()
     QTest::newRow("plain") << int(WinButton::Close) << false << corner << QColor(Qt::transparent);
     QTest::newRow("close hovered") << int(WinButton::Close) << true << corner << QColor(0xE8, 0x11, 0x23);
     QTest::newRow("menu hovered") << int(WinButton::Menu) << true << corner << QColor(255, 255, 255, 25);
-    QTest::newRow("in front of the other") << int(WinButton::Restore) << false << QPoint(21, 17)
-                                           << QColor(0x1e, 0x29, 0x3b);
+    QTest::newRow("in front of the other")
+        << int(WinButton::Restore) << false << QPoint(21, 17) << QColor(0x1e, 0x29, 0x3b);
     QTest::newRow("round corner of the bar") << -1 << false << corner << QColor(Qt::transparent);
     QTest::newRow("left end of the bar") << -1 << false << QPoint(0, 40) << QColor(0x1d, 0x4e, 0xd8);
     QTest::newRow("middle of the bar") << -1 << false << QPoint(300, 2) << QColor(0x3b, 0x82, 0xf6);
@@ -234,7 +261,8 @@ void ChromeTest::modeGoesToTheEngine()
     const WelcomePage page(&engine);
     QCOMPARE(changes.size(), 1);
     const QList<ModeCard *> cards = page.findChildren<ModeCard *>();
-    for (const auto &[mode, changed] : {std::pair(NetworkMode, 1), {CableMode, 2}, {CableMode, 2}, {NetworkMode, 3}}) {
+    for (const auto &[mode, changed] :
+         {std::pair(NetworkMode, 1), {CableMode, 2}, {CableMode, 2}, {NetworkMode, 3}}) {
         QTest::mouseClick(cards.at(mode), Qt::LeftButton);
         QCOMPARE(changes.size(), changed);
         QCOMPARE(cards.at(NetworkMode)->isSelected(), mode == NetworkMode);

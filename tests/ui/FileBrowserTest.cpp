@@ -135,8 +135,8 @@ void FileBrowserTest::ticksMakeTheSelection_data()
     QTest::addColumn<Qt::CheckState>("rootState");
     QTest::newRow("folder stands for what is not open")
         << QStringList{u"+a"_s} << QStringList{u"a"_s} << Qt::PartiallyChecked;
-    QTest::newRow("opened below a tick") << QStringList{u"+a"_s, u">a"_s}
-                                         << QStringList{u"a"_s, u"a/x"_s, u"a/y"_s} << Qt::PartiallyChecked;
+    QTest::newRow("opened below a tick")
+        << QStringList{u"+a"_s, u">a"_s} << QStringList{u"a"_s, u"a/x"_s, u"a/y"_s} << Qt::PartiallyChecked;
     QTest::newRow("parent by its children is not entered")
         << QStringList{u"+a"_s, u"+b"_s} << QStringList{u"a"_s, u"b"_s} << Qt::Checked;
     QTest::newRow("parent takes its children along")
@@ -144,8 +144,8 @@ void FileBrowserTest::ticksMakeTheSelection_data()
         << Qt::Checked;
     QTest::newRow("parent stays when a child goes")
         << QStringList{u"+."_s, u"-b"_s} << QStringList{u"."_s, u"a"_s} << Qt::PartiallyChecked;
-    QTest::newRow("partly ticked child") << QStringList{u">a"_s, u"+a/x"_s} << QStringList{u"a/x"_s}
-                                         << Qt::PartiallyChecked;
+    QTest::newRow("partly ticked child")
+        << QStringList{u">a"_s, u"+a/x"_s} << QStringList{u"a/x"_s} << Qt::PartiallyChecked;
     QTest::newRow("all gone") << QStringList{u"+."_s, u"-."_s} << QStringList() << Qt::Unchecked;
 }
 

@@ -53,20 +53,19 @@ void LinkManagerTest::cleanup()
 
 void LinkManagerTest::everyLanguageHasEveryLink()
 {
-    const QStringList links{u"support/help"_s,  u"support/contact"_s, u"support/tutorial"_s, u"support/faq"_s,
-                            u"purchase/buy_now"_s, u"menu/about"_s,   u"menu/support"_s,
-                            u"menu/purchase"_s, u"menu/updates"_s,    u"website/home"_s,     u"website/product"_s};
+    const QStringList links{u"support/help"_s, u"support/contact"_s,  u"support/tutorial"_s,
+                            u"support/faq"_s,  u"purchase/buy_now"_s, u"menu/about"_s,
+                            u"menu/support"_s, u"menu/purchase"_s,    u"menu/updates"_s,
+                            u"website/home"_s, u"website/product"_s};
     QFile file(u":/links/links.json"_s);
     QVERIFY(file.open(QIODevice::ReadOnly));
     const QJsonObject document = QJsonDocument::fromJson(file.readAll()).object();
     for (const QString &link : links) {
-        const QJsonObject addresses = document.value(link.section(u'/', 0, 0))
-                                          .toObject()
-                                          .value(link.section(u'/', 1))
-                                          .toObject();
+        const QJsonObject addresses =
+            document.value(link.section(u'/', 0, 0)).toObject().value(link.section(u'/', 1)).toObject();
         QCOMPARE(addresses.size(), 10);
-        for (const QString &language : {u"en"_s, u"fr"_s, u"de"_s, u"ja"_s, u"es"_s, u"ko"_s, u"zh_TW"_s,
-                                        u"nl"_s, u"pt"_s, u"it"_s}) {
+        for (const QString &language :
+             {u"en"_s, u"fr"_s, u"de"_s, u"ja"_s, u"es"_s, u"ko"_s, u"zh_TW"_s, u"nl"_s, u"pt"_s, u"it"_s}) {
             const QUrl url(addresses.value(language).toString(), QUrl::StrictMode);
             QVERIFY2(url.scheme() == "https"_L1 && url.host().endsWith(".example"_L1), qPrintable(link));
         }
@@ -76,9 +75,17 @@ void LinkManagerTest::everyLanguageHasEveryLink()
 void LinkManagerTest::systemLanguageIsMapped_data()
 {
     QTest::addColumn<QString>("language");
-    for (const auto &[locale, language] : std::initializer_list<std::pair<const char *, const char *>>{
-             {"zh_TW", "zh_TW"}, {"zh_HK", "zh_TW"}, {"zh_CN", "en"}, {"zh_SG", "en"}, {"pt_BR", "pt"},
-             {"sv_SE", "en"}, {"DE", "de"}, {"ko_KR", "ko"}, {"C", "en"}, {"", "en"}})
+    for (const auto &[locale, language] :
+         std::initializer_list<std::pair<const char *, const char *>>{{"zh_TW", "zh_TW"},
+                                                                      {"zh_HK", "zh_TW"},
+                                                                      {"zh_CN", "en"},
+                                                                      {"zh_SG", "en"},
+                                                                      {"pt_BR", "pt"},
+                                                                      {"sv_SE", "en"},
+                                                                      {"DE", "de"},
+                                                                      {"ko_KR", "ko"},
+                                                                      {"C", "en"},
+                                                                      {"", "en"}})
         QTest::newRow(locale) << QString::fromLatin1(language);
 }
 

@@ -254,7 +254,7 @@ QWidget *CompletePage::createFolderRow(const SavedFolderEntry &entry)
     texts->addWidget(path);
     if (!entry.sample.isEmpty()) {
         auto *sample = new ElidedLabel(printable(entry.sample), 10, Theme::Colour::TextFaint);
-        sample->setStyleSheet(sample->styleSheet() + u" font-style: italic;"_s);
+        sample->setStyleSheet(sample->styleSheet() + u" QLabel { font-style: italic; }"_s);
         texts->addWidget(sample);
     }
 
