@@ -348,7 +348,7 @@ bool render(const Scene &scene, const QString &file)
     Stage stage;
     bool saved = false;
     QTimer::singleShot(0, &stage.window, [&] {
-        QTimer::singleShot(qEnvironmentVariableIntValue("GAL_DELAY"), &stage.window, [&] {
+        QTimer::singleShot(150, &stage.window, [&] {
             saved = stage.view.picture().save(file);
             QApplication::exit();
         });
