@@ -70,7 +70,7 @@ while IFS=: read -r file line text; do
     [[ $text =~ $include_pattern ]] && check_include "$file" "$line" "${BASH_REMATCH[1]}" "${BASH_REMATCH[2]}"
 done < <(grep -rnE "$include_pattern" src --include='*.h' --include='*.cpp')
 
-system_pattern='\b(Q_OS_WIN(32|64)?|_WIN32|_WIN64|WIN32)\b|include[[:space:]]*<([Ww]indows|shlobj|shellapi|objbase)\.h>'
+system_pattern='\b(Q_OS_[A-Z0-9]+|_WIN32|_WIN64|WIN32|__linux__)\b|include[[:space:]]*<((qt_)?[Ww]indows|winsock2?|shl(obj|wapi)|shellapi|objbase)\.h>'
 while IFS=: read -r file line _; do
     complain "$file:$line: asks for the operating system; only src/platform may"
 done < <(

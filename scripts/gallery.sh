@@ -20,7 +20,7 @@ mkdir -p "$home"/{Desktop,Documents/{Letters,Taxes,Work},Pictures/Holiday,Videos
 
 for percent in 100 200; do
     mkdir -p "$target/$percent"
-    env -i PATH="$PATH" HOME="$home" XDG_CONFIG_HOME="$home/.config" LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen \
+    env -i PATH="$PATH" HOME="$home" XDG_CONFIG_HOME="$home/.config" XDG_RUNTIME_DIR="$home" LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen \
         QT_SCALE_FACTOR=$((percent / 100)) QT_LOGGING_RULES='default.debug=false' \
         "$program" "$target/$percent" ${2:+"$2"}
 done

@@ -15,16 +15,19 @@ trap 'rm -rf "$work"' EXIT
 # Source packages from where the machine has its binary ones; the machine's own lists stay as they are.
 apt_options=()
 prepare_sources() {
-    mkdir -p "$work/lists/partial"
-    {
-        sed -nE 's/^deb( +\[[^]]*\])? /deb-src\1 /p' /etc/apt/sources.list /etc/apt/sources.list.d/*.list 2>/dev/null || true
-        awk '/^URIs:/ {uris=$2} /^Suites:/ {for (i = 2; i <= NF; ++i) suites[i] = $i} /^Signed-By:/ {key=$2}
-             END {for (i in suites) printf "deb-src %s%s %s main\n", key ? "[signed-by=" key "] " : "", uris, suites[i]}' \
-            /etc/apt/sources.list.d/*.sources 2>/dev/null || true
-    } >"$work/sources.list"
-    apt_options=(-o "Dir::Etc::SourceList=$work/sources.list" -o "Dir::Etc::SourceParts=-"
+    mkdir -p "$work/lists/partial" "$work/sources.d"
+    local file
+    for file in /etc/apt/sources.list /etc/apt/sources.list.d/*; do
+        [ -f "$file" ] || continue
+        case $file in
+            *.list) sed -nE 's/^deb( |\t)/deb-src\1/p' "$file" >"$work/sources.d/$(basename "$file")" ;;
+            *.sources) sed -E 's/^Types:.*/Types: deb-src/' "$file" >"$work/sources.d/$(basename "$file")" ;;
+        esac
+    done
+    apt_options=(-o "Dir::Etc::SourceList=-" -o "Dir::Etc::SourceParts=$work/sources.d"
         -o "Dir::State::Lists=$work/lists" -o "APT::Sandbox::User=root")
-    apt-get "${apt_options[@]}" -q update
+    # A vendor without sources is no matter when the packages can be had all the same.
+    apt-get "${apt_options[@]}" -q update || true
 }
 
 # fetch PACKAGE: unpacks its source below the work folder; fails where it can't be had.

@@ -6,9 +6,9 @@ namespace Zandrove::Cli {
 
 /// What the program tells its caller. The README lists these for users.
 enum ExitCode : int {
-    EverythingMoved = 0,
-    RunFailed = 1,  ///< the connection or the run failed, was refused or was ended by the peer
-    WrongUsage = 2, ///< nothing was begun
+    EverythingMoved = 0, ///< or listed
+    RunFailed = 1,       ///< the connection or the run failed, was refused or was ended by the peer
+    WrongUsage = 2,      ///< nothing was begun
     TimedOut = 3,
     SomethingMissing = 4, ///< the run finished, but an item failed or was skipped
     Cancelled = 130,      ///< by the user, here

@@ -21,6 +21,50 @@ QJsonObject toJson(const PCInfo &pc)
             {u"code"_s, pc.verifyCode}};
 }
 
+QJsonObject toJson(const AppInfo &app)
+{
+    return {{u"name"_s, app.name},
+            {u"version"_s, app.version},
+            {u"size"_s, app.size},
+            {u"folder"_s, app.installPath},
+            {u"icon"_s, app.iconPath},
+            {u"canMove"_s, app.canTransfer},
+            {u"registryKey"_s, app.hkcuRegPath}};
+}
+
+QJsonObject toJson(const FolderInfo &folder)
+{
+    return {{u"name"_s, folder.name},
+            {u"path"_s, folder.path},
+            {u"size"_s, folder.totalSize},
+            {u"files"_s, folder.fileCount}};
+}
+
+QJsonObject toJson(const AccountInfo &account)
+{
+    return {
+        {u"name"_s, account.userName}, {u"type"_s, account.accountType}, {u"path"_s, account.profilePath}};
+}
+
+QJsonObject toJson(const SettingInfo &setting)
+{
+    return {{u"id"_s, setting.id},
+            {u"name"_s, setting.name},
+            {u"category"_s, setting.category},
+            {u"description"_s, setting.description},
+            {u"value"_s, setting.value},
+            {u"size"_s, setting.size}};
+}
+
+template <typename Record>
+QJsonArray toJson(const QList<Record> &records)
+{
+    QJsonArray array;
+    for (const Record &record : records)
+        array.append(toJson(record));
+    return array;
+}
+
 template <typename Value>
 QJsonObject toJson(const QMap<QString, Value> &map)
 {
@@ -142,6 +186,16 @@ void JsonOutput::report(const MigrationReport &report)
     print("report"_L1, Cli::toJson(report));
 }
 
+void JsonOutput::scanning(int percent, const QString &item, int apps)
+{
+    print("scanning"_L1, {{u"percent"_s, percent}, {u"item"_s, item}, {u"apps"_s, apps}});
+}
+
+void JsonOutput::inventory(const ScanResult &result)
+{
+    print("inventory"_L1, Cli::toJson(result));
+}
+
 void JsonOutput::warning(const QString &message)
 {
     print("warning"_L1, {{u"message"_s, message}});
@@ -173,6 +227,17 @@ QJsonObject toJson(const MigrationReport &report)
             {u"failedFiles"_s, QJsonArray::fromStringList(report.failedFiles)},
             {u"warnings"_s, QJsonArray::fromStringList(report.warnings)},
             {u"summary"_s, report.summary}};
+}
+
+QJsonObject toJson(const ScanResult &result)
+{
+    return {{u"scanTime"_s, result.scanTime.toString(Qt::ISODateWithMs)},
+            {u"totalSize"_s, result.totalSize},
+            {u"totalFiles"_s, result.totalFiles},
+            {u"apps"_s, toJson(result.apps)},
+            {u"folders"_s, toJson(result.folders)},
+            {u"accounts"_s, toJson(result.accounts)},
+            {u"settings"_s, toJson(result.settings)}};
 }
 
 } // namespace Zandrove::Cli

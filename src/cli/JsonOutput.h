@@ -27,6 +27,8 @@ public:
     void resumed(Side by) override;
     void cancelled(Side by) override;
     void report(const MigrationReport &report) override;
+    void scanning(int percent, const QString &item, int apps) override;
+    void inventory(const ScanResult &result) override;
     void warning(const QString &message) override;
     void error(const QString &message) override;
 
@@ -36,7 +38,9 @@ private:
     Streams m_streams;
 };
 
-/// The fields of a report by their names. Times are ISO 8601 with milliseconds, empty where not set.
+/// The fields of a report, and of a scan's result, by their names. Times are ISO 8601 with milliseconds,
+/// empty where not set.
 [[nodiscard]] QJsonObject toJson(const MigrationReport &report);
+[[nodiscard]] QJsonObject toJson(const ScanResult &result);
 
 } // namespace Zandrove::Cli

@@ -17,7 +17,9 @@ constexpr int LongestWait = 7 * 24 * 3600; // seconds
 constexpr unsigned Receive = 1u << static_cast<unsigned>(Command::Receive);
 constexpr unsigned Send = 1u << static_cast<unsigned>(Command::Send);
 constexpr unsigned Discover = 1u << static_cast<unsigned>(Command::Discover);
-constexpr unsigned Every = Receive | Send | Discover;
+constexpr unsigned Scan = 1u << static_cast<unsigned>(Command::Scan);
+constexpr unsigned Networked = Receive | Send | Discover;
+constexpr unsigned Every = Networked | Scan;
 
 QString tr(const char *text)
 {
@@ -111,7 +113,7 @@ const std::array Rules = {
                QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "Look for N seconds; without it, until Ctrl-C."),
                [](Options &options, const QString &value) { return storeSeconds(options.seconds, value); }},
     OptionRule{
-        "--mode"_L1, "network|cable", Every,
+        "--mode"_L1, "network|cable", Networked,
         QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
                           "How PCs find each other: by broadcast (the default), or over a direct cable, "
                           "where the addresses around this PC's own are tried as well."),
@@ -156,6 +158,10 @@ const std::array Commands = {
     CommandText{
         Command::Discover, "discover"_L1, "zandrove-cli discover --role old|new [--seconds N]",
         QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "List the PCs on the network as they come and go.")},
+    CommandText{Command::Scan, "scan"_L1, "zandrove-cli scan",
+                QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                                  "List what can be moved from this PC: applications, folders, accounts and "
+                                  "settings.")},
 };
 
 /// `text` in lines of at most `width` columns, broken at blanks, each behind `indent` blanks but the first.
@@ -202,7 +208,8 @@ QString optionLine(const OptionRule &rule)
 QString exitCodeHelp()
 {
     return tr(
-        "Exit codes: 0 everything moved; 1 the connection or the run failed or was refused; 2 wrong "
+        "Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 "
+        "wrong "
         "usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C "
         "(the other PC is told; a second Ctrl-C ends at once).");
 }

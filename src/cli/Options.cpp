@@ -91,7 +91,7 @@ ParsedArguments parseCommand(Command command, const QList<Token> &tokenList)
 {
     Options options;
     options.command = command;
-    if (command != Command::Discover)
+    if (command != Command::Discover) // which is told its role
         options.role = command == Command::Receive ? NewPC : OldPC;
 
     bool commandSeen = false;
@@ -124,7 +124,8 @@ ParsedArguments parseArguments(const QStringList &arguments)
     const auto word = std::find_if(tokenList.begin(), tokenList.end(),
                                    [](const Token &token) { return token.name.isEmpty(); });
     if (word == tokenList.end())
-        return wantsHelp ? answer(generalHelp()) : failure(tr("Say receive, send or discover. See --help."));
+        return wantsHelp ? answer(generalHelp())
+                         : failure(tr("Say receive, send, discover or scan. See --help."));
 
     const std::optional<Command> command = commandNamed(*word->value);
     if (!command)

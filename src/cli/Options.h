@@ -10,7 +10,7 @@
 
 namespace Zandrove::Cli {
 
-enum class Command { Receive, Send, Discover };
+enum class Command { Receive, Send, Discover, Scan };
 
 /// What the command line asked for.
 struct Options

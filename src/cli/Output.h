@@ -47,6 +47,9 @@ public:
     virtual void resumed(Side by) = 0;
     virtual void cancelled(Side by) = 0;
     virtual void report(const MigrationReport &report) = 0;
+    /// How far the scan of this PC has come, what it looks at, and how many applications it has found.
+    virtual void scanning(int percent, const QString &item, int apps) = 0;
+    virtual void inventory(const ScanResult &result) = 0;
     virtual void warning(const QString &message) = 0;
     virtual void error(const QString &message) = 0;
 };

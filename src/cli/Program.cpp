@@ -4,6 +4,7 @@
 #include "cli/FolderCheck.h"
 #include "cli/JsonOutput.h"
 #include "cli/ReceiveSession.h"
+#include "cli/ScanSession.h"
 #include "cli/SendSession.h"
 #include "cli/TextOutput.h"
 #include "core/engine/TransferEngine.h"
@@ -59,6 +60,8 @@ std::unique_ptr<Session> makeSession(const Options &options, TransferEngine &eng
         return std::make_unique<ReceiveSession>(options, engine, output);
     case Command::Send:
         return std::make_unique<SendSession>(options, engine, output);
+    case Command::Scan:
+        return std::make_unique<ScanSession>(options, engine, output);
     case Command::Discover:
         break;
     }

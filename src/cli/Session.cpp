@@ -68,10 +68,16 @@ void Session::showProgress(const TransferProgress &progress)
 {
     m_heldProgress = progress;
     m_progressHeld = true;
+    if (progressIsDue())
+        showLastProgress();
+}
+
+bool Session::progressIsDue()
+{
     if (m_sinceProgress.isValid() && !m_sinceProgress.hasExpired(ProgressInterval.count()))
-        return;
+        return false;
     m_sinceProgress.start();
-    showLastProgress();
+    return true;
 }
 
 void Session::showLastProgress()

@@ -58,6 +58,8 @@ protected:
 
     /// Passes progress, single files and pauses on to the output.
     void showRuns();
+    /// Whether it is time to show progress again: at most five times a second.
+    [[nodiscard]] bool progressIsDue();
     /// Shows the last progress that was held back; to be called before the end of a run is shown.
     void showLastProgress();
 

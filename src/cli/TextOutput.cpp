@@ -4,6 +4,7 @@
 #include "support/Utilities.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int NarrowestLiveLine = 20; // columns; less says nothing
 constexpr int CountColumns = 8;
+constexpr int SizeColumns = 11;
 
 int columnsOf(char32_t character)
 {
@@ -34,6 +36,13 @@ int columnsOf(char32_t character)
 QString described(const PCInfo &pc)
 {
     return pc.ip.isEmpty() ? pc.name : u"%1 (%2)"_s.arg(pc.name, pc.ip);
+}
+
+/// One line of the inventory: a size, if there is one, and what is known besides it.
+QString inventoryRow(std::optional<qint64> size, QStringList parts)
+{
+    parts.removeAll(QString());
+    return (size ? formatSize(*size) : QString()).rightJustified(SizeColumns) + u"  "_s + parts.join(u"  "_s);
 }
 
 } // namespace
@@ -83,6 +92,15 @@ void TextOutput::errorText(const QByteArray &bytes)
 {
     clearLiveLine();
     m_streams.err(bytes);
+}
+
+void TextOutput::showLiveLine(const QString &text)
+{
+    const int columns = m_streams.columns();
+    if (columns < NarrowestLiveLine)
+        return;
+    m_streams.out("\r" + fitted(printable(text), columns - 1).toUtf8() + "\x1b[K");
+    m_liveLineShown = true;
 }
 
 void TextOutput::clearLiveLine()
@@ -145,17 +163,13 @@ void TextOutput::disconnected()
 
 void TextOutput::progress(const TransferProgress &progress)
 {
-    const int columns = m_streams.columns();
-    if (columns < NarrowestLiveLine)
-        return;
     const QString action = m_role == NewPC ? tr("Receiving") : tr("Sending");
     QString text = u"%1 %2%  %3"_s.arg(action, QString::number(progress.overallPercent).rightJustified(3),
                                        formatSpeed(progress.bytesPerSecond));
     if (progress.remainingSeconds > 0)
         text += u"  "_s + tr("%1 left").arg(progress.remainingTimeString());
     text += u"  "_s + progress.currentFile;
-    m_streams.out("\r" + fitted(printable(text), columns - 1).toUtf8() + "\x1b[K");
-    m_liveLineShown = true;
+    showLiveLine(text);
 }
 
 void TextOutput::file(const QString &name, FileStatus status, const QString &reason)
@@ -204,6 +218,48 @@ void TextOutput::savedFolders(const MigrationReport &report)
         line(count.rightJustified(CountColumns) + u"  "_s + folder.value() +
              (sample.isEmpty() ? QString() : u' ' + sample));
     }
+}
+
+void TextOutput::scanning(int percent, const QString &item, int apps)
+{
+    showLiveLine(tr("Scanning %1%  %2 applications")
+                     .arg(QString::number(percent).rightJustified(3), QString::number(apps)) +
+                 u"  "_s + item);
+}
+
+void TextOutput::section(const QString &title, const QStringList &rows)
+{
+    line(title.arg(rows.size()));
+    for (const QString &row : rows)
+        line(row);
+}
+
+void TextOutput::inventory(const ScanResult &result)
+{
+    QStringList apps;
+    for (const AppInfo &app : result.apps) {
+        const QString place = app.canTransfer ? app.installPath : tr("(cannot be moved)");
+        apps.append(inventoryRow(app.size, {app.name, app.version, place}));
+    }
+    section(tr("Applications: %1"), apps);
+
+    QStringList folders;
+    for (const FolderInfo &folder : result.folders)
+        folders.append(
+            inventoryRow(folder.totalSize, {folder.name, tr("%1 files").arg(folder.fileCount), folder.path}));
+    section(tr("Folders: %1"), folders);
+
+    QStringList accounts;
+    for (const AccountInfo &account : result.accounts)
+        accounts.append(inventoryRow({}, {account.userName, account.accountType, account.profilePath}));
+    section(tr("Accounts: %1"), accounts);
+
+    QStringList settings;
+    for (const SettingInfo &setting : result.settings)
+        settings.append(inventoryRow(setting.size, {setting.name, setting.description, setting.value}));
+    section(tr("Settings: %1"), settings);
+
+    line(tr("%1 in applications and folders.").arg(formatSize(result.totalSize)));
 }
 
 void TextOutput::warning(const QString &message)

@@ -31,14 +31,18 @@ public:
     void resumed(Side by) override;
     void cancelled(Side by) override;
     void report(const MigrationReport &report) override;
+    void scanning(int percent, const QString &item, int apps) override;
+    void inventory(const ScanResult &result) override;
     void warning(const QString &message) override;
     void error(const QString &message) override;
 
 private:
     void line(const QString &text);
     void errorText(const QByteArray &bytes);
+    void showLiveLine(const QString &text);
     void clearLiveLine();
     void savedFolders(const MigrationReport &report);
+    void section(const QString &title, const QStringList &rows);
 
     Streams m_streams;
     int m_role;

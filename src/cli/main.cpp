@@ -20,7 +20,8 @@ int runProgram(int argc, char *argv[])
     Cli::ParsedArguments parsed = Cli::parseArguments(arguments);
     if (const std::optional<int> exitCode = Cli::answered(parsed))
         return *exitCode;
-    StartUp::ensureFirewallRules();
+    if (parsed.options->command != Cli::Command::Scan)
+        StartUp::ensureFirewallRules();
     StartUp::registerMetaTypes();
     return Cli::run(*parsed.options);
 }

@@ -1,5 +1,7 @@
 #include "inventory/AppScanner.h"
 
+#include "inventory/AppScan.h"
+
 namespace Zandrove {
 
 AppScanner::AppScanner(QObject *parent)
@@ -42,13 +44,29 @@ void AppScanner::cancel()
 /// Runs on the scan's own thread. What it posts is judged on delivery, when the scan may have been given up.
 void AppScanner::scan(quint64 run)
 {
-    const QList<AppInfo> apps;
+    AppScanHooks hooks;
+    hooks.stop = [this, run] { return !m_runs.isCurrent(run); };
+    hooks.announce = [this, run](int percent, const QString &text) {
+        if (m_runs.isCurrent(run))
+            Q_EMIT progress(percent, text);
+    };
+    hooks.report = [this, announce = hooks.announce](int percent, const QString &name) {
+        QMetaObject::invokeMethod(
+            this, [announce, percent, name] { announce(percent, name); }, Qt::QueuedConnection);
+    };
+    hooks.found = [this, run](int count) {
+        if (m_runs.isCurrent(run))
+            m_appsFound = count;
+    };
+
+    const QList<AppInfo> apps = AppScan(hooks).scanInstalledApps();
+    if (!m_runs.isCurrent(run))
+        return;
     const auto publish = [this, run, apps] {
         if (m_runs.end(run))
             Q_EMIT finished(apps);
     };
-    if (m_runs.isCurrent(run))
-        QMetaObject::invokeMethod(this, publish, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, publish, Qt::QueuedConnection);
 }
 
 } // namespace Zandrove

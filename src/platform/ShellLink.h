@@ -27,7 +27,8 @@ struct ShellLink
 [[nodiscard]] std::optional<ShellLink> readShellLink(const QString &file);
 
 /// Writes the shortcut `file`, with its folder where that is missing; the path always, another field only
-/// when it isn't empty. False where it could not be written, as directly below the root of the file system.
+/// when it isn't empty. False where it could not be written; elsewhere than on Windows never directly below
+/// the root of the file system.
 [[nodiscard]] bool writeShellLink(const QString &file, const ShellLink &link);
 
 } // namespace Zandrove::Platform

@@ -11,6 +11,9 @@ class QSocketNotifier;
 /// The terminal, or whatever stands in its place, that a program without a window talks through.
 namespace Zandrove::Platform {
 
+/// What a process ends with that a second interrupt ended.
+constexpr int InterruptedExitCode = 130;
+
 enum class StandardStream { Input, Output, Error };
 
 [[nodiscard]] bool isTerminal(StandardStream stream);
@@ -24,7 +27,8 @@ enum class StandardStream { Input, Output, Error };
 [[nodiscard]] int endProcess(int exitCode);
 
 /// Turns the first request to end the program (Ctrl-C, a polite kill, a closed terminal) into a signal on the
-/// thread that made the object. A second request ends the process at once with exit code 130.
+/// thread that made the object. A second request ends the process at once with
+/// InterruptedExitCode.
 ///
 /// One object per process.
 class InterruptNotifier final : public QObject
@@ -59,6 +63,7 @@ Q_SIGNALS:
 
 private:
     void readAvailable();
+    void takeBytes(const QByteArray &bytes); ///< what was read next; nothing means the end
     void deliverLines();
 
     QSocketNotifier *m_notifier = nullptr;

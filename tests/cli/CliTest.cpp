@@ -8,6 +8,7 @@
 #include "cli/TextOutput.h"
 #include "support/PrintableText.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 #include <QTest>
@@ -66,6 +67,7 @@ private Q_SLOTS:
     void namesOfPeersCannotSteerTheTerminal();
     void liveLineFitsTheTerminalAndLeavesNoTrace();
     void noLiveLineWithoutATerminal();
+    void showsTheInventory();
 };
 
 void CliTest::refusesWrongArguments_data()
@@ -86,6 +88,7 @@ void CliTest::refusesWrongArguments_data()
     QTest::newRow("no role") << u"discover"_s << u"--role"_s;
     QTest::newRow("wrong role") << u"discover --role 0"_s << u"0"_s;
     QTest::newRow("wrong mode") << u"receive --mode wifi"_s << u"wifi"_s;
+    QTest::newRow("network for a scan") << u"scan --mode cable"_s << u"--mode"_s;
     QTest::newRow("no number") << u"receive --timeout soon"_s << u"soon"_s;
     QTest::newRow("zero seconds") << u"receive --timeout 0"_s << u"0"_s;
     QTest::newRow("too long") << u"discover --role old --seconds 99999999"_s << u"99999999"_s;
@@ -322,6 +325,33 @@ void CliTest::noLiveLineWithoutATerminal()
     TextOutput output(captured.streams(), OldPC, false);
     output.progress({});
     QVERIFY(captured.out.isEmpty());
+}
+
+void CliTest::showsTheInventory()
+{
+    ScanResult result;
+    result.apps.resize(2);
+    result.apps[0].name = u"Photo Lab"_s;
+    result.apps[0].version = u"3.1"_s;
+    result.apps[0].installPath = u"C:/Photo Lab"_s;
+    result.apps[0].size = 5'000'000'000'000;
+    result.apps[1].name = u"Keys\nOnly"_s;
+    result.apps[1].canTransfer = false;
+    result.folders.resize(1);
+    result.folders[0].fileCount = 3;
+
+    Captured text;
+    TextOutput(text.streams(), OldPC, false).inventory(result);
+    QVERIFY(text.out.startsWith("Applications: 2\n    4.55 TB  Photo Lab  3.1  C:/Photo Lab\n"));
+    QVERIFY(text.out.contains("        0 B  Keys\uFFFDOnly  (cannot be moved)\nFolders: 1\n"));
+
+    Captured json;
+    JsonOutput(json.streams()).inventory(result);
+    const QJsonObject object = QJsonDocument::fromJson(json.out).object();
+    const QJsonArray apps = object.value(u"apps"_s).toArray();
+    QCOMPARE(apps.first().toObject().value(u"size"_s).toInteger(), 5'000'000'000'000);
+    QCOMPARE(apps.last().toObject().value(u"canMove"_s).toBool(true), false);
+    QCOMPARE(object.value(u"folders"_s).toArray().first().toObject().value(u"files"_s).toInt(), 3);
 }
 
 ZANDROVE_TEST_MAIN(CliTest)

@@ -57,6 +57,9 @@ private:
             answer(m_view.picture().save(name));
         } else if (action == "state"_L1) {
             answer(true);
+        } else if (action == "type"_L1) {
+            m_view.type(name);
+            answer(true);
         } else if (action == "close"_L1) {
             answerLater();
             m_window.close();
@@ -75,10 +78,6 @@ private:
             return m_view.clickFolder(name);
         if (action == "clickListEntry"_L1)
             return m_view.clickListEntry(name);
-        if (action == "type"_L1) {
-            m_view.type(name);
-            return true;
-        }
         if (action == "key"_L1) {
             const QKeySequence sequence(name);
             if (sequence.isEmpty())
@@ -92,7 +91,7 @@ private:
     [[nodiscard]] bool isThere(const QJsonObject &wanted) const
     {
         const auto shows = [this](const QString &pattern) {
-            return m_view.texts().indexOf(QRegularExpression(pattern)) >= 0;
+            return !m_view.texts().filter(QRegularExpression(pattern)).isEmpty();
         };
         if (wanted.contains("page"_L1) && wanted["page"_L1].toInt() != m_view.page())
             return false;

@@ -101,7 +101,7 @@ class WizardTest(pcs.TestCase):
 
         old.click("Send More Files...")
         old.wait(page=4)
-        new.wait(page=5, text="Waiting for Data")
+        new.wait(page=5, text=r"^Waiting\.\.\.$")
         old.click("Clear")
         self.tick(old, self.album)
         old.click("Next")

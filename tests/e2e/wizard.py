@@ -56,11 +56,11 @@ class Wizard:
             answer = ""
         if not answer:
             raise AssertionError(f"{self.title}: no answer to {command}\n{self.log[-4000:]}")
-        self.state = json.loads(answer)
-        if not self.state["ok"]:
+        self.state = state = json.loads(answer)
+        if not state["ok"]:
             self.picture("failed")
-            raise AssertionError(f"{self.title}: {command} failed\n{json.dumps(self.state, indent=1)}\n{self.log[-4000:]}")
-        return self.state
+            raise AssertionError(f"{self.title}: {command} failed\n{json.dumps(state, indent=1)}\n{self.log[-4000:]}")
+        return state
 
     def click(self, *names):
         for name in names:

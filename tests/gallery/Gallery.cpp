@@ -24,9 +24,13 @@
 #include <memory>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using namespace Zandrove;
 
 namespace {
+
+constexpr auto LookInterval = 20ms;
+constexpr auto SettlingTime = 100ms;
 
 /// A window on a PC that hears and is heard by nobody.
 struct Stage
@@ -112,10 +116,10 @@ struct Stage
     /// Finds a PC whose user does not answer, and picks it.
     void dialSilentPeer(int role)
     {
-        QByteArray announcement;
         LinkEnvironment environment = silentEnvironment();
-        environment.sendDatagram = [&announcement](const QByteArray &datagram, const QHostAddress &,
-                                                   quint16) { announcement = datagram; };
+        environment.sendDatagram = [this](const QByteArray &datagram, const QHostAddress &, quint16) {
+            announcement = datagram;
+        };
         silentPeer = std::make_unique<TransferEngine>(nullptr, environment);
         silentPeer->setRole(role == OldPC ? NewPC : OldPC);
         silentPeer->startDiscovery();
@@ -125,6 +129,7 @@ struct Stage
 
     static ScanResult scanResult();
 
+    QByteArray announcement; ///< the last one of the silent peer
     std::unique_ptr<TransferEngine> silentPeer;
     TransferEngine *engine;
     MainWindow window;
@@ -342,18 +347,28 @@ QList<Scene> scenes()
     return scenes;
 }
 
-/// Makes the picture once everything that is queued has arrived, in front of whatever dialog the scene opens.
+/// Makes the picture once the scene stands, or a dialog or menu of it stands open, and all that is queued has
+/// arrived.
 bool render(const Scene &scene, const QString &file)
 {
     Stage stage;
+    bool arranged = false;
     bool saved = false;
-    QTimer::singleShot(0, &stage.window, [&] {
-        QTimer::singleShot(150, &stage.window, [&] {
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &stage.window, [&] {
+        if (!arranged && stage.view.front() == &stage.window)
+            return;
+        look.stop();
+        QTimer::singleShot(SettlingTime, &stage.window, [&] {
             saved = stage.view.picture().save(file);
             QApplication::exit();
         });
-        scene.arrange(stage);
     });
+    QTimer::singleShot(0, &stage.window, [&] {
+        scene.arrange(stage);
+        arranged = true;
+    });
+    look.start(LookInterval);
     QApplication::exec();
     return saved;
 }

@@ -154,7 +154,7 @@ void RegistryTest::viewsShowTheSameKeyOrAnother()
     m_pc->addRegistry(u"[%1]\n\"v\"=\"x\"\n"_s.arg(Key));
     for (const auto view : {Native, View64, View32}) {
         QCOMPARE(RegistryKey(Key, view).text(u"v"_s), u"x"_s);
-        QVERIFY(RegistryKey(u"HKEY_CURRENT_USER"_s, view).exists());
+        QVERIFY(RegistryKey(u"HKEY_CURRENT_USER"_s, view).subkeyNames().contains(u"Software"_s));
     }
     RegistryKey key(Key, View32);
     QVERIFY(key.setText(u"v"_s, u"y"_s));

@@ -20,10 +20,4 @@ std::unique_ptr<QTemporaryDir> makeScratchFolder(const SimulatedPc::PathRule &is
     qFatal("No folder can be made where a simulated PC may lie.");
 }
 
-bool SimulatedPc::isTemporaryPath(const QString &path)
-{
-    const QString lower = path.toLower();
-    return lower.contains("/tmp/"_L1) || lower.contains("/temp/"_L1);
-}
-
 } // namespace Zandrove

@@ -2,6 +2,8 @@
 
 #include "ScopedEnvironment.h"
 
+#include "inventory/PathExclusion.h"
+
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -31,14 +33,11 @@ public:
     using PathRule = std::function<bool(const QString &path)>;
 
     /// The PC lies below the build folder, or, where `isUnsuitable` holds for files there, in another
-    /// writable place. By default a path through a folder called tmp or temp is unsuitable, since such files
-    /// are never moved.
-    explicit SimulatedPc(const PathRule &isUnsuitable = isTemporaryPath);
+    /// writable place. By default a place is unsuitable whose files are never moved.
+    explicit SimulatedPc(const PathRule &isUnsuitable = isExcludedFile);
     ~SimulatedPc();
     SimulatedPc(const SimulatedPc &) = delete;
     SimulatedPc &operator=(const SimulatedPc &) = delete;
-
-    [[nodiscard]] static bool isTemporaryPath(const QString &path);
 
     /// The absolute path of what lies at `place`, such as "C:/ProgramData/x", on this PC.
     [[nodiscard]] QString path(const QString &place) const;
@@ -49,7 +48,8 @@ public:
 
     /// Adds keys and values to the registry, in the text form of a .reg file without its header line.
     void addRegistry(const QString &text);
-    /// The registry at `key` and below, in that text form with the header line; everything for an empty key.
+    /// The registry at `key` and below, in that text form with the header line; on a made-up PC everything
+    /// for an empty key.
     [[nodiscard]] QString registryText(const QString &key = QString()) const;
 
     /// Whether the programs are stand-ins and the registry is a file; what follows is of use only then.

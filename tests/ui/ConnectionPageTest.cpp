@@ -1,6 +1,6 @@
+#include "SilentEngine.h"
 #include "UiTests.h"
 
-#include "core/engine/TransferEngine.h"
 #include "peer/NetworkManager.h"
 #include "peer/Protocol.h"
 #include "ui/pages/ConnectionPage.h"
@@ -24,17 +24,6 @@ using namespace Zandrove;
 using Protocol::MessageType;
 
 namespace {
-
-/// An engine on free ports that broadcasts nowhere.
-LinkEnvironment quietEnvironment()
-{
-    LinkEnvironment environment;
-    environment.tcpPort = 0;
-    environment.udpPort = 0;
-    environment.adapters = [] { return QList<NetworkAdapter>(); };
-    environment.sendDatagram = [](const QByteArray &, const QHostAddress &, quint16) {};
-    return environment;
-}
 
 PCInfo peer(const QString &id, const QString &ip, bool online = true)
 {
@@ -67,6 +56,7 @@ private Q_SLOTS:
     void askersAreShownAsPlainShortText();
     void oneQuestionAtATime();
     void lateYesConnectsNobody();
+    void questionGoesWithThePage();
     void onlyTheNewPcMovesOn_data();
     void onlyTheNewPcMovesOn();
 
@@ -96,7 +86,7 @@ private:
 
 void ConnectionPageTest::init()
 {
-    m_engine = std::make_unique<TransferEngine>(nullptr, quietEnvironment());
+    m_engine = std::make_unique<TransferEngine>(nullptr, silentEnvironment());
     m_page = std::make_unique<ConnectionPage>(m_engine.get());
     m_page->show();
     QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
@@ -282,6 +272,14 @@ void ConnectionPageTest::lateYesConnectsNobody()
     QVERIFY(established.isEmpty());
     QCOMPARE(text(u"statusLabel"_s), u"✗ Connection failed: The other PC is no longer waiting"_s);
     QVERIFY(isShown(u"refreshButton"_s) && m_page->findChild<RadarWidget *>()->isRunning());
+}
+
+void ConnectionPageTest::questionGoesWithThePage()
+{
+    const auto anna = dial(u"ANNA"_s);
+    QVERIFY(anna && question());
+    m_page.reset();
+    QVERIFY(!QApplication::activeModalWidget());
 }
 
 void ConnectionPageTest::onlyTheNewPcMovesOn_data()

@@ -289,6 +289,7 @@ void WidgetsTest::longTextIsShortened()
     QCoreApplication::sendEvent(label, &ask);
     QCOMPARE(QToolTip::text(), label->text());
     QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible());
     label->setText(u"short"_s);
     QCoreApplication::sendEvent(label, &ask);
     QVERIFY(!QToolTip::isVisible());

@@ -2,6 +2,7 @@
 
 #include <QSocketNotifier>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <csignal>
@@ -13,8 +14,6 @@ namespace Zandrove::Platform {
 
 namespace {
 
-constexpr int InterruptedExitCode = 130;
-constexpr qsizetype LongestLine = 64 * 1024; // bytes
 constexpr std::array InterruptSignals = {SIGINT, SIGTERM, SIGHUP};
 
 // A signal handler reaches nothing but these.
@@ -127,34 +126,9 @@ void InputLines::readAvailable()
     const ssize_t count = read(STDIN_FILENO, chunk.data(), chunk.size());
     if (count < 0 && (errno == EINTR || errno == EAGAIN))
         return;
-    if (count > 0) {
-        m_pending.append(chunk.data(), count);
-        deliverLines();
-        return;
-    }
-    m_notifier->setEnabled(false);
-    if (!m_pending.isEmpty() && !m_dropping) {
-        m_pending.append('\n');
-        deliverLines();
-    }
-    Q_EMIT ended();
-}
-
-void InputLines::deliverLines()
-{
-    for (qsizetype end = m_pending.indexOf('\n'); end >= 0; end = m_pending.indexOf('\n')) {
-        QByteArray line = m_pending.left(end);
-        m_pending.remove(0, end + 1);
-        if (line.endsWith('\r'))
-            line.chop(1);
-        if (!m_dropping && line.size() <= LongestLine)
-            Q_EMIT lineRead(QString::fromUtf8(line));
-        m_dropping = false;
-    }
-    if (m_pending.size() > LongestLine) {
-        m_pending.clear();
-        m_dropping = true;
-    }
+    if (count <= 0)
+        m_notifier->setEnabled(false);
+    takeBytes(QByteArray(chunk.data(), std::max<qsizetype>(count, 0)));
 }
 
 } // namespace Zandrove::Platform

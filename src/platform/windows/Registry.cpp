@@ -62,6 +62,7 @@ QSettings::Format formatOf(RegistryView view)
 }
 
 /// QSettings uses the slash as its separator, so it shows and takes names with both kinds of slash exchanged.
+/// It drops empty parts, and with them finds no value whose name begins or ends with a backslash.
 QString exchanged(QString name)
 {
     for (QChar &character : name) {

@@ -7,7 +7,6 @@
 #include <atomic>
 #include <condition_variable>
 #include <cstdio>
-#include <cstdlib>
 #include <functional>
 #include <mutex>
 #include <thread>
@@ -15,9 +14,6 @@
 namespace Zandrove::Platform {
 
 namespace {
-
-constexpr int InterruptedExitCode = 130;
-constexpr qsizetype LongestLine = 64 * 1024; // bytes
 
 HANDLE handleOf(StandardStream stream)
 {
@@ -42,10 +38,10 @@ public:
     {
         if (m_codePage != 0)
             SetConsoleOutputCP(CP_UTF8);
-        for (const StandardStream stream : {StandardStream::Output, StandardStream::Error}) {
-            DWORD mode = 0;
-            if (GetConsoleMode(handleOf(stream), &mode) != 0)
-                SetConsoleMode(handleOf(stream), mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
+        for (Output &output : m_outputs) {
+            output.isConsole = GetConsoleMode(output.handle, &output.mode) != 0;
+            if (output.isConsole)
+                SetConsoleMode(output.handle, output.mode | ENABLE_VIRTUAL_TERMINAL_PROCESSING);
         }
     }
     ~ConsoleSetup() { restore(); }
@@ -57,10 +53,24 @@ public:
     {
         if (m_codePage != 0)
             SetConsoleOutputCP(m_codePage);
+        // The last one first: both may be the same screen.
+        for (auto output = m_outputs.rbegin(); output != m_outputs.rend(); ++output) {
+            if (output->isConsole)
+                SetConsoleMode(output->handle, output->mode);
+        }
     }
 
 private:
+    struct Output
+    {
+        HANDLE handle = INVALID_HANDLE_VALUE;
+        DWORD mode = 0;
+        bool isConsole = false;
+    };
+
     UINT m_codePage;
+    std::array<Output, 2> m_outputs = {
+        {{handleOf(StandardStream::Output)}, {handleOf(StandardStream::Error)}}};
 };
 
 const ConsoleSetup consoleSetup;
@@ -70,10 +80,17 @@ std::mutex notifierMutex;
 InterruptNotifier *currentNotifier = nullptr;
 std::atomic_bool interruptSeen = false;
 
+/// Ends the process without the waits of the ordinary end.
+void endAtOnce(int exitCode)
+{
+    consoleSetup.restore();
+    TerminateProcess(GetCurrentProcess(), UINT(exitCode));
+}
+
 BOOL WINAPI onConsoleEvent(DWORD event)
 {
     if (interruptSeen.exchange(true))
-        std::_Exit(InterruptedExitCode);
+        endAtOnce(InterruptedExitCode);
     {
         const std::scoped_lock lock(notifierMutex);
         if (currentNotifier != nullptr)
@@ -190,8 +207,7 @@ int terminalColumns()
 int endProcess(int exitCode)
 {
     std::fflush(nullptr);
-    consoleSetup.restore();
-    TerminateProcess(GetCurrentProcess(), UINT(exitCode));
+    endAtOnce(exitCode);
     return exitCode;
 }
 
@@ -213,15 +229,8 @@ InterruptNotifier::~InterruptNotifier()
 InputLines::InputLines(QObject *parent)
     : QObject(parent)
 {
-    const auto channel = std::make_shared<InputChannel>(*this, [this](const QByteArray &bytes) {
-        const bool atEnd = bytes.isEmpty();
-        m_pending.append(bytes);
-        if (atEnd && !m_pending.isEmpty() && !m_dropping)
-            m_pending.append('\n');
-        deliverLines();
-        if (atEnd)
-            Q_EMIT ended();
-    });
+    const auto channel =
+        std::make_shared<InputChannel>(*this, [this](const QByteArray &bytes) { takeBytes(bytes); });
     connect(this, &QObject::destroyed, this, [channel] { channel->close(); });
     // Nothing can end a read that waits for a console, so the thread is left to itself and ends with the
     // process.
@@ -229,22 +238,5 @@ InputLines::InputLines(QObject *parent)
 }
 
 InputLines::~InputLines() = default;
-
-void InputLines::deliverLines()
-{
-    for (qsizetype end = m_pending.indexOf('\n'); end >= 0; end = m_pending.indexOf('\n')) {
-        QByteArray line = m_pending.left(end);
-        m_pending.remove(0, end + 1);
-        if (line.endsWith('\r'))
-            line.chop(1);
-        if (!m_dropping && line.size() <= LongestLine)
-            Q_EMIT lineRead(QString::fromUtf8(line));
-        m_dropping = false;
-    }
-    if (m_pending.size() > LongestLine) {
-        m_pending.clear();
-        m_dropping = true;
-    }
-}
 
 } // namespace Zandrove::Platform

@@ -23,7 +23,7 @@ namespace Zandrove {
 
 namespace {
 
-constexpr int ContentWidth = 560;
+constexpr int MaximumContentWidth = 640;
 
 /// A white box that answers to the mouse, by its object name.
 QWidget *makeHoverBox(const QString &objectName)
@@ -42,6 +42,17 @@ QHBoxLayout *makeBoxLayout(QWidget *box)
     layout->setContentsMargins(10, 8, 10, 8);
     layout->setSpacing(10);
     return layout;
+}
+
+QLabel *makeCircle()
+{
+    constexpr int Diameter = 72;
+    QLabel *circle = makeLabel(u"✓"_s, 36, Theme::Colour::Success);
+    circle->setStyleSheet(circle->styleSheet() +
+                          Theme::boxStyle("QLabel"_L1, Theme::Colour::SuccessSoftTint, Diameter / 2));
+    circle->setFixedSize(Diameter, Diameter);
+    circle->setAlignment(Qt::AlignCenter);
+    return circle;
 }
 
 QLabel *makeGlyph(const QString &glyph, int pixels)
@@ -78,14 +89,16 @@ void CompletePage::setupUi()
 
 QWidget *CompletePage::createContent()
 {
-    QLabel *circle = makeTile(u"✓"_s, 36, 72, 36, Theme::Colour::SuccessSoftTint);
     setupWaiting();
     setupSavedFolders();
 
-    auto *column = new QVBoxLayout;
+    auto *centred = new QWidget;
+    centred->setMaximumWidth(MaximumContentWidth);
+    auto *column = new QVBoxLayout(centred);
+    column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addStretch();
-    column->addWidget(circle, 0, Qt::AlignHCenter);
+    column->addWidget(makeCircle(), 0, Qt::AlignHCenter);
     column->addSpacing(16);
     column->addWidget(makeCentredLabel(tr("Transfer Complete!"), 26, Theme::Colour::Text, Theme::Bold));
     column->addSpacing(8);
@@ -103,7 +116,7 @@ QWidget *CompletePage::createContent()
     auto *layout = new QHBoxLayout(content);
     layout->setContentsMargins(40, 24, 40, 24);
     layout->addStretch(1);
-    layout->addLayout(column, 100);
+    layout->addWidget(centred, 100);
     layout->addStretch(1);
     return content;
 }
@@ -175,6 +188,8 @@ QBoxLayout *CompletePage::createButtons()
         button->setAccessibleName(spoken);
         button->setCursor(Qt::PointingHandCursor);
         button->setStyleSheet(Theme::buttonStyle(look));
+        button->setSizePolicy(QSizePolicy::Minimum,
+                              QSizePolicy::Preferred); // one height, whatever the glyphs
         return button;
     };
     Theme::ButtonLook finishLook;

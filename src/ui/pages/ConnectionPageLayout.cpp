@@ -223,10 +223,8 @@ QWidget *ConnectionPage::createOtherCodeCard()
     for (int i = 0; i < CodeLength; ++i)
         addCodeEdit(row);
 
-    Theme::ButtonLook look = Theme::primaryButton();
-    look.disabled = Colour::PrimaryDisabled;
     m_connectButton = new QPushButton(tr("Connect"));
-    m_connectButton->setStyleSheet(Theme::buttonStyle(look));
+    m_connectButton->setStyleSheet(Theme::buttonStyle(Theme::primaryButton()));
     m_connectButton->setCursor(Qt::PointingHandCursor);
     m_connectButton->setObjectName(u"connectButton"_s);
     m_connectButton->setEnabled(false);

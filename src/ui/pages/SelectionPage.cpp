@@ -49,6 +49,21 @@ bool anyChecked(const QList<Row *> &rows)
     return std::any_of(rows.cbegin(), rows.cend(), [](const Row *row) { return row->isChecked(); });
 }
 
+/// What of a row takes the focus.
+QWidget *tabStop(const QWidget *row)
+{
+    return row->findChild<QCheckBox *>();
+}
+
+/// Where Tab comes from to `widget`.
+QWidget *stopBefore(QWidget *widget)
+{
+    do
+        widget = widget->previousInFocusChain();
+    while (!(widget->focusPolicy() & Qt::TabFocus));
+    return widget;
+}
+
 void untickSilently(QCheckBox *box)
 {
     const QSignalBlocker blocker(box);
@@ -94,6 +109,15 @@ void SelectionPage::clearRows()
     deleteRows(m_settingItems);
 }
 
+/// Tab goes through the rows as they stand on the page, the first of them behind `before`.
+template <typename Row>
+void SelectionPage::appendRow(Row *row, QList<Row *> &rows, QWidget *before)
+{
+    connect(row, &Row::checkStateChanged, this, &SelectionPage::updateSelection);
+    setTabOrder(rows.isEmpty() ? before : tabStop(rows.constLast()), tabStop(row));
+    rows.append(row);
+}
+
 void SelectionPage::addApps()
 {
     for (const OfferedApp &offered : offeredApps(m_scanResult.apps)) {
@@ -101,21 +125,20 @@ void SelectionPage::addApps()
         item->setAppInfo(offered.app);
         item->setProperty(OriginalIndex, offered.originalIndex);
         item->setChecked(false);
-        connect(item, &AppListItem::checkStateChanged, this, &SelectionPage::updateSelection);
         m_appLayout->insertWidget(m_appLayout->count() - 1, item);
-        m_appItems.append(item);
+        appendRow(item, m_appItems, m_selectAllApps);
     }
 }
 
 void SelectionPage::addAccounts()
 {
+    QWidget *const before = stopBefore(m_selectAllSettings);
     for (const AccountInfo &account : std::as_const(m_scanResult.accounts)) {
         auto *item = new AccountListItem(m_accountLayout->parentWidget());
         item->setAccountInfo(account);
         item->setChecked(true);
-        connect(item, &AccountListItem::checkStateChanged, this, &SelectionPage::updateSelection);
         m_accountLayout->addWidget(item);
-        m_accountItems.append(item);
+        appendRow(item, m_accountItems, before);
     }
 }
 
@@ -125,9 +148,8 @@ void SelectionPage::addSettings()
         auto *item = new SettingListItem(m_settingLayout->parentWidget());
         item->setSettingInfo(setting);
         item->setChecked(false);
-        connect(item, &SettingListItem::checkStateChanged, this, &SelectionPage::updateSelection);
         m_settingLayout->addWidget(item);
-        m_settingItems.append(item);
+        appendRow(item, m_settingItems, m_selectAllSettings);
     }
 }
 

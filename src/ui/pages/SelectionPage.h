@@ -62,6 +62,8 @@ private:
 
     // SelectionPage.cpp
     void clearRows();
+    template <typename Row>
+    void appendRow(Row *row, QList<Row *> &rows, QWidget *before);
     void addApps();
     void addAccounts();
     void addSettings();

@@ -48,7 +48,8 @@ QString comboStyle()
 QCheckBox *createSelectAll(const QString &text)
 {
     auto *box = new QCheckBox(text);
-    box->setStyleSheet(Theme::checkBoxStyle());
+    box->setStyleSheet(Theme::checkBoxStyle() + u" QCheckBox { %1 padding-left: 16px; }"_s.arg(
+                                                    Theme::textStyle(13, Colour::TextSecondary)));
     box->setCursor(Qt::PointingHandCursor);
     return box;
 }

@@ -15,7 +15,6 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QThread>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -89,6 +88,7 @@ QPushButton *makeButton(const QString &text, const Theme::ButtonLook &look)
     auto *button = new QPushButton(text);
     button->setCursor(Qt::PointingHandCursor);
     button->setStyleSheet(Theme::buttonStyle(look));
+    button->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred); // one height, whatever the glyphs
     return button;
 }
 
@@ -194,6 +194,12 @@ void TransferPage::setupConnections()
         connect(m_engine, end, this, &TransferPage::onRunEnded);
     connect(m_engine, &Engine::transferCompleted, this, &TransferPage::onRunEnded);
     connect(m_engine, &Engine::sessionEndReceived, this, [this] { m_sessionEnded = true; });
+
+    m_listenAgainTimer.setSingleShot(true);
+    m_listenAgainTimer.setInterval(RearmDelay);
+    connect(&m_listenAgainTimer, &QTimer::timeout, this, &TransferPage::listenAgain);
+    // The peer may begin anew before the delay is over: to listen then would end that run.
+    connect(m_engine, &Engine::fileTransferStarted, &m_listenAgainTimer, &QTimer::stop);
 }
 
 void TransferPage::setRole(int role)
@@ -341,14 +347,15 @@ bool TransferPage::confirmCancel()
     question.button(QMessageBox::Cancel)->setText(tr("Continue Transfer"));
     question.setStyleSheet(cancelQuestionStyle());
     m_cancelQuestion = &question;
-    const int round = m_round;
-    return question.exec() == QMessageBox::Ok && round == m_round;
+    m_runEnded = false;
+    return question.exec() == QMessageBox::Ok && !m_runEnded;
 }
 
 /// There is nothing left to cancel, and who ended it says what comes next.
 void TransferPage::onRunEnded()
 {
-    ++m_round;
+    m_listenAgainTimer.stop();
+    m_runEnded = true;
     if (m_cancelQuestion)
         m_cancelQuestion->reject();
 }
@@ -371,13 +378,19 @@ void TransferPage::onCancelClicked()
 /// Gives the peer time to hear of the cancel.
 void TransferPage::listenAgainSoon(const char *logLine)
 {
-    QTimer::singleShot(RearmDelay, this, [this, logLine, round = m_round] {
-        if (!m_engine || m_sessionEnded || round != m_round)
-            return;
-        if (logLine)
-            qDebug() << logLine;
-        m_engine->startReceiving();
-    });
+    if (m_sessionEnded)
+        return;
+    m_listenAgainLog = logLine;
+    m_listenAgainTimer.start();
+}
+
+void TransferPage::listenAgain()
+{
+    if (!m_engine)
+        return;
+    if (m_listenAgainLog)
+        qDebug() << m_listenAgainLog;
+    m_engine->startReceiving();
 }
 
 void TransferPage::onPeerCancelled()
@@ -407,6 +420,7 @@ TransferFileItem *TransferPage::addFileItem(const QString &fileName)
     item->setSizeText(QString());
     item->setStatus(TransferFileItem::Pending);
     m_fileListLayout->insertWidget(m_fileListLayout->count() - 1, item);
+    item->show(); // at once, so that the layout counts it before the list scrolls to it
     m_fileItems.append(item);
     return item;
 }

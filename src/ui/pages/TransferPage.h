@@ -6,6 +6,7 @@
 #include <QList>
 #include <QPointer>
 #include <QStringList>
+#include <QTimer>
 #include <QWidget>
 
 class QLabel;
@@ -79,6 +80,7 @@ private:
     /// An empty card with these texts in the places of the speed and the total.
     void clearCard(const QString &speed, const QString &total);
     void listenAgainSoon(const char *logLine);
+    void listenAgain();
 
     [[nodiscard]] bool confirmCancel();
     void onRunEnded();
@@ -103,8 +105,10 @@ private:
     bool m_isPaused = false;
     TransferProgress m_progress;
     QPointer<QMessageBox> m_cancelQuestion; ///< while it is open
-    int m_round = 0;                        ///< goes up when a run ends
+    bool m_runEnded = false;                ///< since the question was asked
     bool m_sessionEnded = false;            ///< by the peer; until the page is entered again
+    QTimer m_listenAgainTimer;
+    const char *m_listenAgainLog = nullptr; ///< what is logged at its end, if anything
 };
 
 } // namespace Zandrove

@@ -27,7 +27,7 @@ AccountListItem::AccountListItem(QWidget *parent)
     texts->addWidget(m_nameLabel);
     texts->addWidget(m_typeLabel);
     texts->addStretch();
-    rowLayout()->addWidget(makeTile(u"👤"_s, 18, IconSide, IconSide / 2, Theme::Colour::IndigoTintStrong));
+    rowLayout()->addWidget(makeTile(u"👤"_s, 18, IconSide, IconSide / 2, Theme::Colour::BlueBorder));
     rowLayout()->addLayout(texts, 1);
 }
 

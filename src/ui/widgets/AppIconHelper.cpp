@@ -12,6 +12,8 @@ namespace Zandrove::AppIconHelper {
 
 namespace {
 
+constexpr QSize ShownSize(32, 32);
+
 /// Adds `image` to `icon` unless it is null.
 void addImage(QIcon &icon, const QImage &image)
 {
@@ -19,12 +21,19 @@ void addImage(QIcon &icon, const QImage &image)
         icon.addPixmap(QPixmap::fromImage(image), QIcon::Normal, QIcon::Off);
 }
 
+/// The picture in a file, null where there is none. An icon alone would not be null for any file name.
+QIcon loadPicture(const QString &path)
+{
+    const QIcon icon(path);
+    return icon.pixmap(ShownSize).isNull() ? QIcon() : icon;
+}
+
 QIcon findDefaultIcon()
 {
     for (const QString &resource :
          {u":/icons/app_default.png"_s, u":/icons/application.png"_s, u":/icons/app.png"_s,
           u":/images/app_default.png"_s, u":/images/application.png"_s}) {
-        const QIcon icon(resource);
+        const QIcon icon = loadPicture(resource);
         if (!icon.isNull())
             return icon;
     }
@@ -52,7 +61,7 @@ QIcon iconForPath(const QString &path)
     static const QStringList Pictures = {u"ico"_s, u"png"_s, u"jpg"_s, u"jpeg"_s, u"bmp"_s};
     if (!Pictures.contains(file.suffix().toLower()))
         return iconFromExecutable(path);
-    const QIcon icon(path);
+    const QIcon icon = loadPicture(path);
     return icon.isNull() ? defaultAppIcon() : icon;
 }
 

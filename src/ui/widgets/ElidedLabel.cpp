@@ -64,7 +64,8 @@ QString ElidedLabel::shownText() const
 bool ElidedLabel::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && shownText() != singleLine(text())) {
-        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), plainToolTip(text()), this);
+        // Not as a tool tip of this widget, which would take over the label's own look.
+        QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), plainToolTip(text()));
         return true;
     }
     return QLabel::event(event);

@@ -38,8 +38,10 @@ QLabel *makeTile(const QString &glyph, int glyphPixels, int side, int radius, co
 
 void setTileBackground(QLabel *tile, int glyphPixels, int radius, const QString &background)
 {
-    tile->setStyleSheet(u"QLabel { %1 font-size: %2px; }"_s.arg(Theme::boxProperties(background, radius),
-                                                                QString::number(glyphPixels)));
+    // A text font would do where it has the picture, but in black and white.
+    tile->setStyleSheet(
+        u"QLabel { %1 font-size: %2px; font-family: \"Segoe UI Emoji\", \"Noto Color Emoji\", sans-serif; }"_s
+            .arg(Theme::boxProperties(background, radius), QString::number(glyphPixels)));
 }
 
 QString plainToolTip(const QString &text)

@@ -47,9 +47,9 @@ QPixmap renderSvg(const QString &path)
 ModeCard::ModeCard(QWidget *parent)
     : QWidget(parent)
 {
+    makeAccessibleChoice(this);
     setupUi();
     refreshTile();
-    makeAccessibleChoice(this);
     clickByKey(this, [this] { Q_EMIT clicked(); });
     KeyboardFocus::setArea(this, this, CornerRadius);
 }
@@ -70,7 +70,8 @@ void ModeCard::setupUi()
 
     m_titleLabel = makeLabel(QString(), 15, Theme::Colour::Text, Theme::SemiBold);
     m_subtitleLabel = makeLabel(QString(), 13, Theme::Colour::TextMuted);
-    m_subtitleLabel->setWordWrap(true);
+    for (QLabel *label : {m_titleLabel, m_subtitleLabel})
+        label->setWordWrap(true);
     auto *texts = new QVBoxLayout;
     texts->setSpacing(4);
     texts->addStretch();
@@ -89,7 +90,7 @@ void ModeCard::setupUi()
     layout->setSpacing(16);
     layout->addWidget(m_iconTile);
     layout->addLayout(texts, 1);
-    layout->addWidget(m_badgeLabel);
+    layout->addWidget(m_badgeLabel, 0, Qt::AlignVCenter);
     layout->addWidget(m_checkLabel);
 }
 

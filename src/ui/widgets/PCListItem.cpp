@@ -27,9 +27,9 @@ constexpr QLatin1StringView Transparent("transparent");
 PCListItem::PCListItem(QWidget *parent)
     : QWidget(parent)
 {
+    makeAccessibleChoice(this);
     setupUi();
     showOnline(false);
-    makeAccessibleChoice(this);
     clickByKey(this, [this] {
         if (m_info.online)
             Q_EMIT clicked();

@@ -27,11 +27,11 @@ RoleCard::RoleCard(int role, QWidget *parent)
     : QWidget(parent)
     , m_role(role)
 {
+    makeAccessibleChoice(this);
     setupUi();
     refreshTile();
     setAccessibleName(m_titleLabel->text());
     setAccessibleDescription(m_subtitleLabel->text());
-    makeAccessibleChoice(this);
     clickByKey(this, [this] { Q_EMIT clicked(); });
     KeyboardFocus::setArea(this, this, CornerRadius);
 }

@@ -20,6 +20,7 @@ constexpr int LineHeight = 2;
 StageIndicator::StageIndicator(QWidget *parent)
     : QWidget(parent)
 {
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

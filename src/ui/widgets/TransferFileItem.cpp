@@ -61,6 +61,7 @@ void TransferFileItem::setupUi()
     m_statusLabel = makeLabel(QString(), GlyphPixels);
     m_statusLabel->setFixedWidth(16);
     m_nameLabel = new ElidedLabel(QString(), NamePixels);
+    m_nameLabel->setElideMode(Qt::ElideMiddle);
     m_sizeLabel = makeLabel(QString(), 11, Theme::Colour::TextFaint);
     m_progressBar = new QProgressBar;
     m_progressBar->setTextVisible(false);
@@ -83,6 +84,7 @@ void TransferFileItem::setFileName(const QString &fileName)
 {
     m_fileName = fileName;
     m_nameLabel->setText(printable(fileName));
+    setAccessibleName(m_nameLabel->text());
     m_progressBar->setAccessibleName(m_nameLabel->text());
 }
 

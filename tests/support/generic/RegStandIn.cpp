@@ -94,39 +94,6 @@ RegistryValue valueOf(ValueType type, const QString &text)
     }
 }
 
-QString shown(const RegistryValue &value)
-{
-    if (const auto number = numberOf(value))
-        return u"0x"_s + QString::number(*number, 16);
-    if (value.type == ValueType::Text || value.type == ValueType::ExpandableText)
-        return textOf(value.data);
-    if (value.type == ValueType::TextList)
-        return textListOf(value.data).join("\\0"_L1);
-    return QString::fromLatin1(value.data.toHex().toUpper());
-}
-
-void printValue(const QString &name, const RegistryValue &value)
-{
-    const auto *const type =
-        std::find_if(TypeNames.begin(), TypeNames.end(),
-                     [&value](const TypeName &known) { return known.type == value.type; });
-    const QString typeName = type == TypeNames.end() ? u"REG_UNKNOWN"_s : QString(type->name);
-    print(u"    %1    %2    %3"_s.arg(name.isEmpty() ? u"(Default)"_s : name, typeName, shown(value)));
-}
-
-void printKey(const QString &path, const RegistryNode &key, bool withSubkeys)
-{
-    print(u'\n' + path);
-    for (const auto &[name, value] : key.values)
-        printValue(name, value);
-    for (const auto &[name, subkey] : key.subkeys) {
-        if (withSubkeys)
-            printKey(path + u'\\' + name, *subkey, true);
-        else
-            print(path + u'\\' + name);
-    }
-}
-
 int exportKey(const QString &path, const QStringList &arguments)
 {
     const auto registry = readRegistryFile();
@@ -147,25 +114,6 @@ int importFile(const QString &path)
     const QString text = decodeRegistryFile(file.readAll());
     return finish(
         changeRegistryFile([&text](RegistryNode &registry) { return mergeRegistryText(registry, text); }));
-}
-
-int queryKey(const QString &path, const QStringList &arguments)
-{
-    const auto registry = readRegistryFile();
-    const RegistryNode *const key = registry->find(path);
-    if (key == nullptr)
-        return failForMissing();
-    const std::optional<QString> name = valueName(arguments);
-    if (!name) {
-        printKey(path, *key, arguments.contains("/s"_L1, Qt::CaseInsensitive));
-        return Succeeded;
-    }
-    const auto value = key->values.find(*name);
-    if (value == key->values.end())
-        return failForMissing();
-    print(u'\n' + path);
-    printValue(value->first, value->second);
-    return Succeeded;
 }
 
 int addValue(const QString &path, const QStringList &arguments)
@@ -213,8 +161,6 @@ int runReg(const QStringList &arguments)
         return fail(u"ERROR: Invalid key name."_s);
     if (action == "export"_L1 && arguments.size() >= 3)
         return exportKey(path, arguments);
-    if (action == "query"_L1)
-        return queryKey(path, arguments);
     if (action == "add"_L1)
         return addValue(path, arguments);
     if (action == "delete"_L1)

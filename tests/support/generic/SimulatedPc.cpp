@@ -109,7 +109,7 @@ bool SimulatedPc::isMadeUp()
 
 QString SimulatedPc::path(const QString &place) const
 {
-    return m_folder->filePath(place);
+    return QFileInfo(place).isAbsolute() ? place : m_folder->filePath(place);
 }
 
 QString SimulatedPc::homePath(const QString &place) const

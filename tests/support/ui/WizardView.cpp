@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QCheckBox>
 #include <QJsonArray>
 #include <QLabel>
 #include <QLineEdit>
@@ -15,6 +16,8 @@
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 #include <QWindow>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -36,6 +39,13 @@ QString textOf(const QWidget *widget)
     if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
         return button->text();
     return {};
+}
+
+/// Where a user would click it: a box with a text answers only there.
+QPoint handleOf(const QWidget *widget)
+{
+    const QPoint middle = widget->rect().center();
+    return qobject_cast<const QCheckBox *>(widget) ? QPoint(std::min(middle.x(), 8), middle.y()) : middle;
 }
 
 /// Brings `widget` into the sight of the scroll areas around it.
@@ -107,7 +117,7 @@ bool WizardView::click(const QString &name) const
 {
     if (QWidget *widget = control(name)) {
         scrollTo(widget);
-        clickAt(widget, widget->rect().center());
+        clickAt(widget, handleOf(widget));
         return true;
     }
     const QList<QTabBar *> bars = front()->findChildren<QTabBar *>();
@@ -164,13 +174,19 @@ void WizardView::type(const QString &text) const
 QPixmap WizardView::picture() const
 {
     QPixmap picture = m_window->grab();
+    QPainter painter(&picture);
     for (QWidget *above : {QApplication::activeModalWidget(), QApplication::activePopupWidget()}) {
         if (!above || above == m_window)
             continue;
-        const QPixmap dialog = above->grab();
-        const QPoint middle = m_window->rect().center() - above->rect().center();
-        const QPoint position = (above->windowType() == Qt::Popup) ? above->pos() - m_window->pos() : middle;
-        QPainter(&picture).drawPixmap(position, dialog);
+        const bool isMenu = above->windowType() == Qt::Popup;
+        const QPoint corner =
+            isMenu ? above->pos() - m_window->pos() : m_window->rect().center() - above->rect().center();
+        painter.drawPixmap(corner, above->grab());
+        if (isMenu)
+            continue;
+        // In the place of the frame that the system would give it.
+        painter.setPen(Qt::gray);
+        painter.drawRect(QRect(corner, above->size()));
     }
     return picture;
 }

@@ -1,0 +1,19 @@
+#include "InventoryTests.h"
+
+#include "TestMain.h"
+
+namespace {
+
+int runAll(int argc, char *argv[])
+{
+    const QCoreApplication app(argc, argv);
+    return Zandrove::TestMain::runTests(makeAppRulesTest, makeSearchTest, makeScannersTest,
+                                        makeAppScannerTest);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    return Zandrove::Platform::endProcess(runAll(argc, argv));
+}

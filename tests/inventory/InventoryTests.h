@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QObject>
+
+QObject *makeAppRulesTest();
+QObject *makeSearchTest();
+QObject *makeScannersTest();
+QObject *makeAppScannerTest();
