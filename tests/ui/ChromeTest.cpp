@@ -14,6 +14,7 @@
 #include <QActionGroup>
 #include <QFile>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
@@ -173,7 +174,7 @@ void ChromeTest::menuLeavesBySignals()
         {u"❓  Help"_s, &TitleBar::helpClicked},
         {u"💬  Support"_s, &TitleBar::supportClicked}};
     QStringList texts;
-    for (QAction *action : m_bar->findChild<QMenu *>(Qt::FindDirectChildrenOnly)->actions()) {
+    for (QAction *action : m_bar->findChild<QMenu *>(QString(), Qt::FindDirectChildrenOnly)->actions()) {
         texts.append(action->text());
         for (const auto &[text, signal] : entries) {
             const QSignalSpy told(m_bar, signal);

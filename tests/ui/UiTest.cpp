@@ -10,8 +10,9 @@ int runAll(int argc, char *argv[])
 {
     const Zandrove::TestMain::OwnHome home;
     const QApplication app(argc, argv);
-    return Zandrove::TestMain::runTests(makeDrawingTest, makeWidgetsTest, makeConnectionPageTest,
-                                        makeSelectionPagesTest, makeRunPagesTest, makeMainWindowTest);
+    return Zandrove::TestMain::runTests(makeLinkManagerTest, makeDrawingTest, makeWidgetsTest, makeChromeTest,
+                                        makeFileBrowserTest, makeConnectionPageTest, makeSelectionPagesTest,
+                                        makeRunPagesTest, makeMainWindowTest);
 }
 
 } // namespace

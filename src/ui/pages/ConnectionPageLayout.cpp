@@ -53,7 +53,7 @@ QHBoxLayout *addCentredRow(QVBoxLayout *column)
 QLabel *createCodeLabel()
 {
     QLabel *label = makeLabel(u"-"_s, 24, Colour::Primary, Theme::Bold);
-    label->setStyleSheet(label->styleSheet() + Theme::boxProperties(Colour::White, 10));
+    label->setStyleSheet(label->styleSheet() + Theme::boxStyle("QLabel"_L1, Colour::White, 10));
     label->setFixedSize(48, 56);
     label->setAlignment(Qt::AlignCenter);
     return label;
