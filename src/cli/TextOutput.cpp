@@ -245,8 +245,8 @@ void TextOutput::inventory(const ScanResult &result)
 
     QStringList folders;
     for (const FolderInfo &folder : result.folders)
-        folders.append(
-            inventoryRow(folder.totalSize, {folder.name, tr("%1 files").arg(folder.fileCount), folder.path}));
+        folders.append(inventoryRow(folder.totalSize,
+                                    {folder.name, tr("files: %1").arg(folder.fileCount), folder.path}));
     section(tr("Folders: %1"), folders);
 
     QStringList accounts;

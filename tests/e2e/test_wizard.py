@@ -136,9 +136,23 @@ class WizardTest(pcs.TestCase):
         new.wait(page=5)
 
         old.wait(page=4)
-        old.tab_to(next(text for text in old.state["controls"] if text.startswith("Applications")))
+        old.tab_to(old.tabs()[0])
         old.key("Right")
+        old.tab_to("Quick Access")
+        old.key("Home", "Return")
+        old.tab_to("Select folders to transfer")
+        old.key("Home", "Down", "Space")
+        old.wait(enabled="Next")
         old.picture("keyboard-4-files")
+        old.tab_to("Next")
+        old.key("Return")
+        for window in (old, new):
+            window.wait(page=6)
+        old.tab_to("Finished")
+        old.key("Return")
+        for window in (old, new):
+            window.wait(page=1)
+        self.assertMoved(self.album)
 
     def test_cancel_by_either_side(self):
         old, new = self.both()

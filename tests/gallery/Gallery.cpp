@@ -1,6 +1,7 @@
 // Renders the window in its notable states to PNG files: zandrove-gallery FOLDER. Each state is reached
 // through the window's own ways: its buttons, and what the engine would tell it.
 
+#include "SilentEngine.h"
 #include "WizardView.h"
 
 #include "core/app/StartUp.h"
@@ -32,6 +33,17 @@ namespace {
 constexpr auto LookInterval = 20ms;
 constexpr auto SettlingTime = 100ms;
 
+PCInfo peer(const QString &name, const QString &ip, bool online = true)
+{
+    PCInfo pc;
+    pc.id = name;
+    pc.name = name;
+    pc.ip = ip;
+    pc.os = u"Windows 11 Pro 23H2 (Build 22631)"_s;
+    pc.online = online;
+    return pc;
+}
+
 /// A window on a PC that hears and is heard by nobody.
 struct Stage
 {
@@ -41,17 +53,12 @@ struct Stage
         , view(&window)
     {
         window.show();
+        window.activateWindow();
+        settle();
     }
 
-    static LinkEnvironment silentEnvironment()
-    {
-        LinkEnvironment environment;
-        environment.tcpPort = 0;
-        environment.udpPort = 0;
-        environment.adapters = [] { return QList<NetworkAdapter>(); };
-        environment.sendDatagram = [](const QByteArray &, const QHostAddress &, quint16) {};
-        return environment;
-    }
+    /// Lets rows find their places.
+    static void settle() { QCoreApplication::processEvents(); }
 
     void choose(int role)
     {
@@ -124,6 +131,7 @@ struct Stage
         silentPeer->setRole(role == OldPC ? NewPC : OldPC);
         silentPeer->startDiscovery();
         engine->findChild<NetworkManager *>()->handleDatagram(announcement, QHostAddress(u"127.0.0.2"_s));
+        settle();
         view.click(getComputerName());
     }
 
@@ -168,17 +176,6 @@ ScanResult Stage::scanResult()
         result.settings.append(setting);
     }
     return result;
-}
-
-PCInfo peer(const QString &name, const QString &ip, bool online = true)
-{
-    PCInfo pc;
-    pc.id = name;
-    pc.name = name;
-    pc.ip = ip;
-    pc.os = u"Windows 11 Pro 23H2 (Build 22631)"_s;
-    pc.online = online;
-    return pc;
 }
 
 MigrationReport goodReport()
@@ -269,7 +266,13 @@ QList<Scene> transferScenes(int role)
 {
     const QString pc = role == OldPC ? u"old"_s : u"new"_s;
     return {
-        {u"5-transfer-%1-begin"_s.arg(pc), [role](Stage &stage) { stage.transfer(role); }},
+        {u"5-transfer-%1-begin"_s.arg(pc),
+         [role](Stage &stage) {
+             stage.transfer(role);
+             stage.settle(); // without a link it has failed by now
+             if (role == OldPC)
+                 Q_EMIT stage.engine->transferProgressChanged({});
+         }},
         {u"5-transfer-%1-running"_s.arg(pc), [role](Stage &stage) { stage.transferSome(role); }},
         {u"5-transfer-%1-paused"_s.arg(pc),
          [role](Stage &stage) {

@@ -14,7 +14,9 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <algorithm>
 #include <memory>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
@@ -187,11 +189,12 @@ void ScannersTest::folderSizeHasItsLimits()
 {
     const QString folder = m_pc->path(u"many"_s);
     QDir().mkpath(folder);
-    for (int i = 0; i < 10500; ++i) {
+    const int files = SimulatedPc::isMadeUp() ? MostFilesMeasured + 500 : 500; // each takes long under Wine
+    for (int i = 0; i < files; ++i) {
         QFile file(folder + u'/' + QString::number(i));
         QVERIFY(file.open(QIODevice::WriteOnly) && file.write("xx") == 2);
     }
-    QCOMPARE(calculateDirSize(folder), 20000); // 10,000 files
+    QCOMPARE(calculateDirSize(folder), 2 * std::min(files, MostFilesMeasured));
     QCOMPARE(calculateDirSize(folder, 7), 14);
     int asked = 0;
     QCOMPARE(calculateDirSize(folder, 100, [&asked] { return ++asked > 3; }), 6);

@@ -65,8 +65,6 @@ private Q_SLOTS:
     void backFromSelectionScansAnew();
     void unregisteredCopyDoesNotSend();
     void focusGoesAlongToTheNextPage();
-    void everyPageCanBeClosed_data();
-    void everyPageCanBeClosed();
 
 private:
     [[nodiscard]] int page() const
@@ -320,28 +318,6 @@ void MainWindowTest::focusGoesAlongToTheNextPage()
         QVERIFY(m_window->focusWidget());
         QVERIFY2(shown->isAncestorOf(m_window->focusWidget()), QByteArray::number(at).constData());
     }
-}
-
-void MainWindowTest::everyPageCanBeClosed_data()
-{
-    QTest::addColumn<int>("role");
-    QTest::addColumn<int>("page");
-
-    for (int page = 0; page < MainWindow::PageCount; ++page)
-        QTest::addRow("page %d", page) << int(OldPC) << page;
-    QTest::newRow("New PC waiting") << int(NewPC) << int(MainWindow::PageTransfer);
-}
-
-void MainWindowTest::everyPageCanBeClosed()
-{
-    QFETCH(int, role);
-    QFETCH(int, page);
-    Q_EMIT m_engine->scanCompleted(oneSetting());
-    walkTo(page, role);
-    press(u"Close"_s);
-    QVERIFY(!m_window->isVisible());
-    m_window.reset();
-    QCoreApplication::processEvents();
 }
 
 QObject *makeMainWindowTest()

@@ -90,7 +90,6 @@ private Q_SLOTS:
     void finishedRowsMakeRoom();
     void titlesFollowTheRun_data();
     void titlesFollowTheRun();
-    void pauseIsShownAlikeFromBothSides();
     void completionMarksTheRowsAndReports();
     void cancelAsksFirst_data();
     void cancelAsksFirst();
@@ -234,26 +233,6 @@ void RunPagesTest::titlesFollowTheRun()
          {u"42%"_s, u"1.5 KB/s"_s, u"1:01:01"_s, u"1023 B"_s, u"of 1.0 MB"_s, u"3 failed"_s})
         QVERIFY2(shownTexts(page).contains(text), qPrintable(text));
     QVERIFY(!shownTexts(page).contains(u"reason"_s));
-}
-
-void RunPagesTest::pauseIsShownAlikeFromBothSides()
-{
-    TransferPage page(m_engine.get());
-    page.startReceiving();
-    m_engine->startReceiving();
-    const QSignalSpy paused(m_engine.get(), &TransferEngine::transferPaused);
-    const QSignalSpy resumed(m_engine.get(), &TransferEngine::transferResumed);
-
-    QTest::mouseClick(buttonOf(page, u"⏸ Pause"_s), Qt::LeftButton);
-    QCOMPARE(paused.count(), 1);
-    QCOMPARE(shownTexts(page).first(), u"Waiting for Data..."_s);
-    QTest::mouseClick(buttonOf(page, u"▶ Resume"_s), Qt::LeftButton);
-    QCOMPARE(resumed.count(), 1);
-
-    Q_EMIT m_engine->pausedByPeer();
-    QCoreApplication::processEvents();
-    QVERIFY(buttonOf(page, u"▶ Resume"_s));
-    QCOMPARE(paused.count(), 1);
 }
 
 void RunPagesTest::completionMarksTheRowsAndReports()

@@ -79,7 +79,7 @@ QString splitterStyle()
 QString listStyle()
 {
     return u"QListWidget { background: transparent; border: none; outline: none; font-size: 13px; } "
-           u"QListWidget::item { padding: 8px 10px; color: %1; } "
+           u"QListWidget::item { padding: 8px 10px; color: %1; border: none; } "
            u"QListWidget::item:hover { background: %2; } "
            u"QListWidget::item:selected { background: %3; color: %4; }"_s.arg(
                Colour::TextSecondary, Colour::Hover, Colour::BlueTintStrong, Colour::Text);
@@ -88,7 +88,7 @@ QString listStyle()
 QString treeStyle()
 {
     return u"QTreeWidget { background: %1; border: none; outline: none; font-size: 13px; color: %2; } "
-           u"QTreeWidget::item { padding: 4px 2px; min-height: 24px; } "
+           u"QTreeWidget::item { padding: 4px 2px; min-height: 24px; border: none; } "
            u"QTreeWidget::item:hover { background: %3; } "
            u"QTreeWidget::item:selected { background: %4; color: %2; } "
            u"QTreeView::branch { background: transparent; } "
