@@ -81,8 +81,10 @@ QString listStyle()
     return u"QListWidget { background: transparent; border: none; outline: none; font-size: 13px; } "
            u"QListWidget::item { padding: 8px 10px; color: %1; border: none; } "
            u"QListWidget::item:hover { background: %2; } "
-           u"QListWidget::item:selected { background: %3; color: %4; }"_s.arg(
-               Colour::TextSecondary, Colour::Hover, Colour::BlueTintStrong, Colour::Text);
+           u"QListWidget::item:selected { background: %3; color: %4; } "
+           // The line between the entries, whose own background an item with a style does not show.
+           u"QListWidget::item:disabled { background: %5; }"_s.arg(
+               Colour::TextSecondary, Colour::Hover, Colour::BlueTintStrong, Colour::Text, Colour::Border);
 }
 
 QString treeStyle()
