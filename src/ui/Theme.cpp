@@ -145,8 +145,12 @@ QString menuStyle()
     return u"QMenu { background: %1; border: 1px solid %2; border-radius: 8px; padding: 8px 4px; "
            u"min-width: 180px; } "
            u"QMenu::item { padding: 10px 16px; border-radius: 6px; margin: 2px 4px; color: %3; "
+           // With its box as wide as the least menu, which does not stretch entries that can be checked.
+           u"min-width: 140px; "
            u"background: transparent; } "
            u"QMenu::item:selected { background: %4; color: %5; } "
+           u"QMenu::indicator { width: 16px; height: 16px; left: 8px; } "
+           u"QMenu::indicator:checked { image: url(:/icons/check.svg); } "
            u"QMenu::separator { height: 1px; background: %2; margin: 6px 8px; }"_s.arg(
                Colour::White, Colour::SlateBorder, Colour::SlateText, Colour::SlateHover, Colour::Slate);
 }

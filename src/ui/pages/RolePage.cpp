@@ -62,7 +62,7 @@ QWidget *RolePage::createHint()
     auto *layout = new QHBoxLayout(hint);
     layout->setContentsMargins(16, 12, 16, 12);
     layout->setSpacing(12);
-    layout->addWidget(makeLabel(u"ℹ️"_s, 16));
+    layout->addWidget(makeTile(u"ℹ️"_s, 16, 20, 0, u"transparent"_s));
     layout->addWidget(text, 1);
     return hint;
 }

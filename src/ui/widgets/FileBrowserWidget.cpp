@@ -83,8 +83,10 @@ QString listStyle()
            u"QListWidget::item { padding: 8px 10px; color: %1; } "
            u"QListWidget::item:enabled { border: none; } " // the separator keeps its background
            u"QListWidget::item:hover { background: %2; } "
-           u"QListWidget::item:selected { background: %3; color: %4; }"_s.arg(
-               Colour::TextSecondary, Colour::Hover, Colour::BlueTintStrong, Colour::Text);
+           u"QListWidget::item:selected { background: %3; color: %4; } "
+           // The line between the entries, whose own background an item with a style does not show.
+           u"QListWidget::item:disabled { background: %5; }"_s.arg(
+               Colour::TextSecondary, Colour::Hover, Colour::BlueTintStrong, Colour::Text, Colour::Border);
 }
 
 QString treeStyle()
