@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QScrollArea>
 #include <QStackedWidget>
+#include <QStyle>
+#include <QStyleOptionButton>
 #include <QTabBar>
 #include <QTest>
 #include <QTreeWidget>
@@ -41,11 +43,14 @@ QString textOf(const QWidget *widget)
     return {};
 }
 
-/// Where a user would click it: a box with a text answers only there.
+/// Where a user would click it: a box with a text answers only there and on its indicator.
 QPoint handleOf(const QWidget *widget)
 {
-    const QPoint middle = widget->rect().center();
-    return qobject_cast<const QCheckBox *>(widget) ? QPoint(std::min(middle.x(), 8), middle.y()) : middle;
+    if (!qobject_cast<const QCheckBox *>(widget))
+        return widget->rect().center();
+    QStyleOptionButton option;
+    option.initFrom(widget);
+    return widget->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, widget).center();
 }
 
 /// Brings `widget` into the sight of the scroll areas around it.
