@@ -1,0 +1,19 @@
+#include "SettingsTests.h"
+#include "TestMain.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+int runAll(int argc, char *argv[])
+{
+    const QCoreApplication app(argc, argv);
+    return Zandrove::TestMain::runTests(makeSettingPackageTest);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    return Zandrove::Platform::endProcess(runAll(argc, argv));
+}
