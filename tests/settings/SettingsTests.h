@@ -6,3 +6,4 @@
 
 /// The test classes of this folder.
 [[nodiscard]] std::unique_ptr<QObject> makeSettingPackageTest();
+[[nodiscard]] std::unique_ptr<QObject> makeSettingExportTest();
