@@ -1,6 +1,7 @@
 #include "settings/SettingMigrator.h"
 
 #include "peer/Protocol.h"
+#include "settings/SettingApply.h"
 #include "settings/SettingExport.h"
 
 #include <QDebug>
@@ -9,6 +10,7 @@
 #include <algorithm>
 #include <chrono>
 #include <iterator>
+#include <utility>
 
 using namespace std::chrono_literals;
 using namespace Zandrove::SettingMessages;
@@ -24,9 +26,20 @@ constexpr Milliseconds SettingPause = 50ms;
 constexpr Milliseconds ChunkPause = 10ms;
 constexpr int ChunksPerPause = 10;
 
+constexpr int PointsPerSetting = 10;
+
 int wireType(Protocol::MessageType type)
 {
     return int(type);
+}
+
+/// How much of a file has arrived, whatever numbers the peer made up.
+int percentOf(const Data &chunk)
+{
+    if (chunk.totalChunks < 1)
+        return 0;
+    const qint64 percent = (qint64(chunk.chunkIndex) + 1) * 100 / chunk.totalChunks;
+    return int(std::clamp<qint64>(percent, 0, 100));
 }
 
 } // namespace
@@ -56,8 +69,7 @@ void SettingMigrator::start(const QList<SettingInfo> &settings)
         exportAndSend(chosen[i]);
         QThread::msleep(SettingPause.count());
     }
-    State running = State::Running;
-    if (!m_state.compare_exchange_strong(running, State::Idle))
+    if (!endRun())
         return;
     Q_EMIT requestSendCommand(wireType(Protocol::MessageType::SettingComplete),
                               Complete{m_successCount, m_failedCount}.toPayload());
@@ -85,6 +97,13 @@ void SettingMigrator::beginRun()
         cancel();
     m_successCount = 0;
     m_failedCount = 0;
+}
+
+/// False where a cancel came first.
+bool SettingMigrator::endRun()
+{
+    State running = State::Running;
+    return m_state.compare_exchange_strong(running, State::Idle);
 }
 
 bool SettingMigrator::isCancelled() const
@@ -128,6 +147,80 @@ void SettingMigrator::sendFile(const SettingPackage &package)
         if (index % ChunksPerPause == 0)
             QThread::msleep(ChunkPause.count());
     }
+}
+
+void SettingMigrator::startReceiving()
+{
+    qDebug() << "[SettingMigrator] Starting receiver mode";
+    beginRun();
+}
+
+void SettingMigrator::onSettingStart(const QByteArray &payload)
+{
+    m_currentPackage = readStart(payload);
+    m_currentIsDamaged = false;
+    qDebug() << "[SettingMigrator] Receiving setting:" << m_currentPackage.key << m_currentPackage.name;
+    Q_EMIT settingStarted(m_currentPackage.name);
+}
+
+void SettingMigrator::onSettingData(const QByteArray &payload)
+{
+    const Data data = Data::fromPayload(payload);
+    if (data.key != m_currentPackage.key) {
+        qDebug() << "[SettingMigrator] Key mismatch! Expected:" << m_currentPackage.key << "Got:" << data.key;
+        return;
+    }
+    addContent(data);
+    if (data.content == Data::Content::Registry) {
+        qDebug() << "[SettingMigrator] Received registry data, size:" << data.bytes.size();
+    } else if (data.content == Data::Content::File) {
+        Q_EMIT settingProgress(m_currentPackage.name, percentOf(data));
+        qDebug() << "[SettingMigrator] Received file chunk" << qint64(data.chunkIndex) + 1 << "/"
+                 << data.totalChunks;
+    }
+}
+
+void SettingMigrator::addContent(const Data &data)
+{
+    if (data.content == Data::Content::Unknown)
+        return;
+    const bool isFile = data.content == Data::Content::File;
+    if (isFile)
+        m_currentPackage.fileName = data.fileName;
+    // Exported keys replace each other, chunks add up.
+    const qsizetype kept =
+        m_currentPackage.fileData.size() + (isFile ? m_currentPackage.registryData.size() : 0);
+    if (!data.intact || kept + data.bytes.size() > m_contentLimit) {
+        m_currentIsDamaged = true;
+        return;
+    }
+    if (isFile)
+        m_currentPackage.fileData += data.bytes;
+    else
+        m_currentPackage.registryData = data.bytes;
+}
+
+void SettingMigrator::onSettingEnd(const QByteArray &payload)
+{
+    if (End::fromPayload(payload).key != m_currentPackage.key) {
+        qDebug() << "[SettingMigrator] SettingEnd key mismatch!";
+        return;
+    }
+    const SettingPackage package = std::exchange(m_currentPackage, {});
+    const bool isDamaged = std::exchange(m_currentIsDamaged, false);
+    qDebug() << "[SettingMigrator] Setting complete:" << package.key
+             << "registry:" << package.registryData.size() << "file:" << package.fileData.size();
+    countOutcome(package.name, !isDamaged && applySetting(package), tr("Failed to apply setting"));
+    ++m_processedCount;
+    Q_EMIT progress(m_processedCount * PointsPerSetting, package.name);
+}
+
+void SettingMigrator::onSettingComplete(const QByteArray &)
+{
+    qDebug() << "[SettingMigrator] Received SettingComplete - Applied:" << m_successCount
+             << "Failed:" << m_failedCount;
+    endRun();
+    Q_EMIT finished(m_successCount, m_failedCount);
 }
 
 void SettingMigrator::countOutcome(const QString &name, bool success, const QString &failure)

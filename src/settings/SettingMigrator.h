@@ -11,8 +11,9 @@
 
 namespace Zandrove {
 
-/// Exports the chosen settings of the Old PC and says them to the peer. A setting that fails costs itself
-/// alone, and the peer never hears of it.
+/// Moves settings. On the Old PC it exports the chosen ones and says them to the peer; on the New PC it puts
+/// each together from the messages and applies it. A setting that fails costs itself alone; the peer never
+/// hears of one that could not be exported.
 ///
 /// Its slots run on the thread that it lives in, and block it while programs of the system run. It knows no
 /// socket: each message leaves by `requestSendCommand`. `cancel`, `stop` and `isRunning` may be called from
@@ -26,6 +27,9 @@ public:
 
     explicit SettingMigrator(QObject *parent = nullptr);
 
+    /// How many bytes of contents one setting may bring along; one that brings more fails. 512 MiB at first.
+    void setContentLimit(qint64 bytes) { m_contentLimit = bytes; }
+
     /// Whether an export is on, or settings are being received.
     [[nodiscard]] bool isRunning() const { return m_state == State::Running; }
     /// A cancel for good: this object begins no other export.
@@ -35,15 +39,28 @@ public Q_SLOTS:
     /// Exports and sends those that are selected and available. Ignored while another export is on. Ends by
     /// `finished`, at once and without a message where there is none, or silently when cancelled.
     void start(const QList<Zandrove::SettingInfo> &settings);
-    /// Ends the export before its next setting.
+    /// Ends the export before its next setting. What is received is applied all the same.
     void cancel();
+
+    /// Begins to receive: the counts of `finished` from zero. Those of `progress` go on.
+    void startReceiving();
+    /// A setting begins; one that was still being received is dropped.
+    void onSettingStart(const QByteArray &payload);
+    /// A piece of the current setting; those of another are dropped.
+    void onSettingData(const QByteArray &payload);
+    /// The current setting is complete and gets applied.
+    void onSettingEnd(const QByteArray &payload);
+    /// The peer has no more settings: ends the run by `finished`.
+    void onSettingComplete(const QByteArray &payload);
 
 Q_SIGNALS:
     // In all of them name is the setting's display name.
     void settingStarted(const QString &name);
+    /// On the New PC only: how much of the setting's file has arrived.
     void settingProgress(const QString &name, int percent);
     /// `error` is a translated text, empty on success.
     void settingFinished(const QString &name, bool success, const QString &error);
+    /// On the New PC ten points for each setting, however many there are: more than 100 from the eleventh on.
     void progress(int percent, const QString &currentSetting);
     /// How many settings went well and how many did not.
     void finished(int applied, int failed);
@@ -54,16 +71,23 @@ private:
     enum class State { Idle, Running, Cancelled };
 
     void beginRun();
+    bool endRun();
     [[nodiscard]] bool isCancelled() const;
     void exportAndSend(const SettingInfo &setting);
     void sendPackage(const SettingPackage &package);
     void sendFile(const SettingPackage &package);
+    void addContent(const SettingMessages::Data &data);
     void countOutcome(const QString &name, bool success, const QString &failure);
 
     std::atomic<State> m_state = State::Idle;
     std::atomic<bool> m_stopped = false;
     int m_successCount = 0;
     int m_failedCount = 0;
+
+    qint64 m_contentLimit = 512 * 1024 * 1024; // bytes
+    SettingPackage m_currentPackage;
+    bool m_currentIsDamaged = false; // something of it had to be dropped
+    int m_processedCount = 0;        // of all runs
 };
 
 } // namespace Zandrove

@@ -6,6 +6,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -47,6 +48,31 @@ std::optional<QByteArray> takeFile(const QString &path)
     return content;
 }
 
+bool writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
+}
+
+/// Runs a program on a temporary file with this content. Nothing where the file can't be written.
+std::optional<Platform::ProgramResult> runOnFile(const QString &program, const QString &action,
+                                                 const QString &path, const QByteArray &content)
+{
+    std::optional<Platform::ProgramResult> result;
+    if (writeFile(path, content))
+        result = Platform::runProgram(program, {action, path}, ProgramTimeout);
+    QFile::remove(path);
+    return result;
+}
+
+/// The first GUID in what `powercfg` said; empty where there is none.
+QString guidIn(const QString &text)
+{
+    static const QRegularExpression guid(
+        u"[0-9a-fA-F]{8}-[0-9a-fA-F]{4}-[0-9a-fA-F]{4}-[0-9a-fA-F]{4}-[0-9a-fA-F]{12}"_s);
+    return guid.match(text).captured();
+}
+
 QString shortKey(QString key)
 {
     return key.replace("HKEY_CURRENT_USER"_L1, "HKCU"_L1)
@@ -78,6 +104,25 @@ std::optional<QByteArray> exportRegistryKey(const QString &key)
     return data->isEmpty() ? std::nullopt : data;
 }
 
+bool importRegistryData(const QByteArray &data)
+{
+    if (data.isEmpty())
+        return false;
+    const QString path = temporaryRegistryPath(u"zandrove_reg_import_%1.reg"_s);
+    const auto reg = runOnFile(u"reg"_s, u"import"_s, path, data);
+    if (!reg)
+        return false;
+    if (!reg->finished) {
+        qDebug() << "[Registry] Import timeout";
+        return false;
+    }
+    if (reg->exitCode != 0) {
+        qDebug() << "[Registry] Import failed:" << localText(reg->standardError);
+        return false;
+    }
+    return true;
+}
+
 std::optional<QByteArray> exportPowerScheme()
 {
     const QString path = temporaryPath(u"zandrove_power_export.pow"_s);
@@ -92,6 +137,20 @@ std::optional<QByteArray> exportPowerScheme()
         return std::nullopt;
     }
     return takeFile(path);
+}
+
+bool importPowerScheme(const QByteArray &scheme)
+{
+    const QString path = temporaryPath(u"zandrove_power_import.pow"_s);
+    const auto powercfg = runOnFile(u"powercfg"_s, u"/import"_s, path, scheme);
+    if (!powercfg || !powercfg->finished)
+        return false;
+    const bool imported = powercfg->exitCode == 0;
+    const QString guid = guidIn(localText(powercfg->standardOutput));
+    if (imported && !guid.isEmpty())
+        static_cast<void>(Platform::runProgram(u"powercfg"_s, {u"/setactive"_s, guid}));
+    qDebug() << "[Power] Applied settings, success:" << imported;
+    return imported;
 }
 
 } // namespace Zandrove

@@ -13,7 +13,14 @@ namespace Zandrove {
 /// both kinds of slash separate the parts. Nothing on failure, and nothing for an empty result.
 [[nodiscard]] std::optional<QByteArray> exportRegistryKey(const QString &key);
 
+/// Merges what exportRegistryKey() gave into the registry. False on failure, and for empty data.
+[[nodiscard]] bool importRegistryData(const QByteArray &data);
+
 /// The power scheme in use, as `powercfg` writes it. Nothing on failure.
 [[nodiscard]] std::optional<QByteArray> exportPowerScheme();
+
+/// Adds a power scheme and puts it to use. False where it could not be added; that it could not be put to use
+/// is no failure. Waits for the latter without a limit.
+[[nodiscard]] bool importPowerScheme(const QByteArray &scheme);
 
 } // namespace Zandrove

@@ -8,7 +8,7 @@ namespace {
 int runAll(int argc, char *argv[])
 {
     const QCoreApplication app(argc, argv);
-    return Zandrove::TestMain::runTests(makeSettingPackageTest, makeSettingExportTest);
+    return Zandrove::TestMain::runTests(makeSettingPackageTest, makeSettingExportTest, makeSettingApplyTest);
 }
 
 } // namespace

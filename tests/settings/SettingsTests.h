@@ -7,3 +7,4 @@
 /// The test classes of this folder.
 [[nodiscard]] std::unique_ptr<QObject> makeSettingPackageTest();
 [[nodiscard]] std::unique_ptr<QObject> makeSettingExportTest();
+[[nodiscard]] std::unique_ptr<QObject> makeSettingApplyTest();

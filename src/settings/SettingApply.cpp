@@ -1,0 +1,217 @@
+#include "settings/SettingApply.h"
+
+#include "platform/FileAttributes.h"
+#include "platform/LastError.h"
+#include "platform/Registry.h"
+#include "platform/SystemParameters.h"
+#include "settings/SettingPrograms.h"
+#include "support/Json.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QJsonObject>
+#include <QLatin1StringView>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+using Zandrove::Platform::SystemParameter;
+
+namespace Zandrove {
+
+namespace {
+
+void writeValue(Platform::RegistryKey &key, const QString &name, const QString &value)
+{
+    if (!key.setText(name, value))
+        qDebug() << "[Registry] Failed to write value:" << name;
+}
+
+/// Whether `name` is one component of a path and nothing else.
+bool isPlainFileName(const QString &name)
+{
+    return !name.contains(u'/') && !name.contains(u'\\') && name != "."_L1 &&
+           !Platform::isUnsafeRelativePath(name);
+}
+
+/// Writes the picture where the system goes on reading it. Empty where that failed.
+QString savePicture(const SettingPackage &package)
+{
+    if (!isPlainFileName(package.fileName))
+        return {};
+    const QString folder =
+        QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) + u"/Zandrove"_s;
+    QDir().mkpath(folder);
+    QFile file(folder + u'/' + package.fileName);
+    if (!file.open(QIODevice::WriteOnly))
+        return {};
+    if (file.write(package.fileData) != package.fileData.size() || !file.flush()) {
+        file.remove();
+        return {};
+    }
+    return file.fileName();
+}
+
+bool applyWallpaper(const SettingPackage &package)
+{
+    if (package.fileData.isEmpty() || package.fileName.isEmpty()) {
+        qDebug() << "[Wallpaper] No wallpaper file data";
+        return false;
+    }
+    const QString path = savePicture(package);
+    if (path.isEmpty()) {
+        qDebug() << "[Wallpaper] Failed to save wallpaper file";
+        return false;
+    }
+    qDebug() << "[Wallpaper] Saved to:" << path;
+
+    Platform::RegistryKey desktop(u"HKEY_CURRENT_USER\\Control Panel\\Desktop"_s);
+    writeValue(desktop, u"WallpaperStyle"_s, package.metadata.value(u"WallpaperStyle"_s, u"10"_s));
+    writeValue(desktop, u"TileWallpaper"_s, package.metadata.value(u"TileWallpaper"_s, u"0"_s));
+    if (!Platform::setWallpaper(path)) {
+        qDebug() << "[Wallpaper] SystemParametersInfo failed, error:" << Platform::lastErrorCode();
+        return false;
+    }
+    qDebug() << "[Wallpaper] Applied successfully";
+    return true;
+}
+
+bool applyTaskbar(const SettingPackage &package)
+{
+    if (package.registryData.isEmpty())
+        return false;
+    const bool imported = importRegistryData(package.registryData);
+    const auto advanced = QByteArray::fromBase64(package.metadata.value(u"AdvancedSettings"_s).toLatin1());
+    // Explorer's view options are an extra that the taskbar's own success doesn't hang on.
+    static_cast<void>(importRegistryData(advanced));
+    Platform::broadcastSettingChange(u"TraySettings"_s);
+    qDebug() << "[Taskbar] Applied settings";
+    return imported;
+}
+
+bool applyExplorer(const SettingPackage &package)
+{
+    if (package.registryData.isEmpty())
+        return false;
+    const bool imported = importRegistryData(package.registryData);
+    Platform::broadcastSettingChange(QString());
+    Platform::notifyAssociationsChanged();
+    qDebug() << "[Explorer] Applied settings";
+    return imported;
+}
+
+/// The key alone makes no difference before the next logon, so the calls count and its import does not.
+bool applyMouse(const SettingPackage &package)
+{
+    static_cast<void>(importRegistryData(package.registryData));
+    const auto &metadata = package.metadata;
+    if (const auto speed = metadata.constFind(u"MouseSpeed"_s); speed != metadata.cend())
+        Platform::setSystemParameter(SystemParameter::MouseSpeed, speed->toInt());
+    if (const auto swap = metadata.constFind(u"SwapMouseButtons"_s); swap != metadata.cend())
+        Platform::setSystemParameter(SystemParameter::MouseButtonSwap, *swap == "1"_L1 ? 1 : 0);
+    if (const auto time = metadata.constFind(u"DoubleClickSpeed"_s); time != metadata.cend())
+        Platform::setSystemParameter(SystemParameter::DoubleClickTime, time->toInt());
+    qDebug() << "[Mouse] Applied settings";
+    return true;
+}
+
+/// As with the mouse, the import alone decides nothing.
+bool applyKeyboard(const SettingPackage &package)
+{
+    static_cast<void>(importRegistryData(package.registryData));
+    const auto &metadata = package.metadata;
+    const auto delay = metadata.constFind(u"KeyboardDelay"_s);
+    const auto speed = metadata.constFind(u"KeyboardSpeed"_s);
+    if (delay != metadata.cend() && speed != metadata.cend()) {
+        Platform::setSystemParameter(SystemParameter::KeyboardDelay, delay->toInt());
+        Platform::setSystemParameter(SystemParameter::KeyboardSpeed, speed->toInt());
+    }
+    qDebug() << "[Keyboard] Applied settings";
+    return true;
+}
+
+bool applyPower(const SettingPackage &package)
+{
+    if (package.fileData.isEmpty()) {
+        qDebug() << "[Power] No power scheme data";
+        return false;
+    }
+    return importPowerScheme(package.fileData);
+}
+
+/// Writes each variable but PATH, which only the import of the whole key replaces.
+void writeVariables(const QJsonObject &variables)
+{
+    Platform::RegistryKey environment(u"HKEY_CURRENT_USER\\Environment"_s);
+    for (auto variable = variables.constBegin(); variable != variables.constEnd(); ++variable) {
+        const QString name = variable.key();
+        const QString value = variable.value().toString();
+        if (name.compare("PATH"_L1, Qt::CaseInsensitive) == 0) {
+            if (!environment.text(u"PATH"_s).contains(value))
+                qDebug() << "[Environment] Skipping PATH merge for safety";
+        } else if (!name.isEmpty() && variable.value().isString()) {
+            writeValue(environment, name, value);
+        }
+    }
+}
+
+bool applyEnvironment(const SettingPackage &package)
+{
+    bool applied = importRegistryData(package.registryData);
+    const auto variables = package.metadata.constFind(u"EnvironmentVars"_s);
+    if (variables != package.metadata.cend()) {
+        writeVariables(parseJsonObject(variables->toUtf8()).value_or(QJsonObject()));
+        applied = true;
+    }
+    Platform::broadcastSettingChange(u"Environment"_s);
+    qDebug() << "[Environment] Applied settings";
+    return applied;
+}
+
+bool applySound(const SettingPackage &package)
+{
+    if (package.registryData.isEmpty())
+        return false;
+    const bool imported = importRegistryData(package.registryData);
+    qDebug() << "[Sound] Applied settings";
+    return imported;
+}
+
+bool applyDisplay(const SettingPackage &package)
+{
+    const bool imported = importRegistryData(package.registryData);
+    Platform::broadcastSettingChange(u"ImmersiveColorSet"_s);
+    qDebug() << "[Display] Applied settings";
+    return imported;
+}
+
+struct Applier
+{
+    QLatin1StringView key;
+    bool (*apply)(const SettingPackage &package);
+};
+
+constexpr std::array Appliers = {
+    Applier{"wallpaper"_L1, applyWallpaper},     Applier{"taskbar"_L1, applyTaskbar},
+    Applier{"explorer"_L1, applyExplorer},       Applier{"mouse"_L1, applyMouse},
+    Applier{"keyboard"_L1, applyKeyboard},       Applier{"power"_L1, applyPower},
+    Applier{"environment"_L1, applyEnvironment}, Applier{"sound"_L1, applySound},
+    Applier{"display"_L1, applyDisplay},
+};
+
+} // namespace
+
+bool applySetting(const SettingPackage &package)
+{
+    qDebug() << "[SettingMigrator] Applying setting:" << package.key;
+    const auto *const known =
+        std::find_if(Appliers.begin(), Appliers.end(),
+                     [&package](const Applier &applier) { return applier.key == package.key; });
+    return known != Appliers.end() ? known->apply(package) : importRegistryData(package.registryData);
+}
+
+} // namespace Zandrove
