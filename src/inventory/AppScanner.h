@@ -14,8 +14,8 @@ namespace Zandrove {
 
 /// Lists the applications of this PC, on a thread of its own for each scan.
 ///
-/// Belongs to the thread that made it, and may be destroyed in mid-scan; it then waits until the scan has
-/// left. No step fails: what can't be read counts as empty.
+/// Belongs to the thread that made it, and may be destroyed in mid-scan; it then emits `cancelled` and waits
+/// until the scan has left. No step fails: what can't be read counts as empty.
 class AppScanner final : public QObject
 {
     Q_OBJECT
@@ -31,8 +31,8 @@ public Q_SLOTS:
     /// Begins a scan and returns at once; does nothing while one is running. Emits `started`, `progress` and
     /// in the end `finished`, unless it is cancelled before.
     void start();
-    /// Gives the scan up without waiting for it. Emits `cancelled`; nothing else comes of that scan. Any
-    /// thread.
+    /// Gives the scan up without waiting for it. Emits `cancelled` on the calling thread, also when none is
+    /// running; nothing else comes of that scan. Any thread.
     void cancel();
 
 Q_SIGNALS:
@@ -40,7 +40,7 @@ Q_SIGNALS:
     /// `percent` from 0 to 100. Comes from the scan's thread too: connect it queued, which is what the
     /// default does.
     void progress(int percent, const QString &currentItem);
-    /// In the order of discovery.
+    /// On the scanner's thread, with the applications in the order of discovery.
     void finished(const QList<Zandrove::AppInfo> &apps);
     void error(const QString &errorMessage); ///< never emitted: no step can fail
     void cancelled();

@@ -137,11 +137,15 @@ private:
     QString m_normDisplay;
 };
 
-/// A name out of a registry can be anything, and a folder above the one that is searched is no match.
+/// A name out of a registry can be anything, and neither the folder that is searched nor one above it is a
+/// match. Windows leaves out the points and spaces that a name ends with, so one of nothing else is that
+/// folder.
 bool staysBelow(const QString &candidate)
 {
     const QString clean = cleanPath(candidate);
-    return clean != "."_L1 && clean != ".."_L1 && !clean.startsWith("../"_L1);
+    return !clean.startsWith("../"_L1) && std::any_of(clean.begin(), clean.end(), [](QChar character) {
+        return character != u'.' && character != u'/' && !character.isSpace();
+    });
 }
 
 QString withoutVersion(QString name)
@@ -180,11 +184,6 @@ bool isHelperProgram(const QString &lowerFile)
     return containsAny(lowerFile, Signs);
 }
 
-QString lowerBaseName(const QString &file)
-{
-    return QFileInfo(file).completeBaseName().toLower();
-}
-
 /// The program among `files` that bears the name of the application or of its folder, else the first one that
 /// is no helper; empty where there is none.
 QString mainProgram(const QStringList &files, const QString &lowerFolder, const QString &displayName)
@@ -194,7 +193,7 @@ QString mainProgram(const QStringList &files, const QString &lowerFolder, const 
     for (const QString &file : files) {
         if (isHelperProgram(file.toLower()))
             continue;
-        const QString base = lowerBaseName(file);
+        const QString base = QFileInfo(file).completeBaseName().toLower();
         if (lettersAndDigits(base) == nameForm || lowerFolder.contains(base) ||
             base.contains(QStringView(lowerFolder).left(FolderBeginning)))
             return file;
@@ -207,7 +206,8 @@ QString mainProgram(const QStringList &files, const QString &lowerFolder, const 
 QString mainIcon(const QStringList &files, const QString &lowerFolder)
 {
     const auto bearsTheName = [&lowerFolder](const QString &file) {
-        return file.toLower().contains(lowerFolder) || lowerFolder.contains(lowerBaseName(file));
+        return file.toLower().contains(lowerFolder) ||
+               lowerFolder.contains(QFileInfo(file).baseName().toLower());
     };
     const auto found = std::find_if(files.begin(), files.end(), bearsTheName);
     return found == files.end() ? files.value(0) : *found;

@@ -15,7 +15,7 @@ namespace Zandrove {
 /// of environment variables are looked up. The wallpaper is left out where there is no picture.
 ///
 /// Works inside start(), on the calling thread, so a cancel comes from a slot connected to `progress` or from
-/// another thread.
+/// another thread. Its destructor cancels as well, with the signal. No step fails.
 class SettingScanner final : public QObject
 {
     Q_OBJECT

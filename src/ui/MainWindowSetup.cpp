@@ -91,9 +91,10 @@ void MainWindow::setupUi()
     auto *contentLayout = new QVBoxLayout(content);
     contentLayout->setContentsMargins(0, 0, 0, 0);
     contentLayout->setSpacing(0);
-    contentLayout->addWidget(m_titleBar);
-    contentLayout->addWidget(m_pageStack, 1);
+    // Tab goes by the order of adding: from the end of a page to the navigation and then to the title bar.
     contentLayout->addWidget(m_navBar);
+    contentLayout->insertWidget(0, m_titleBar);
+    contentLayout->insertWidget(1, m_pageStack, 1);
 
     auto *central = new QWidget;
     central->setAttribute(Qt::WA_TranslucentBackground);

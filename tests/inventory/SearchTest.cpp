@@ -63,8 +63,9 @@ void SearchTest::triesLikelyNamesFirst()
                           u"fookey"_s, u"FooBarVersion2.1"_s, u"Foo Bar"_s}));
     QCOMPARE(candidateFolderNames({u"Foo v3"_s, u"Foo v3"_s}),
              QStringList({u"Foo v3"_s, u"Foov3"_s, u"Foo"_s}));
-    // Nothing above the folder that is searched, whatever a key is called.
+    // Neither the folder that is searched nor one above it, whatever a key is called.
     QCOMPARE(candidateFolderNames({u".."_s, u"..\\.."_s, u"."_s}), QStringList());
+    QCOMPARE(candidateFolderNames({u" "_s, u"../Foo"_s, u"\\"_s}), QStringList());
 }
 
 void SearchTest::findsTheFolder_data()
@@ -130,8 +131,8 @@ void SearchTest::picksTheIcon_data()
          u"P/Photo Lab/zzz.exe"_s},
         u"P/Photo Lab/zz.exe"_s);
     row("an icon file of that name", {},
-        {u"P/Photo Lab/update.exe"_s, u"P/Photo Lab/zz.ico"_s, u"P/Photo Lab/photo.ico"_s},
-        u"P/Photo Lab/photo.ico"_s);
+        {u"P/Photo Lab/update.exe"_s, u"P/Photo Lab/zz.ico"_s, u"P/Photo Lab/photo.big.ico"_s},
+        u"P/Photo Lab/photo.big.ico"_s);
     row("any icon file", {}, {u"P/Photo Lab/zz.ico"_s, u"P/Photo Lab/yy.ico"_s}, u"P/Photo Lab/zz.ico"_s);
     row("none", {}, {u"P/Photo Lab/readme.txt"_s}, {});
     row("no folder", {}, {u"P/Other/a.exe"_s}, {});

@@ -165,6 +165,8 @@ void ConnectionPageTest::codeNeedsFourCharacters()
     auto *connectButton = m_page->findChild<QPushButton *>(u"connectButton"_s);
     const QList<QLineEdit *> edits = m_page->findChildren<QLineEdit *>();
     edits[0]->setFocus();
+    QTest::keyClick(edits[0], Qt::Key_Backspace);
+    QVERIFY2(edits[0]->hasFocus(), "there is no box before the first");
     for (const char typed : {'1', 'a', '3'})
         QTest::keyClick(QApplication::focusWidget(), typed);
     QVERIFY(edits[3]->hasFocus() && !connectButton->isEnabled());

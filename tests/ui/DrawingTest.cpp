@@ -2,6 +2,7 @@
 
 #include "core/common/Records.h"
 #include "ui/widgets/CircleProgress.h"
+#include "ui/widgets/FileBrowserWidget.h"
 #include "ui/widgets/ModeCard.h"
 #include "ui/widgets/PCListItem.h"
 #include "ui/widgets/ProgressCard.h"
@@ -11,7 +12,9 @@
 #include "ui/widgets/SettingListItem.h"
 
 #include <QEnterEvent>
+#include <QListWidget>
 #include <QTest>
+#include <QTreeWidget>
 
 #include <functional>
 #include <memory>
@@ -49,6 +52,8 @@ private Q_SLOTS:
     void cardsShowTheirState();
     void checkRowShowsItsState_data();
     void checkRowShowsItsState();
+    void selectingMovesNothing_data();
+    void selectingMovesNothing();
     void ringFillsClockwiseFromTheTop_data();
     void ringFillsClockwiseFromTheTop();
     void dotsShowTheStep_data();
@@ -120,6 +125,37 @@ void DrawingTest::checkRowShowsItsState()
     if (hovered)
         hover(row);
     QTEST(pictureOf(row).pixelColor(0, 0).name(), "fill");
+}
+
+void DrawingTest::selectingMovesNothing_data()
+{
+    QTest::addColumn<bool>("isFolder");
+    QTest::newRow("place") << false;
+    QTest::newRow("folder") << true;
+}
+
+void DrawingTest::selectingMovesNothing()
+{
+    QFETCH(bool, isFolder);
+    FileBrowserWidget browser;
+    browser.resize(800, 400);
+    browser.show();
+    auto *tree = browser.findChild<QTreeWidget *>();
+    (new QTreeWidgetItem(tree, {u"Folder"_s}))->setCheckState(0, Qt::Unchecked);
+    QAbstractItemView *view =
+        isFolder ? tree : static_cast<QAbstractItemView *>(browser.findChild<QListWidget *>());
+    const QModelIndex last = view->model()->index(view->model()->rowCount() - 1, 0);
+    const auto contentStart = [view, last] {
+        const QImage picture = view->viewport()->grab(view->visualRect(last)).toImage();
+        const int middle = picture.height() / 2;
+        int x = 0;
+        while (x < picture.width() && picture.pixel(x, middle) == picture.pixel(0, middle))
+            ++x;
+        return x;
+    };
+    const int before = contentStart();
+    view->setCurrentIndex(last);
+    QCOMPARE(contentStart(), before);
 }
 
 void DrawingTest::ringFillsClockwiseFromTheTop_data()

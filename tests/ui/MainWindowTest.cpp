@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTest>
@@ -58,6 +59,7 @@ private Q_SLOTS:
     void cleanup();
     void windowIsFramelessAndHasAnIcon();
     void softEdgeIsPainted();
+    void styleSheetsAreLists();
     void navigationFollowsThePage_data();
     void navigationFollowsThePage();
     void signalsMoveTheWizard_data();
@@ -65,6 +67,7 @@ private Q_SLOTS:
     void backFromSelectionScansAnew();
     void unregisteredCopyDoesNotSend();
     void focusGoesAlongToTheNextPage();
+    void tabGoesFromThePageOverTheNavigationToTheTitleBar();
 
 private:
     [[nodiscard]] int page() const
@@ -155,6 +158,16 @@ void MainWindowTest::softEdgeIsPainted()
     QVERIFY(qAlpha(picture.pixel(1, middle)) > 0);
     QVERIFY(qAlpha(picture.pixel(1, middle)) < qAlpha(picture.pixel(10, middle)));
     QCOMPARE(picture.pixel(20, middle), qRgb(255, 255, 255));
+}
+
+/// Qt drops without a word what stands beside a rule or within another.
+void MainWindowTest::styleSheetsAreLists()
+{
+    static const QRegularExpression List(u"^(\\s*[^{}]+\\{[^{}]*\\})*\\s*$"_s);
+    for (const QWidget *widget : m_window->findChildren<QWidget *>()) {
+        const QString sheet = widget->styleSheet();
+        QVERIFY2(!sheet.contains(u'{') || List.match(sheet).hasMatch(), qPrintable(sheet));
+    }
 }
 
 void MainWindowTest::navigationFollowsThePage_data()
@@ -318,6 +331,16 @@ void MainWindowTest::focusGoesAlongToTheNextPage()
         QVERIFY(m_window->focusWidget());
         QVERIFY2(shown->isAncestorOf(m_window->focusWidget()), QByteArray::number(at).constData());
     }
+}
+
+void MainWindowTest::tabGoesFromThePageOverTheNavigationToTheTitleBar()
+{
+    QStringList names;
+    for (int step = 0; step < 8; ++step) {
+        names.append(m_window->focusWidget()->accessibleName());
+        QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
+    }
+    QCOMPARE(names, u"Network Mode,Cable Mode,Next,Menu,Minimize,Maximize,Close,Network Mode"_s.split(u','));
 }
 
 QObject *makeMainWindowTest()

@@ -32,6 +32,18 @@ QStringList shownTexts(const QWidget &widget)
     return texts;
 }
 
+/// Ready to be looked at.
+QLabel *labelOf(QWidget &widget, const QString &text)
+{
+    for (QLabel *label : widget.findChildren<QLabel *>()) {
+        if (label->text() == text) {
+            label->ensurePolished();
+            return label;
+        }
+    }
+    return nullptr;
+}
+
 QPushButton *buttonOf(const QWidget &widget, const QString &text)
 {
     for (QPushButton *button : widget.findChildren<QPushButton *>()) {
@@ -364,6 +376,7 @@ void RunPagesTest::reportIsShownByRole()
     for (const QString &text : {u"11"_s, u"22"_s, u"33"_s, u"Transfer Complete!"_s})
         QVERIFY2(texts.contains(text), qPrintable(text));
     QVERIFY(!texts.contains(u"44"_s));
+    QCOMPARE(labelOf(page, u"✓"_s)->grab().toImage().pixelColor(36, 4), QColor(0xdc, 0xfc, 0xe7));
     for (const QString &text : {u"Files saved to:"_s, u"Waiting for more files..."_s})
         QCOMPARE(texts.contains(text), shown.contains(text));
     for (const QString &text : {u"✓ Finished"_s, u"📂 Send More Files..."_s})
@@ -389,6 +402,7 @@ void RunPagesTest::foldersAreListedOnceAndAsPlainText()
              QStringList({u"📂"_s, hostile, u"/home/anna/<b>x</b>"_s, u"(<i>a</i>, b)"_s, u"7 files"_s}));
     QCOMPARE(shownTexts(*rows.at(1)),
              QStringList({u"📂"_s, u"Documents"_s, u"/home/anna/Documents"_s, u"0 files"_s}));
+    QVERIFY(labelOf(*rows.at(0), u"(<i>a</i>, b)"_s)->font().italic());
     for (const QLabel *label : rows.at(0)->findChildren<QLabel *>()) {
         QCOMPARE(label->textFormat(), Qt::PlainText);
         QVERIFY(!label->toolTip().contains("<b>"_L1));

@@ -339,7 +339,8 @@ void WidgetsTest::frameFollowsTheTabKeyOnly()
     QVERIFY(QTest::qWaitForWindowActive(&window));
 
     QTest::mouseClick(button, Qt::LeftButton);
-    button->setFocus(Qt::MouseFocusReason);
+    row->findChild<QCheckBox *>()->setFocus();
+    button->setFocus();
     QVERIFY(!frameIn(window));
     // Takes the focus on by itself, for the reason Tab.
     button->setEnabled(false);
@@ -353,7 +354,9 @@ void WidgetsTest::frameFollowsTheTabKeyOnly()
     QCOMPARE(frameIn(window)->parentWidget(), row);
     window.resize(window.width() + 100, window.height());
     QCOMPARE(frameIn(window)->size(), row->size());
-    button->setFocus(Qt::MouseFocusReason);
+    button->setFocus();
+    QVERIFY2(frameIn(window) && frameIn(window)->parentWidget() == button, "moved on by the program");
+    row->findChild<QCheckBox *>()->setFocus(Qt::MouseFocusReason);
     QVERIFY(!frameIn(window));
 }
 

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDebug>
 #include <QIcon>
+#include <QString>
 
 #include <memory>
 
@@ -19,7 +20,8 @@ int main(int argc, char *argv[])
     StartUp::setIdentity();
     StartUp::ensureFirewallRules();
     StartUp::registerMetaTypes();
-    LinkManager::instance().setLanguage(StartUp::initTranslation());
+    const QString language = StartUp::initTranslation();
+    LinkManager::instance().setLanguage(language);
     if (const QString styleSheet = StartUp::styleSheet(); !styleSheet.isEmpty())
         qApp->setStyleSheet(styleSheet);
     const bool registered = License::ofThisCopy().isRegistered();

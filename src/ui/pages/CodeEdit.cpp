@@ -39,8 +39,9 @@ void CodeEdit::focusInEvent(QFocusEvent *event)
 
 void CodeEdit::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Backspace && text().isEmpty())
-        focusPreviousChild();
+    auto *const before = qobject_cast<CodeEdit *>(previousInFocusChain());
+    if (event->key() == Qt::Key_Backspace && text().isEmpty() && before)
+        before->setFocus();
     else
         QLineEdit::keyPressEvent(event);
 }

@@ -48,8 +48,10 @@ QString comboStyle()
 QCheckBox *createSelectAll(const QString &text)
 {
     auto *box = new QCheckBox(text);
-    box->setStyleSheet(Theme::checkBoxStyle() + u" QCheckBox { %1 padding-left: 16px; }"_s.arg(
-                                                    Theme::textStyle(13, Colour::TextSecondary)));
+    // The box stands above those of the rows.
+    box->setStyleSheet(
+        Theme::checkBoxStyle() +
+        u"QCheckBox { color: %1; font-size: 13px; padding-left: 12px; }"_s.arg(Colour::TextSecondary));
     box->setCursor(Qt::PointingHandCursor);
     return box;
 }

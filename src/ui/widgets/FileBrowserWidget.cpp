@@ -76,10 +76,12 @@ QString splitterStyle()
         Colour::Border, Colour::BorderStrong);
 }
 
+// Without a border of its own, even none, an item is laid out by two styles that don't agree.
 QString listStyle()
 {
     return u"QListWidget { background: transparent; border: none; outline: none; font-size: 13px; } "
-           u"QListWidget::item { padding: 8px 10px; color: %1; border: none; } "
+           u"QListWidget::item { padding: 8px 10px; color: %1; } "
+           u"QListWidget::item:enabled { border: none; } " // the separator keeps its background
            u"QListWidget::item:hover { background: %2; } "
            u"QListWidget::item:selected { background: %3; color: %4; } "
            // The line between the entries, whose own background an item with a style does not show.

@@ -169,8 +169,9 @@ bool KeyboardFocus::eventFilter(QObject *watched, QEvent *event)
 
 void KeyboardFocus::onFocusIn(QWidget *control, Qt::FocusReason reason)
 {
-    const bool byKey =
-        reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+    // Other: the program has moved the focus on, and who works by key must see where to.
+    const bool byKey = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
+                       reason == Qt::ShortcutFocusReason || reason == Qt::OtherFocusReason;
     if (byKey && m_tabbing)
         showFrame(control);
     else if (m_control != control)

@@ -11,7 +11,7 @@ namespace Zandrove {
 
 /// Shows who works by keyboard where the focus is: a frame around the focused widget, for as long as the
 /// focus stays there. It comes only after Tab, Backtab or a shortcut, so that who works by mouse never sees
-/// it.
+/// it, and until the next press of the mouse it goes along where the program moves the focus.
 ///
 /// One object serves every window of the program; the application must exist. In addition, Enter on a focused
 /// push button or check box does what Space does.
