@@ -190,6 +190,7 @@ void MigrationManager::cancel()
     sendToPeer(MessageType::TransferCancel);
     m_migrating = false;
     m_completing = false;
+    m_incomingRun = false;
     dropDeferred();
     resumeReadingLink();
     Q_EMIT cancelled();
@@ -217,6 +218,7 @@ void MigrationManager::resetRun()
     ++m_run;
     m_migrating = false;
     m_completing = false;
+    m_incomingRun = false;
     stopWork();
     fileTransferDone = false;
     appMigrationDone = false;

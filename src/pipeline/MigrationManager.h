@@ -49,6 +49,9 @@ public:
     /// A run is on.
     [[nodiscard]] bool isMigrating() const { return m_migrating; }
 
+    /// New PC: the peer has begun a run since this side last cancelled, was cancelled, or started to wait.
+    [[nodiscard]] bool hasIncomingRun() const { return m_incomingRun; }
+
     /// Begins a run in either role. Ignored while one is on.
     void start(const QList<AppInfo> &apps, const QList<FolderInfo> &folders,
                const QList<AccountInfo> &accounts, const QList<SettingInfo> &settings);
@@ -205,7 +208,8 @@ private:
     int m_nextTaskId = 0;
     FileCounts m_accumulated; // over the lists that the sender of one run is given
 
-    int m_run = 0;                    // deliveries made under an older number belong to a run that is over
+    int m_run = 0; // deliveries made under an older number belong to a run that is over
+    bool m_incomingRun = false;
     int m_rearmTicket = 0;            // a re-arming under an older number is no longer wanted
     bool m_refusalLogged = false;     // one log line a run for what an unaccepted link keeps from leaving
     bool m_strangerLogged = false;    // and one for what it brings

@@ -189,6 +189,7 @@ void MigrationManager::onTransferStart(const QByteArray &payload)
     const auto start = TransferMessages::Start::fromPayload(payload);
     qDebug() << "Received TransferStart: fileCount=" << start.fileCount << "totalSize=" << start.totalSize;
     ++m_rearmTicket;
+    m_incomingRun = true;
     if (!m_receiverWorker)
         return;
     QMetaObject::invokeMethod(

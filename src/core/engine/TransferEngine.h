@@ -96,6 +96,9 @@ public:
     void startTransfer();
     /// Waits, as the New PC, for what the peer sends. Emits `transferStarted`.
     void startReceiving();
+    /// New PC: whether the peer has begun to send since this side last cancelled, was cancelled, or started
+    /// to wait. To start waiting again would end that run.
+    [[nodiscard]] bool hasIncomingRun() const;
     /// Holds the transfer on both sides. Emits `transferPaused`.
     void pauseTransfer();
     /// Goes on, whichever side paused. Emits `transferResumed`.

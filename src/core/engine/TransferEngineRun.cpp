@@ -142,6 +142,11 @@ void TransferEngine::startReceiving()
     Q_EMIT info(tr("Waiting to receive files..."));
 }
 
+bool TransferEngine::hasIncomingRun() const
+{
+    return m_migrationManager->hasIncomingRun();
+}
+
 void TransferEngine::pauseTransfer()
 {
     if (!m_transferring || m_paused)

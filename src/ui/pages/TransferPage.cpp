@@ -92,8 +92,6 @@ void TransferPage::setupConnections()
     m_listenAgainTimer.setSingleShot(true);
     m_listenAgainTimer.setInterval(RearmDelay);
     connect(&m_listenAgainTimer, &QTimer::timeout, this, &TransferPage::listenAgain);
-    // The peer may begin anew before the delay is over: to listen then would end that run.
-    connect(m_engine, &Engine::fileTransferStarted, &m_listenAgainTimer, &QTimer::stop);
 }
 
 void TransferPage::setRole(int role)
@@ -265,7 +263,8 @@ void TransferPage::listenAgainSoon(const char *logLine)
 
 void TransferPage::listenAgain()
 {
-    if (!m_engine)
+    // The peer may have begun anew before the delay was over.
+    if (!m_engine || m_engine->hasIncomingRun())
         return;
     if (m_listenAgainLog)
         qDebug() << m_listenAgainLog;
