@@ -119,7 +119,6 @@ void SettingApplyTest::keysAndCallsOfASetting_data()
     const QStringList toTray = {u"setting change \"TraySettings\""_s};
     const QStringList toThemes = {u"setting change \"ImmersiveColorSet\""_s};
     QTest::newRow("taskbar") << PenKey << advanced << true << 2 << toTray;
-    QTest::newRow("taskbar, no extra") << PenKey << Values() << true << 1 << toTray;
     QTest::newRow("taskbar, only the extra") << QByteArray() << advanced << false << 0 << QStringList();
     QTest::newRow("explorer") << PenKey << Values() << true << 1
                               << QStringList{u"setting change \"\""_s, u"associations changed"_s};
@@ -133,10 +132,8 @@ void SettingApplyTest::keysAndCallsOfASetting_data()
                                     << QStringList();
     QTest::newRow("display") << PenKey << Values() << true << 1 << toThemes;
     QTest::newRow("display, no key") << QByteArray() << Values() << false << 0 << toThemes;
-    QTest::newRow("sound") << PenKey << Values() << true << 1 << QStringList();
     QTest::newRow("pens") << PenKey << Values() << true << 1 << QStringList();
     QTest::newRow("pens, bad key") << QByteArray("no key") << Values() << false << 1 << QStringList();
-    QTest::newRow("pens, no key") << QByteArray() << Values() << false << 0 << QStringList();
 }
 
 void SettingApplyTest::keysAndCallsOfASetting()
