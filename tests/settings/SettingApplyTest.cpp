@@ -11,7 +11,6 @@
 #include <QTest>
 
 #include <limits>
-#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
@@ -71,11 +70,7 @@ struct Receiver
         return !settingFinished.isEmpty() && settingFinished.takeLast().at(1).toBool();
     }
 
-    bool apply(const SettingPackage &made)
-    {
-        begin(made);
-        return end(made.key);
-    }
+    bool apply(const SettingPackage &made) { return begin(made), end(made.key); }
 };
 
 } // namespace
@@ -86,7 +81,6 @@ class SettingApplyTest final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
     void keysAndCallsOfASetting_data();
     void keysAndCallsOfASetting();
     void theImportReplacesPathAndTheVariablesDoNot();
@@ -96,12 +90,6 @@ private Q_SLOTS:
     void aPowerSchemeIsPutToUse();
     void aRunIsCounted();
 };
-
-void SettingApplyTest::init()
-{
-    if (!SimulatedPc::isMadeUp())
-        QSKIP("Looks at what the stand-ins of a made-up PC were called with");
-}
 
 void SettingApplyTest::keysAndCallsOfASetting_data()
 {
