@@ -39,6 +39,9 @@ function(zandrove_test name)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
     endif()
+    if(WIN32) # starting a program under Wine takes its time
+        math(EXPR ARG_TIMEOUT "3 * ${ARG_TIMEOUT}")
+    endif()
     set_tests_properties(${name} PROPERTIES
         TIMEOUT ${ARG_TIMEOUT} LABELS unit ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
     if(ARG_LOCK)
