@@ -1,0 +1,5 @@
+#pragma once
+
+#include <QObject>
+
+QObject *makePackageTest();
