@@ -3,3 +3,5 @@
 #include <QObject>
 
 QObject *makePackageTest();
+QObject *makeAppInstallerTest();
+QObject *makeRegistryExportTest();
