@@ -7,7 +7,8 @@ namespace {
 int runAll(int argc, char *argv[])
 {
     const QCoreApplication app(argc, argv);
-    return Zandrove::TestMain::runTests(makePackageTest, makeRegistryExportTest, makeAppInstallerTest);
+    return Zandrove::TestMain::runTests(makePackageTest, makeRegistryExportTest, makeAppAnalyzerTest,
+                                        makeAppInstallerTest);
 }
 
 } // namespace

@@ -3,5 +3,6 @@
 #include <QObject>
 
 QObject *makePackageTest();
+QObject *makeAppAnalyzerTest();
 QObject *makeAppInstallerTest();
 QObject *makeRegistryExportTest();
