@@ -13,6 +13,7 @@
 
 #include <QEnterEvent>
 #include <QListWidget>
+#include <QPropertyAnimation>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -267,6 +268,11 @@ void DrawingTest::radarGoesOnAsItIs()
     QTRY_VERIFY(radar.sweepAngle() > 5.0);
     radar.start();
     QVERIFY(radar.isRunning() && radar.sweepAngle() > 5.0);
+    radar.show();
+    radar.hide();
+    QCOMPARE(radar.findChild<QPropertyAnimation *>()->state(), QAbstractAnimation::Paused);
+    radar.show();
+    QCOMPARE(radar.findChild<QPropertyAnimation *>()->state(), QAbstractAnimation::Running);
     radar.stop();
     QVERIFY(!radar.isRunning());
 }

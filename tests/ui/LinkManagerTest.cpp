@@ -26,7 +26,6 @@ public Q_SLOTS:
 
 private Q_SLOTS:
     void init();
-    void cleanup();
     void everyLanguageHasEveryLink();
     void systemLanguageIsMapped_data();
     void systemLanguageIsMapped();
@@ -44,11 +43,6 @@ void LinkManagerTest::init()
 {
     QSettings(AppConfig::userOrganisation(), AppConfig::appName()).clear();
     m_browsed.clear();
-}
-
-void LinkManagerTest::cleanup()
-{
-    QSettings(AppConfig::userOrganisation(), AppConfig::appName()).clear();
 }
 
 void LinkManagerTest::everyLanguageHasEveryLink()

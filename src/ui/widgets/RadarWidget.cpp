@@ -65,7 +65,21 @@ void RadarWidget::stop()
 
 bool RadarWidget::isRunning() const
 {
-    return m_animation->state() == QAbstractAnimation::Running;
+    return m_animation->state() != QAbstractAnimation::Stopped;
+}
+
+void RadarWidget::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (m_animation->state() == QAbstractAnimation::Paused)
+        m_animation->resume();
+}
+
+void RadarWidget::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    if (m_animation->state() == QAbstractAnimation::Running)
+        m_animation->pause();
 }
 
 void RadarWidget::paintEvent(QPaintEvent *)

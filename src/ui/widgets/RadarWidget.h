@@ -21,13 +21,16 @@ public:
     [[nodiscard]] double sweepAngle() const { return m_sweepAngle; }
     void setSweepAngle(double degrees);
 
-    /// Turns, once in three seconds, until stop(). Goes on as it is while it turns already.
+    /// Turns, once in three seconds, until stop(). Goes on as it is while it turns already. While it is
+    /// hidden it rests, and goes on when it is shown again.
     void start();
     void stop();
     [[nodiscard]] bool isRunning() const;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     void drawDial(QPainter &painter, const QPointF &centre, double radius) const;
