@@ -8,7 +8,7 @@ int runAll(int argc, char *argv[])
 {
     const QCoreApplication app(argc, argv);
     return Zandrove::TestMain::runTests(makePackageTest, makeRegistryExportTest, makeAppAnalyzerTest,
-                                        makeAppInstallerTest);
+                                        makeAppInstallerTest, makeAppMigratorTest);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <QObject>
 
+QObject *makeAppMigratorTest();
 QObject *makePackageTest();
 QObject *makeAppAnalyzerTest();
 QObject *makeAppInstallerTest();
