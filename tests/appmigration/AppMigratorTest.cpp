@@ -138,9 +138,12 @@ void AppMigratorTest::beginMessagesAreRead_data()
     QTest::newRow("own") << appStartPayload(package) << u"AC/DC"_s << 7;
     QTest::newRow("wrong types") << R"({"appName":"x","fileCount":"many","shortcuts":4,"version":[]})"_ba
                                  << u"x"_s << 0;
+    QTest::newRow("harmless points") << R"({"appName":".a..b."})"_ba << u".a..b."_s << 0;
     QTest::newRow("too many") << R"({"appName":"x","fileCount":1e12})"_ba << u"x"_s << 2147483647;
-    for (const QByteArray &payload : {""_ba, "[]"_ba, "{}"_ba, R"({"appName":7})"_ba, R"({"appName":" "})"_ba,
-                                      R"({"appName":"../x"})"_ba, R"({"appName":"x\u0000"})"_ba})
+    for (const QByteArray &payload :
+         {""_ba, "[]"_ba, "{}"_ba, R"({"appName":7})"_ba, R"({"appName":" "})"_ba, R"({"appName":"../x"})"_ba,
+          R"({"appName":"x\\..\\y"})"_ba, R"({"appName":"."})"_ba, R"({"appName":"x/. ./y"})"_ba,
+          R"({"appName":"x\u0000"})"_ba})
         QTest::addRow("'%s'", payload.constData()) << payload << QString() << 0;
 }
 

@@ -18,8 +18,6 @@ class PackageTest : public QObject
 private Q_SLOTS:
     void namesBecomeOneComponent_data();
     void namesBecomeOneComponent();
-    void namesThatLeadOutAreRefused_data();
-    void namesThatLeadOutAreRefused();
     void encodingIsDetected_data();
     void encodingIsDetected();
     void textIsDecoded_data();
@@ -50,24 +48,6 @@ void PackageTest::namesBecomeOneComponent()
 {
     QFETCH(QString, name);
     QTEST(makeSafeName(name), "safe");
-}
-
-void PackageTest::namesThatLeadOutAreRefused_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("usable");
-
-    for (const QString &name : {u"Acme"_s, u"AC/DC"_s, u"Foo: Bar"_s, u"Acme Inc."_s, u".NET"_s, u"a..b"_s})
-        QTest::addRow("'%s'", qPrintable(name)) << name << true;
-    for (const QString &name : {u""_s, u" "_s, u"."_s, u".."_s, u"../../x"_s, u"x\\..\\y"_s, u"x/. ./y"_s})
-        QTest::addRow("'%s'", qPrintable(name)) << name << false;
-    QTest::newRow("NUL") << u"a"_s + QChar::Null << false;
-}
-
-void PackageTest::namesThatLeadOutAreRefused()
-{
-    QFETCH(QString, name);
-    QTEST(isUsableAppName(name), "usable");
 }
 
 void PackageTest::encodingIsDetected_data()
