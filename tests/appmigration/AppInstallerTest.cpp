@@ -146,16 +146,12 @@ void AppInstallerTest::everythingLandsWhereItBelongs()
     QVERIFY(!QFile::exists(QDir::temp().filePath(u"zandrove_import.reg"_s)));
     const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
     QCOMPARE(contentOf(desktop + u"/debug_Acme_registry.reg"_s), registry.arg(Key).toUtf8());
-    Platform::ShellLink expected = link;
-    expected.path = specialFolder(SpecialFolder::ProgramFiles) + u"/Acme/bin/acme.exe"_s;
+    // Windows keeps a path with backslashes only, and such a one does not match the install folder.
+    auto expected = Platform::readShellLink(received + u"/Shortcuts/Desktop/Acme.lnk"_s).value_or(link);
+    expected.path.replace(info.originalInstallLocation, info.targetInstallLocation);
     expected.workingDirectory = u"C:\\Users\\%1\\work"_s.arg(Platform::userName());
-    for (const QString &folder : {desktop, specialFolder(SpecialFolder::StartMenuPrograms)}) {
-        auto created = Platform::readShellLink(folder + u"/Acme.lnk"_s).value_or(Platform::ShellLink{});
-        created.path.replace(u'\\', u'/');
-        expected.path.replace(u'\\', u'/');
-        QCOMPARE(created.path, expected.path);
-        QVERIFY(created == expected);
-    }
+    for (const QString &folder : {desktop, specialFolder(SpecialFolder::StartMenuPrograms)})
+        QVERIFY(Platform::readShellLink(folder + u"/Acme.lnk"_s) == expected);
 }
 
 void AppInstallerTest::onlyInstallFilesCanFail_data()
