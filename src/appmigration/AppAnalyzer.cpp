@@ -1,0 +1,307 @@
+#include "appmigration/AppAnalyzer.h"
+
+#include "inventory/PathExclusion.h"
+#include "platform/FileAttributes.h"
+#include "platform/Identity.h"
+#include "platform/Registry.h"
+#include "platform/ShellLink.h"
+#include "platform/SpecialFolders.h"
+#include "support/Paths.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QStandardPaths>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace Zandrove {
+
+using Platform::RegistryKey;
+using Platform::SpecialFolder;
+using Platform::specialFolder;
+
+namespace {
+
+/// Letters from which on a word of a name is looked for by itself.
+constexpr qsizetype ShortestKeyword = 3;
+
+const QStringList UninstallRoots = {
+    u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall"_s,
+    u"HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node\\Microsoft\\Windows\\CurrentVersion\\Uninstall"_s,
+    u"HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall"_s};
+const QStringList SoftwareRoots = {u"HKEY_LOCAL_MACHINE\\SOFTWARE"_s,
+                                   u"HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node"_s,
+                                   u"HKEY_CURRENT_USER\\SOFTWARE"_s};
+
+QStringList wordsOf(const QString &text)
+{
+    static const QRegularExpression Separators(u"[\\s\\-_\\.]+"_s);
+    return text.split(Separators, Qt::SkipEmptyParts);
+}
+
+QString withoutSeparators(const QString &text)
+{
+    static const QRegularExpression Separator(u"[\\s\\-_\\.]"_s);
+    return QString(text).remove(Separator);
+}
+
+void addUnlessPresent(QStringList &list, const QString &text)
+{
+    if (!list.contains(text, Qt::CaseInsensitive))
+        list.append(text);
+}
+
+void addKeyword(QStringList &keywords, const QString &word)
+{
+    if (word.size() >= ShortestKeyword)
+        addUnlessPresent(keywords, word);
+}
+
+/// The name itself, and its words. None for an empty name, which would claim everything.
+QStringList nameAndWords(const QString &name)
+{
+    if (name.isEmpty())
+        return {};
+    QStringList keywords = {name};
+    const QStringList words = wordsOf(name);
+    for (const QString &word : words)
+        addKeyword(keywords, word);
+    return keywords;
+}
+
+QStringList installKeywords(const QString &name)
+{
+    QStringList keywords = nameAndWords(name);
+    addKeyword(keywords, withoutSeparators(name));
+    addKeyword(keywords, withoutSeparators(name).toLower());
+    return keywords;
+}
+
+QStringList dataKeywords(const QString &name, const QString &publisher)
+{
+    QStringList keywords = nameAndWords(name);
+    addKeyword(keywords, withoutSeparators(name).toLower());
+    if (!publisher.isEmpty())
+        keywords.append(publisher);
+    return keywords;
+}
+
+/// The name and its first word: what keys and shortcuts are known by.
+QStringList shortKeywords(const QString &name)
+{
+    static const QRegularExpression Separators(u"[\\s\\-_]+"_s);
+    if (name.isEmpty())
+        return {};
+    QStringList keywords = {name};
+    addKeyword(keywords, name.split(Separators, Qt::SkipEmptyParts).value(0));
+    return keywords;
+}
+
+bool containsAnyOf(const QString &text, const QStringList &keywords)
+{
+    return std::any_of(keywords.begin(), keywords.end(), [&text](const QString &keyword) {
+        return text.contains(keyword, Qt::CaseInsensitive);
+    });
+}
+
+bool matches(const QString &folder, const QString &keyword)
+{
+    const QString plainFolder = withoutSeparators(folder).toLower();
+    const QString plainKeyword = withoutSeparators(keyword).toLower();
+    return folder.contains(keyword, Qt::CaseInsensitive) || plainFolder.contains(plainKeyword) ||
+           plainKeyword.contains(plainFolder);
+}
+
+/// Adds to `found` the folders directly below `root` that a keyword claims.
+void addMatchingFolders(QStringList &found, const QString &root, const QStringList &keywords,
+                        const char *kind)
+{
+    if (root.isEmpty() || !QDir(root).exists())
+        return;
+    const QStringList folders = QDir(root).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &folder : folders) {
+        const auto keyword = std::find_if(keywords.begin(), keywords.end(),
+                                          [&folder](const QString &word) { return matches(folder, word); });
+        const QString path = cleanPath(root + u'/' + folder);
+        if (keyword == keywords.end() || found.contains(path, Qt::CaseInsensitive))
+            continue;
+        found.append(path);
+        qDebug() << qPrintable(u"  Found %1:"_s.arg(QLatin1StringView(kind))) << path
+                 << "matched by keyword:" << *keyword;
+    }
+}
+
+/// The folders that an application itself, and an Uninstall key of its name, tell of.
+QStringList knownInstallDirs(const AppInfo &app)
+{
+    QStringList found;
+    const auto addExisting = [&found](const QString &folder) {
+        if (!folder.isEmpty() && QDir(withSlashes(folder)).exists())
+            addUnlessPresent(found, cleanPath(folder));
+    };
+    addExisting(app.installPath);
+    for (const QString &root : UninstallRoots)
+        addExisting(RegistryKey(root + u'\\' + app.name).text(u"InstallLocation"_s));
+    return found;
+}
+
+bool isTooLargeForShortcut(const QString &path)
+{
+    const std::optional<qint64> size = Platform::realFileSize(path);
+    if (!size || *size <= LargestShortcut)
+        return false;
+    qDebug() << "  Skipping oversized .lnk file:" << path << "real size:" << *size;
+    return true;
+}
+
+bool leadsTo(const QString &target, const QString &installLocation)
+{
+    return !target.isEmpty() &&
+           (installLocation.isEmpty() || comparablePath(target).startsWith(comparablePath(installLocation)));
+}
+
+void logPackage(const AppPackage &package)
+{
+    qDebug() << "  Install dirs:" << package.installDirs.size();
+    qDebug() << "  AppData Local:" << package.appDataLocal.size();
+    qDebug() << "  AppData Roaming:" << package.appDataRoaming.size();
+    qDebug() << "  ProgramData:" << package.programData.size();
+    qDebug() << "  Registry keys:" << package.registryKeys.size();
+    qDebug() << "  Shortcuts:" << package.shortcuts.size();
+    qDebug() << "  Total size:" << package.totalSize;
+    qDebug() << "  File count:" << package.fileCount;
+}
+
+} // namespace
+
+AppPackage analyzeApp(const AppInfo &app, const StopCheck &stop)
+{
+    AppPackage package;
+    package.name = app.name;
+    package.version = app.version;
+    package.installLocation = app.installPath;
+    package.sourceUser = Platform::userName();
+    qDebug() << "Analyzing app:" << app.name;
+
+    package.installDirs = findInstallDirs(app);
+    package.appDataLocal = findAppData(app, package.publisher, true);
+    package.appDataRoaming = findAppData(app, package.publisher, false);
+    package.programData = findProgramData(app, package.publisher);
+    package.registryKeys = findRegistryKeys(app);
+    package.shortcuts = findShortcuts(app, package.installLocation);
+
+    for (const QStringList *folders :
+         {&package.installDirs, &package.appDataLocal, &package.appDataRoaming, &package.programData}) {
+        for (const QString &folder : *folders) {
+            const FilteredFiles files = measureFilteredFiles(folder, stop);
+            package.totalSize += files.size;
+            package.fileCount += files.count;
+        }
+    }
+    logPackage(package);
+    return package;
+}
+
+QStringList findInstallDirs(const AppInfo &app)
+{
+    QStringList found = knownInstallDirs(app);
+    const QStringList keywords = installKeywords(app.name);
+    qDebug() << "  Search keywords for" << app.name << ":" << keywords;
+    for (const QString &root : {u"C:/Program Files"_s, u"C:/Program Files (x86)"_s})
+        addMatchingFolders(found, root, keywords, "install dir");
+    return found;
+}
+
+QStringList findAppData(const AppInfo &app, const QString &publisher, bool local)
+{
+    QStringList keywords = dataKeywords(app.name, publisher);
+    const QStringList words = wordsOf(publisher);
+    for (const QString &word : words)
+        addKeyword(keywords, word);
+    QStringList found;
+    const QString root = specialFolder(local ? SpecialFolder::LocalAppData : SpecialFolder::RoamingAppData);
+    addMatchingFolders(found, root, keywords, local ? "AppData Local" : "AppData Roaming");
+    return found;
+}
+
+QStringList findProgramData(const AppInfo &app, const QString &publisher)
+{
+    QStringList found;
+    addMatchingFolders(found, specialFolder(SpecialFolder::CommonAppData), dataKeywords(app.name, publisher),
+                       "ProgramData");
+    return found;
+}
+
+QStringList findRegistryKeys(const AppInfo &app)
+{
+    QStringList keys;
+    if (!app.hkcuRegPath.isEmpty()) {
+        keys.append(app.hkcuRegPath);
+        qDebug() << "  Added HKCU registry path from scan:" << app.hkcuRegPath;
+    }
+    const QStringList keywords = shortKeywords(app.name);
+    for (const QString &root : UninstallRoots + SoftwareRoots) {
+        const QStringList subkeys = RegistryKey(root).subkeyNames();
+        for (const QString &subkey : subkeys) {
+            const QString key = root + u'\\' + subkey;
+            if (!containsAnyOf(subkey, keywords) || keys.contains(key))
+                continue;
+            keys.append(key);
+            qDebug() << "  Found registry key:" << key;
+        }
+    }
+    return keys;
+}
+
+QList<ShortcutInfo> findShortcuts(const AppInfo &app, const QString &installLocation)
+{
+    const QStringList keywords = shortKeywords(app.name);
+    QList<ShortcutInfo> shortcuts;
+    for (const QString &location :
+         {specialFolder(SpecialFolder::StartMenuPrograms),
+          QStandardPaths::writableLocation(QStandardPaths::DesktopLocation),
+          u"C:/ProgramData/Microsoft/Windows/Start Menu/Programs"_s, u"C:/Users/Public/Desktop"_s}) {
+        if (location.isEmpty())
+            continue;
+        QDirIterator files(location, {u"*.lnk"_s}, QDir::Files, QDirIterator::Subdirectories);
+        while (files.hasNext()) {
+            const QString path = files.next();
+            if (!containsAnyOf(QFileInfo(path).completeBaseName(), keywords) || isTooLargeForShortcut(path))
+                continue;
+            const ShortcutInfo shortcut = parseShortcut(path);
+            if (leadsTo(shortcut.targetPath, installLocation))
+                shortcuts.append(shortcut);
+        }
+    }
+    return shortcuts;
+}
+
+ShortcutInfo parseShortcut(const QString &path)
+{
+    const Platform::ShellLink link = Platform::readShellLink(path).value_or(Platform::ShellLink{});
+    return {path,          link.path,      link.arguments,  link.workingDirectory,
+            link.iconPath, link.iconIndex, link.description};
+}
+
+FilteredFiles measureFilteredFiles(const QString &folder, const StopCheck &stop)
+{
+    FilteredFiles measured;
+    QDirIterator files(folder, QDir::Files | QDir::NoSymLinks | QDir::Hidden, QDirIterator::Subdirectories);
+    while (files.hasNext() && !(stop && stop())) {
+        const QString path = files.next();
+        if (isExcludedFile(path)) {
+            qDebug() << "  [EXCLUDED]" << path;
+            continue;
+        }
+        measured.size += files.fileInfo().size();
+        ++measured.count;
+    }
+    return measured;
+}
+
+} // namespace Zandrove

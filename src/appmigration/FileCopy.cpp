@@ -1,0 +1,93 @@
+#include "appmigration/FileCopy.h"
+
+#include "support/Paths.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+namespace Zandrove {
+
+namespace {
+
+/// All at once, because the copies may come to lie where the walk still has to go.
+QStringList filesBelow(const QString &folder)
+{
+    QStringList paths;
+    QDirIterator files(folder, QDir::Files | QDir::NoSymLinks | QDir::Hidden, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        paths.append(files.next());
+    return paths;
+}
+
+/// A name in `folder` that nothing has.
+QString unusedPath(const QString &folder)
+{
+    QString path;
+    do {
+        path = folder + u"/~zd%1"_s.arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0'));
+    } while (QFileInfo::exists(path));
+    return path;
+}
+
+/// Copies beside the destination first: a full disk or a locked source then leaves the old file as it is.
+bool replaceFile(const QString &source, const QString &destination)
+{
+    const QFileInfo old(destination);
+    if (old.isDir() || !QDir().mkpath(old.path()))
+        return false;
+    const QString copy = unusedPath(old.path());
+    const bool replaced = QFile::copy(source, copy) &&
+                          ((!old.exists() && !old.isSymLink()) || QFile::remove(destination)) &&
+                          QFile::rename(copy, destination);
+    if (!replaced)
+        QFile::remove(copy);
+    return replaced;
+}
+
+QString absoluteComparable(const QString &path)
+{
+    return comparablePath(QFileInfo(withSlashes(path)).absoluteFilePath());
+}
+
+} // namespace
+
+bool copyDirectory(const QString &source, const QString &target)
+{
+    const QDir sourceFolder(source);
+    if (!sourceFolder.exists() || isWithin(target, source))
+        return false;
+    if (!QDir().mkpath(target)) {
+        qDebug() << "  Failed to create directory:" << target;
+        return false;
+    }
+    int copied = 0;
+    int failed = 0;
+    const QStringList files = filesBelow(source);
+    for (const QString &file : files) {
+        const QString destination = target + u'/' + sourceFolder.relativeFilePath(file);
+        if (replaceFile(file, destination)) {
+            ++copied;
+        } else {
+            ++failed;
+            qDebug() << "    Failed to copy:" << file << "->" << destination;
+        }
+    }
+    qDebug() << "  copyDirectory result: success=" << copied << "failed=" << failed;
+    return copied > 0;
+}
+
+bool isWithin(const QString &path, const QString &folder)
+{
+    const QString outer = absoluteComparable(folder);
+    const QString inner = absoluteComparable(path);
+    return inner == outer || inner.startsWith(outer.endsWith(u'/') ? outer : outer + u'/');
+}
+
+} // namespace Zandrove

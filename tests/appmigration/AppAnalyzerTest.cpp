@@ -1,0 +1,191 @@
+#include "AppMigrationTests.h"
+
+#include "SimulatedPc.h"
+
+#include "appmigration/AppAnalyzer.h"
+#include "platform/Identity.h"
+#include "platform/ShellLink.h"
+#include "platform/SpecialFolders.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace Zandrove;
+
+using Platform::SpecialFolder;
+using Platform::specialFolder;
+
+namespace {
+
+AppInfo app(const QString &name, const QString &installPath = QString())
+{
+    AppInfo info;
+    info.name = name;
+    info.installPath = installPath;
+    return info;
+}
+
+} // namespace
+
+class AppAnalyzerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        if (!SimulatedPc::isMadeUp() && !qEnvironmentVariableIsSet("ZANDROVE_SCRATCH_PC"))
+            QSKIP("Needs a PC that ZANDROVE_SCRATCH_PC gives away for tests");
+    }
+    void init() { m_pc = std::make_unique<SimulatedPc>(); }
+    void cleanup() { m_pc.reset(); }
+
+    void foldersAreClaimed_data();
+    void foldersAreClaimed();
+    void installFoldersComeFromManySources();
+    void keysAreClaimed();
+    void shortcutsAreClaimed();
+    void totalsLeaveOutWhatStaysBehind();
+
+private:
+    QString writeLink(const QString &file, const QString &target)
+    {
+        if (!Platform::writeShellLink(file, {.path = target, .arguments = u"-a"_s}))
+            qFatal("%s can't be written.", qPrintable(file));
+        return file;
+    }
+
+    std::unique_ptr<SimulatedPc> m_pc;
+};
+
+void AppAnalyzerTest::foldersAreClaimed_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("publisher");
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<bool>("asAppData");
+    QTest::addColumn<bool>("asProgramData");
+
+    QTest::newRow("whole name") << u"Zq Xw"_s << u""_s << u"my zq xw 2"_s << true << true;
+    QTest::newRow("a word of three") << u"Zqx Yw"_s << u""_s << u"abzqxcd"_s << true << true;
+    QTest::newRow("a word of two") << u"Zq Xyw"_s << u""_s << u"zq"_s << true << true; // part of the name
+    QTest::newRow("letters of two") << u"Zq Xyw"_s << u""_s << u"azqb"_s << false << false;
+    QTest::newRow("name of two") << u"Zq"_s << u""_s << u"azqb"_s << true << true;
+    QTest::newRow("joined") << u"Zqx.Yw"_s << u""_s << u"ZQX-YW"_s << true << true;
+    QTest::newRow("only separators") << u"Zqx"_s << u""_s << u"-_-"_s << true << true;
+    QTest::newRow("other") << u"Zqx"_s << u""_s << u"Vwv"_s << false << false;
+    QTest::newRow("publisher") << u"Zqx"_s << u"Vwv Inc"_s << u"the vwv inc"_s << true << true;
+    QTest::newRow("word of publisher") << u"Zqx"_s << u"Vwvk Group"_s << u"xvwvkx"_s << true << false;
+    QTest::newRow("no name") << u""_s << u""_s << u"Vwv"_s << false << false;
+}
+
+void AppAnalyzerTest::foldersAreClaimed()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, publisher);
+    QFETCH(QString, folder);
+    const auto place = [&](SpecialFolder root) {
+        return QDir::cleanPath(specialFolder(root) + u'/' + folder);
+    };
+    for (const auto root :
+         {SpecialFolder::LocalAppData, SpecialFolder::RoamingAppData, SpecialFolder::CommonAppData})
+        m_pc->writeFile(place(root) + u"/file"_s, "x");
+    const AppInfo info = app(name);
+    QTEST(findAppData(info, publisher, true).contains(place(SpecialFolder::LocalAppData)), "asAppData");
+    QTEST(findAppData(info, publisher, false).contains(place(SpecialFolder::RoamingAppData)), "asAppData");
+    QTEST(findProgramData(info, publisher).contains(place(SpecialFolder::CommonAppData)), "asProgramData");
+}
+
+void AppAnalyzerTest::installFoldersComeFromManySources()
+{
+    for (const QString &place : {u"Target/Own"_s, u"Target/Registered"_s, u"C:/Program Files/Zqxw Corp"_s,
+                                 u"C:/Program Files/Other"_s, u"C:/Program Files (x86)/zqxwplus"_s})
+        m_pc->writeFile(place + u"/file"_s, "x");
+    m_pc->addRegistry(u"[HKEY_CURRENT_USER\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\"
+                      "Zqxw Plus]\n\"InstallLocation\"=\"%1\"\n"_s.arg(m_pc->path(u"Target/Registered/"_s)));
+    const QString own = m_pc->path(u"Target/Own"_s);
+    QCOMPARE(findInstallDirs(app(u"Zqxw Plus"_s, own + u'/')),
+             (QStringList{own, m_pc->path(u"Target/Registered"_s), u"C:/Program Files/Zqxw Corp"_s,
+                          u"C:/Program Files (x86)/zqxwplus"_s}));
+    QCOMPARE(findInstallDirs(app(u"Vwv"_s, m_pc->path(u"Target/Gone"_s))), QStringList());
+}
+
+void AppAnalyzerTest::keysAreClaimed()
+{
+    const QString user = u"HKEY_CURRENT_USER\\SOFTWARE"_s;
+    const QString machine32 = u"HKEY_LOCAL_MACHINE\\SOFTWARE\\WOW6432Node"_s;
+    const QString uninstall =
+        u"HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall"_s;
+    const QStringList keys = {uninstall + u"\\zqxw_is1"_s, machine32 + u"\\The Zqxw"_s, user + u"\\Plus"_s,
+                              user + u"\\Vwv\\Zqxw"_s, user + u"\\ZQXW"_s};
+    for (const QString &key : keys)
+        m_pc->addRegistry(u"[%1]\n\"v\"=\"x\"\n"_s.arg(key));
+    AppInfo info = app(u"Zqxw Plus"_s);
+    info.hkcuRegPath = u"HKEY_CURRENT_USER\\Software\\Vwv\\Zqxw"_s;
+    QCOMPARE(findRegistryKeys(info), (QStringList{info.hkcuRegPath, keys[0], keys[1], keys[4]}));
+}
+
+void AppAnalyzerTest::shortcutsAreClaimed()
+{
+    const QString menu = specialFolder(SpecialFolder::StartMenuPrograms);
+    const QString target = m_pc->writeFile(u"Target/Zqxw/bin/a.exe"_s, "x");
+    const QString outside = m_pc->writeFile(u"Target/Other/a.exe"_s, "x");
+    const QString taken = writeLink(menu + u"/Corp/Zqxw Plus.lnk"_s, target);
+    const QString other = writeLink(m_pc->homePath(u"Desktop/My zqxw.lnk"_s), outside);
+    writeLink(menu + u"/Plus.lnk"_s, target);
+    m_pc->writeFile(menu + u"/Zqxw broken.lnk"_s, "x");
+
+    const auto pathsOf = [](const QList<ShortcutInfo> &shortcuts) {
+        QStringList paths;
+        for (const ShortcutInfo &shortcut : shortcuts)
+            paths.append(shortcut.shortcutPath);
+        return paths;
+    };
+    const AppInfo info = app(u"Zqxw Plus"_s);
+    const QList<ShortcutInfo> inside = findShortcuts(info, m_pc->path(u"TARGET/zqxw/"_s));
+    QCOMPARE(pathsOf(inside), QStringList(taken));
+    QCOMPARE(QDir::fromNativeSeparators(inside.first().targetPath), target);
+    QCOMPARE(inside.first().arguments, u"-a"_s);
+    QCOMPARE(pathsOf(findShortcuts(info, QString())), (QStringList{taken, other}));
+
+    QFile link(taken);
+    for (const auto &[size, found] : {std::pair(LargestShortcut, 1), std::pair(LargestShortcut + 1, 0)}) {
+        if (!SimulatedPc::isMadeUp())
+            break;
+        const QByteArray text = "[ShellLink]\nPath=" + target.toUtf8() +
+                                "\nArguments=\nWorkingDirectory=\n"
+                                "IconPath=\nIconIndex=0\nDescription=";
+        m_pc->writeFile(taken, text + QByteArray(size - text.size(), 'x'));
+        QCOMPARE(link.size(), size);
+        QCOMPARE(findShortcuts(info, m_pc->path(u"Target/Zqxw"_s)).size(), found);
+    }
+}
+
+void AppAnalyzerTest::totalsLeaveOutWhatStaysBehind()
+{
+    const QString own = m_pc->path(u"Target/Zqxw"_s);
+    m_pc->writeFile(own + u"/a.exe"_s, QByteArray(100, 'x'));
+    m_pc->writeFile(own + u"/.hidden"_s, QByteArray(10, 'x'));
+    m_pc->writeFile(own + u"/Cache/b"_s, QByteArray(1000, 'x'));
+    m_pc->writeFile(specialFolder(SpecialFolder::RoamingAppData) + u"/Zqxw/c"_s, "x");
+    AppInfo info = app(u"Zqxw"_s, own);
+    info.version = u"2.1"_s;
+    const AppPackage package = analyzeApp(info);
+    QCOMPARE(package.totalSize, 111);
+    QCOMPARE(package.fileCount, 3);
+    QCOMPARE(package.sourceUser, Platform::userName());
+    QCOMPARE(package.version, u"2.1"_s);
+    QCOMPARE(package.publisher, QString());
+    QCOMPARE(package.installLocation, own);
+    QCOMPARE(package.appDataRoaming.size(), 1);
+    QCOMPARE(analyzeApp(info, [] { return true; }).fileCount, 0);
+}
+
+QObject *makeAppAnalyzerTest()
+{
+    return new AppAnalyzerTest;
+}
+
+#include "AppAnalyzerTest.moc"
