@@ -18,10 +18,17 @@ home=$(mktemp -d -t zandrove-gallery-XXXXXX)
 trap 'rm -rf "$home"' EXIT
 mkdir -p "$home"/{Desktop,Documents/{Letters,Taxes,Work},Pictures/Holiday,Videos,Music,Downloads}
 
+# A screen on which every dialog has the room that it has on a real one.
+cat >"$home/screen.json" <<'JSON'
+{"screens": [{"name": "gallery", "x": 0, "y": 0, "width": 2880, "height": 1800,
+              "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]}
+JSON
+
 for percent in 100 200; do
     mkdir -p "$target/$percent"
-    env -i PATH="$PATH" HOME="$home" XDG_CONFIG_HOME="$home/.config" XDG_RUNTIME_DIR="$home" LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen \
-        QT_SCALE_FACTOR=$((percent / 100)) QT_LOGGING_RULES='default.debug=false' \
+    env -i PATH="$PATH" HOME="$home" XDG_CONFIG_HOME="$home/.config" XDG_RUNTIME_DIR="$home" LC_ALL=C.UTF-8 \
+        QT_QPA_PLATFORM="offscreen:configfile=$home/screen.json" QT_SCALE_FACTOR=$((percent / 100)) \
+        QT_LOGGING_RULES='default.debug=false' \
         "$program" "$target/$percent" ${2:+"$2"}
 done
 echo "$(find "$target" -name '*.png' | wc -l) pictures in $target"
