@@ -16,6 +16,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QMessageBox>
+#include <QSignalSpy>
 #include <QTabWidget>
 #include <QTest>
 #include <QTextStream>
@@ -75,7 +76,10 @@ struct Stage
     void select()
     {
         connectTo(OldPC);
+        // The scan of the PC at hand comes first, or it would take the place of the made-up one.
+        QSignalSpy scanned(engine, &TransferEngine::scanCompleted);
         Q_EMIT engine->connected();
+        scanned.wait();
         Q_EMIT engine->scanCompleted(scanResult());
         Q_EMIT window.findChild<ScanningPage *>()->scanFinished();
     }
