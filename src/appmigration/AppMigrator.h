@@ -46,6 +46,8 @@ public:
     void resume() { m_paused = false; }
     /// Any thread. Ends the run without a signal, as soon as the work at hand notices.
     void cancel();
+    /// Any thread. A cancel for good: this object begins no other run.
+    void stop();
 
 Q_SIGNALS:
     void analyzeProgress(int current, int total, const QString &appName);
@@ -82,6 +84,7 @@ private:
     std::atomic<bool> m_running = false;
     std::atomic<bool> m_paused = false;
     std::atomic<bool> m_cancelled = false;
+    std::atomic<bool> m_stopped = false;
     int m_successCount = 0;
     int m_failedCount = 0;
     int m_skippedCount = 0;
