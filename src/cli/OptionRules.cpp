@@ -126,13 +126,13 @@ const std::array Rules = {
                           "End with exit code 3 when nothing has begun to arrive within S seconds. Counted "
                           "anew each time the program starts to wait; a running transfer is never cut."),
         [](Options &options, const QString &value) { return storeSeconds(options.timeout, value); }},
-    OptionRule{
-        "--timeout"_L1, "S", Send,
-        QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
-                          "End with exit code 3 when the New PC was not found and has not let this PC in "
-                          "within S seconds. Counted from when it is looked for; the transfer itself is never "
-                          "cut."),
-        [](Options &options, const QString &value) { return storeSeconds(options.timeout, value); }},
+    OptionRule{"--timeout"_L1, "S", Send,
+               QT_TRANSLATE_NOOP(
+                   "Zandrove::Cli::Options",
+                   "End with exit code 3 when the New PC was not found and has not let this PC in "
+                   "within S seconds. Counted from when it is looked for; the transfer itself is never "
+                   "cut."),
+               [](Options &options, const QString &value) { return storeSeconds(options.timeout, value); }},
     OptionRule{"--role"_L1, "old|new", Discover,
                QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
                                  "What this PC is. An Old PC sees the New PCs, a New PC the Old PCs."),
@@ -179,11 +179,12 @@ const std::array Commands = {
     CommandText{Command::Receive, "receive"_L1, "zandrove-cli receive [--yes] [--once] [--timeout S]",
                 QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
                                   "Be the New PC: show a code, wait for an Old PC, receive what it sends.")},
-    CommandText{Command::Send, "send"_L1,
-                "zandrove-cli send --to CODE|NAME|ADDRESS [--folder DIR]... [--app NAME]... [--setting ID]...",
-                QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
-                                  "Be the Old PC: find the New PC, wait for its yes, send folders, "
-                                  "applications and settings.")},
+    CommandText{
+        Command::Send, "send"_L1,
+        "zandrove-cli send --to CODE|NAME|ADDRESS [--folder DIR]... [--app NAME]... [--setting ID]...",
+        QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                          "Be the Old PC: find the New PC, wait for its yes, send folders, "
+                          "applications and settings.")},
     CommandText{
         Command::Discover, "discover"_L1, "zandrove-cli discover --role old|new [--seconds N]",
         QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "List the PCs on the network as they come and go.")},

@@ -59,8 +59,8 @@ private:
     QTimer m_drainTimer;
     QTimer m_settingsTimer;
     std::optional<MigrationReport> m_heldReport; ///< complete but for the settings, which are being applied
-    QString m_complaint; ///< what is to be said if the end of the run does not come
-    QString m_asker;     ///< who asks to be let in
+    QString m_complaint;                         ///< what is to be said if the end of the run does not come
+    QString m_asker;                             ///< who asks to be let in
     QString m_peerName;
     RunResults m_results;
     bool m_expecting = false; ///< armed on a fresh link, nothing has arrived

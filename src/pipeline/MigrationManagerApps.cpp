@@ -1,5 +1,5 @@
-// MigrationManager's applications: their files behind those of the folders on the Old PC, their installation on
-// the New PC.
+// MigrationManager's applications: their files behind those of the folders on the Old PC, their installation
+// on the New PC.
 
 #include "appmigration/AppMessages.h"
 #include "appmigration/AppMigrator.h"
@@ -199,7 +199,8 @@ bool MigrationManager::flushReceiver()
     if (m_paused)
         return false;
     if (m_receiverWorker && m_workerThread->isRunning())
-        QMetaObject::invokeMethod(m_receiverWorker, [] {}, Qt::BlockingQueuedConnection);
+        QMetaObject::invokeMethod(
+            m_receiverWorker, [] {}, Qt::BlockingQueuedConnection);
     return true;
 }
 

@@ -184,8 +184,8 @@ void MigrationManager::finishSettings()
     m_settingThread->wait(QDeadlineTimer(SettingsDeadline));
 }
 
-/// Waits for the end of a thread that was told to quit, and deletes the workers that live on it. What a thread that had to be terminated was
-/// working on is in no state to be touched, so it stays.
+/// Waits for the end of a thread that was told to quit, and deletes the workers that live on it. What a
+/// thread that had to be terminated was working on is in no state to be touched, so it stays.
 template <typename... Workers>
 void MigrationManager::endThread(QThread *&thread, const char *warning, Workers *&...workers)
 {

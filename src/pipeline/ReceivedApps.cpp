@@ -59,7 +59,8 @@ bool ReceivedApps::begin(const QByteArray &payload)
         }
     }
     QDir().mkpath(basePath);
-    const AppPackageInfo &info = *m_receivedPackages.insert(package->name, receivedPackage(*package, basePath));
+    const AppPackageInfo &info =
+        *m_receivedPackages.insert(package->name, receivedPackage(*package, basePath));
     qDebug() << "Received AppStart for:" << info.name;
     qDebug() << "  Original install location:" << info.originalInstallLocation;
     qDebug() << "  Source user:" << info.sourceUser;
