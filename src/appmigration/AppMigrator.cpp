@@ -200,7 +200,8 @@ bool AppMigrator::sendDirectory(const QString &folder, const QString &relativeBa
             ++m_filesSkipped;
             m_skippedPaths.append(path);
         } else {
-            queueFile(path, relativeBase + u'/' + directory.relativeFilePath(path));
+            queueFile(path,
+                      relativeBase + u'/' + directory.relativeFilePath(files.fileInfo().absoluteFilePath()));
         }
     }
     return !m_cancelled;
