@@ -2,6 +2,7 @@
 
 #include <QDebug>
 #include <QStringConverter>
+#include <QStringMatcher>
 
 #include <algorithm>
 #include <optional>
@@ -87,6 +88,20 @@ QString decodeUtf16(QByteArrayView bytes, QStringConverter::Encoding encoding)
     return decoder(bytes.first(bytes.size() / 2 * 2));
 }
 
+/// QString::replace, but in one pass however often `before` occurs: a peer's text may be hundreds of
+/// megabytes of nothing else.
+QString replaced(const QString &text, const QString &before, const QString &after)
+{
+    const QStringMatcher matcher(before, Qt::CaseInsensitive);
+    QString result;
+    qsizetype from = 0;
+    for (qsizetype at = matcher.indexIn(text); at >= 0; at = matcher.indexIn(text, from)) {
+        result.append(QStringView(text).sliced(from, at - from)).append(after);
+        from = at + before.size();
+    }
+    return from == 0 ? text : result.append(QStringView(text).sliced(from));
+}
+
 } // namespace
 
 DetectedEncoding detectRegistryEncoding(const QByteArray &bytes)
@@ -124,8 +139,8 @@ QString decodeUtf16LittleEndian(const QByteArray &bytes)
 
 QByteArray encodeRegistryText(const QString &text)
 {
-    QStringEncoder encoder(QStringConverter::Utf16LE);
-    return registryByteOrderMark() + QByteArray(encoder(text));
+    QStringEncoder encoder(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom);
+    return encoder(text);
 }
 
 QByteArray registryByteOrderMark()
@@ -138,7 +153,7 @@ QString withUserFolders(QString text, const QString &oldUser, const QString &new
     if (oldUser.isEmpty() || newUser.isEmpty() || oldUser == newUser)
         return text;
     for (const QString &folder : {u"\\Users\\%1\\"_s, u"/Users/%1/"_s})
-        text.replace(folder.arg(oldUser), folder.arg(newUser), Qt::CaseInsensitive);
+        text = replaced(text, folder.arg(oldUser), folder.arg(newUser));
     return text;
 }
 
