@@ -13,6 +13,14 @@ namespace Zandrove {
 
 namespace {
 
+enum class RegistryEncoding { Utf8, Utf16LittleEndian, Utf16BigEndian };
+
+struct DetectedEncoding
+{
+    RegistryEncoding encoding = RegistryEncoding::Utf8;
+    int markSize = 0; ///< bytes of the byte order mark at the beginning
+};
+
 /// Bytes in which zeros are counted.
 constexpr qsizetype LargestSample = 200;
 /// Share of zero bytes at every second place above which a text counts as UTF-16.
@@ -102,9 +110,7 @@ QString replaced(const QString &text, const QString &before, const QString &afte
     return from == 0 ? text : result.append(QStringView(text).sliced(from));
 }
 
-} // namespace
-
-DetectedEncoding detectRegistryEncoding(const QByteArray &bytes)
+DetectedEncoding detectEncoding(const QByteArray &bytes)
 {
     std::optional<DetectedEncoding> detected = encodingByMark(bytes);
     if (!detected && bytes.size() >= 4 && bytes.size() % 2 == 0) {
@@ -117,9 +123,11 @@ DetectedEncoding detectRegistryEncoding(const QByteArray &bytes)
     return detected.value_or(DetectedEncoding{});
 }
 
+} // namespace
+
 QString decodeRegistryText(const QByteArray &bytes)
 {
-    const DetectedEncoding detected = detectRegistryEncoding(bytes);
+    const DetectedEncoding detected = detectEncoding(bytes);
     const QByteArrayView content = QByteArrayView(bytes).sliced(detected.markSize);
     switch (detected.encoding) {
     case RegistryEncoding::Utf16LittleEndian:

@@ -1,7 +1,5 @@
 #include "AppMigrationTests.h"
 
-#include "SimulatedPc.h"
-
 #include "appmigration/AppInstaller.h"
 #include "appmigration/FileCopy.h"
 #include "appmigration/RegistryText.h"
@@ -9,12 +7,11 @@
 #include "platform/Registry.h"
 #include "platform/ShellLink.h"
 #include "platform/SpecialFolders.h"
+#include "support/Paths.h"
 
 #include <QDir>
-#include <QFile>
 #include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
@@ -26,28 +23,22 @@ namespace {
 
 const QString Key = u"HKEY_CURRENT_USER\\Software\\ZandroveTest"_s;
 
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : "unreadable"_ba;
-}
-
 } // namespace
 
-class AppInstallerTest : public QObject
+class AppInstallerTest : public PcTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { m_pc = std::make_unique<SimulatedPc>(); }
-    void cleanup() { m_pc.reset(); }
-
     void targetIsChosen_data();
     void targetIsChosen();
     void everythingLandsWhereItBelongs();
+    void shortcutsLeadToTheInstallation_data();
+    void shortcutsLeadToTheInstallation();
     void onlyInstallFilesCanFail_data();
     void onlyInstallFilesCanFail();
     void copiesReplaceFilesOneByOne();
+    void failedCopiesKeepTheOldFile();
     void copiesNeverFeedOnThemselves();
 
 private:
@@ -60,8 +51,6 @@ private:
         info.sourceUser = u"anna"_s;
         return info;
     }
-
-    std::unique_ptr<SimulatedPc> m_pc;
 };
 
 void AppInstallerTest::targetIsChosen_data()
@@ -100,7 +89,7 @@ void AppInstallerTest::targetIsChosen()
 
 void AppInstallerTest::everythingLandsWhereItBelongs()
 {
-    if (!SimulatedPc::isMadeUp() && !qEnvironmentVariableIsSet("ZANDROVE_SCRATCH_PC"))
+    if (!isScratchPc())
         QSKIP("Needs a PC that ZANDROVE_SCRATCH_PC gives away for tests");
     AppPackageInfo info = package();
     info.originalInstallLocation = u"C:/Program Files/Vendor/Acme"_s;
@@ -154,6 +143,33 @@ void AppInstallerTest::everythingLandsWhereItBelongs()
         QVERIFY(Platform::readShellLink(folder + u"/Acme.lnk"_s) == expected);
 }
 
+void AppInstallerTest::shortcutsLeadToTheInstallation_data()
+{
+    QTest::addColumn<QString>("location");
+    QTest::addColumn<bool>("leads");
+
+    QTest::newRow("top of Program Files") << u"C:\\Program Files\\ZandroveTest"_s << true;
+    QTest::newRow("another user") << u"C:\\Users\\anna\\AppData\\Local\\ZandroveTest"_s << true;
+    QTest::newRow("vendor dropped") << u"C:\\Program Files\\Vendor\\ZandroveTest"_s << false;
+}
+
+void AppInstallerTest::shortcutsLeadToTheInstallation()
+{
+    if (!isScratchPc())
+        QSKIP("Needs a PC that ZANDROVE_SCRATCH_PC gives away for tests");
+    QFETCH(QString, location);
+    AppPackageInfo info = package();
+    info.originalInstallLocation = location;
+    m_pc->writeFile(info.receivedBasePath + u"/Install/ZandroveTest/a.exe"_s, "x");
+    QVERIFY(Platform::writeShellLink(info.receivedBasePath + u"/Shortcuts/Desktop/x.lnk"_s,
+                                     {.path = location + u"\\a.exe"_s}));
+    QVERIFY(AppInstaller().install(info));
+    const auto link = Platform::readShellLink(
+        QStandardPaths::writableLocation(QStandardPaths::DesktopLocation) + u"/x.lnk"_s);
+    QVERIFY(link);
+    QTEST(QFile::exists(withSlashes(link->path)), "leads");
+}
+
 void AppInstallerTest::onlyInstallFilesCanFail_data()
 {
     QTest::addColumn<QString>("file"); ///< in the received folder; a folder where it ends in a slash
@@ -167,6 +183,8 @@ void AppInstallerTest::onlyInstallFilesCanFail_data()
     QTest::newRow("no files") << u"Install/Acme/sub/"_s << fine << false;
     QTest::newRow("files") << u"Install/Acme/file"_s << fine << true;
     QTest::newRow("a file in the way") << u"Install/Acme/file"_s << u"blocked/Acme"_s << false;
+    if (SimulatedPc::isMadeUp())
+        QTest::newRow("read-only folder") << u"Install/Acme/file"_s << u"/proc/Acme"_s << false;
     QTest::newRow("where packages arrive") << u"Install/Acme/file"_s << u"$T/Zandrove/x"_s << false;
     QTest::newRow("that folder by a detour") << u"Install/Acme/file"_s << u"$T/y/../Zandrove"_s << false;
     QTest::newRow("data without files") << u"AppData/Local/ZandroveTest/"_s << fine << true;
@@ -216,6 +234,22 @@ void AppInstallerTest::copiesReplaceFilesOneByOne()
     QCOMPARE(QDir(m_pc->path(u"to"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
              (QStringList{u"a"_s, u"kept"_s, u"sub"_s, u"taken"_s}));
     QVERIFY(!copyDirectory(m_pc->path(u"missing"_s), m_pc->path(u"to"_s)));
+}
+
+void AppInstallerTest::failedCopiesKeepTheOldFile()
+{
+    m_pc->writeFile(u"from/a"_s, "new");
+    m_pc->writeFile(u"from/b"_s, "new");
+    // An open file can't be removed on Windows, and elsewhere a copy beside it has too long a path.
+    QString folder = m_pc->path(u"to"_s);
+    while (SimulatedPc::isMadeUp() && folder.size() < 4090)
+        folder += u'/' + QString(std::min<qsizetype>(200, 4092 - folder.size()), u'x');
+    QFile old(m_pc->writeFile(folder + u"/a"_s, "old"));
+    QVERIFY(old.open(QIODevice::ReadOnly));
+    expectLog(u"    Failed to copy: \"%1\" -> \"%2\""_s.arg(m_pc->path(u"from/a"_s), old.fileName()));
+    QVERIFY(copyDirectory(m_pc->path(u"from"_s), folder)); // for the other one
+    QCOMPARE(contentOf(old.fileName()), "old"_ba);
+    QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden), (QStringList{u"a"_s, u"b"_s}));
 }
 
 void AppInstallerTest::copiesNeverFeedOnThemselves()

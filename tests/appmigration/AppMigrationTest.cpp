@@ -7,7 +7,7 @@ namespace {
 int runAll(int argc, char *argv[])
 {
     const QCoreApplication app(argc, argv);
-    return Zandrove::TestMain::runTests(makePackageTest, makeRegistryExportTest, makeAppAnalyzerTest,
+    return Zandrove::TestMain::runTests(makePackageTest, makeRegistryFileTest, makeAppAnalyzerTest,
                                         makeAppInstallerTest, makeAppMigratorTest);
 }
 

@@ -1,7 +1,5 @@
 #include "AppMigrationTests.h"
 
-#include "SimulatedPc.h"
-
 #include "appmigration/AppMessages.h"
 #include "appmigration/AppMigrator.h"
 #include "peer/Protocol.h"
@@ -13,7 +11,6 @@
 #include <QJsonObject>
 #include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
@@ -21,19 +18,19 @@ using namespace Zandrove;
 using Platform::SpecialFolder;
 using Platform::specialFolder;
 
-class AppMigratorTest : public QObject
+class AppMigratorTest : public PcTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase()
     {
-        if (!SimulatedPc::isMadeUp() && !qEnvironmentVariableIsSet("ZANDROVE_SCRATCH_PC"))
+        if (!isScratchPc())
             QSKIP("Needs a PC that ZANDROVE_SCRATCH_PC gives away for tests");
     }
     void init()
     {
-        m_pc = std::make_unique<SimulatedPc>();
+        PcTest::init();
         m_migrator = std::make_unique<AppMigrator>();
         m_requests.clear();
         connect(m_migrator.get(), &AppMigrator::requestSendCommand, this,
@@ -52,10 +49,12 @@ private Q_SLOTS:
     void cleanup()
     {
         m_migrator.reset();
-        m_pc.reset();
+        PcTest::cleanup();
     }
 
     void applicationsAreSentInOrder();
+    void whatHasVanishedStaysBehind();
+    void namesMayCoincide();
     void cancelledRunsEndInSilence();
     void beginMessagesAreRead_data();
     void beginMessagesAreRead();
@@ -73,7 +72,6 @@ private:
         return info;
     }
 
-    std::unique_ptr<SimulatedPc> m_pc;
     std::unique_ptr<AppMigrator> m_migrator;
     QStringList m_requests; ///< what was to be sent, in order
 };
@@ -106,6 +104,30 @@ void AppMigratorTest::applicationsAreSentInOrder()
     QCOMPARE(appFinished,
              (QList<QVariantList>{{u"Zqx: One"_s, true, QString()}, {u"Vwvk"_s, true, QString()}}));
     QCOMPARE(finished, (QList<QVariantList>{{2, 0, 2}}));
+}
+
+void AppMigratorTest::whatHasVanishedStaysBehind()
+{
+    const QList<AppInfo> apps = {app(u"Zqx"_s), app(u"Vwvk"_s)};
+    const QString link = m_pc->homePath(u"Desktop/Zqx.lnk"_s);
+    QVERIFY(Platform::writeShellLink(link, {.path = apps[0].installPath + u"/bin/a.exe"_s}));
+    connect(m_migrator.get(), &AppMigrator::appStarted, this, [&](const QString &name) {
+        if (name == "Zqx"_L1)
+            QVERIFY(QDir(apps[0].installPath).removeRecursively() && QFile::remove(link));
+    });
+    expectLog(u"  [WARN] Directory not exists: \"%1\""_s.arg(apps[0].installPath));
+    expectLog(u"  [SKIP] Shortcut not found: \"%1\""_s.arg(link));
+    m_migrator->start(apps);
+    QCOMPARE(m_requests, (QStringList{u"begin Zqx"_s, u"end Zqx 0 1"_s, u"begin Vwvk"_s,
+                                      u"Apps/Vwvk/Install/Vwvk/bin/a.exe"_s, u"end Vwvk 1 0"_s}));
+}
+
+void AppMigratorTest::namesMayCoincide()
+{
+    expectLog(u"  [WARN] Another application travels under the same name: \"Zqx?\""_s);
+    m_migrator->start({app(u"Zqx:"_s), app(u"Zqx?"_s)});
+    const QStringList once = {u"begin Zqx_"_s, u"Apps/Zqx_/Install/Zqx_/bin/a.exe"_s, u"end Zqx_ 1 0"_s};
+    QCOMPARE(m_requests, once + once);
 }
 
 void AppMigratorTest::cancelledRunsEndInSilence()
