@@ -23,11 +23,6 @@ class AppMigratorTest : public PcTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!isScratchPc())
-            QSKIP("Needs a PC that ZANDROVE_SCRATCH_PC gives away for tests");
-    }
     void init()
     {
         PcTest::init();
