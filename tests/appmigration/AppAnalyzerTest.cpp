@@ -131,7 +131,9 @@ void AppAnalyzerTest::shortcutsAreClaimed()
     QCOMPARE(anywhere.size(), 2);
     QCOMPARE(anywhere.last().shortcutPath, other);
 
-    QFile link(taken); // zeros behind its fields, or in the last of them, harm nothing
+    if (!SimulatedPc::isMadeUp())
+        return;
+    QFile link(taken); // zeros in its last field harm nothing
     for (const auto &[size, found] : {std::pair(LargestShortcut, 1), std::pair(LargestShortcut + 1, 0)}) {
         QVERIFY(link.resize(link.size() - 1) && link.resize(size));
         QCOMPARE(findShortcuts(info, m_pc->path(u"Target/Zqxw"_s)).size(), found);
