@@ -77,9 +77,12 @@ void AppMigratorTest::applicationsAreSentInOrder()
     m_pc->writeFile(specialFolder(SpecialFolder::CommonAppData) + u"/Zqx/p"_s, "x");
     m_pc->addRegistry(u"[HKEY_CURRENT_USER\\Software\\Zqx:]\n\"value\"=\"a text\"\n"_s);
     const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
-    for (const QString &folder : {specialFolder(SpecialFolder::StartMenuPrograms), desktop})
-        QVERIFY(Platform::writeShellLink(folder + u"/Zqx: 1.lnk"_s, {.path = apps[0].installPath + u"/a"_s}));
-    QVERIFY(Platform::writeShellLink(desktop + u"/Vwvk.lnk"_s, {.path = apps[1].installPath + u"/a"_s}));
+    const std::pair<QString, AppInfo> links[] = {
+        {specialFolder(SpecialFolder::StartMenuPrograms) + u"/Zqx: 1.lnk"_s, apps[0]},
+        {desktop + u"/Zqx: 1.lnk"_s, apps[0]},
+        {desktop + u"/Vwvk.lnk"_s, apps[1]}};
+    for (const auto &[link, target] : links)
+        QVERIFY(Platform::writeShellLink(link, {.path = target.installPath + u"/bin/a.exe"_s}));
     connect(m_migrator.get(), &AppMigrator::appStarted, this, [&](const QString &name) {
         if (name == "Vwvk"_L1) // vanishes between its analysis and its sending
             QVERIFY(QDir(apps[1].installPath).removeRecursively() && QFile::remove(desktop + u"/Vwvk.lnk"_s));
@@ -164,6 +167,7 @@ void AppMigratorTest::receivedApplicationsAreAnnouncedAndEnded()
     const QString base = QStandardPaths::writableLocation(QStandardPaths::TempLocation) + u"/Zandrove_Apps"_s;
     QVERIFY(QDir().mkpath(base + u"/Apps/Zqx/Install/empty"_s));
     m_migrator->onAppEndReceived(u"Zqx"_s);
+    QVERIFY(QDir(base).removeRecursively());
     QCOMPARE(finished.last(), (QVariantList{u"Zqx"_s, false, u"Failed to copy install files"_s}));
 }
 
