@@ -24,7 +24,6 @@ class AppInstallerTest : public PcTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void targetIsChosen_data();
     void targetIsChosen();
     void everythingLandsWhereItBelongs_data();
     void everythingLandsWhereItBelongs();
@@ -46,38 +45,25 @@ private:
     }
 };
 
-void AppInstallerTest::targetIsChosen_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("original");
-    QTest::addColumn<QString>("sourceUser");
-    QTest::addColumn<QString>("target"); ///< $P, $X: Program Files; $U: the current user
-
-    const QString anna = u"anna"_s;
-    QTest::newRow("none") << u"Acme  Big Editor version 2.1"_s << u""_s << anna << u"$P/Acme_Big_Editor"_s;
-    QTest::newRow("other case") << u"Acme Version 2"_s << u"/"_s << anna << u"$P/Acme_Version_2"_s;
-    QTest::newRow("vendor dropped") << u"x"_s << u"C:\\Program Files\\Vendor\\App\\"_s << anna << u"$P/App"_s;
-    QTest::newRow("other drive") << u"x"_s << u"E:/program files (X86)/App"_s << anna << u"$X/App"_s;
-    QTest::newRow("user") << u"x"_s << u"C:\\Users\\Anna\\AppData\\App"_s << anna
-                          << u"C:/Users/$U/AppData/App"_s;
-    QTest::newRow("user unknown") << u"x"_s << u"C:/Users/anna/App"_s << u""_s << u"C:/Users/anna/App"_s;
-    QTest::newRow("elsewhere") << u"x"_s << u"D:\\Games\\App"_s << anna << u"D:/Games/App"_s;
-    QTest::newRow("drive") << u"x"_s << u"D:\\"_s << anna << u"D:"_s;
-}
-
 void AppInstallerTest::targetIsChosen()
 {
-    QFETCH(QString, name);
-    QFETCH(QString, original);
-    QFETCH(QString, sourceUser);
-    QFETCH(QString, target);
-    AppPackageInfo info = package(name);
-    info.originalInstallLocation = original;
-    info.sourceUser = sourceUser;
-    target.replace(u"$P"_s, specialFolder(SpecialFolder::ProgramFiles))
-        .replace(u"$X"_s, specialFolder(SpecialFolder::ProgramFilesX86))
-        .replace(u"$U"_s, Platform::userName());
-    QCOMPARE(AppInstaller().getTargetInstallPath(info), target);
+    const QString programs = specialFolder(SpecialFolder::ProgramFiles);
+    const QString users = u"C:/Users/"_s;
+    const std::tuple<QString, QString, QString> targets[] = {
+        // of an application's name and old place
+        {u"Acme  Big Editor version 2.1"_s, u""_s, programs + u"/Acme_Big_Editor"_s},
+        {u"Acme Version 2"_s, u"/"_s, programs + u"/Acme_Version_2"_s},
+        {u"x"_s, u"C:\\Program Files\\Vendor\\App\\"_s, programs + u"/App"_s},
+        {u"x"_s, u"E:/program files (X86)/App"_s, specialFolder(SpecialFolder::ProgramFilesX86) + u"/App"_s},
+        {u"x"_s, u"C:\\Users\\Anna\\AppData\\App"_s, users + Platform::userName() + u"/AppData/App"_s},
+        {u"x"_s, users + u"other/App"_s, users + u"other/App"_s},
+        {u"x"_s, u"D:\\Games\\App"_s, u"D:/Games/App"_s},
+        {u"x"_s, u"D:\\"_s, u"D:"_s}};
+    for (const auto &[name, original, target] : targets) {
+        AppPackageInfo info = package(name);
+        info.originalInstallLocation = original;
+        QCOMPARE(AppInstaller().getTargetInstallPath(info), target);
+    }
 }
 
 void AppInstallerTest::everythingLandsWhereItBelongs_data()
@@ -158,7 +144,6 @@ void AppInstallerTest::onlyInstallFilesCanFail_data()
     QTest::addColumn<QString>("location");
     QTest::addColumn<bool>("installed");
 
-    const QString temp = QStandardPaths::writableLocation(QStandardPaths::TempLocation);
     const QString fine = u"Target/Acme"_s;
     QTest::newRow("nothing received") << u"x/"_s << fine << true;
     QTest::newRow("no folders") << u"Install/file"_s << fine << true;
@@ -203,19 +188,18 @@ void AppInstallerTest::onlyInstallFilesCanFail()
 
 void AppInstallerTest::copiesReplaceFilesOneByOne()
 {
-    m_pc->writeFile(u"from/a"_s, "new");
-    m_pc->writeFile(u"from/sub/b"_s, "b");
-    m_pc->writeFile(u"from/taken"_s, "taken");
-    m_pc->writeFile(u"to/a"_s, "old");
-    m_pc->writeFile(u"to/kept"_s, "kept");
-    m_pc->writeFile(u"to/taken/inside"_s, "inside");
-    QVERIFY(copyDirectory(m_pc->path(u"from"_s), m_pc->path(u"to"_s)));
-    QCOMPARE(contentOf(m_pc->path(u"to/a"_s)), "new"_ba);
-    QCOMPARE(contentOf(m_pc->path(u"to/sub/b"_s)), "b"_ba);
-    QCOMPARE(contentOf(m_pc->path(u"to/taken/inside"_s)), "inside"_ba);
-    QCOMPARE(QDir(m_pc->path(u"to"_s)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden),
-             (QStringList{u"a"_s, u"kept"_s, u"sub"_s, u"taken"_s}));
-    QVERIFY(!copyDirectory(m_pc->path(u"missing"_s), m_pc->path(u"to"_s)));
+    for (const QString &file : {u"from/a"_s, u"from/sub/b"_s, u"from/taken"_s})
+        m_pc->writeFile(file, "new");
+    for (const QString &file : {u"to/a"_s, u"to/kept"_s, u"to/taken/inside"_s})
+        m_pc->writeFile(file, "old");
+    const QString folder = m_pc->path(u"to"_s);
+    QVERIFY(copyDirectory(m_pc->path(u"from"_s), folder));
+    QByteArrayList contents;
+    for (const QString &file : {u"/a"_s, u"/kept"_s, u"/sub/b"_s, u"/taken/inside"_s})
+        contents.append(contentOf(folder + file));
+    QCOMPARE(contents, (QByteArrayList{"new", "old", "new", "old"}));
+    QCOMPARE(QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden).size(), 4);
+    QVERIFY(!copyDirectory(m_pc->path(u"missing"_s), folder));
 }
 
 void AppInstallerTest::failedCopiesKeepTheOldFile()
