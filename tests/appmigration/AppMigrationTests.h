@@ -8,7 +8,6 @@
 #include <memory>
 
 QObject *makeAppMigratorTest();
-QObject *makePackageTest();
 QObject *makeAppAnalyzerTest();
 QObject *makeAppInstallerTest();
 QObject *makeRegistryFileTest();

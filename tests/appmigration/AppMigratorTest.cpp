@@ -44,6 +44,7 @@ private Q_SLOTS:
         PcTest::cleanup();
     }
 
+    void namesBecomeOneComponent();
     void applicationsAreSentInOrder();
     void cancelledRunsEndInSilence();
     void beginMessagesAreRead();
@@ -64,6 +65,23 @@ private:
     std::unique_ptr<AppMigrator> m_migrator;
     QStringList m_requests; ///< what was to be sent, in order
 };
+
+void AppMigratorTest::namesBecomeOneComponent()
+{
+    const std::pair<QString, QString> safeNames[] = {
+        {u"Acme Editor 2"_s, u"Acme Editor 2"_s},
+        {u"<a>:\"b\"/\\c|?*"_s, u"_a___b___c___"_s},
+        {u"Acme Inc. . "_s, u"Acme Inc"_s},
+        {u"com1"_s, u"_com1"_s},
+        {u"COM1.txt"_s, u"_COM1.txt"_s},
+        {u"nul."_s, u"_nul"_s},
+        {u"COM10"_s, u"COM10"_s},
+        {u"..."_s, u"unnamed"_s},
+        {QString(), u"unnamed"_s},
+        {QString(99, u'x') + u". y"_s, QString(99, u'x') + u'.'}}; // cut at a point, which stays
+    for (const auto &[name, safeName] : safeNames)
+        QCOMPARE(makeSafeName(name), safeName);
+}
 
 void AppMigratorTest::applicationsAreSentInOrder()
 {
