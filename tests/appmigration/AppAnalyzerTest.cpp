@@ -1,7 +1,6 @@
 #include "AppMigrationTests.h"
 
 #include "appmigration/AppAnalyzer.h"
-#include "platform/Identity.h"
 #include "platform/ShellLink.h"
 #include "platform/SpecialFolders.h"
 
@@ -23,7 +22,6 @@ private Q_SLOTS:
     void installFoldersComeFromManySources();
     void keysAreClaimed();
     void shortcutsAreClaimed();
-    void totalsLeaveOutWhatStaysBehind();
 
 private:
     static AppInfo app(const QString &name, const QString &installPath = QString())
@@ -138,21 +136,6 @@ void AppAnalyzerTest::shortcutsAreClaimed()
         QVERIFY(link.resize(link.size() - 1) && link.resize(size));
         QCOMPARE(findShortcuts(info, m_pc->path(u"Target/Zqxw"_s)).size(), found);
     }
-}
-
-void AppAnalyzerTest::totalsLeaveOutWhatStaysBehind()
-{
-    const QString own = m_pc->path(u"Target/Zqxw"_s);
-    m_pc->writeFile(own + u"/a.exe"_s, QByteArray(100, 'x'));
-    m_pc->writeFile(own + u"/.hidden"_s, QByteArray(10, 'x'));
-    m_pc->writeFile(own + u"/Cache/b"_s, QByteArray(1000, 'x'));
-    m_pc->writeFile(specialFolder(SpecialFolder::RoamingAppData) + u"/Zqxw/c"_s, "x");
-    const AppInfo info = app(u"Zqxw"_s, own);
-    const AppPackage package = analyzeApp(info);
-    QCOMPARE(package.totalSize, 111);
-    QCOMPARE(package.fileCount, 3);
-    QCOMPARE(package.sourceUser, Platform::userName());
-    QCOMPARE(analyzeApp(info, [] { return true; }).fileCount, 0);
 }
 
 QObject *makeAppAnalyzerTest()

@@ -87,12 +87,9 @@ void AppInstallerTest::everythingLandsWhereItBelongs()
     const QList<std::pair<QString, QString>> places = {
         {u"Install/Acme/bin/a.exe"_s, target + u"/bin/a.exe"_s},
         {u"Install/Other/.hidden"_s, target + u"/.hidden"_s},
-        {u"AppData/Local/ZandroveTest/a"_s,
-         specialFolder(SpecialFolder::LocalAppData) + u"/ZandroveTest/a"_s},
-        {u"AppData/Roaming/ZandroveTest/b"_s,
-         specialFolder(SpecialFolder::RoamingAppData) + u"/ZandroveTest/b"_s},
-        {u"ProgramData/ZandroveTest/c"_s,
-         specialFolder(SpecialFolder::CommonAppData) + u"/ZandroveTest/c"_s}};
+        {u"AppData/Local/Acme/a"_s, specialFolder(SpecialFolder::LocalAppData) + u"/Acme/a"_s},
+        {u"AppData/Roaming/Acme/b"_s, specialFolder(SpecialFolder::RoamingAppData) + u"/Acme/b"_s},
+        {u"ProgramData/Acme/c"_s, specialFolder(SpecialFolder::CommonAppData) + u"/Acme/c"_s}};
     for (const auto &[from, to] : places)
         m_pc->writeFile(info.receivedBasePath + u'/' + from, from.toUtf8());
     const QString registry =
@@ -154,7 +151,7 @@ void AppInstallerTest::onlyInstallFilesCanFail_data()
         QTest::newRow("read-only folder") << u"Install/Acme/file"_s << u"/proc/Acme"_s << false;
     QTest::newRow("where packages arrive") << u"Install/Acme/file"_s << u"$T/Zandrove/x"_s << false;
     QTest::newRow("that folder by a detour") << u"Install/Acme/file"_s << u"$T/y/../Zandrove"_s << false;
-    QTest::newRow("data without files") << u"AppData/Local/ZandroveTest/"_s << fine << true;
+    QTest::newRow("data without files") << u"AppData/Local/Acme/"_s << fine << true;
     QTest::newRow("damaged registry") << u"registry.reg"_s << fine << true;
     QTest::newRow("damaged shortcut") << u"Shortcuts/Desktop/x.lnk"_s << fine << true;
 }

@@ -31,9 +31,12 @@ private Q_SLOTS:
                 [this](int type, const QByteArray &payload) {
                     const QJsonObject object = parseJsonObject(payload).value_or(QJsonObject());
                     QString request = QString::number(type);
-                    for (const QString &key : {u"safeName"_s, u"filesQueued"_s, u"filesSkipped"_s})
-                        request += u' ' + object.value(key).toVariant().toString();
-                    m_requests.append(request.trimmed());
+                    for (const QString &key : {u"safeName"_s, u"fileCount"_s, u"totalSize"_s,
+                                               u"filesQueued"_s, u"filesSkipped"_s}) {
+                        if (object.contains(key))
+                            request += u' ' + object.value(key).toVariant().toString();
+                    }
+                    m_requests.append(request);
                 });
         connect(m_migrator.get(), &AppMigrator::requestSendFile, this,
                 [this](const QString &, const QString &relativePath) { m_requests.append(relativePath); });
@@ -89,7 +92,7 @@ void AppMigratorTest::applicationsAreSentInOrder()
                            app(u"Stuck"_s, true, false)};
     apps.append(apps[0]);
     apps.last().name = u"Zqx? One"_s; // which travels as the first one does
-    m_pc->writeFile(apps[0].installPath + u"/left.log"_s, "x");
+    m_pc->writeFile(apps[0].installPath + u"/left.log"_s, QByteArray(100, 'x'));
     m_pc->writeFile(specialFolder(SpecialFolder::LocalAppData) + u"/zqx./l"_s, "x");
     m_pc->writeFile(specialFolder(SpecialFolder::RoamingAppData) + u"/Zqx/sub/r"_s, "x");
     m_pc->writeFile(specialFolder(SpecialFolder::CommonAppData) + u"/Zqx/p"_s, "x");
@@ -114,10 +117,10 @@ void AppMigratorTest::applicationsAreSentInOrder()
     const QString base = u"Apps/Zqx_ One/"_s;
     const QStringList folders = {base + u"Install/Zqx_ One/bin/a.exe"_s, base + u"AppData/Local/zqx/l"_s,
                                  base + u"AppData/Roaming/Zqx/sub/r"_s, base + u"ProgramData/Zqx/p"_s};
-    QCOMPARE(m_requests, (QStringList{u"96 Zqx_ One"_s, base + u"registry.reg"_s} + folders +
+    QCOMPARE(m_requests, (QStringList{u"96 Zqx_ One 4 4"_s, base + u"registry.reg"_s} + folders +
                           QStringList{base + u"Shortcuts/StartMenu/Zqx_ 1.lnk"_s,
                                       base + u"Shortcuts/Desktop/Zqx_ 1.lnk"_s, u"97 Zqx_ One 7 1"_s,
-                                      u"96 Vwvk"_s, u"97 Vwvk 0 1"_s, u"96 Zqx_ One"_s} +
+                                      u"96 Vwvk 1 1"_s, u"97 Vwvk 0 1"_s, u"96 Zqx_ One 4 4"_s} +
                           folders + QStringList{u"97 Zqx_ One 4 1"_s}));
     QCOMPARE(appFinished, (QList<QVariantList>{{u"Zqx: One"_s, true, QString()},
                                                {u"Vwvk"_s, true, QString()},
@@ -133,7 +136,7 @@ void AppMigratorTest::cancelledRunsEndInSilence()
     const auto once = connect(m_migrator.get(), &AppMigrator::requestSendCommand, m_migrator.get(),
                               [this] { m_migrator->cancel(); });
     m_migrator->start(apps);
-    QCOMPARE(m_requests, QStringList(u"96 Zqx"_s));
+    QCOMPARE(m_requests, QStringList(u"96 Zqx 1 1"_s));
     QCOMPARE(appFinished, (QList<QVariantList>{{u"Zqx"_s, false, QString()}}));
     QCOMPARE(finished.size(), 0);
 
