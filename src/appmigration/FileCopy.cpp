@@ -62,6 +62,8 @@ bool replaceFile(const QString &source, const QString &destination)
         return false;
     if (!old.exists() && !old.isSymLink())
         return QFile::copy(source, destination);
+    if (old.exists() && !old.isWritable()) // can be moved, but not removed, on Windows
+        return false;
     const QString copy = unusedPath(old.path());
     const bool replaced = QFile::copy(source, copy) && takePlace(copy, destination);
     if (!replaced)

