@@ -56,6 +56,7 @@ Q_SIGNALS:
     void appProgress(const QString &appName, int percent, const QString &status);
     void appFinished(const QString &appName, bool success, const QString &errorMsg);
     void finished(int success, int failed, int skipped); ///< numbers of applications
+    void error(const QString &message); ///< never emitted: no failure is more than one application's
 
     void requestSendCommand(int type, const QByteArray &payload); ///< type: a Protocol::MessageType
     void requestSendFile(const QString &filePath, const QString &relativePath);
