@@ -6,5 +6,5 @@
 
 /// The test classes of this folder.
 [[nodiscard]] std::unique_ptr<QObject> makeSettingPackageTest();
-[[nodiscard]] std::unique_ptr<QObject> makeSettingExportTest();
-[[nodiscard]] std::unique_ptr<QObject> makeSettingApplyTest();
+[[nodiscard]] std::unique_ptr<QObject> makeSettingMoveTest();
+[[nodiscard]] std::unique_ptr<QObject> makeSettingTroubleTest();
