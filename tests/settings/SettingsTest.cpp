@@ -7,6 +7,5 @@ int main(int argc, char *argv[])
 {
     using namespace Zandrove;
     const QCoreApplication app(argc, argv);
-    return Platform::endProcess(
-        TestMain::runTests(makeSettingPackageTest, makeSettingMoveTest, makeSettingTroubleTest));
+    return Platform::endProcess(TestMain::runTests(makeSettingPackageTest, makeSettingMigratorTest));
 }

@@ -6,5 +6,4 @@
 
 /// The test classes of this folder.
 [[nodiscard]] std::unique_ptr<QObject> makeSettingPackageTest();
-[[nodiscard]] std::unique_ptr<QObject> makeSettingMoveTest();
-[[nodiscard]] std::unique_ptr<QObject> makeSettingTroubleTest();
+[[nodiscard]] std::unique_ptr<QObject> makeSettingMigratorTest();
