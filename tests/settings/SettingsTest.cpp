@@ -1,11 +1,617 @@
-#include "SettingsTests.h"
+#include "SimulatedPc.h"
 #include "TestMain.h"
 
-#include <QCoreApplication>
+#include "inventory/SettingScanner.h"
+#include "platform/Registry.h"
+#include "platform/SystemParameters.h"
+#include "settings/SettingMigrator.h"
 
-int main(int argc, char *argv[])
+#include <QRegularExpression>
+#include <QScopeGuard>
+#include <QSignalSpy>
+#include <QThread>
+
+#include <limits>
+#include <numeric>
+
+using namespace Qt::StringLiterals;
+using namespace Zandrove;
+using SettingMessages::Data;
+
+namespace {
+
+using Values = QMap<QString, QString>;
+
+const QByteArray PathKey = "Windows Registry Editor Version 5.00\r\n\r\n"
+                           "[HKEY_CURRENT_USER\\Environment]\r\n\"PATH\"=\"C:\\\\old\"\r\n";
+const QByteArray NoKey = "no key";
+const QByteArray Hangs = "exec sleep 100"; // a program's script
+const QString Wallpaper = u"wallpaper"_s;
+
+QString spelledOut(const char *text)
 {
-    using namespace Zandrove;
-    const QCoreApplication app(argc, argv);
-    return Platform::endProcess(TestMain::runTests(makeSettingPackageTest, makeSettingMigratorTest));
+    return QString::fromUtf8(text).replace("WINDOWS\\"_L1,
+                                           "HKCU\\Software\\Microsoft\\Windows\\CurrentVersion\\"_L1);
 }
+
+/// What the registry holds in the place of such values, each a path, "=" and a text: "HKCU\A\B=1;
+/// HKCU\A\C=2".
+QString found(const QString &values)
+{
+    QStringList texts;
+    for (const QString &value : values.split(u"; "_s)) {
+        const QString path = value.section(u'=', 0, 0);
+        const Platform::RegistryKey key(path.section(u'\\', 0, -2));
+        texts.append(path + u'=' + key.text(path.section(u'\\', -1), u"none"_s));
+    }
+    return texts.join(u"; "_s);
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : "none";
+}
+
+SettingInfo chosen(const QString &id, const QString &registryPath = QString())
+{
+    SettingInfo setting;
+    setting.id = setting.name = id;
+    setting.registryPath = registryPath;
+    setting.selected = true;
+    return setting;
+}
+
+QByteArray keyPayload(const QString &setting, const QByteArray &key)
+{
+    return Data{.key = setting, .content = Data::Content::Registry, .bytes = key}.toPayload();
+}
+
+QByteArray filePayload(const QString &setting, const QString &name, const QByteArray &bytes, int index = 0,
+                       int total = 1)
+{
+    return Data{setting, Data::Content::File, bytes, true, index, total, name}.toPayload();
+}
+
+/// One PC's half of a run, and all that it says.
+struct Half
+{
+    SettingMigrator migrator;
+    QSignalSpy sent{&migrator, &SettingMigrator::requestSendCommand};
+    QSignalSpy percents{&migrator, &SettingMigrator::settingProgress};
+    QSignalSpy ended{&migrator, &SettingMigrator::settingFinished};
+    QSignalSpy progress{&migrator, &SettingMigrator::progress};
+    QSignalSpy finished{&migrator, &SettingMigrator::finished};
+
+    void hear(int type, const QByteArray &payload)
+    {
+        constexpr std::array Slots = {&SettingMigrator::onSettingStart, &SettingMigrator::onSettingData,
+                                      &SettingMigrator::onSettingEnd, &SettingMigrator::onSettingComplete};
+        (migrator.*Slots[std::size_t(type - 112)])(payload);
+    }
+
+    /// Takes in a setting with this data. Whether it was applied; "dropped" where it did not end.
+    QString apply(const QString &key, const QByteArrayList &data, const Values &metadata = {})
+    {
+        SettingPackage package;
+        package.key = key;
+        package.metadata = metadata;
+        hear(112, SettingMessages::startPayload(package));
+        for (const QByteArray &payload : data)
+            hear(113, payload);
+        return end(key);
+    }
+
+    QString end(const QString &key)
+    {
+        ended.clear();
+        hear(114, SettingMessages::End{key, key}.toPayload());
+        return ended.isEmpty() ? u"dropped"_s : ended[0][1].toBool() ? u"applied"_s : u"failed"_s;
+    }
+};
+
+QStringList logged; // since the test began
+
+/// The system's calls come between those of its programs, so that all of them have one order.
+void recordLine(QtMsgType, const QMessageLogContext &, const QString &line)
+{
+    logged.append(line);
+    QFile calls(qEnvironmentVariable("ZANDROVE_STANDIN_CALLS", u"."_s));
+    if (line.startsWith("[SystemParameters] "_L1) && calls.open(QIODevice::WriteOnly | QIODevice::Append))
+        calls.write(line.mid(19).toUtf8() + '\n');
+}
+
+} // namespace
+
+/// Settings from one PC to another: its registry, programs and files, the messages, and the other's.
+class SettingsTest final : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void payloadsKeepTheirForm();
+    void dataOfAnyPeerIsRead_data();
+    void dataOfAnyPeerIsRead();
+    void everySettingMoves();
+    void picturesMoveInChunks_data();
+    void picturesMoveInChunks();
+    void onlyTheImportReplacesPath();
+    void settingsGoByTheirId();
+    void aHugeKeyMoves();
+    void contentsDecide_data();
+    void contentsDecide();
+    void programsFail_data();
+    void programsFail();
+    void aPictureIsWrittenBelowItsFolderOnly_data();
+    void aPictureIsWrittenBelowItsFolderOnly();
+    void messagesOfAnyPeerAreTaken();
+    void aCancelledExportEndsSilently();
+    void everyRunIsCounted();
+
+private:
+    void addRegistry(const char *text);
+    [[nodiscard]] QString calls() const;
+    [[nodiscard]] QString pictureOfNewPc(const QString &name) const;
+
+    std::unique_ptr<SimulatedPc> m_pc;
+};
+
+void SettingsTest::initTestCase()
+{
+    if (!SimulatedPc::isMadeUp() && !qEnvironmentVariableIsSet("ZANDROVE_SCRATCH_PC"))
+        QSKIP("Needs a PC that ZANDROVE_SCRATCH_PC gives away for tests");
+}
+
+/// Also makes the next PC of one test.
+void SettingsTest::init()
+{
+    m_pc.reset();
+    m_pc = std::make_unique<SimulatedPc>();
+    logged.clear();
+}
+
+void SettingsTest::cleanup()
+{
+    QCOMPARE(QDir::temp().entryList({u"zandrove_*"_s}), QStringList());
+    if (!SimulatedPc::isMadeUp()) { // there it would be the next test's picture too
+        QDir(m_pc->homePath(u"Pictures/Zandrove"_s)).removeRecursively();
+        QVERIFY(Platform::setWallpaper(u""_s));
+    }
+    m_pc.reset();
+}
+
+void SettingsTest::addRegistry(const char *text)
+{
+    m_pc->addRegistry(spelledOut(text).replace("HKCU"_L1, "HKEY_CURRENT_USER"_L1));
+}
+
+/// What the system was called with, without what differs each time.
+QString SettingsTest::calls() const
+{
+    static const QRegularExpression file(
+        u"[^|]*/zandrove_(reg_(ex|im)port_\\d{13}\\.reg|power_(ex|im)port\\.pow)"_s);
+    return m_pc->programCalls().replaceInStrings(file, u"FILE"_s).join(u"; "_s);
+}
+
+QString SettingsTest::pictureOfNewPc(const QString &name) const
+{
+    return m_pc->homePath(u"Pictures/Zandrove/"_s + name);
+}
+
+void SettingsTest::payloadsKeepTheirForm()
+{
+    const QByteArray start = R"({"category":"Größe","fileName":"a.jpg","fileSize":5,"key":"wallpaper",)"
+                             R"("metadata":{"a":"b"},"name":"Bild","originalFilePath":"C:\\a.jpg",)"
+                             R"("registryPath":"HKCU\\x","registrySize":3})";
+    SettingPackage package = SettingMessages::readStart(start);
+    QCOMPARE(package.key + package.name + package.category + package.registryPath + package.fileName +
+                 package.originalFilePath + package.metadata.value(u"a"_s),
+             u"wallpaperBildGrößeHKCU\\xa.jpgC:\\a.jpgb"_s);
+    package.registryData = "abc";
+    package.fileData = "12345";
+    QCOMPARE(SettingMessages::startPayload(package), start);
+    const QByteArray key = R"({"data":"//4=","dataType":"registry","key":"k"})";
+    QCOMPARE(keyPayload(u"k"_s, "\xff\xfe"), key);
+    QCOMPARE(filePayload(u"k"_s, u"f"_s, "x", 1, 2),
+             QByteArray(R"({"chunkIndex":1,"data":"eA==","dataType":"file","fileName":"f",)"
+                        R"("key":"k","totalChunks":2})"));
+    QCOMPARE((SettingMessages::End{u"k"_s, u"n"_s}.toPayload()), QByteArray(R"({"key":"k","name":"n"})"));
+    const QByteArray complete = R"({"failed":2,"success":7})";
+    QCOMPARE(SettingMessages::Complete::fromPayload(complete).toPayload(), complete);
+    QCOMPARE(SettingMessages::Complete::fromPayload(complete).success, 7);
+    const auto odd =
+        SettingMessages::readStart(R"({"key":5,"name":"n","metadata":{"a":1,"b":null,"c":"3"}})");
+    QCOMPARE(odd.key + odd.name, u"n"_s);
+    QCOMPARE(odd.metadata, (Values{{u"c"_s, u"3"_s}}));
+}
+
+void SettingsTest::dataOfAnyPeerIsRead_data()
+{
+    QTest::addColumn<QByteArray>("payload");
+    QTest::addColumn<bool>("intact");
+    QTest::newRow("no JSON") << QByteArray("{\"key\":") << true;
+    QTest::newRow("an array") << QByteArray("[1]") << true;
+    QTest::newRow("no text") << QByteArray(R"({"dataType":"registry","data":[1,2]})") << true;
+    QTest::newRow("no Base64") << QByteArray(R"({"dataType":"registry","data":"§$%&"})") << false;
+    QTest::newRow("an alien in it") << QByteArray(R"({"dataType":"file","data":"eA==\u0000eA=="})") << false;
+    QTest::newRow("odd counts") << QByteArray(R"({"totalChunks":2147483648,"chunkIndex":1e99})") << true;
+}
+
+void SettingsTest::dataOfAnyPeerIsRead()
+{
+    QFETCH(const QByteArray, payload);
+    const Data data = Data::fromPayload(payload);
+    QTEST(data.intact, "intact");
+    QVERIFY(data.bytes.isEmpty());
+    QCOMPARE(data.totalChunks + data.chunkIndex, 0);
+}
+
+void SettingsTest::everySettingMoves()
+{
+    const bool isMadeUp = SimulatedPc::isMadeUp();
+    const auto movable = isMadeUp ? 9 : 8; // Wine has no powercfg
+    QVERIFY(Platform::setWallpaper(m_pc->writeFile(u"sea ü.bmp"_s, "BM")));
+    // Wine's calls lose sight of these keys where they are removed in the end, so nothing else is added
+    // there.
+    using Platform::RegistryKey;
+    QVERIFY(RegistryKey(u"HKCU\\Control Panel\\Desktop"_s).setText(u"WallpaperStyle"_s, u"6"_s));
+    QVERIFY(RegistryKey(u"HKCU\\Control Panel\\Mouse"_s).setText(u"DoubleClickSpeed"_s, u"400"_s));
+    QVERIFY(RegistryKey(u"HKCU\\Control Panel\\Keyboard"_s).setText(u"KeyboardDelay"_s, u"2"_s));
+    addRegistry("[WINDOWS\\Explorer\\StuckRects3]\n\"Settings\"=hex:41,00\n"
+                "[WINDOWS\\Explorer\\Advanced]\n\"Hidden\"=dword:1\n"
+                "[HKCU\\Environment]\n\"PATH\"=\"C:\\\\old\"\n\"Zoo\"=hex(2):25,00,58,00,25,00,00,00\n"
+                "[WINDOWS\\Themes\\Personalize]\n\"AppsUseLightTheme\"=dword:0\n"
+                "[HKCU\\AppEvents\\Schemes\\Apps\\Beep]\n@=\"dïng.wav\"\n");
+    SettingScanner scanner;
+    QSignalSpy scanned(&scanner, &SettingScanner::finished);
+    scanner.start();
+    auto settings = scanned[0][0].value<QList<SettingInfo>>();
+    for (SettingInfo &setting : settings)
+        setting.selected = true;
+    Half oldPc;
+    oldPc.migrator.start(settings);
+    QCOMPARE(oldPc.finished, (QList<QVariantList>{{movable, 9 - movable}}));
+    QCOMPARE(oldPc.progress.last(), (QVariantList{88, u"Sound Scheme"_s}));
+    if (isMadeUp)
+        QCOMPARE(calls(), spelledOut("reg|export|HKCU\\Control Panel\\Desktop|FILE|/y; "
+                                     "reg|export|WINDOWS\\Explorer\\StuckRects3|FILE|/y; "
+                                     "reg|export|WINDOWS\\Explorer\\Advanced|FILE|/y; "
+                                     "reg|export|WINDOWS\\Explorer\\Advanced|FILE|/y; "
+                                     "reg|export|HKCU\\Control Panel\\Mouse|FILE|/y; "
+                                     "reg|export|HKCU\\Control Panel\\Keyboard|FILE|/y; "
+                                     "powercfg|/export|FILE|SCHEME_CURRENT; "
+                                     "reg|export|HKCU\\Environment|FILE|/y; "
+                                     "reg|export|WINDOWS\\Themes\\Personalize|FILE|/y; "
+                                     "reg|export|HKCU\\AppEvents\\Schemes|FILE|/y"));
+
+    init();
+    addRegistry("[HKCU\\Environment]\n\"Path\"=\"C:\\\\new\"\n\"Kept\"=\"1\"\n");
+    Half newPc;
+    const auto handler = qInstallMessageHandler(recordLine);
+    for (const QVariantList &message : std::as_const(oldPc.sent))
+        newPc.hear(message[0].toInt(), message[1].toByteArray());
+    qInstallMessageHandler(handler);
+    QCOMPARE(newPc.finished, (QList<QVariantList>{{movable, 0}}));
+    const QString values = spelledOut(
+        "HKCU\\Control Panel\\Desktop\\WallpaperStyle=6; HKCU\\Control Panel\\Desktop\\TileWallpaper=0; "
+        "WINDOWS\\Explorer\\StuckRects3\\Settings=A; WINDOWS\\Explorer\\Advanced\\Hidden=1; "
+        "HKCU\\Control Panel\\Mouse\\DoubleClickSpeed=400; HKCU\\Control Panel\\Keyboard\\KeyboardDelay=2; "
+        "HKCU\\Environment\\PATH=C:\\old; HKCU\\Environment\\Zoo=%X%; HKCU\\Environment\\Kept=1; "
+        "WINDOWS\\Themes\\Personalize\\AppsUseLightTheme=0; "
+        "HKCU\\AppEvents\\Schemes\\Apps\\Beep\\.=dïng.wav");
+    QCOMPARE(found(values), values);
+    QVERIFY(m_pc->registryText(u"HKEY_CURRENT_USER\\Environment"_s).contains("\"Zoo\"=hex(2):"_L1));
+    const QString picture = pictureOfNewPc(u"sea ü.bmp"_s);
+    QCOMPARE(QDir::fromNativeSeparators(Platform::wallpaper().value()), picture);
+    QCOMPARE(contentOf(picture), QByteArray("BM"));
+    if (!isMadeUp) {
+        newPc.apply(u"keyboard"_s, {}, {{u"KeyboardDelay"_s, u"1"_s}, {u"KeyboardSpeed"_s, u"30"_s}});
+        const QString byCall = u"HKCU\\Control Panel\\Keyboard\\KeyboardSpeed=30"_s;
+        QCOMPARE(found(byCall), byCall);
+        return;
+    }
+    const QString scheme = calls().section(u"/setactive|"_s, 1).section(u';', 0, 0);
+    QVERIFY(m_pc->registryText().contains(u"\"ActivePowerScheme\"=\"%1\""_s.arg(scheme)));
+    QCOMPARE(calls(), u"reg|import|FILE; reg|import|FILE; setting change \"TraySettings\"; "
+                      "reg|import|FILE; setting change \"\"; associations changed; "
+                      "reg|import|FILE; action 113 value 1; action 33 value 0; action 32 value 400; "
+                      "reg|import|FILE; action 23 value 2; action 11 value 31; "
+                      "powercfg|/import|FILE; powercfg|/setactive|%1; "
+                      "reg|import|FILE; setting change \"Environment\"; "
+                      "reg|import|FILE; setting change \"ImmersiveColorSet\"; reg|import|FILE"_s.arg(scheme));
+}
+
+void SettingsTest::picturesMoveInChunks_data()
+{
+    constexpr qsizetype Chunk = 524288;
+    QTest::addColumn<QList<qsizetype>>("chunks");
+    QTest::newRow("empty") << QList<qsizetype>();
+    QTest::newRow("a byte") << QList<qsizetype>{1};
+    QTest::newRow("a byte less") << QList<qsizetype>{Chunk - 1};
+    QTest::newRow("one chunk") << QList<qsizetype>{Chunk};
+    QTest::newRow("a byte more") << QList<qsizetype>{Chunk, 1};
+    QTest::newRow("two chunks") << QList<qsizetype>{Chunk, Chunk};
+    QTest::newRow("6 MiB") << QList<qsizetype>(12, Chunk);
+}
+
+void SettingsTest::picturesMoveInChunks()
+{
+    QFETCH(const QList<qsizetype>, chunks);
+    QByteArray content(std::accumulate(chunks.begin(), chunks.end(), qsizetype(0)), 'x');
+    for (qsizetype i = 0; i < content.size(); i += 1021)
+        content[i] = char(i);
+    QVERIFY(Platform::setWallpaper(m_pc->writeFile(u"sea.bmp"_s, content)));
+    Half oldPc, newPc;
+    oldPc.migrator.start({chosen(Wallpaper)});
+    QCOMPARE(oldPc.finished, (QList<QVariantList>{{1, 0}}));
+    QList<qsizetype> sizes;
+    for (const QVariantList &message : std::as_const(oldPc.sent)) {
+        const Data data = Data::fromPayload(message[1].toByteArray());
+        if (data.content == Data::Content::File && data.chunkIndex == sizes.size())
+            sizes.append(data.bytes.size());
+        newPc.hear(message[0].toInt(), message[1].toByteArray());
+    }
+    QCOMPARE(sizes, chunks);
+    const bool isPicture = !chunks.isEmpty();
+    QCOMPARE(newPc.finished, (QList<QVariantList>{{int(isPicture), int(!isPicture)}}));
+    QCOMPARE(newPc.percents.value(0).value(1).toInt(), isPicture ? int(100 / chunks.size()) : 0);
+    QVERIFY(!isPicture || contentOf(pictureOfNewPc(u"sea.bmp"_s)) == content);
+}
+
+void SettingsTest::onlyTheImportReplacesPath()
+{
+    addRegistry("[HKCU\\Environment]\n\"Path\"=\"C:\\\\new\"\n");
+    const QString id = u"environment"_s;
+    const Values variables = {{u"EnvironmentVars"_s, uR"({"pAth":"C:\\old","Zoo":"ä","Bad":5,"":"x"})"_s}};
+    QString values = u"HKCU\\Environment\\PATH=C:\\new; HKCU\\Environment\\Zoo=ä; "
+                     "HKCU\\Environment\\Bad=none; HKCU\\Environment\\.=none"_s;
+    Half newPc;
+    QTest::ignoreMessage(QtDebugMsg, "[Environment] Skipping PATH merge for safety");
+    QCOMPARE(newPc.apply(id, {}, variables), u"applied"_s);
+    QCOMPARE(found(values), values);
+    // The key is imported before the variables are looked at, so PATH is the other PC's already by then.
+    QCOMPARE(newPc.apply(id, {keyPayload(id, PathKey)}, variables), u"applied"_s);
+    QCOMPARE(found(values), values.replace("new"_L1, "old"_L1));
+    QCOMPARE(newPc.apply(id, {}), u"failed"_s);
+    QCOMPARE(newPc.apply(id, {}, {{u"EnvironmentVars"_s, u"[]"_s}}), u"applied"_s);
+}
+
+void SettingsTest::settingsGoByTheirId()
+{
+    if (!SimulatedPc::isMadeUp())
+        QSKIP("Needs a PC without values of its own.");
+    addRegistry("[HKCU\\Pens]\n\"Ink\"=\"1\"\n[WINDOWS\\Explorer\\Taskband]\n\"A\"=\"1\"\n"
+                "[HKCU\\Control Panel\\Mouse]\n\"MouseSpeed\"=dword:2\n");
+    Half oldPc;
+    oldPc.migrator.start({chosen(u"pens"_s, u"HKEY_CURRENT_USER/Pens"_s), chosen(u"Mouse"_s),
+                          chosen(u"taskbar"_s), chosen(u"mouse"_s)});
+    QStringList packages;
+    for (const QVariantList &message : std::as_const(oldPc.sent)) {
+        const auto package = SettingMessages::readStart(message[1].toByteArray());
+        if (message[0] == 112)
+            packages.append(package.registryPath.section(u'\\', -1) + package.metadata.values().join(u','));
+    }
+    // The sorted values are those of double click, sensitivity, speed and swapped buttons.
+    QCOMPARE(packages.join(u"; "_s), u"HKEY_CURRENT_USER/Pens; Taskband; Mouse500,10,2,0"_s);
+    QCOMPARE(oldPc.finished, (QList<QVariantList>{{3, 1}}));
+}
+
+void SettingsTest::aHugeKeyMoves()
+{
+    if (!SimulatedPc::isMadeUp())
+        QSKIP("The programs of the PC at hand stay.");
+    m_pc->replaceProgram(u"reg"_s, "[ $1 = export ] && exec head -c 104857600 /dev/zero > \"$3\"\n"
+                                   "wc -c < \"$2\" > imported");
+    Half oldPc, newPc;
+    oldPc.migrator.start({chosen(u"pens"_s, u"HKCU\\Pens"_s)});
+    for (const QVariantList &message : std::as_const(oldPc.sent))
+        newPc.hear(message[0].toInt(), message[1].toByteArray());
+    QCOMPARE(contentOf(m_pc->path(u"imported"_s)).trimmed(), QByteArray("104857600"));
+}
+
+void SettingsTest::contentsDecide_data()
+{
+    QTest::addColumn<QByteArray>("key");
+    QTest::addColumn<Values>("metadata");
+    QTest::addColumn<QString>("outcome");
+    QTest::addColumn<QString>("calls");
+    const auto row = [](const char *name, const QByteArray &key, const Values &metadata, bool applied,
+                        const char *calls) {
+        QTest::newRow(name) << key << metadata << (applied ? u"applied"_s : u"failed"_s)
+                            << QString::fromLatin1(calls);
+    };
+    const Values advanced = {{u"AdvancedSettings"_s, QString::fromLatin1(PathKey.toBase64())}};
+    row("taskbar, only the extra", {}, advanced, false, "");
+    row("taskbar", NoKey, advanced, false,
+        "reg|import|FILE; reg|import|FILE; setting change \"TraySettings\"");
+    row("explorer", NoKey, {}, false, "reg|import|FILE; setting change \"\"; associations changed");
+    row("mouse", NoKey, {{u"SwapMouseButtons"_s, u"true"_s}}, true, "reg|import|FILE; action 33 value 0");
+    row("keyboard, half", {}, {{u"KeyboardDelay"_s, u"2"_s}}, true, "");
+    row("environment", NoKey, {}, false, "reg|import|FILE; setting change \"Environment\"");
+    row("sound", NoKey, {}, false, "reg|import|FILE");
+    row("display, no key", {}, advanced, false, "setting change \"ImmersiveColorSet\"");
+    row("power, no scheme", PathKey, {}, false, "");
+    row("wallpaper, no file", PathKey, {}, false, "");
+    row("pens", PathKey, {}, true, "reg|import|FILE");
+}
+
+void SettingsTest::contentsDecide()
+{
+    if (!SimulatedPc::isMadeUp())
+        QSKIP("The calls to the PC at hand are not recorded.");
+    QFETCH(const QByteArray, key);
+    QFETCH(const Values, metadata);
+    const QString id = QString::fromLatin1(QTest::currentDataTag()).section(u',', 0, 0);
+    QByteArrayList data;
+    if (!key.isEmpty())
+        data.append(keyPayload(id, key));
+    const auto handler = qInstallMessageHandler(recordLine);
+    const QString outcome = Half().apply(id, data, metadata);
+    qInstallMessageHandler(handler);
+    QTEST(outcome, "outcome");
+    QTEST(calls(), "calls");
+}
+
+void SettingsTest::programsFail_data()
+{
+    QTest::addColumn<bool>("isExport");
+    QTest::addColumn<QByteArray>("script"); // of the program; empty where it is missing
+    QTest::addColumn<QString>("log");
+    const auto row = [](const char *name, bool isExport, const QByteArray &script, const char *log) {
+        QTest::newRow(name) << isExport << script << QString::fromLatin1(log);
+    };
+    row("sound, missing", true, "", R"([Registry] Export timeout for: "HKCU\\AppEvents\\Schemes")");
+    row("sound, hanging", true, Hangs, R"([Registry] Export timeout for: "HKCU\\AppEvents\\Schemes")");
+    row("sound, failing", true, "echo x > $3; echo no >&2; exit 3", R"(  Error: "no\n")");
+    row("sound, empty", true, ": > $3", R"([Registry] Exported: "HKCU\\AppEvents\\Schemes" size: 0)");
+    row("power, missing", true, "", "[Power] powercfg export timeout");
+    row("power, failing", true, "echo x > $2; echo no >&2; exit 3",
+        R"([Power] powercfg export failed: "no\n")");
+    row("power, lazy", true, "exit 0", R"([SettingMigrator] Exporting: "power" - "power")");
+    row("sound, missing at last", false, "", "[Registry] Import timeout");
+    row("sound, hanging at last", false, Hangs, "[Registry] Import timeout");
+    row("sound, failing at last", false, "echo no >&2; exit 3", R"([Registry] Import failed: "no\n")");
+    row("power, hanging at last", false, Hangs, R"([SettingMigrator] Applying setting: "power")");
+    row("power, failing at last", false, "exit 3", "[Power] Applied settings, success: false");
+}
+
+void SettingsTest::programsFail()
+{
+    if (!SimulatedPc::isMadeUp())
+        QSKIP("The programs of the PC at hand stay.");
+    QFETCH(const bool, isExport);
+    QFETCH(const QByteArray, script);
+    QFETCH(const QString, log);
+    const QString id = QString::fromLatin1(QTest::currentDataTag()).section(u',', 0, 0);
+    const QString program = id == "power"_L1 ? u"powercfg"_s : u"reg"_s;
+    m_pc->removeProgram(program);
+    if (!script.isEmpty())
+        m_pc->replaceProgram(program, script);
+    QVariantList ended;
+    const std::unique_ptr<QThread> thread(QThread::create([&] {
+        Half half;
+        if (isExport)
+            half.migrator.start({chosen(id)});
+        else
+            half.apply(id, {keyPayload(id, PathKey), filePayload(id, u"../not written"_s, "x")});
+        ended = half.ended.value(0);
+    }));
+    const auto handler = qInstallMessageHandler(recordLine);
+    thread->start();
+    if (script == Hangs)
+        thread->requestInterruption(); // ends the wait as if the time were over
+    const bool isOver = thread->wait();
+    qInstallMessageHandler(handler);
+    QVERIFY(isOver);
+    QVERIFY2(logged.contains(log), qPrintable(logged.join(u'\n')));
+    const QString error = isExport ? u"Export failed"_s : u"Failed to apply setting"_s;
+    QCOMPARE(ended, (QVariantList{isExport ? id : QString(), false, error}));
+}
+
+void SettingsTest::aPictureIsWrittenBelowItsFolderOnly_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : {"sea ..bmp", "", ".", "..", "../a.bmp", "a/a.bmp", "..\\a.bmp", "/a.bmp"})
+        QTest::newRow(qPrintable(u"<%1>"_s.arg(QLatin1StringView(name)))) << QString::fromLatin1(name);
+    QTest::newRow("NUL") << u"sea.bmp"_s + QChar(QChar::Null);
+    if (!SimulatedPc::isMadeUp())
+        QTest::newRow("a stream") << u"sea.bmp:x"_s;
+}
+
+void SettingsTest::aPictureIsWrittenBelowItsFolderOnly()
+{
+    QFETCH(const QString, name);
+    const QString older = m_pc->writeFile(pictureOfNewPc(u"sea ..bmp"_s), "an older, longer one");
+    const bool isGood = older == pictureOfNewPc(name);
+    const QByteArrayList chunks = {filePayload(Wallpaper, u"a.bmp"_s, "sea ", 0, 2),
+                                   filePayload(Wallpaper, name, "view", 1, 2)};
+    QCOMPARE(Half().apply(Wallpaper, chunks), isGood ? u"applied"_s : u"failed"_s);
+    QCOMPARE(contentOf(older), QByteArray(isGood ? "sea view" : "an older, longer one"));
+    const auto entries = [this](const QString &place) {
+        return QDir(m_pc->homePath(place)).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    };
+    QCOMPARE(entries(u"Pictures"_s), QStringList(u"Zandrove"_s));
+    QCOMPARE(entries(u"Pictures/Zandrove"_s), QStringList(u"sea ..bmp"_s));
+}
+
+void SettingsTest::messagesOfAnyPeerAreTaken()
+{
+    constexpr int Largest = std::numeric_limits<int>::max();
+    const QString name = u"sea.bmp"_s;
+    Half newPc;
+    QCOMPARE(newPc.end(Wallpaper), u"dropped"_s); // none has begun
+    QCOMPARE(newPc.end({}), u"failed"_s);         // fits the one without an id, which can't be applied
+    QCOMPARE(newPc.apply(Wallpaper,
+                         {filePayload(u"mouse"_s, name, "0"), filePayload(Wallpaper, name, "3", Largest, 0),
+                          filePayload(Wallpaper, name, "1", Largest, 1),
+                          filePayload(Wallpaper, name, "2", -Largest, 1)}),
+             u"applied"_s);
+    QCOMPARE(newPc.percents, (QList<QVariantList>{{QString(), 0}, {QString(), 100}, {QString(), 0}}));
+    QCOMPARE(contentOf(pictureOfNewPc(name)), QByteArray("312")); // what counts is the order of arrival
+    const QByteArray noBase64 = R"({"key":"wallpaper","dataType":"file","fileName":"y","data":"?"})";
+    QCOMPARE(newPc.apply(Wallpaper, {filePayload(Wallpaper, name, "x"), noBase64}), u"failed"_s);
+    newPc.hear(112, "no JSON"); // gives up the one before all the same
+    QCOMPARE(newPc.end(Wallpaper), u"dropped"_s);
+
+    newPc.migrator.setContentLimit(PathKey.size());
+    for (const auto excess : {0, 1}) {
+        const QString outcome = excess == 0 ? u"applied"_s : u"failed"_s;
+        const QByteArray rest(PathKey.size() - 4 + excess, 'x');
+        QCOMPARE(newPc.apply(Wallpaper,
+                             {filePayload(Wallpaper, name, "1234"), filePayload(Wallpaper, name, rest)}),
+                 outcome);
+        // A second key takes the place of the first.
+        const QByteArray key = PathKey + QByteArray(excess, '\n');
+        QCOMPARE(newPc.apply(u"pens"_s, {keyPayload(u"pens"_s, NoKey), keyPayload(u"pens"_s, key)}), outcome);
+    }
+}
+
+void SettingsTest::aCancelledExportEndsSilently()
+{
+    m_pc->addRegistry(u"[HKEY_CURRENT_USER\\Software\\ZandroveTest]\n\"A\"=\"b\"\n"_s);
+    const SettingInfo pens = chosen(u"pens"_s, u"HKEY_CURRENT_USER\\Software\\ZandroveTest"_s);
+    SettingInfo missing = pens;
+    missing.available = false;
+    Half oldPc;
+    SettingMigrator &migrator = oldPc.migrator;
+    migrator.start({missing, SettingInfo()}); // none to move, so no message either
+    QCOMPARE(oldPc.finished.takeFirst(), (QVariantList{0, 0}));
+    const auto cancelling = connect(&migrator, &SettingMigrator::settingStarted, &migrator, [&] {
+        migrator.start({pens}); // dropped: one is on
+        migrator.cancel();
+    });
+    migrator.start({pens, pens});
+    QCOMPARE(oldPc.ended.size(), 1);
+    QCOMPARE(oldPc.sent.size(), 3); // the setting in hand still leaves whole
+    QCOMPARE(oldPc.finished.size(), 0);
+    disconnect(cancelling);
+    migrator.start({pens});
+    QCOMPARE(oldPc.finished.size(), 1);
+    migrator.stop();
+    migrator.start({pens});
+    QCOMPARE(oldPc.finished.size(), 1);
+    QVERIFY(!migrator.isRunning());
+}
+
+void SettingsTest::everyRunIsCounted()
+{
+    Half newPc;
+    for (const int percent : {60, 120}) {
+        newPc.migrator.startReceiving();
+        QVERIFY(newPc.migrator.isRunning());
+        for (const char *key : {"mouse", "sound", "mouse", "sound", "sound", "sound"})
+            newPc.apply(QString::fromLatin1(key), {});
+        newPc.migrator.cancel(); // means nothing to what is received
+        newPc.hear(115, "[]");
+        QCOMPARE(newPc.finished.takeFirst(), (QVariantList{2, 4}));
+        QCOMPARE(newPc.progress.last().first().toInt(), percent);
+        QVERIFY(!newPc.migrator.isRunning());
+    }
+}
+
+ZANDROVE_TEST_MAIN(SettingsTest)
+
+#include "SettingsTest.moc"
