@@ -290,10 +290,12 @@ void SettingsTest::onlyTheImportReplacesPath()
     Half newPc;
     QCOMPARE(newPc.apply(id, {}, variables), u"applied"_s);
     QCOMPARE(found(values), values);
+    const QString skipped = u"[Environment] Skipping PATH merge for safety"_s;
+    QCOMPARE(logged.count(skipped), 1);
     // The key is imported before the variables are looked at, so PATH is the other PC's already by then.
     QCOMPARE(newPc.apply(id, {keyPayload(id, PathKey)}, variables), u"applied"_s);
     QCOMPARE(found(values), values.replace("new"_L1, "old"_L1));
-    QCOMPARE(logged.count(u"[Environment] Skipping PATH merge for safety"_s), 1);
+    QCOMPARE(logged.count(skipped), 1);
     QCOMPARE(newPc.apply(id, {}), u"failed"_s);
     QCOMPARE(newPc.apply(id, {}, {{u"EnvironmentVars"_s, u"[]"_s}}), u"applied"_s);
 }
@@ -390,7 +392,7 @@ void SettingsTest::aPictureIsWrittenBelowItsFolderOnly()
 {
     const QDir pictures(m_pc->homePath(u"Pictures"_s));
     const QString older = m_pc->writeFile(pictureOfNewPc(u"sea ..bmp"_s), "an older, longer one");
-    QStringList bad = {u""_s, u"."_s, u".."_s, u"../a.bmp"_s, u"a/a.bmp"_s, u"..\\a.bmp"_s, u"/a.bmp"_s};
+    QStringList bad = {u""_s, u"."_s, u".."_s, u"../a.bmp"_s, u"a/a.bmp"_s, u"a\\a.bmp"_s, u"/a.bmp"_s};
     bad.append(u"a.bmp"_s + QChar(QChar::Null));
     if (!SimulatedPc::isMadeUp())
         bad.append(u"sea ..bmp:stream"_s);
