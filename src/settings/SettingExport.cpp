@@ -178,7 +178,7 @@ bool exportNamedKey(SettingPackage &package, const QString &path)
     return false;
 }
 
-/// A setting that takes more than one key.
+/// A setting that is gathered in a way of its own.
 struct Exporter
 {
     QLatin1StringView id;
