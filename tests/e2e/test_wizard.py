@@ -232,6 +232,18 @@ class EquippedWizardTest(WizardTest):
     def setUp(self):
         self.pair = self.two_pcs(old_kind=EquippedPc, new_kind=EquippedPc, place=place_for_pcs())
         test_environment.furnish(self.pair.old)
+        test_environment.set_up(self.pair.old)
+
+    def assertCounts(self, window, **wanted):
+        """What the cards of the report come to show: the last setting may be applied behind the report."""
+        deadline = time.monotonic() + wizard.DEADLINE
+        while True:
+            texts = window.do("state")["texts"]
+            shown = {title: texts[texts.index(title) - 1] for title in wanted}
+            if shown == wanted or time.monotonic() > deadline:
+                break
+            time.sleep(0.05)
+        self.assertEqual(shown, wanted)
 
     def test_an_application_and_a_setting(self):
         old, new = self.both()
@@ -244,6 +256,7 @@ class EquippedWizardTest(WizardTest):
         old.click("Next")
         for window in (old, new):
             window.wait(page=6, text="Transfer Complete!")
+            self.assertCounts(window, Apps="1", Settings="1")
             window.picture("6-with-applications")
         jotpad = self.pair.new.local / "Programs" / test_environment.NOTES / "jotpad.exe"
         self.assertEqual(jotpad.read_text(), "jotpad")
