@@ -1,4 +1,6 @@
 #include "SilentEngine.h"
+#include "UiTests.h"
+#include "WizardView.h"
 
 #include "ui/pages/CompletePage.h"
 #include "ui/pages/TransferPage.h"
@@ -7,86 +9,16 @@
 #include <QDir>
 #include <QLabel>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTest>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
-using Item = TransferFileItem;
-
-namespace {
-
-/// The texts of all labels that are not hidden within `widget`.
-QStringList shownTexts(const QWidget &widget)
-{
-    QStringList texts;
-    for (const QLabel *label : widget.findChildren<QLabel *>()) {
-        if (label->isVisibleTo(&widget) && !label->text().isEmpty())
-            texts.append(label->text());
-    }
-    return texts;
-}
-
-/// Ready to be looked at.
-QLabel *labelOf(QWidget &widget, const QString &text)
-{
-    for (QLabel *label : widget.findChildren<QLabel *>()) {
-        if (label->text() == text) {
-            label->ensurePolished();
-            return label;
-        }
-    }
-    return nullptr;
-}
-
-QPushButton *buttonOf(const QWidget &widget, const QString &text)
-{
-    for (QPushButton *button : widget.findChildren<QPushButton *>()) {
-        if (button->text() == text && button->isVisibleTo(&widget))
-            return button;
-    }
-    return nullptr;
-}
-
-QStringList rowNames(const TransferPage &page)
-{
-    QStringList names;
-    for (const Item *item : page.findChildren<Item *>()) {
-        if (item->isVisibleTo(&page))
-            names.append(item->fileName());
-    }
-    return names;
-}
-
-Item::Status statusOf(const TransferPage &page, const QString &fileName)
-{
-    for (const Item *item : page.findChildren<Item *>()) {
-        if (item->fileName() == fileName && item->isVisibleTo(&page))
-            return item->status();
-    }
-    return Item::Status(-1);
-}
-
-/// Answers the next modal question by the button of that text, after `meanwhile` has happened behind it.
-void answerQuestion(
-    const QString &text, const std::function<void()> &meanwhile = [] {})
-{
-    QTimer::singleShot(0, qApp, [=] {
-        auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-        QVERIFY(question);
-        QCOMPARE(question->defaultButton()->text(), u"Continue Transfer"_s);
-        meanwhile();
-        if (question->isVisible())
-            QTest::mouseClick(buttonOf(*question, text), Qt::LeftButton);
-    });
-}
-
-} // namespace
 
 /// The pages of a run and of its outcome.
 class RunPagesTest : public QObject
@@ -94,342 +26,285 @@ class RunPagesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void filesAreListedByTheirLastTwoComponents_data();
-    void filesAreListedByTheirLastTwoComponents();
-    void rowsFollowTheFiles();
-    void finishedRowsMakeRoom_data();
-    void finishedRowsMakeRoom();
-    void titlesFollowTheRun_data();
-    void titlesFollowTheRun();
-    void completionMarksTheRowsAndReports();
-    void cancelAsksFirst_data();
-    void cancelAsksFirst();
-    void sessionEndStopsTheNewPcFromListeningAgain_data();
-    void sessionEndStopsTheNewPcFromListeningAgain();
-    void reportIsShownByRole_data();
-    void reportIsShownByRole();
-    void foldersAreListedOnceAndAsPlainText();
-    void newPcFallsBackToTheDownloads();
+    void init()
+    {
+        m_engine = std::make_unique<TransferEngine>(nullptr, silentEnvironment());
+        m_run = std::make_unique<TransferPage>(m_engine.get());
+        m_run->show();
+        m_outcome = std::make_unique<CompletePage>(m_engine.get());
+        m_outcome->show();
+    }
+
+    void cleanup()
+    {
+        m_outcome.reset();
+        m_run.reset();
+        m_engine.reset();
+    }
+
+    void filesAreListedByTheirLastTwoComponents()
+    {
+        m_run->setFiles({u"a.txt"_s, u"b\\a.txt"_s, u"d/c/b/a.txt"_s, u"C:\\d/b\\a.txt"_s});
+        QCOMPARE(rows(), QStringList({u"○ a.txt"_s, u"○ b\\a.txt"_s, u"○ b/a.txt"_s, u"○ b/a.txt"_s}));
+        QTest::ignoreMessage(QtDebugMsg, "TransferPage: Set 31 files for transfer (showing 30 )");
+        m_run->setFiles(QStringList(31, u"a.txt"_s));
+        QCOMPARE(rows().size(), 30);
+    }
+
+    void rowsFollowTheFiles()
+    {
+        Q_EMIT m_engine->fileTransferProgress(u"unknown"_s, 50);
+        for (int index = 0; index < 6; ++index)
+            Q_EMIT m_engine->fileTransferStarted(u"file %1"_s.arg(index));
+        Q_EMIT m_engine->fileTransferStarted(u"file 5"_s);
+        Q_EMIT m_engine->fileTransferProgress(u"file 5"_s, 40);
+        Q_EMIT m_engine->fileTransferCompleted(u"file 0"_s);
+        Q_EMIT m_engine->fileTransferFailed(u"file 1"_s, u"unreadable"_s);
+        Q_EMIT m_engine->fileTransferFailed(u"never begun"_s, u"unreadable"_s);
+        QCoreApplication::processEvents();
+        QCOMPARE(rows(), QStringList({u"✓ file 0"_s, u"✕ file 1"_s, u"● file 2, 0%"_s, u"● file 3, 0%"_s,
+                                      u"● file 4, 0%"_s, u"● file 5, 40%"_s, u"✕ never begun"_s}));
+        QTRY_VERIFY(m_run->findChild<QScrollArea *>()->verticalScrollBar()->value() > 0);
+        QVERIFY(!runTexts().contains(u"unreadable"_s));
+    }
+
+    void finishedRowsMakeRoom_data()
+    {
+        columns<int, int, int>("failed", "succeeded", "removed");
+        QTest::newRow("all active") << -1 << -1 << -1;
+        QTest::newRow("one failed") << 12 << -1 << 12;
+        QTest::newRow("success before failure") << 3 << 20 << 20;
+    }
+
+    void finishedRowsMakeRoom()
+    {
+        QFETCH(int, failed);
+        QFETCH(int, succeeded);
+        QFETCH(int, removed);
+        QStringList expected;
+        for (int index = 0; index < 30; ++index) {
+            expected.append(QString::number(index));
+            Q_EMIT m_engine->fileTransferStarted(expected.last());
+        }
+        Q_EMIT m_engine->fileTransferFailed(expected.value(failed, u"new"_s), QString());
+        Q_EMIT m_engine->fileTransferCompleted(expected.value(succeeded));
+        Q_EMIT m_engine->fileTransferStarted(u"new"_s);
+        QCoreApplication::processEvents();
+        expected.append(u"new"_s);
+        if (removed >= 0)
+            expected.removeAt(removed);
+        QStringList names;
+        for (const QString &row : rows())
+            names.append(row.section(u' ', 1).section(u',', 0, 0));
+        QCOMPARE(names, expected);
+    }
+
+    void titlesFollowTheRun_data()
+    {
+        columns<int, QString>("role", "verb");
+        QTest::newRow("Old PC") << int(OldPC) << u"Sending"_s;
+        QTest::newRow("New PC") << int(NewPC) << u"Receiving"_s;
+    }
+
+    void titlesFollowTheRun()
+    {
+        QFETCH(int, role);
+        QFETCH(QString, verb);
+        TransferProgress progress;
+        progress.overallPercent = 42;
+        progress.bytesPerSecond = 1536;
+        progress.remainingSeconds = 3661;
+        progress.transferredBytes = 1023;
+        progress.totalBytes = 1 << 20;
+        progress.failedItems = 3;
+        QStringList titles;
+        const auto note = [&] {
+            QCoreApplication::processEvents();
+            titles.append(runTexts().first());
+        };
+        m_run->setRole(role);
+        note();
+        Q_EMIT m_engine->transferProgressChanged(progress);
+        note();
+        Q_EMIT m_engine->pausedByPeer();
+        note();
+        Q_EMIT m_engine->resumedByPeer();
+        note();
+        Q_EMIT m_engine->transferFailed(u"reason"_s);
+        note();
+        QCOMPARE(titles, QStringList({verb + u" Data"_s, verb + u" Data - 42%"_s, verb + u" Paused"_s,
+                                      verb + u" Data"_s, u"Transfer Failed"_s}));
+        QCOMPARE(runTexts().mid(1, 8).join(u'|'),
+                 u"42%|1.5 KB/s|Speed|1:01:01|Remaining|1023 B|of 1.0 MB|Current Files"_s);
+        QVERIFY(runTexts().contains(u"3 failed"_s) && !runTexts().contains(u"reason"_s));
+    }
+
+    void completionMarksTheRowsAndReports()
+    {
+        const QSignalSpy reported(m_run.get(), &TransferPage::transferFinishedWithReport);
+        const QSignalSpy finished(m_run.get(), &TransferPage::transferFinished);
+        Q_EMIT m_engine->fileTransferStarted(u"active"_s);
+        Q_EMIT m_engine->fileTransferFailed(u"failed"_s, QString());
+        Q_EMIT m_engine->transferCompleted({});
+        QCoreApplication::processEvents();
+        QCOMPARE(rows(), QStringList({u"✓ active"_s, u"✕ failed"_s}));
+        QVERIFY(reported.count() == 1 && finished.count() == 1);
+        QVERIFY(runTexts().contains(u"100%"_s) && runTexts().contains(u"00:00"_s));
+    }
+
+    void cancelAsksFirst_data()
+    {
+        using Action = std::function<void()>; // behind the question
+        columns<int, QString, Action, bool>("role", "answer", "meanwhile", "cancels");
+        const QString yes = u"Yes, Cancel"_s;
+        const Action nothing = [] {};
+        const Action completed = [this] { Q_EMIT m_engine->transferCompleted({}); };
+        const Action cancelled = [this] { Q_EMIT m_engine->peerCancelled(); };
+        const Action ended = [this] { Q_EMIT m_engine->sessionEndReceived(); };
+        QTest::newRow("no") << int(OldPC) << u"Continue Transfer"_s << nothing << false;
+        QTest::newRow("Old PC") << int(OldPC) << yes << nothing << true;
+        QTest::newRow("New PC") << int(NewPC) << yes << nothing << true;
+        QTest::newRow("completed meanwhile") << int(NewPC) << yes << completed << false;
+        QTest::newRow("cancelled by the peer meanwhile") << int(NewPC) << yes << cancelled << false;
+        QTest::newRow("session ended meanwhile") << int(OldPC) << yes << ended << false;
+    }
+
+    void cancelAsksFirst()
+    {
+        QFETCH(int, role);
+        QFETCH(QString, answer);
+        QFETCH(std::function<void()>, meanwhile);
+        QFETCH(bool, cancels);
+        m_engine->setRole(role);
+        m_run->setRole(role);
+        m_engine->startReceiving();
+        const QSignalSpy cancelled(m_engine.get(), &TransferEngine::transferCancelled);
+        const QSignalSpy left(m_run.get(), &TransferPage::transferCancelled);
+        const QSignalSpy rearmed(m_engine.get(), &TransferEngine::transferStarted);
+
+        const WizardView view(m_run.get());
+        QTimer::singleShot(0, this, [&] {
+            const auto *question = qobject_cast<QMessageBox *>(view.front());
+            QVERIFY(question);
+            QCOMPARE(question->defaultButton()->text(), u"Continue Transfer"_s);
+            meanwhile();
+            view.click(answer);
+        });
+        view.click(u"Cancel"_s);
+
+        QVERIFY(!QApplication::activeModalWidget());
+        QCOMPARE(cancelled.count(), cancels ? 1 : 0);
+        QCOMPARE(left.count(), cancels && role == OldPC ? 1 : 0);
+        if (cancels && role == NewPC) {
+            QCOMPARE(runTexts().first(), u"Waiting for Data..."_s);
+            QTRY_COMPARE(rearmed.count(), 1);
+        }
+        if (QLatin1StringView(QTest::currentDataTag()).contains("peer"_L1))
+            QTRY_COMPARE(runTexts().first(), u"Sender cancelled. Waiting..."_s);
+    }
+
+    void sessionEndStopsTheNewPcFromListeningAgain_data()
+    {
+        columns<bool>("atOnce");
+        QTest::newRow("behind the cancel") << true;
+        QTest::newRow("a little later") << false;
+    }
+
+    void sessionEndStopsTheNewPcFromListeningAgain()
+    {
+        QFETCH(bool, atOnce);
+        m_engine->setRole(NewPC);
+        m_run->setRole(NewPC);
+        QSignalSpy rearmed(m_engine.get(), &TransferEngine::transferStarted);
+        Q_EMIT m_engine->peerCancelled();
+        if (!atOnce)
+            QCoreApplication::processEvents();
+        Q_EMIT m_engine->sessionEndReceived();
+        QVERIFY(!rearmed.wait(300));
+    }
+
+    void reportIsShownByRole_data()
+    {
+        columns<int, QString>("role", "end");
+        QTest::newRow("Old PC") << int(OldPC) << u"✓ Finished|📂 Send More Files..."_s;
+        QTest::newRow("New PC") << int(NewPC) << u"📁|Files saved to:|📡|Waiting for more files..."_s;
+    }
+
+    void reportIsShownByRole()
+    {
+        QFETCH(int, role);
+        QFETCH(QString, end);
+        m_engine->setRole(role);
+        MigrationReport report;
+        report.filesSuccess = 11;
+        report.appsSuccess = 22;
+        report.settingsSuccess = 33;
+        report.filesFailed = 44;
+        Q_EMIT m_engine->transferCompleted(report);
+        const QString outcome = outcomeText();
+        QVERIFY(outcome.startsWith(u"✓|Transfer Complete!|"_s));
+        QVERIFY2(outcome.endsWith(u"|11|Files|22|Apps|33|Settings|"_s + end), qPrintable(outcome));
+    }
+
+    void foldersAreListedOnceAndAsPlainText()
+    {
+        m_engine->setRole(NewPC);
+        MigrationReport report;
+        const QString hostile = u"<img src='file://host/x'>"_s;
+        report.savedFolderPaths = {{hostile, u"/home/anna/<b>x</b>"_s}, {u"Work"_s, u"/home/anna/Work"_s}};
+        report.savedFolderCounts = {{hostile, 7}};
+        report.savedFolderSamples = {{hostile, u"(<i>a</i>, b)"_s}};
+        m_outcome->setReport(report);
+        m_outcome->setReport(report);
+        QCOMPARE(outcomeText().section(u"📡|Waiting for more files...|"_s, 1),
+                 u"📂|%1|/home/anna/<b>x</b>|(<i>a</i>, b)|7 files|Open|"
+                 "📂|Work|/home/anna/Work|0 files|Open"_s.arg(hostile));
+        for (const QLabel *label : m_outcome->findChildren<QLabel *>())
+            QVERIFY(label->textFormat() == Qt::PlainText && !label->toolTip().contains("<b>"_L1));
+        const auto *folder = m_outcome->findChildren<QWidget *>(u"folderItem"_s).at(1);
+        QCOMPARE(folder->findChild<QPushButton *>()->property("folderPath"), u"/home/anna/Work"_s);
+    }
+
+    void newPcFallsBackToTheDownloads()
+    {
+        m_engine->setRole(NewPC);
+        QDir target(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation) + u"/Zandrove"_s);
+        QVERIFY(target.mkpath(u"."_s));
+        MigrationReport report;
+        report.filesSuccess = 5;
+        m_outcome->setReport(report);
+        QVERIFY(target.removeRecursively());
+        QVERIFY(outcomeText().endsWith(u"|📂|Received Files|%1|5 files|Open"_s.arg(target.path())));
+    }
 
 private:
+    /// The rows of the files, as "● a.txt, 40%" or "✓ b.txt".
+    [[nodiscard]] QStringList rows() const
+    {
+        QStringList rows;
+        for (const TransferFileItem *item : m_run->findChildren<TransferFileItem *>()) {
+            const auto *bar = item->findChild<QProgressBar *>();
+            const QString progress = bar->isVisible() ? u", %1%"_s.arg(bar->value()) : QString();
+            if (item->isVisible())
+                rows.append(item->findChild<QLabel *>()->text() + u' ' + item->fileName() + progress);
+        }
+        return rows;
+    }
+
+    /// What the page of the run says, its title first.
+    [[nodiscard]] QStringList runTexts() const { return WizardView(m_run.get()).texts(); }
+
+    /// What the page of the outcome says, once its new rows are shown.
+    [[nodiscard]] QString outcomeText() const
+    {
+        QCoreApplication::processEvents();
+        return WizardView(m_outcome.get()).texts().join(u'|');
+    }
+
     std::unique_ptr<TransferEngine> m_engine;
+    std::unique_ptr<TransferPage> m_run;
+    std::unique_ptr<CompletePage> m_outcome;
 };
-
-void RunPagesTest::init()
-{
-    m_engine = std::make_unique<TransferEngine>(nullptr, silentEnvironment());
-}
-
-void RunPagesTest::filesAreListedByTheirLastTwoComponents_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("shown");
-
-    QTest::newRow("name") << u"a.txt"_s << u"a.txt"_s;
-    QTest::newRow("two parts") << u"b\\a.txt"_s << u"b\\a.txt"_s;
-    QTest::newRow("four parts") << u"d/c/b/a.txt"_s << u"b/a.txt"_s;
-    QTest::newRow("mixed separators") << u"C:\\d/b\\a.txt"_s << u"b/a.txt"_s;
-}
-
-void RunPagesTest::filesAreListedByTheirLastTwoComponents()
-{
-    QFETCH(QString, path);
-    QFETCH(QString, shown);
-    TransferPage page(m_engine.get());
-    QTest::ignoreMessage(QtDebugMsg, "TransferPage: Set 31 files for transfer (showing 30 )");
-    page.setFiles(QStringList(31, path));
-    QCOMPARE(rowNames(page), QStringList(30, shown));
-    QCOMPARE(statusOf(page, shown), Item::Pending);
-}
-
-void RunPagesTest::rowsFollowTheFiles()
-{
-    TransferPage page(m_engine.get());
-    page.show();
-    Q_EMIT m_engine->fileTransferProgress(u"unknown"_s, 50);
-    for (int index = 0; index < 8; ++index)
-        Q_EMIT m_engine->fileTransferStarted(u"file %1"_s.arg(index));
-    Q_EMIT m_engine->fileTransferStarted(u"file 7"_s);
-    Q_EMIT m_engine->fileTransferCompleted(u"file 0"_s);
-    Q_EMIT m_engine->fileTransferFailed(u"file 1"_s, u"unreadable"_s);
-    Q_EMIT m_engine->fileTransferFailed(u"never begun"_s, u"unreadable"_s);
-
-    QTRY_COMPARE(rowNames(page).size(), 9);
-    QVERIFY(!rowNames(page).contains(u"unknown"_s));
-    QCOMPARE(statusOf(page, u"file 0"_s), Item::Success);
-    QCOMPARE(statusOf(page, u"file 1"_s), Item::Failed);
-    QCOMPARE(statusOf(page, u"file 7"_s), Item::Active);
-    QCOMPARE(statusOf(page, u"never begun"_s), Item::Failed);
-    const QScrollBar *bar = page.findChild<QScrollArea *>()->verticalScrollBar();
-    QTRY_VERIFY(bar->value() > 0);
-    QVERIFY(!shownTexts(page).contains(u"unreadable"_s));
-}
-
-void RunPagesTest::finishedRowsMakeRoom_data()
-{
-    QTest::addColumn<int>("failed");
-    QTest::addColumn<int>("succeeded");
-    QTest::addColumn<int>("removed");
-
-    QTest::newRow("all active") << -1 << -1 << -1;
-    QTest::newRow("one failed") << 12 << -1 << 12;
-    QTest::newRow("success before failure") << 3 << 20 << 20;
-}
-
-void RunPagesTest::finishedRowsMakeRoom()
-{
-    QFETCH(int, failed);
-    QFETCH(int, succeeded);
-    QFETCH(int, removed);
-    TransferPage page(m_engine.get());
-    QStringList expected;
-    for (int index = 0; index < 30; ++index) {
-        expected.append(QString::number(index));
-        Q_EMIT m_engine->fileTransferStarted(expected.last());
-    }
-    if (failed >= 0)
-        Q_EMIT m_engine->fileTransferFailed(QString::number(failed), QString());
-    if (succeeded >= 0)
-        Q_EMIT m_engine->fileTransferCompleted(QString::number(succeeded));
-    Q_EMIT m_engine->fileTransferStarted(u"new"_s);
-    if (removed >= 0)
-        expected.removeAt(removed);
-    expected.append(u"new"_s);
-    QCoreApplication::processEvents();
-    QCOMPARE(rowNames(page), expected);
-}
-
-void RunPagesTest::titlesFollowTheRun_data()
-{
-    QTest::addColumn<int>("role");
-    QTest::addColumn<QStringList>("titles"); // role, progress, paused, progress again, resumed, failed
-
-    QTest::newRow("Old PC") << int(OldPC)
-                            << QStringList({u"Sending Data"_s, u"Sending Data - 42%"_s, u"Sending Paused"_s,
-                                            u"Sending Data - 42%"_s, u"Sending Data"_s,
-                                            u"Transfer Failed"_s});
-    QTest::newRow("New PC") << int(NewPC)
-                            << QStringList({u"Receiving Data"_s, u"Receiving Data - 42%"_s,
-                                            u"Receiving Paused"_s, u"Receiving Data - 42%"_s,
-                                            u"Receiving Data"_s, u"Transfer Failed"_s});
-}
-
-void RunPagesTest::titlesFollowTheRun()
-{
-    QFETCH(int, role);
-    QFETCH(QStringList, titles);
-    TransferPage page(m_engine.get());
-    page.setRole(role);
-    TransferProgress progress;
-    progress.overallPercent = 42;
-    progress.bytesPerSecond = 1536;
-    progress.remainingSeconds = 3661;
-    progress.transferredBytes = 1023;
-    progress.totalBytes = 1 << 20;
-    progress.failedItems = 3;
-    const QList<std::function<void()>> steps = {
-        [] {},
-        [&] { Q_EMIT m_engine->transferProgressChanged(progress); },
-        [&] { Q_EMIT m_engine->pausedByPeer(); },
-        [&] { Q_EMIT m_engine->transferProgressChanged(progress); },
-        [&] { Q_EMIT m_engine->resumedByPeer(); },
-        [&] { Q_EMIT m_engine->transferFailed(u"reason"_s); },
-    };
-    for (int index = 0; index < steps.size(); ++index) {
-        steps.at(index)();
-        QCoreApplication::processEvents();
-        QCOMPARE(shownTexts(page).first(), titles.at(index));
-    }
-    for (const QString &text :
-         {u"42%"_s, u"1.5 KB/s"_s, u"1:01:01"_s, u"1023 B"_s, u"of 1.0 MB"_s, u"3 failed"_s})
-        QVERIFY2(shownTexts(page).contains(text), qPrintable(text));
-    QVERIFY(!shownTexts(page).contains(u"reason"_s));
-}
-
-void RunPagesTest::completionMarksTheRowsAndReports()
-{
-    TransferPage page(m_engine.get());
-    const QSignalSpy reported(&page, &TransferPage::transferFinishedWithReport);
-    const QSignalSpy finished(&page, &TransferPage::transferFinished);
-    Q_EMIT m_engine->fileTransferStarted(u"active"_s);
-    Q_EMIT m_engine->fileTransferFailed(u"failed"_s, QString());
-    MigrationReport report;
-    report.filesSuccess = 5;
-    report.filesFailed = 2;
-    QTest::ignoreMessage(QtDebugMsg, "TransferPage::onTransferCompleted() - Success: 5 Failed: 2");
-    Q_EMIT m_engine->transferCompleted(report);
-    QCoreApplication::processEvents();
-    QCOMPARE(statusOf(page, u"active"_s), Item::Success);
-    QCOMPARE(statusOf(page, u"failed"_s), Item::Failed);
-    QCOMPARE(reported.count(), 1);
-    QCOMPARE(finished.count(), 1);
-    QVERIFY(shownTexts(page).contains(u"100%"_s));
-    QVERIFY(shownTexts(page).contains(u"00:00"_s));
-}
-
-void RunPagesTest::cancelAsksFirst_data()
-{
-    QTest::addColumn<int>("role");
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<int>("end"); // of the run behind the question: 0 none, 1 completed, 2 by peer, 3 session
-    QTest::addColumn<bool>("cancels");
-
-    const QString yes = u"Yes, Cancel"_s;
-    QTest::newRow("no") << int(OldPC) << u"Continue Transfer"_s << 0 << false;
-    QTest::newRow("Old PC") << int(OldPC) << yes << 0 << true;
-    QTest::newRow("New PC") << int(NewPC) << yes << 0 << true;
-    QTest::newRow("completed meanwhile") << int(NewPC) << yes << 1 << false;
-    QTest::newRow("cancelled by the peer meanwhile") << int(NewPC) << yes << 2 << false;
-    QTest::newRow("session ended meanwhile") << int(OldPC) << yes << 3 << false;
-}
-
-void RunPagesTest::cancelAsksFirst()
-{
-    QFETCH(int, role);
-    QFETCH(QString, answer);
-    QFETCH(int, end);
-    QFETCH(bool, cancels);
-    TransferPage page(m_engine.get());
-    page.show();
-    m_engine->setRole(role);
-    page.setRole(role);
-    m_engine->startReceiving();
-    const QSignalSpy cancelled(m_engine.get(), &TransferEngine::transferCancelled);
-    const QSignalSpy left(&page, &TransferPage::transferCancelled);
-    const QSignalSpy rearmed(m_engine.get(), &TransferEngine::transferStarted);
-
-    answerQuestion(answer, [this, end] {
-        if (end == 1)
-            Q_EMIT m_engine->transferCompleted({});
-        if (end == 2)
-            Q_EMIT m_engine->peerCancelled();
-        if (end == 3)
-            Q_EMIT m_engine->sessionEndReceived();
-    });
-    QTest::mouseClick(buttonOf(page, u"Cancel"_s), Qt::LeftButton);
-
-    QVERIFY(!QApplication::activeModalWidget());
-    QCOMPARE(cancelled.count(), cancels ? 1 : 0);
-    QCOMPARE(left.count(), cancels && role == OldPC ? 1 : 0);
-    if (cancels && role == NewPC) {
-        QCOMPARE(shownTexts(page).first(), u"Waiting for Data..."_s);
-        QTRY_COMPARE(rearmed.count(), 1);
-    }
-    if (end == 2)
-        QTRY_COMPARE(shownTexts(page).first(), u"Sender cancelled. Waiting..."_s);
-}
-
-void RunPagesTest::sessionEndStopsTheNewPcFromListeningAgain_data()
-{
-    QTest::addColumn<bool>("atOnce");
-    QTest::newRow("behind the cancel") << true;
-    QTest::newRow("a little later") << false;
-}
-
-void RunPagesTest::sessionEndStopsTheNewPcFromListeningAgain()
-{
-    TransferPage page(m_engine.get());
-    m_engine->setRole(NewPC);
-    page.setRole(NewPC);
-    const QSignalSpy rearmed(m_engine.get(), &TransferEngine::transferStarted);
-    QFETCH(bool, atOnce);
-    Q_EMIT m_engine->peerCancelled();
-    if (!atOnce)
-        QCoreApplication::processEvents();
-    Q_EMIT m_engine->sessionEndReceived();
-
-    bool later = false;
-    QTimer::singleShot(300, &page, [&later] { later = true; });
-    QTRY_VERIFY(later);
-    QCOMPARE(rearmed.count(), 0);
-}
-
-void RunPagesTest::reportIsShownByRole_data()
-{
-    QTest::addColumn<int>("role");
-    QTest::addColumn<QStringList>("shown");
-    QTest::addColumn<QStringList>("buttons");
-
-    QTest::newRow("Old PC") << int(OldPC) << QStringList()
-                            << QStringList({u"✓ Finished"_s, u"📂 Send More Files..."_s});
-    QTest::newRow("New PC") << int(NewPC)
-                            << QStringList({u"Files saved to:"_s, u"Waiting for more files..."_s})
-                            << QStringList();
-}
-
-void RunPagesTest::reportIsShownByRole()
-{
-    QFETCH(int, role);
-    QFETCH(QStringList, shown);
-    QFETCH(QStringList, buttons);
-    m_engine->setRole(role);
-    CompletePage page(m_engine.get());
-    MigrationReport report;
-    report.filesSuccess = 11;
-    report.appsSuccess = 22;
-    report.settingsSuccess = 33;
-    report.filesFailed = 44;
-    Q_EMIT m_engine->transferCompleted(report);
-
-    const QStringList texts = shownTexts(page);
-    for (const QString &text : {u"11"_s, u"22"_s, u"33"_s, u"Transfer Complete!"_s})
-        QVERIFY2(texts.contains(text), qPrintable(text));
-    QVERIFY(!texts.contains(u"44"_s));
-    QCOMPARE(labelOf(page, u"✓"_s)->grab().toImage().pixelColor(36, 4), QColor(0xdc, 0xfc, 0xe7));
-    for (const QString &text : {u"Files saved to:"_s, u"Waiting for more files..."_s})
-        QCOMPARE(texts.contains(text), shown.contains(text));
-    for (const QString &text : {u"✓ Finished"_s, u"📂 Send More Files..."_s})
-        QCOMPARE(buttonOf(page, text) != nullptr, buttons.contains(text));
-}
-
-void RunPagesTest::foldersAreListedOnceAndAsPlainText()
-{
-    m_engine->setRole(NewPC);
-    CompletePage page(m_engine.get());
-    MigrationReport report;
-    const QString hostile = u"<img src='file://host/x'>"_s;
-    report.savedFolderPaths = {{hostile, u"/home/anna/<b>x</b>"_s},
-                               {u"Documents"_s, u"/home/anna/Documents"_s}};
-    report.savedFolderCounts = {{hostile, 7}};
-    report.savedFolderSamples = {{hostile, u"(<i>a</i>, b)"_s}};
-    page.setReport(report);
-    page.setReport(report);
-
-    const QList<QWidget *> rows = page.findChildren<QWidget *>(u"folderItem"_s);
-    QCOMPARE(rows.size(), 2);
-    QCOMPARE(shownTexts(*rows.at(0)),
-             QStringList({u"📂"_s, hostile, u"/home/anna/<b>x</b>"_s, u"(<i>a</i>, b)"_s, u"7 files"_s}));
-    QCOMPARE(shownTexts(*rows.at(1)),
-             QStringList({u"📂"_s, u"Documents"_s, u"/home/anna/Documents"_s, u"0 files"_s}));
-    QVERIFY(labelOf(*rows.at(0), u"(<i>a</i>, b)"_s)->font().italic());
-    for (const QLabel *label : rows.at(0)->findChildren<QLabel *>()) {
-        QCOMPARE(label->textFormat(), Qt::PlainText);
-        QVERIFY(!label->toolTip().contains("<b>"_L1));
-    }
-    QCOMPARE(buttonOf(*rows.at(1), u"Open"_s)->property("folderPath").toString(), u"/home/anna/Documents"_s);
-}
-
-void RunPagesTest::newPcFallsBackToTheDownloads()
-{
-    m_engine->setRole(NewPC);
-    CompletePage page(m_engine.get());
-    const QString target =
-        QStandardPaths::writableLocation(QStandardPaths::DownloadLocation) + u"/Zandrove"_s;
-    QVERIFY(!QDir(target).exists());
-    page.setReport({});
-    QVERIFY(page.findChildren<QWidget *>(u"folderItem"_s).isEmpty());
-    QVERIFY(shownTexts(page).contains(u"Files saved to:"_s));
-
-    QVERIFY(QDir().mkpath(target));
-    MigrationReport report;
-    report.filesSuccess = 5;
-    page.setReport(report);
-    QVERIFY(QDir(target).removeRecursively());
-    const QStringList texts = shownTexts(page);
-    for (const QString &text : {u"Received Files"_s, target, u"5 files"_s})
-        QVERIFY2(texts.contains(text), qPrintable(text));
-}
 
 QObject *makeRunPagesTest()
 {
