@@ -15,7 +15,6 @@
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTcpSocket>
-#include <QTest>
 
 #include <memory>
 
@@ -23,51 +22,219 @@ using namespace Qt::StringLiterals;
 using namespace Zandrove;
 using Protocol::MessageType;
 
-namespace {
-
-PCInfo peer(const QString &id, const QString &ip, bool online = true)
-{
-    PCInfo pc;
-    pc.id = id;
-    pc.name = id;
-    pc.ip = ip;
-    pc.online = online;
-    return pc;
-}
-
-} // namespace
-
 /// The page on a real engine, with bare sockets for the PCs that dial it.
 class ConnectionPageTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void firstShowingShowsTheCodeAndSearches();
-    void rowsFollowThePeers();
-    void onlyAnOnlineRowIsDialled();
-    void codeNeedsFourCharacters();
-    void sweepIsToldUnderTheRadar_data();
-    void sweepIsToldUnderTheRadar();
-    void answerGoesToWhoAsked_data();
-    void answerGoesToWhoAsked();
-    void askersAreShownAsPlainShortText();
-    void oneQuestionAtATime();
-    void lateYesConnectsNobody();
-    void questionGoesWithThePage();
-    void onlyTheNewPcMovesOn_data();
-    void onlyTheNewPcMovesOn();
+    void init()
+    {
+        m_engine = std::make_unique<TransferEngine>(nullptr, silentEnvironment());
+        m_page = std::make_unique<ConnectionPage>(m_engine.get());
+        m_page->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
+    }
+
+    void cleanup()
+    {
+        m_page.reset();
+        m_engine.reset();
+    }
+
+    void firstShowingShowsTheCodeAndSearches()
+    {
+        const QString code = m_engine->verifyCode();
+        QString shown;
+        for (const QLabel *label : m_page->findChildren<QLabel *>(u"codeLabel"_s))
+            shown += label->text();
+        QCOMPARE(shown, code);
+        QVERIFY(isSearching());
+        m_page->hide();
+        m_page->show();
+        QCOMPARE(m_engine->verifyCode(), code);
+    }
+
+    void rowsFollowThePeers()
+    {
+        discover(u"ANNA"_s, u"10.0.0.1"_s);
+        discover(u"10.0.0.2"_s, u"10.0.0.2"_s, false);
+        QCOMPARE(status(), u"2 device(s) found, 1 online"_s);
+        QVERIFY(isShown(u"devicesTitle"_s) && !m_page->findChild<RadarWidget *>()->isRunning());
+
+        // What the sweep has found by its address is heard at last.
+        discover(u"BOB"_s, u"10.0.0.2"_s);
+        QCOMPARE(rows().size(), 2);
+        Q_EMIT m_engine->pcLost(u"ANNA"_s);
+        QCOMPARE(status(), u"1 device(s) found, 1 online"_s);
+        Q_EMIT m_engine->pcLost(u"BOB"_s);
+        QVERIFY(rows().isEmpty() && isSearching());
+    }
+
+    void onlyAnOnlineRowIsDialled()
+    {
+        discover(u"ANNA"_s, u"10.0.0.1"_s);
+        discover(u"BOB"_s, u"10.0.0.2"_s, false);
+        const QSignalSpy dialled(m_engine.get(), &TransferEngine::connecting);
+        QTest::mouseClick(rows()[1], Qt::LeftButton);
+        QVERIFY(dialled.isEmpty() && !rows()[1]->isSelected());
+        QTest::mouseClick(rows()[0], Qt::LeftButton);
+        QVERIFY(dialled.size() == 1 && rows()[0]->isSelected());
+        QCOMPARE(status(), u"✗ Connection failed: PC not found"_s);
+    }
+
+    void codeNeedsFourCharacters()
+    {
+        auto *connectButton = m_page->findChild<QPushButton *>(u"connectButton"_s);
+        const QList<QLineEdit *> edits = m_page->findChildren<QLineEdit *>();
+        edits[0]->setFocus();
+        QTest::keyClick(edits[0], Qt::Key_Backspace);
+        QVERIFY2(edits[0]->hasFocus(), "there is no box before the first");
+        for (const char typed : {'1', 'a', '3'})
+            QTest::keyClick(QApplication::focusWidget(), typed);
+        QVERIFY(edits[3]->hasFocus() && !connectButton->isEnabled());
+        QTest::keyClick(edits[3], Qt::Key_Backspace);
+        QVERIFY2(edits[2]->hasFocus(), "Backspace goes back from an empty box");
+        edits[3]->setText(u"4"_s);
+        QVERIFY(connectButton->isEnabled() && connectButton->hasFocus());
+        connectButton->click();
+        QVERIFY(isShown(u"statusLabel"_s));
+        QCOMPARE(status(), u"✗ Connection failed: No PC found with verification code: 1a34"_s);
+        edits[1]->clear();
+        QVERIFY(!connectButton->isEnabled());
+    }
+
+    void sweepIsToldUnderTheRadar()
+    {
+        Q_EMIT m_engine->directScanStarted();
+        QCOMPARE(text(u"radarCaption"_s), u"Scanning direct connection... 0%"_s);
+        Q_EMIT m_engine->directScanProgress(0, 0);
+        QCOMPARE(text(u"radarCaption"_s), u"Scanning direct connection... 0% (0/0)"_s);
+        Q_EMIT m_engine->directScanProgress(100, 254);
+        QCOMPARE(text(u"radarCaption"_s), u"Scanning direct connection... 39% (100/254)"_s);
+        Q_EMIT m_engine->directScanFinished(false);
+        QCOMPARE(text(u"radarCaption"_s),
+                 u"No device found. Please ensure the other PC has Zandrove running"_s);
+        QVERIFY(isSearching());
+    }
+
+    void answerGoesToWhoAsked()
+    {
+        const QSignalSpy established(m_page.get(), &ConnectionPage::connectionEstablished);
+        for (const bool yes : {false, true}) {
+            const auto anna = dial(u"ANNA"_s);
+            QVERIFY(anna && question());
+            QCOMPARE(question()->text(), u"'ANNA' wants to connect to this PC.\n\nDo you want to accept?"_s);
+            QCOMPARE(status(), u"Connection request from ANNA..."_s);
+            answer(yes ? QMessageBox::Yes : QMessageBox::No);
+            QTRY_VERIFY(anna->bytesAvailable() >= Protocol::HeaderSize);
+            QCOMPARE(Protocol::readHeader(anna->readAll())->type,
+                     quint16(yes ? MessageType::ConnectAccept : MessageType::ConnectReject));
+            QCOMPARE(isSearching(), !yes);
+            QCOMPARE(established.size(), yes ? 2 : 0);
+        }
+        QCOMPARE(status() + text(u"devicesTitle"_s), u"✓ Connected to ANNAConnected"_s);
+        QVERIFY(!isShown(u"refreshButton"_s));
+    }
+
+    void askersAreShownAsPlainShortText()
+    {
+        const auto caller = dial(u"<img src='file:///x'>\\n"_s + QString(300, u'W'));
+        QVERIFY(caller && question());
+        QCOMPARE(question()->textFormat(), Qt::PlainText);
+        QCOMPARE(m_page->findChild<QLabel *>(u"statusLabel"_s)->textFormat(), Qt::PlainText);
+        QCOMPARE(question()->text().count(u'\n'), 2);
+        QVERIFY(question()->width() < m_page->window()->width());
+        answer(QMessageBox::No);
+    }
+
+    void oneQuestionAtATime()
+    {
+        const auto anna = dial(u"ANNA"_s);
+        QVERIFY(anna && question());
+        const auto bob = dial(u"BOB"_s);
+        const auto carl = dial(u"CARL"_s);
+        QVERIFY(bob && carl);
+        QCOMPARE(m_page->findChildren<QMessageBox *>().size(), 1);
+        QCOMPARE(status(), u"Connection request from ANNA..."_s);
+        const QSignalSpy connected(m_engine.get(), &TransferEngine::connected);
+        answer(QMessageBox::Yes);
+        QVERIFY2(connected.isEmpty(), "ANNA has been replaced");
+        QVERIFY(question() && question()->text().contains(u"CARL"_s));
+        answer(QMessageBox::Yes);
+        QCOMPARE(connected.size(), 1);
+        QCOMPARE(m_engine->connectedPC().name, u"CARL"_s);
+    }
+
+    void lateYesConnectsNobody()
+    {
+        const QSignalSpy established(m_page.get(), &ConnectionPage::connectionEstablished);
+        auto anna = dial(u"ANNA"_s);
+        QVERIFY(anna && question());
+        QSignalSpy gone(m_engine.get(), &TransferEngine::disconnected);
+        anna.reset();
+        QVERIFY(gone.wait());
+        answer(QMessageBox::Yes);
+        QVERIFY(established.isEmpty());
+        QCOMPARE(status(), u"✗ Connection failed: The other PC is no longer waiting"_s);
+        QVERIFY(isShown(u"refreshButton"_s) && m_page->findChild<RadarWidget *>()->isRunning());
+    }
+
+    void questionGoesWithThePage()
+    {
+        const auto anna = dial(u"ANNA"_s);
+        QVERIFY(anna && question());
+        m_page.reset();
+        QVERIFY(!QApplication::activeModalWidget());
+    }
+
+    void onlyTheNewPcMovesOn()
+    {
+        QSignalSpy advance(m_page.get(), &ConnectionPage::requestAutoAdvance);
+        for (const int role : {OldPC, NewPC}) {
+            m_engine->setRole(role);
+            Q_EMIT m_engine->connected();
+            QCOMPARE(status(), u"✓ Connected successfully!"_s);
+            QCOMPARE(advance.wait(700), role == NewPC);
+        }
+    }
 
 private:
-    [[nodiscard]] std::unique_ptr<QTcpSocket> dial(const QString &name) const;
-    [[nodiscard]] static QMessageBox *question();
+    void discover(const QString &name, const QString &ip, bool online = true) const
+    {
+        PCInfo pc;
+        pc.id = pc.name = name;
+        pc.ip = ip;
+        pc.online = online;
+        Q_EMIT m_engine->pcDiscovered(pc);
+    }
+
+    [[nodiscard]] std::unique_ptr<QTcpSocket> dial(const QString &name) const
+    {
+        auto socket = std::make_unique<QTcpSocket>();
+        socket->connectToHost(QHostAddress::LocalHost, m_engine->findChild<NetworkManager *>()->serverPort());
+        QSignalSpy requests(m_engine.get(), &TransferEngine::connectionRequested);
+        socket->write(
+            Protocol::buildFrame(MessageType::ConnectRequest, "{\"name\":\"" + name.toUtf8() + "\"}", 1));
+        return requests.wait() ? std::move(socket) : nullptr;
+    }
+
+    /// The box that asks the user, once it is there.
+    [[nodiscard]] static QMessageBox *question()
+    {
+        QMessageBox *box = nullptr;
+        (void)QTest::qWaitFor(
+            [&box] { return (box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())); });
+        return box;
+    }
+
     static void answer(QMessageBox::StandardButton button) { question()->button(button)->click(); }
+
     [[nodiscard]] QString text(const QString &label) const
     {
         return m_page->findChild<QLabel *>(label)->text();
     }
+    [[nodiscard]] QString status() const { return text(u"statusLabel"_s); }
     [[nodiscard]] bool isShown(const QString &name) const
     {
         return m_page->findChild<QWidget *>(name)->isVisible();
@@ -83,223 +250,6 @@ private:
     std::unique_ptr<TransferEngine> m_engine;
     std::unique_ptr<ConnectionPage> m_page;
 };
-
-void ConnectionPageTest::init()
-{
-    m_engine = std::make_unique<TransferEngine>(nullptr, silentEnvironment());
-    m_page = std::make_unique<ConnectionPage>(m_engine.get());
-    m_page->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
-}
-
-void ConnectionPageTest::cleanup()
-{
-    m_page.reset();
-    m_engine.reset();
-}
-
-std::unique_ptr<QTcpSocket> ConnectionPageTest::dial(const QString &name) const
-{
-    auto socket = std::make_unique<QTcpSocket>();
-    socket->connectToHost(QHostAddress::LocalHost, m_engine->findChild<NetworkManager *>()->serverPort());
-    QSignalSpy requests(m_engine.get(), &TransferEngine::connectionRequested);
-    socket->write(
-        Protocol::buildFrame(MessageType::ConnectRequest, "{\"name\":\"" + name.toUtf8() + "\"}", 1));
-    return requests.wait() ? std::move(socket) : nullptr;
-}
-
-/// The box that asks the user, once it is there.
-QMessageBox *ConnectionPageTest::question()
-{
-    QMessageBox *box = nullptr;
-    (void)QTest::qWaitFor(
-        [&box] { return (box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())); });
-    return box;
-}
-
-void ConnectionPageTest::firstShowingShowsTheCodeAndSearches()
-{
-    const QString code = m_engine->verifyCode();
-    QString shown;
-    for (const QLabel *label : m_page->findChildren<QLabel *>(u"codeLabel"_s))
-        shown += label->text();
-    QCOMPARE(shown, code);
-    QVERIFY(isSearching());
-    m_page->hide();
-    m_page->show();
-    QCOMPARE(m_engine->verifyCode(), code);
-}
-
-void ConnectionPageTest::rowsFollowThePeers()
-{
-    Q_EMIT m_engine->pcDiscovered(peer(u"ANNA"_s, u"10.0.0.1"_s));
-    Q_EMIT m_engine->pcDiscovered(peer(u"10.0.0.2"_s, u"10.0.0.2"_s, false));
-    QCOMPARE(text(u"statusLabel"_s), u"2 device(s) found, 1 online"_s);
-    QVERIFY(isShown(u"devicesTitle"_s) && !m_page->findChild<RadarWidget *>()->isRunning());
-
-    // What the sweep has found by its address is heard at last.
-    Q_EMIT m_engine->pcDiscovered(peer(u"BOB"_s, u"10.0.0.2"_s));
-    QCOMPARE(rows().size(), 2);
-    QCOMPARE(text(u"statusLabel"_s), u"2 device(s) found, 1 online"_s);
-    Q_EMIT m_engine->pcLost(u"ANNA"_s);
-    QCOMPARE(text(u"statusLabel"_s), u"1 device(s) found, 1 online"_s);
-    Q_EMIT m_engine->pcLost(u"BOB"_s);
-    QVERIFY(rows().isEmpty() && isSearching());
-}
-
-void ConnectionPageTest::onlyAnOnlineRowIsDialled()
-{
-    Q_EMIT m_engine->pcDiscovered(peer(u"ANNA"_s, u"10.0.0.1"_s));
-    Q_EMIT m_engine->pcDiscovered(peer(u"BOB"_s, u"10.0.0.2"_s, false));
-    QSignalSpy dialled(m_engine.get(), &TransferEngine::connecting);
-    QTest::mouseClick(rows()[1], Qt::LeftButton);
-    QVERIFY(dialled.isEmpty() && !rows()[1]->isSelected());
-    QTest::mouseClick(rows()[0], Qt::LeftButton);
-    QCOMPARE(dialled.size(), 1);
-    QVERIFY(rows()[0]->isSelected());
-    QCOMPARE(text(u"statusLabel"_s), u"✗ Connection failed: PC not found"_s);
-}
-
-void ConnectionPageTest::codeNeedsFourCharacters()
-{
-    auto *connectButton = m_page->findChild<QPushButton *>(u"connectButton"_s);
-    const QList<QLineEdit *> edits = m_page->findChildren<QLineEdit *>();
-    edits[0]->setFocus();
-    QTest::keyClick(edits[0], Qt::Key_Backspace);
-    QVERIFY2(edits[0]->hasFocus(), "there is no box before the first");
-    for (const char typed : {'1', 'a', '3'})
-        QTest::keyClick(QApplication::focusWidget(), typed);
-    QVERIFY(edits[3]->hasFocus() && !connectButton->isEnabled());
-    QTest::keyClick(edits[3], Qt::Key_Backspace);
-    QVERIFY2(edits[2]->hasFocus(), "Backspace goes back from an empty box");
-    edits[3]->setText(u"4"_s);
-    QVERIFY(connectButton->isEnabled() && connectButton->hasFocus());
-    connectButton->click();
-    QVERIFY(isShown(u"statusLabel"_s));
-    QCOMPARE(text(u"statusLabel"_s), u"✗ Connection failed: No PC found with verification code: 1a34"_s);
-    edits[1]->clear();
-    QVERIFY(!connectButton->isEnabled());
-}
-
-void ConnectionPageTest::sweepIsToldUnderTheRadar_data()
-{
-    QTest::addColumn<int>("scanned");
-    QTest::addColumn<int>("total");
-    QTest::addColumn<QString>("caption");
-    QTest::newRow("rounded down") << 100 << 254 << u"Scanning direct connection... 39% (100/254)"_s;
-    QTest::newRow("nothing to scan") << 0 << 0 << u"Scanning direct connection... 0% (0/0)"_s;
-}
-
-void ConnectionPageTest::sweepIsToldUnderTheRadar()
-{
-    QFETCH(int, scanned);
-    QFETCH(int, total);
-    Q_EMIT m_engine->directScanStarted();
-    QCOMPARE(text(u"radarCaption"_s), u"Scanning direct connection... 0%"_s);
-    Q_EMIT m_engine->directScanProgress(scanned, total);
-    QTEST(text(u"radarCaption"_s), "caption");
-    Q_EMIT m_engine->directScanFinished(false);
-    QCOMPARE(text(u"radarCaption"_s), u"No device found. Please ensure the other PC has Zandrove running"_s);
-    QVERIFY(isSearching());
-}
-
-void ConnectionPageTest::answerGoesToWhoAsked_data()
-{
-    QTest::addColumn<QMessageBox::StandardButton>("button");
-    QTest::addColumn<MessageType>("reply");
-    QTest::newRow("yes") << QMessageBox::Yes << MessageType::ConnectAccept;
-    QTest::newRow("no") << QMessageBox::No << MessageType::ConnectReject;
-}
-
-void ConnectionPageTest::answerGoesToWhoAsked()
-{
-    QFETCH(QMessageBox::StandardButton, button);
-    QFETCH(MessageType, reply);
-    QSignalSpy established(m_page.get(), &ConnectionPage::connectionEstablished);
-    const auto anna = dial(u"ANNA"_s);
-    QVERIFY(anna && question());
-    QCOMPARE(question()->text(), u"'ANNA' wants to connect to this PC.\n\nDo you want to accept?"_s);
-    QCOMPARE(text(u"statusLabel"_s), u"Connection request from ANNA..."_s);
-    answer(button);
-    QTRY_VERIFY(anna->bytesAvailable() >= Protocol::HeaderSize);
-    QCOMPARE(Protocol::readHeader(anna->readAll())->type, quint16(reply));
-    if (button == QMessageBox::Yes) {
-        QCOMPARE(text(u"statusLabel"_s), u"✓ Connected to ANNA"_s);
-        QCOMPARE(text(u"devicesTitle"_s), u"Connected"_s);
-        QVERIFY(!isShown(u"refreshButton"_s));
-        QCOMPARE(established.size(), 2);
-    } else {
-        QVERIFY(isSearching() && established.isEmpty());
-    }
-}
-
-void ConnectionPageTest::askersAreShownAsPlainShortText()
-{
-    const auto caller = dial(u"<img src='file:///x'>\\n"_s + QString(300, u'W'));
-    QVERIFY(caller && question());
-    QCOMPARE(question()->textFormat(), Qt::PlainText);
-    QCOMPARE(m_page->findChild<QLabel *>(u"statusLabel"_s)->textFormat(), Qt::PlainText);
-    QCOMPARE(question()->text().count(u'\n'), 2);
-    QVERIFY(question()->width() < m_page->window()->width());
-    answer(QMessageBox::No);
-}
-
-void ConnectionPageTest::oneQuestionAtATime()
-{
-    const auto anna = dial(u"ANNA"_s);
-    QVERIFY(anna && question());
-    const auto bob = dial(u"BOB"_s);
-    const auto carl = dial(u"CARL"_s);
-    QVERIFY(bob && carl);
-    QCOMPARE(m_page->findChildren<QMessageBox *>().size(), 1);
-    QCOMPARE(text(u"statusLabel"_s), u"Connection request from ANNA..."_s);
-    QSignalSpy connected(m_engine.get(), &TransferEngine::connected);
-    answer(QMessageBox::Yes);
-    QVERIFY2(connected.isEmpty(), "ANNA has been replaced");
-    QVERIFY(question() && question()->text().contains(u"CARL"_s));
-    answer(QMessageBox::Yes);
-    QCOMPARE(connected.size(), 1);
-    QCOMPARE(m_engine->connectedPC().name, u"CARL"_s);
-}
-
-void ConnectionPageTest::lateYesConnectsNobody()
-{
-    QSignalSpy established(m_page.get(), &ConnectionPage::connectionEstablished);
-    auto anna = dial(u"ANNA"_s);
-    QVERIFY(anna && question());
-    QSignalSpy gone(m_engine.get(), &TransferEngine::disconnected);
-    anna.reset();
-    QVERIFY(gone.wait());
-    answer(QMessageBox::Yes);
-    QVERIFY(established.isEmpty());
-    QCOMPARE(text(u"statusLabel"_s), u"✗ Connection failed: The other PC is no longer waiting"_s);
-    QVERIFY(isShown(u"refreshButton"_s) && m_page->findChild<RadarWidget *>()->isRunning());
-}
-
-void ConnectionPageTest::questionGoesWithThePage()
-{
-    const auto anna = dial(u"ANNA"_s);
-    QVERIFY(anna && question());
-    m_page.reset();
-    QVERIFY(!QApplication::activeModalWidget());
-}
-
-void ConnectionPageTest::onlyTheNewPcMovesOn_data()
-{
-    QTest::addColumn<int>("role");
-    QTest::newRow("Old PC") << int(OldPC);
-    QTest::newRow("New PC") << int(NewPC);
-}
-
-void ConnectionPageTest::onlyTheNewPcMovesOn()
-{
-    QFETCH(int, role);
-    m_engine->setRole(role);
-    QSignalSpy advance(m_page.get(), &ConnectionPage::requestAutoAdvance);
-    Q_EMIT m_engine->connected();
-    QCOMPARE(text(u"statusLabel"_s), u"✓ Connected successfully!"_s);
-    QCOMPARE(advance.wait(700), role == NewPC);
-}
 
 QObject *makeConnectionPageTest()
 {
