@@ -2,41 +2,170 @@
 #include "UiTests.h"
 #include "WizardView.h"
 
+#include "core/common/AppConfig.h"
+#include "core/common/License.h"
 #include "ui/MainWindow.h"
+#include "ui/TitleBar.h"
 #include "ui/pages/CompletePage.h"
 #include "ui/pages/ConnectionPage.h"
 #include "ui/pages/TransferPage.h"
+#include "ui/widgets/ModeCard.h"
+#include "ui/widgets/RoleCard.h"
 #include "ui/widgets/SettingListItem.h"
 
-#include <QApplication>
+#include <QAction>
+#include <QActionGroup>
+#include <QDir>
+#include <QMenu>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSettings>
 #include <QSignalSpy>
+#include <QSvgRenderer>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
 using Step = std::function<void()>;
 
-/// The wizard: which page follows which, for whom, and what can be pressed there.
+namespace {
+
+class UnregisteredCopy final : public License
+{
+public:
+    [[nodiscard]] bool isRegistered() const override { return registered; }
+    [[nodiscard]] bool registerCopy() override { return registered = registers; }
+
+    bool registered = false;
+    bool registers = false; ///< whether an attempt succeeds
+};
+
+} // namespace
+
+/// The window's own frame, and the wizard in it: which page follows which, for whom, and what can be pressed
+/// there.
 class MainWindowTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { makeWindow(License::ofThisCopy()); }
+    void init()
+    {
+        QSettings(AppConfig::userOrganisation(), AppConfig::appName()).clear();
+        makeWindow(License::ofThisCopy());
+    }
+
     void cleanup() { m_window.reset(); }
 
-    void windowIsPaintedByItself()
+    void resourcesAreThere()
+    {
+        const QStringList icons = QDir(u":/icons"_s).entryList({u"*.svg"_s});
+        QCOMPARE(icons.size(), 32);
+        for (const QString &icon : icons)
+            QVERIFY2(QSvgRenderer(u":/icons/"_s + icon).isValid(), qPrintable(icon));
+        QVERIFY(QFile::exists(u":/icons/app.ico"_s) && QFile::exists(u":/styles/style.qss"_s));
+        QVERIFY(!m_window->windowIcon().pixmap(32).isNull());
+    }
+
+    void windowDrawsItsFrame()
     {
         QCOMPARE(int(m_window->windowFlags()), 0xC801);
-        QVERIFY(!m_window->windowIcon().pixmap(32).isNull());
         const QImage picture = m_window->grab().toImage().convertToFormat(QImage::Format_ARGB32);
+        const auto alpha = [&picture](int x, int y) { return qAlpha(picture.pixel(x, y)); };
         const int middle = picture.height() / 2;
-        QCOMPARE(qAlpha(picture.pixel(0, 0)), 0);
-        QVERIFY(qAlpha(picture.pixel(1, middle)) > 0);
-        QVERIFY(qAlpha(picture.pixel(1, middle)) < qAlpha(picture.pixel(10, middle)));
+        QVERIFY(alpha(0, 0) == 0 && alpha(1, middle) > 0 && alpha(1, middle) < alpha(10, middle));
+        QVERIFY2(alpha(12, 12) < 255 && alpha(24, 12) == 255, "the title bar has a round corner");
         QCOMPARE(picture.pixel(20, middle), qRgb(255, 255, 255));
+    }
+
+    void titleBarMovesAndMaximizes_data()
+    {
+        columns<Qt::MouseButton, QPoint, bool>("button", "moved", "maximized");
+        QTest::newRow("left") << Qt::LeftButton << QPoint(30, 20) << true;
+        QTest::newRow("right") << Qt::RightButton << QPoint(0, 0) << false;
+    }
+
+    void titleBarMovesAndMaximizes()
+    {
+        QFETCH(Qt::MouseButton, button);
+        QFETCH(bool, maximized);
+        const QPoint before = m_window->pos();
+        const auto send = [&](QEvent::Type type, const QPoint &moved, Qt::MouseButton changed) {
+            const QPointF grip(200.0, 20.0);
+            QMouseEvent event(type, grip, before + grip + moved, changed, button, Qt::NoModifier);
+            QCoreApplication::sendEvent(&the<TitleBar>(), &event);
+        };
+        send(QEvent::MouseButtonPress, {}, button);
+        send(QEvent::MouseMove, QPoint(30, 20), Qt::NoButton);
+        send(QEvent::MouseButtonRelease, QPoint(30, 20), button);
+        send(QEvent::MouseMove, QPoint(90, 90), Qt::NoButton);
+        QTEST(m_window->pos() - before, "moved");
+        send(QEvent::MouseButtonDblClick, {}, button);
+        QCOMPARE(m_window->isMaximized(), maximized);
+        QVERIFY(view().click(maximized ? u"Restore"_s : u"Maximize"_s));
+        QCOMPARE(m_window->isMaximized(), !maximized);
+    }
+
+    void menuLeavesBySignals()
+    {
+        TitleBar bar;
+        QStringList told;
+        const auto listen = [&](auto signal, const QString &name) {
+            connect(&bar, signal, this, [&told, name] { told.append(name); });
+        };
+        listen(&TitleBar::aboutClicked, u"about"_s);
+        listen(&TitleBar::activateClicked, u"register"_s);
+        listen(&TitleBar::purchaseClicked, u"purchase"_s);
+        listen(&TitleBar::helpClicked, u"help"_s);
+        listen(&TitleBar::supportClicked, u"support"_s);
+        for (QAction *action : bar.findChild<QMenu *>(QString(), Qt::FindDirectChildrenOnly)->actions()) {
+            told.append(action->text());
+            if (!action->menu())
+                action->trigger();
+        }
+        QCOMPARE(told.join(u'|'), u"ℹ️  About|about||🔑  Register|register|🛒  Purchase|purchase||"
+                                  "🌐  Language||❓  Help|help|💬  Support|support"_s);
+    }
+
+    void otherLanguageIsKeptAndTold()
+    {
+        const auto isKept = [] {
+            return QSettings(AppConfig::userOrganisation(), AppConfig::appName()).contains("language"_L1);
+        };
+        const TitleBar bar;
+        const QSignalSpy told(&bar, &TitleBar::languageChanged);
+        const QList<QAction *> languages = bar.findChild<QActionGroup *>()->actions();
+        QStringList codes;
+        for (const QAction *language : languages)
+            codes.append(language->data().toString());
+        QCOMPARE(codes.join(u' '), u"en zh_TW fr de ja es ko nl pt it"_s);
+
+        QVERIFY(languages[0]->isChecked());
+        languages[0]->trigger();
+        QVERIFY(told.isEmpty() && !isKept());
+        languages[3]->trigger();
+        QCOMPARE(told, (QList<QVariantList>{{u"de"_s}}));
+        QVERIFY(isKept() && TitleBar().findChild<QActionGroup *>()->actions()[3]->isChecked());
+    }
+
+    void choicesGoToTheEngine()
+    {
+        const QSignalSpy changes(m_engine, &TransferEngine::stateChanged);
+        const QList<ModeCard *> modes = m_window->findChildren<ModeCard *>();
+        for (const auto &[mode, changed] :
+             {std::pair(NetworkMode, 0), {CableMode, 1}, {CableMode, 1}, {NetworkMode, 2}}) {
+            QTest::mouseClick(modes[mode], Qt::LeftButton);
+            QCOMPARE(changes.size(), changed);
+            QVERIFY(modes[mode]->isSelected() && !modes[1 - mode]->isSelected());
+        }
+        const QList<RoleCard *> roles = m_window->findChildren<RoleCard *>();
+        QVERIFY(!roles[OldPC]->isSelected() && !roles[NewPC]->isSelected());
+        for (const int role : {NewPC, NewPC, OldPC}) {
+            QTest::mouseClick(roles[role], Qt::LeftButton);
+            QCOMPARE(m_engine->role(), role);
+            QVERIFY(roles[role]->isSelected() && !roles[1 - role]->isSelected());
+        }
     }
 
     /// Qt drops without a word what stands beside a rule or within another.
@@ -161,7 +290,10 @@ private Q_SLOTS:
         offerOneSetting();
         walkTo(MainWindow::PageSelection, OldPC);
         const auto *activate = m_window->findChild<QPushButton *>(u"activateBtn"_s);
-        QVERIFY(activate->isVisible());
+        for (const bool receives : {true, false}) {
+            the<TitleBar>().setRole(receives);
+            QCOMPARE(activate->isVisible(), !receives);
+        }
         for (const bool registers : {false, true}) {
             license.registers = registers;
             bool asked = false;
