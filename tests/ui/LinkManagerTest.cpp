@@ -112,9 +112,6 @@ private:
     QList<QUrl> m_browsed;
 };
 
-QObject *makeLinkManagerTest()
-{
-    return new LinkManagerTest;
-}
+ZANDROVE_UI_TEST(LinkManagerTest)
 
 #include "LinkManagerTest.moc"

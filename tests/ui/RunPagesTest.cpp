@@ -18,6 +18,8 @@
 #include <QStandardPaths>
 #include <QTimer>
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
 
@@ -68,32 +70,26 @@ private Q_SLOTS:
         QVERIFY(!runTexts().contains(u"unreadable"_s));
     }
 
-    void finishedRowsMakeRoom_data()
-    {
-        columns<QString, QString, QString>("failed", "succeeded", "removed");
-        QTest::newRow("all active") << QString() << QString() << QString();
-        QTest::newRow("one failed") << u"12"_s << QString() << u"12"_s;
-        QTest::newRow("success before failure") << u"3"_s << u"20"_s << u"20"_s;
-    }
-
     void finishedRowsMakeRoom()
     {
-        QFETCH(QString, failed);
-        QFETCH(QString, succeeded);
-        QFETCH(QString, removed);
-        QStringList expected;
-        for (int index = 0; index < 30; ++index) {
-            expected.append(QString::number(index));
-            Q_EMIT m_engine->fileTransferStarted(expected.last());
+        using Names = std::array<QString, 3>;
+        for (const auto &[failed, succeeded, removed] :
+             {Names(), Names{u"12"_s, {}, u"12"_s}, Names{u"3"_s, u"20"_s, u"20"_s}}) {
+            m_run->setFiles({});
+            QStringList expected;
+            for (int index = 0; index < 30; ++index) {
+                expected.append(QString::number(index));
+                Q_EMIT m_engine->fileTransferStarted(expected.last());
+            }
+            if (!failed.isEmpty())
+                Q_EMIT m_engine->fileTransferFailed(failed, QString());
+            Q_EMIT m_engine->fileTransferCompleted(succeeded);
+            Q_EMIT m_engine->fileTransferStarted(u"new"_s);
+            expected.append(u"new"_s);
+            expected.removeOne(removed);
+            static const QRegularExpression State(u"^. |, .*"_s);
+            QCOMPARE(rows().replaceInStrings(State, QString()), expected);
         }
-        if (!failed.isEmpty())
-            Q_EMIT m_engine->fileTransferFailed(failed, QString());
-        Q_EMIT m_engine->fileTransferCompleted(succeeded);
-        Q_EMIT m_engine->fileTransferStarted(u"new"_s);
-        expected.append(u"new"_s);
-        expected.removeOne(removed);
-        static const QRegularExpression State(u"^. |, .*"_s);
-        QCOMPARE(rows().replaceInStrings(State, QString()), expected);
     }
 
     void titlesFollowTheRun()
@@ -186,47 +182,36 @@ private Q_SLOTS:
             QTRY_COMPARE(runTexts().first(), u"Sender cancelled. Waiting..."_s);
     }
 
-    void sessionEndStopsTheNewPcFromListeningAgain_data()
-    {
-        columns<bool>("atOnce");
-        QTest::newRow("behind the cancel") << true;
-        QTest::newRow("a little later") << false;
-    }
-
     void sessionEndStopsTheNewPcFromListeningAgain()
     {
-        QFETCH(bool, atOnce);
         m_engine->setRole(NewPC);
         m_run->setRole(NewPC);
         QSignalSpy rearmed(m_engine.get(), &TransferEngine::transferStarted);
-        Q_EMIT m_engine->peerCancelled();
-        if (!atOnce)
-            QCoreApplication::processEvents();
-        Q_EMIT m_engine->sessionEndReceived();
-        QVERIFY(!rearmed.wait(300));
-    }
-
-    void reportIsShownByRole_data()
-    {
-        columns<int, QString>("role", "end");
-        QTest::newRow("Old PC") << int(OldPC) << u"✓ Finished|📂 Send More Files..."_s;
-        QTest::newRow("New PC") << int(NewPC) << u"📁|Files saved to:|📡|Waiting for more files..."_s;
+        for (const bool atOnce : {true, false}) {
+            m_run->startReceiving();
+            Q_EMIT m_engine->peerCancelled();
+            if (!atOnce)
+                QCoreApplication::processEvents();
+            Q_EMIT m_engine->sessionEndReceived();
+            QVERIFY2(!rearmed.wait(300), atOnce ? "right behind the cancel" : "a little later");
+        }
     }
 
     void reportIsShownByRole()
     {
-        QFETCH(int, role);
-        QFETCH(QString, end);
-        m_engine->setRole(role);
         MigrationReport report;
         report.filesSuccess = 11;
         report.appsSuccess = 22;
         report.settingsSuccess = 33;
         report.filesFailed = 44;
-        Q_EMIT m_engine->transferCompleted(report);
-        const QString outcome = outcomeText();
-        QVERIFY(outcome.startsWith(u"✓|Transfer Complete!|"_s));
-        QVERIFY2(outcome.endsWith(u"|11|Files|22|Apps|33|Settings|"_s + end), qPrintable(outcome));
+        for (const auto &[role, end] : {std::pair(OldPC, u"✓ Finished|📂 Send More Files..."_s),
+                                        {NewPC, u"📁|Files saved to:|📡|Waiting for more files..."_s}}) {
+            m_engine->setRole(role);
+            Q_EMIT m_engine->transferCompleted(report);
+            const QString outcome = outcomeText();
+            QVERIFY(outcome.startsWith(u"✓|Transfer Complete!|"_s));
+            QVERIFY2(outcome.endsWith(u"|11|Files|22|Apps|33|Settings|"_s + end), qPrintable(outcome));
+        }
     }
 
     void foldersAreListedOnceAndAsPlainText()
@@ -289,9 +274,6 @@ private:
     std::unique_ptr<CompletePage> m_outcome;
 };
 
-QObject *makeRunPagesTest()
-{
-    return new RunPagesTest;
-}
+ZANDROVE_UI_TEST(RunPagesTest)
 
 #include "RunPagesTest.moc"

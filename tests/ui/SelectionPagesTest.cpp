@@ -55,19 +55,10 @@ QString numbered(QChar letter, int count)
 }
 
 #ifdef __SANITIZE_ADDRESS__
-constexpr double Patience = 5.0; // seconds
+constexpr double Patience = 10.0; // seconds
 #else
-constexpr double Patience = 1.0;
+constexpr double Patience = 2.0;
 #endif
-
-/// Seconds of this process, which other programs don't slow down, that `action` takes.
-double cpuSeconds(const std::function<void()> &action)
-{
-    const std::clock_t start = std::clock();
-    action();
-    QCoreApplication::processEvents();
-    return double(std::clock() - start) / CLOCKS_PER_SEC;
-}
 
 } // namespace
 
@@ -195,15 +186,16 @@ private Q_SLOTS:
         m_page->resize(956, 560);
         m_page->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_page.get()));
-        const ScanResult result = manyApps(500);
-        const double building = cpuSeconds([&] { m_page->setScanResult(result); });
         // Each tick logs all that is ticked by then.
         const QtMessageHandler log = qInstallMessageHandler([](auto, const auto &, const auto &) {});
-        const double ticking =
-            cpuSeconds([this] { m_page->findChild<QCheckBox *>(u"selectAllApps"_s)->click(); });
+        // The time of this process, which other programs don't slow down.
+        const std::clock_t start = std::clock();
+        m_page->setScanResult(manyApps(500));
+        m_page->findChild<QCheckBox *>(u"selectAllApps"_s)->click();
+        QCoreApplication::processEvents();
+        const double seconds = double(std::clock() - start) / CLOCKS_PER_SEC;
         qInstallMessageHandler(log);
-        qInfo() << "500 rows: seconds to build" << building << "to tick" << ticking;
-        QVERIFY(building < Patience && ticking < Patience);
+        QVERIFY2(seconds < Patience, qPrintable(QString::number(seconds)));
     }
 
     void subfoldersAreListed_data()
@@ -286,16 +278,33 @@ private Q_SLOTS:
         QCOMPARE(again->child(0)->checkState(0), Qt::Unchecked);
     }
 
+    void selectingMovesNothing()
+    {
+        m_page->resize(956, 560);
+        m_page->show();
+        m_page->findChild<QTabWidget *>()->setCurrentIndex(1);
+        for (QAbstractItemView *view : std::initializer_list<QAbstractItemView *>{m_tree, m_shortcuts}) {
+            const QModelIndex last = view->model()->index(view->model()->rowCount() - 1, 0);
+            const auto contentStart = [view, last] {
+                const QImage picture = view->viewport()->grab(view->visualRect(last)).toImage();
+                const int middle = picture.height() / 2;
+                int x = 0;
+                while (x < picture.width() && picture.pixel(x, middle) == picture.pixel(0, middle))
+                    ++x;
+                return x;
+            };
+            const int before = contentStart();
+            view->setCurrentIndex(last);
+            QCOMPARE(contentStart(), before);
+        }
+    }
+
     void quickAccessWorksByKey()
     {
-        QStringList labels;
-        for (int row = 0; row < m_shortcuts->count(); ++row)
-            labels.append(m_shortcuts->item(row)->text());
-        QCOMPARE(labels.join(u'|'), u"Desktop|My Documents|Pictures|Videos|Music|Downloads||This PC"_s);
         m_shortcuts->setCurrentRow(5);
         QTest::keyClick(m_shortcuts, Qt::Key_Return);
         QCOMPARE(m_tree->topLevelItem(0)->text(0), u"Downloads"_s);
-        QTest::keyClick(m_shortcuts, Qt::Key_Down);
+        QTest::keyClick(m_shortcuts, Qt::Key_Down); // over the line between them
         QTest::keyClick(m_shortcuts, Qt::Key_Space);
         QVERIFY(m_tree->topLevelItem(0)->text(0).contains(" free of "_L1));
     }
@@ -342,9 +351,6 @@ private:
     QListWidget *m_shortcuts = nullptr;
 };
 
-QObject *makeSelectionPagesTest()
-{
-    return new SelectionPagesTest;
-}
+ZANDROVE_UI_TEST(SelectionPagesTest)
 
 #include "SelectionPagesTest.moc"

@@ -8,7 +8,6 @@
 #include "ui/widgets/AppListItem.h"
 #include "ui/widgets/CircleProgress.h"
 #include "ui/widgets/ElidedLabel.h"
-#include "ui/widgets/FileBrowserWidget.h"
 #include "ui/widgets/FolderListItem.h"
 #include "ui/widgets/KeyboardFocus.h"
 #include "ui/widgets/Labels.h"
@@ -26,13 +25,11 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QEnterEvent>
-#include <QListWidget>
 #include <QPropertyAnimation>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QToolTip>
-#include <QTreeWidget>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -139,30 +136,6 @@ private Q_SLOTS:
         QCOMPARE(picture.pixelColor(middle, 4).name(), fill);
         QCOMPARE(picture.pixelColor(middle, 0), QColor(border));
         QCOMPARE(picture.pixelColor(0, 0).alpha(), fill == border ? 255 : 0); // round where there is a border
-    }
-
-    void selectingMovesNothing()
-    {
-        FileBrowserWidget browser;
-        browser.resize(800, 400);
-        browser.show();
-        auto *tree = browser.findChild<QTreeWidget *>();
-        (new QTreeWidgetItem(tree, {u"Folder"_s}))->setCheckState(0, Qt::Unchecked);
-        for (QAbstractItemView *view :
-             std::initializer_list<QAbstractItemView *>{tree, browser.findChild<QListWidget *>()}) {
-            const QModelIndex last = view->model()->index(view->model()->rowCount() - 1, 0);
-            const auto contentStart = [view, last] {
-                const QImage picture = view->viewport()->grab(view->visualRect(last)).toImage();
-                const int middle = picture.height() / 2;
-                int x = 0;
-                while (x < picture.width() && picture.pixel(x, middle) == picture.pixel(0, middle))
-                    ++x;
-                return x;
-            };
-            const int before = contentStart();
-            view->setCurrentIndex(last);
-            QCOMPARE(contentStart(), before);
-        }
     }
 
     void ringFillsClockwiseFromTheTop()
@@ -313,22 +286,19 @@ private Q_SLOTS:
         }
     }
 
-    void modeCardShowsItsPictureAndBadge()
+    void modeCardChangesItsPicture()
     {
         ModeCard card;
         card.setIcons(u":/icons/nowhere.svg"_s, u":/icons/wifi-white.svg"_s);
-        card.setBadge(u"Fast"_s, u"green"_s);
-        const QLabel *icon = nullptr;
-        const QLabel *badge = nullptr;
-        for (const QLabel *label : card.findChildren<QLabel *>()) {
-            icon = label->width() == 28 ? label : icon;
-            badge = label->text() == u"Fast"_s ? label : badge;
-        }
-        QVERIFY(icon && badge && icon->pixmap(Qt::ReturnByValue).isNull() && badge->isVisibleTo(&card));
+        const auto pictures = [&card] {
+            QList<QSizeF> sizes;
+            for (const QLabel *label : card.findChildren<QLabel *>())
+                sizes.append(label->pixmap(Qt::ReturnByValue).deviceIndependentSize());
+            return sizes.count(QSizeF(28, 28));
+        };
+        QCOMPARE(pictures(), 0);
         card.setSelected(true);
-        QCOMPARE(icon->pixmap(Qt::ReturnByValue).deviceIndependentSize(), QSizeF(28, 28));
-        card.setBadge(QString(), u"green"_s);
-        QVERIFY(!badge->isVisibleTo(&card));
+        QCOMPARE(pictures(), 1);
     }
 
     void textsOfOthersAreShownAsTheyAre()
@@ -444,9 +414,6 @@ private Q_SLOTS:
     }
 };
 
-QObject *makeWidgetsTest()
-{
-    return new WidgetsTest;
-}
+ZANDROVE_UI_TEST(WidgetsTest)
 
 #include "WidgetsTest.moc"

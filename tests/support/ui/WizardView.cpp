@@ -6,12 +6,10 @@
 #include <QCheckBox>
 #include <QJsonArray>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
 #include <QScrollArea>
 #include <QStackedWidget>
-#include <QStyle>
 #include <QStyleOptionButton>
 #include <QTabBar>
 #include <QTest>
@@ -19,28 +17,35 @@
 #include <QTreeWidgetItemIterator>
 #include <QWindow>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace Zandrove {
 
 namespace {
 
+/// The widgets of that kind that are seen in `window`.
+template <typename Kind = QWidget>
+QList<Kind *> seenIn(const QWidget *window)
+{
+    QList<Kind *> widgets = window->findChildren<Kind *>();
+    widgets.removeIf([](const Kind *widget) { return !widget->isVisible(); });
+    return widgets;
+}
+
 /// Clicks where the window system would, so that whatever lies above `widget` gets the click.
-void clickAt(QWidget *widget, const QPoint &position)
+bool clickAt(QWidget *widget, const QPoint &position)
 {
     QWidget *window = widget->window();
     QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, widget->mapTo(window, position));
+    return true;
 }
 
 QString textOf(const QWidget *widget)
 {
     if (const auto *label = qobject_cast<const QLabel *>(widget))
         return label->text();
-    if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
-        return button->text();
-    return {};
+    const auto *button = qobject_cast<const QAbstractButton *>(widget);
+    return button ? button->text() : QString();
 }
 
 /// Where a user would click it: a box with a text answers only there and on its indicator.
@@ -77,10 +82,11 @@ int WizardView::page() const
 
 QWidget *WizardView::front() const
 {
-    if (QWidget *popup = QApplication::activePopupWidget())
-        return popup;
-    QWidget *dialog = QApplication::activeModalWidget();
-    return dialog ? dialog : m_window.data();
+    for (QWidget *above : {QApplication::activePopupWidget(), QApplication::activeModalWidget()}) {
+        if (above)
+            return above;
+    }
+    return m_window;
 }
 
 QString WizardView::dialogTitle() const
@@ -92,12 +98,9 @@ QString WizardView::dialogTitle() const
 QStringList WizardView::texts() const
 {
     QStringList texts;
-    const QList<QWidget *> widgets = front()->findChildren<QWidget *>();
-    for (const QWidget *widget : widgets) {
-        const QString text = textOf(widget);
-        if (!text.isEmpty() && widget->isVisible())
-            texts.append(text);
-    }
+    for (const QWidget *widget : seenIn(front()))
+        texts.append(textOf(widget));
+    texts.removeAll(QString());
     return texts;
 }
 
@@ -109,10 +112,8 @@ QString WizardView::nameOf(QWidget *widget)
 
 QWidget *WizardView::control(const QString &name) const
 {
-    const QList<QWidget *> widgets = front()->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        if (widget->isVisible() && widget->focusPolicy() != Qt::NoFocus &&
-            (nameOf(widget) == name || textOf(widget) == name))
+    for (QWidget *widget : seenIn(front())) {
+        if (widget->focusPolicy() != Qt::NoFocus && (nameOf(widget) == name || textOf(widget) == name))
             return widget;
     }
     return nullptr;
@@ -122,16 +123,12 @@ bool WizardView::click(const QString &name) const
 {
     if (QWidget *widget = control(name)) {
         scrollTo(widget);
-        clickAt(widget, handleOf(widget));
-        return true;
+        return clickAt(widget, handleOf(widget));
     }
-    const QList<QTabBar *> bars = front()->findChildren<QTabBar *>();
-    for (QTabBar *bar : bars) {
+    for (QTabBar *bar : seenIn<QTabBar>(front())) {
         for (int tab = 0; tab < bar->count(); ++tab) {
-            if (bar->isVisible() && bar->tabText(tab) == name) {
-                clickAt(bar, bar->tabRect(tab).center());
-                return true;
-            }
+            if (bar->tabText(tab) == name)
+                return clickAt(bar, bar->tabRect(tab).center());
         }
     }
     return false;
@@ -139,30 +136,25 @@ bool WizardView::click(const QString &name) const
 
 bool WizardView::clickFolder(const QString &path) const
 {
-    auto *tree = front()->findChild<QTreeWidget *>();
-    if (!tree || !tree->isVisible())
-        return false;
-    for (QTreeWidgetItemIterator item(tree); *item; ++item) {
-        if ((*item)->data(0, Qt::UserRole).toString() != path)
-            continue;
-        tree->scrollToItem(*item);
-        const QRect row = tree->visualItemRect(*item);
-        clickAt(tree->viewport(), QPoint(row.left() + 10, row.center().y()));
-        return true;
+    for (QTreeWidget *tree : seenIn<QTreeWidget>(front())) {
+        for (QTreeWidgetItemIterator item(tree); *item; ++item) {
+            if ((*item)->data(0, Qt::UserRole).toString() != path)
+                continue;
+            tree->scrollToItem(*item);
+            const QRect row = tree->visualItemRect(*item);
+            return clickAt(tree->viewport(), QPoint(row.left() + 10, row.center().y()));
+        }
     }
     return false;
 }
 
 bool WizardView::clickListEntry(const QString &text) const
 {
-    auto *list = front()->findChild<QListWidget *>();
-    if (!list || !list->isVisible())
-        return false;
-    const QList<QListWidgetItem *> items = list->findItems(text, Qt::MatchExactly);
-    if (items.isEmpty())
-        return false;
-    clickAt(list->viewport(), list->visualItemRect(items.first()).center());
-    return true;
+    for (QListWidget *list : seenIn<QListWidget>(front())) {
+        for (const QListWidgetItem *item : list->findItems(text, Qt::MatchExactly))
+            return clickAt(list->viewport(), list->visualItemRect(item).center());
+    }
+    return false;
 }
 
 void WizardView::press(int key, Qt::KeyboardModifiers modifiers) const
@@ -180,33 +172,28 @@ QPixmap WizardView::picture() const
 {
     QPixmap picture = m_window->grab();
     QPainter painter(&picture);
-    for (QWidget *above : {QApplication::activeModalWidget(), QApplication::activePopupWidget()}) {
-        if (!above || above == m_window)
-            continue;
-        const bool isMenu = above->windowType() == Qt::Popup;
-        const QPoint corner =
-            isMenu ? above->pos() - m_window->pos() : m_window->rect().center() - above->rect().center();
-        painter.drawPixmap(corner, above->grab());
-        if (isMenu)
-            continue;
+    if (QWidget *dialog = QApplication::activeModalWidget()) {
+        const QPoint corner = m_window->rect().center() - dialog->rect().center();
+        painter.drawPixmap(corner, dialog->grab());
         // In the place of the frame that the system would give it.
         painter.setPen(Qt::gray);
-        painter.drawRect(QRect(corner, above->size()));
+        painter.drawRect(QRect(corner, dialog->size()));
     }
+    if (QWidget *menu = QApplication::activePopupWidget())
+        painter.drawPixmap(menu->pos() - m_window->pos(), menu->grab());
     return picture;
 }
 
 QJsonObject WizardView::state() const
 {
     QJsonArray controls;
-    const QList<QWidget *> widgets = front()->findChildren<QWidget *>();
-    for (QWidget *widget : widgets) {
-        if (widget->isVisible() && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus))
+    for (QWidget *widget : seenIn(front())) {
+        if (widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus))
             controls.append(nameOf(widget));
     }
     QJsonArray tabs;
-    for (const QTabBar *bar : front()->findChildren<QTabBar *>()) {
-        for (int tab = 0; bar->isVisible() && tab < bar->count(); ++tab)
+    for (const QTabBar *bar : seenIn<QTabBar>(front())) {
+        for (int tab = 0; tab < bar->count(); ++tab)
             tabs.append(bar->tabText(tab));
     }
     QWidget *focus = QApplication::focusWidget();
