@@ -29,22 +29,7 @@ using namespace Qt::StringLiterals;
 using namespace Zandrove;
 using Step = std::function<void()>;
 
-namespace {
-
-class UnregisteredCopy final : public License
-{
-public:
-    [[nodiscard]] bool isRegistered() const override { return registered; }
-    [[nodiscard]] bool registerCopy() override { return registered = registers; }
-
-    bool registered = false;
-    bool registers = false; ///< whether an attempt succeeds
-};
-
-} // namespace
-
-/// The window's own frame, and the wizard in it: which page follows which, for whom, and what can be pressed
-/// there.
+/// The window's own frame, and the wizard in it: which page follows which, and what can be pressed there.
 class MainWindowTest : public QObject
 {
     Q_OBJECT
@@ -133,7 +118,7 @@ private Q_SLOTS:
 
         QVERIFY(languages[0]->isChecked());
         languages[0]->trigger();
-        QVERIFY(told.isEmpty() && m_settings.allKeys().isEmpty());
+        QVERIFY(told.isEmpty() && !m_settings.contains("language"_L1));
         languages[3]->trigger();
         QCOMPARE(told, (QList<QVariantList>{{u"de"_s}}));
         QVERIFY(TitleBar().findChild<QActionGroup *>()->actions()[3]->isChecked());
@@ -173,6 +158,7 @@ private Q_SLOTS:
         const auto row = [](const char *name, int role, int from, int to, const Step &step) {
             QTest::newRow(name) << role << from << to << step;
         };
+        const Step completed = [this] { Q_EMIT m_engine->transferCompleted({}); };
         const Step connected = [this] { Q_EMIT m_engine->connected(); };
         const Step autoAdvance = [this] { Q_EMIT the<ConnectionPage>().requestAutoAdvance(); };
         const Step localCancel = [this] { Q_EMIT the<TransferPage>().transferCancelled(); };
@@ -185,7 +171,6 @@ private Q_SLOTS:
         const auto back = [this](const QString &name) {
             return [this, name] { Q_EMIT the<TransferPage>().navigateBack(name); };
         };
-        const Step completed = [this] { Q_EMIT m_engine->transferCompleted({}); };
 
         row("welcome", OldPC, 0, 0, [] {});
         row("connected on the role page", OldPC, 1, 1, connected);
@@ -274,13 +259,22 @@ private Q_SLOTS:
             names.append(m_window->focusWidget()->accessibleName());
             QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
         }
-        QCOMPARE(names,
-                 u"Network Mode,Cable Mode,Next,Menu,Minimize,Maximize,Close,Network Mode"_s.split(u','));
+        QCOMPARE(names.join(u'|'),
+                 u"Network Mode|Cable Mode|Next|Menu|Minimize|Maximize|Close|Network Mode"_s);
         QTest::keyClick(view().control(u"Next"_s), Qt::Key_Space);
         QCOMPARE(m_window->focusWidget()->accessibleName(), u"Old PC"_s);
     }
 
 private:
+    struct UnregisteredCopy final : License
+    {
+        [[nodiscard]] bool isRegistered() const override { return registered; }
+        [[nodiscard]] bool registerCopy() override { return registered = registers; }
+
+        bool registered = false;
+        bool registers = false; ///< whether an attempt succeeds
+    };
+
     void makeWindow(License &license)
     {
         m_engine = new TransferEngine(nullptr, silentEnvironment());

@@ -1,6 +1,7 @@
 #include "SilentEngine.h"
 #include "SimulatedPc.h"
 #include "UiTests.h"
+#include "WizardView.h"
 
 #include "ui/pages/AppOffer.h"
 #include "ui/pages/ScanningPage.h"
@@ -43,15 +44,6 @@ ScanResult manyApps(int count)
     result.settings.append(SettingInfo());
     result.accounts.append(AccountInfo());
     return result;
-}
-
-/// "d100 d101 d102 ..."
-QString numbered(QChar letter, int count)
-{
-    QStringList names;
-    for (int i = 0; i < count; ++i)
-        names.append(letter + QString::number(100 + i));
-    return names.join(u' ');
 }
 
 #ifdef __SANITIZE_ADDRESS__
@@ -119,17 +111,16 @@ private Q_SLOTS:
     void scanShowsProgressAndHandsOver()
     {
         QSignalSpy finished(m_scanning.get(), &ScanningPage::scanFinished);
-        const auto shown = [this] {
-            QStringList texts(QString::number(m_scanning->findChild<CircleProgress *>()->value()));
-            for (const QString &label : {u"appCountLabel"_s, u"accountCountLabel"_s, u"statusLabel"_s})
-                texts.append(m_scanning->findChild<QLabel *>(label)->text());
-            return texts.join(u'|');
-        };
+        m_scanning->show();
+        const auto *circle = m_scanning->findChild<CircleProgress *>();
+        const WizardView view(m_scanning.get());
         Q_EMIT m_engine->scanProgress(40, u"Editor"_s, 7, 3, 2);
         Q_EMIT m_engine->scanFailed(u"no"_s);
-        QCOMPARE(shown(), u"40|7|2|Editor"_s);
+        QCOMPARE(circle->value(), 40);
+        QCOMPARE(view.texts().mid(2).join(u'|'), u"7|Applications|2|Accounts|Editor"_s);
         Q_EMIT m_engine->scanCompleted(manyApps(3));
-        QCOMPARE(shown(), u"100|3|1|Scan complete!"_s);
+        QCOMPARE(circle->value(), 100);
+        QCOMPARE(view.texts().mid(2).join(u'|'), u"3|Applications|1|Accounts|Scan complete!"_s);
         QVERIFY(finished.isEmpty() && finished.wait());
     }
 
@@ -201,14 +192,21 @@ private Q_SLOTS:
     void subfoldersAreListed_data()
     {
         columns<QString, QString, bool>("folders", "listed", "limited");
-        const QString hundred = numbered(u'd', 100);
+        const auto numbered = [](const QString &letter, int count) {
+            QStringList names;
+            for (int i = 0; i < count; ++i)
+                names.append(letter + QString::number(100 + i));
+            return names.join(u' ');
+        };
+        const QString hundred = numbered(u"d"_s, 100);
         QTest::newRow("none") << QString() << QString() << false;
         QTest::newRow("by name whatever the case") << u"b A c"_s << u"A b c"_s << false;
         QTest::newRow("not of the system")
             << u".git $x Recovery recovery2 perflogs MSOCache"_s << u"perflogs recovery2"_s << false;
         QTest::newRow("just the limit") << hundred << hundred << false;
-        QTest::newRow("one above it") << numbered(u'd', 101) << hundred << true;
-        QTest::newRow("skipped ones don't count") << numbered(u'$', 50) + u' ' + hundred << hundred << false;
+        QTest::newRow("one above it") << numbered(u"d"_s, 101) << hundred << true;
+        QTest::newRow("skipped ones don't count")
+            << numbered(u"$"_s, 50) + u' ' + hundred << hundred << false;
     }
 
     void subfoldersAreListed()
