@@ -206,14 +206,14 @@ private Q_SLOTS:
         offerOneSetting();
         walkTo(from, role);
         QCOMPARE(view().page(), from);
-        static const QStringList Navigation = {u"Next"_s, u"Back"_s, u"Back"_s, {}, u"Back"_s, {}, {}};
-        QStringList enabled;
+        static const QStringList Navigation = {
+            u"(Back) Next"_s, u"Back (Next)"_s, u"Back (Next)"_s, {}, u"Back (Next)"_s, {}, {}};
+        QStringList navigation;
         for (const QString &name : {u"Back"_s, u"Next"_s, u"Finish"_s}) {
-            const QWidget *button = view().control(name);
-            if (button && button->isEnabled())
-                enabled.append(name);
+            if (const QWidget *button = view().control(name))
+                navigation.append(button->isEnabled() ? name : u'(' + name + u')');
         }
-        QCOMPARE(enabled.join(u' '), Navigation.at(from));
+        QCOMPARE(navigation.join(u' '), Navigation.at(from));
         step();
         QCoreApplication::processEvents(); // what the pages hear queued arrives after the window has gone
         QTEST(view().page(), "to");
