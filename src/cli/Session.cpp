@@ -72,6 +72,8 @@ void Session::collectItems()
 {
     connect(&m_engine, &TransferEngine::transferStarted, this, [this] { m_items = {}; });
     connect(&m_engine, &TransferEngine::newTransferStarted, this, [this] { m_items = {}; });
+    // The New PC waits for a further run without another word.
+    connect(&m_engine, &TransferEngine::peerCancelled, this, [this] { m_items = {}; });
     connect(&m_engine, &TransferEngine::appOutcome, this,
             [this](const QString &name, bool success, const QString &error) {
                 m_items.apps.append({name, success, error});
