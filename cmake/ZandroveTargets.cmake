@@ -76,21 +76,21 @@ function(zandrove_windows_resources target)
         "${CMAKE_SOURCE_DIR}/resources/icons/app.ico;${CMAKE_SOURCE_DIR}/resources/windows/program.manifest")
 endfunction()
 
-# Where the programs lie in an installation, with all that they look for beside themselves.
+# Where the programs lie in an installation; what they look for beside themselves goes there too. On Windows everything
+# lies in one folder.
+include(GNUInstallDirs)
+set(ZANDROVE_PROGRAM_FOLDER lib/zandrove)
 if(WIN32)
-    set(ZANDROVE_PROGRAM_DIR .)
-else()
-    set(ZANDROVE_PROGRAM_DIR lib/zandrove)
+    set(ZANDROVE_PROGRAM_FOLDER .)
 endif()
 
-# zandrove_install(TARGET): the program as a part of an installation. On Windows everything that it needs beside the
-# system lies in one folder with it; elsewhere its name among the commands is a link, and the system says where it leads.
+# zandrove_install(TARGET): the program as a part of an installation, on Windows with everything that it needs beside the
+# system. Elsewhere its name among the commands is a link, because what it looks for lies where the program itself is.
 function(zandrove_install target)
-    include(GNUInstallDirs)
+    install(TARGETS ${target} RUNTIME DESTINATION ${ZANDROVE_PROGRAM_FOLDER})
     set_property(GLOBAL APPEND PROPERTY ZANDROVE_INSTALLED_TARGETS ${target})
-    install(TARGETS ${target} RUNTIME DESTINATION ${ZANDROVE_PROGRAM_DIR})
     if(NOT WIN32)
-        file(RELATIVE_PATH place ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_PREFIX}/${ZANDROVE_PROGRAM_DIR}/${target})
+        file(RELATIVE_PATH place ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_PREFIX}/${ZANDROVE_PROGRAM_FOLDER}/${target})
         file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/commands)
         file(CREATE_LINK ${place} ${CMAKE_CURRENT_BINARY_DIR}/commands/${target} SYMBOLIC)
         install(FILES ${CMAKE_CURRENT_BINARY_DIR}/commands/${target} DESTINATION ${CMAKE_INSTALL_BINDIR})

@@ -29,7 +29,7 @@ archive=$(basename "$work"/Zandrove-*.zip)
     find "$stage" -type f -printf 'Delete "$INSTDIR/%P"\n'
     find "$stage" -mindepth 1 -depth -type d -printf 'RMDir "$INSTDIR/%P"\n'
 } | tr / '\\' >"$work/uninstall-files.nsh"
-rsvg-convert packaging/windows/side.svg | pngtopnm -mix -background '#3b82f6' | ppmtobmp -bpp 24 -quiet >"$work/side.bmp"
+rsvg-convert --background-color=white packaging/windows/side.svg | pngtopnm | ppmtobmp -bpp 24 -quiet >"$work/side.bmp"
 cp build/windows/packaging/build.nsh "$work"
 options=(-DWORK="$PWD/$work" -DOUTPUT="$PWD/$work/${archive%.zip}-setup.exe")
 [ -e "$stage/zandrove.exe" ] && options+=(-DWINDOW)
