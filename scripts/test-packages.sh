@@ -130,7 +130,7 @@ check_command() {
 
 # The options that a text speaks of, each once.
 options_in() {
-    grep -oE -e '--[a-z]+' | sort -u
+    grep -oE -e '--[a-z]+(-[a-z]+)*' | sort -u
 }
 
 check_manuals() {

@@ -10,6 +10,8 @@ Everything lands where it was: documents with the documents, pictures with
 the pictures. What is on the new PC already is left alone, and a report on
 both sides tells what has moved.
 
+Between two Windows PCs applications and settings move as well.
+
 There are a program with a window, in ten languages, and one for terminals,
 servers and scripts.")
 

@@ -17,7 +17,7 @@
     "Zandrove needs Windows 10 or later." \
     "The program with everything that it needs." \
     "Start menu entry" \
-    "Moves your files from an old PC to a new one" \
+    "Moves your files, applications and settings to a new PC" \
     "Firewall rules" \
     "Lets the other PC on your network reach Zandrove"
 !insertmacro texts TradChinese \
@@ -25,7 +25,7 @@
     "Zandrove 需要 Windows 10 或更新版本。" \
     "程式及其所需的一切。" \
     "開始功能表項目" \
-    "將您的檔案從舊電腦移轉到新電腦" \
+    "將您的檔案、應用程式和設定移轉到新電腦" \
     "防火牆規則" \
     "讓您網路上的另一部電腦能連線至 Zandrove"
 !insertmacro texts French \
@@ -33,7 +33,7 @@
     "Zandrove nécessite Windows 10 ou une version ultérieure." \
     "Le programme et tout ce dont il a besoin." \
     "Entrée du menu Démarrer" \
-    "Transfère vos fichiers d’un ancien PC vers un nouveau" \
+    "Transfère vos fichiers, applications et paramètres vers un nouveau PC" \
     "Règles de pare-feu" \
     "Permet à l’autre PC de votre réseau de joindre Zandrove"
 !insertmacro texts German \
@@ -41,7 +41,7 @@
     "Zandrove benötigt Windows 10 oder höher." \
     "Das Programm mit allem, was es braucht." \
     "Eintrag im Startmenü" \
-    "Überträgt Ihre Dateien von einem alten PC auf einen neuen" \
+    "Überträgt Ihre Dateien, Anwendungen und Einstellungen auf einen neuen PC" \
     "Firewallregeln" \
     "Lässt den anderen PC in Ihrem Netzwerk Zandrove erreichen"
 !insertmacro texts Japanese \
@@ -49,7 +49,7 @@
     "Zandrove には Windows 10 以降が必要です。" \
     "プログラム本体と、その動作に必要なすべてのファイルです。" \
     "スタート メニューの項目" \
-    "古い PC から新しい PC へファイルを移行します" \
+    "ファイル、アプリケーション、設定を新しい PC へ移行します" \
     "ファイアウォールの規則" \
     "ネットワーク上のもう一方の PC が Zandrove に接続できるようにします"
 !insertmacro texts Spanish \
@@ -57,7 +57,7 @@
     "Zandrove necesita Windows 10 o posterior." \
     "El programa con todo lo que necesita." \
     "Entrada en el menú Inicio" \
-    "Traslada sus archivos de un PC antiguo a uno nuevo" \
+    "Traslada sus archivos, aplicaciones y configuración a un PC nuevo" \
     "Reglas de firewall" \
     "Permite que el otro PC de su red se comunique con Zandrove"
 !insertmacro texts Korean \
@@ -65,7 +65,7 @@
     "Zandrove를 사용하려면 Windows 10 이상이 필요합니다." \
     "프로그램과 프로그램에 필요한 모든 파일입니다." \
     "시작 메뉴 항목" \
-    "이전 PC의 파일을 새 PC로 옮깁니다" \
+    "파일, 애플리케이션, 설정을 새 PC로 옮깁니다" \
     "방화벽 규칙" \
     "네트워크의 다른 PC가 Zandrove에 연결할 수 있게 합니다"
 !insertmacro texts Dutch \
@@ -73,7 +73,7 @@
     "Zandrove vereist Windows 10 of hoger." \
     "Het programma met alles wat het nodig heeft." \
     "Vermelding in het menu Start" \
-    "Verplaatst uw bestanden van een oude pc naar een nieuwe" \
+    "Verplaatst uw bestanden, toepassingen en instellingen naar een nieuwe pc" \
     "Firewallregels" \
     "Zorgt dat de andere pc in uw netwerk Zandrove kan bereiken"
 !insertmacro texts Portuguese \
@@ -81,7 +81,7 @@
     "O Zandrove requer o Windows 10 ou posterior." \
     "O programa com tudo o que é necessário." \
     "Entrada no menu Iniciar" \
-    "Move os seus ficheiros de um PC antigo para um novo" \
+    "Move os seus ficheiros, aplicações e definições para um novo PC" \
     "Regras da firewall" \
     "Permite que o outro PC da sua rede contacte o Zandrove"
 !insertmacro texts Italian \
@@ -89,6 +89,6 @@
     "Zandrove richiede Windows 10 o versioni successive." \
     "Il programma con tutto ciò che gli serve." \
     "Voce nel menu Start" \
-    "Trasferisce i file da un vecchio PC a uno nuovo" \
+    "Trasferisce file, applicazioni e impostazioni a un nuovo PC" \
     "Regole del firewall" \
     "Consente all’altro PC della rete di raggiungere Zandrove"
