@@ -11,7 +11,8 @@ using namespace Qt::StringLiterals;
 using namespace Zandrove;
 
 /// shell-link write LINK TARGET WORKING-FOLDER ARGUMENTS: makes a link.
-/// shell-link read LINK: prints its target, working folder and arguments, a line each, and whether the target is there.
+/// shell-link read LINK: prints its target, working folder and arguments, a line each, and whether the target
+/// is there.
 int main(int argc, char *argv[])
 {
     const QCoreApplication application(argc, argv);
