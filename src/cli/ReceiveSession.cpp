@@ -255,6 +255,7 @@ void ReceiveSession::onCompleted(const MigrationReport &report)
         concludeRun(report);
         return;
     }
+    m_drainTimer.stop(); // all has come
     m_heldReport = report;
     m_settingsTimer.start(SettingsTime);
 }

@@ -1,5 +1,7 @@
 """Applications and settings move between two equipped PCs."""
 
+import signal
+
 import pcs
 from equipped_pcs import EquippedPc, place_for_pcs
 
@@ -213,6 +215,23 @@ class Environment(pcs.TestCase):
         self.assertSameTree(folder, pair.new.received("things"))
         sender.say("end")
         self.assertExits(0, sender)
+
+    def test_peer_that_vanishes_behind_its_last_word(self):
+        pair = self.pair()
+        set_up(pair.old)
+        pair.new.slow_down("powercfg", 2)
+        receiver = pair.new.receive("--yes", "--once")
+        sender = pair.old.send("NewBox", options=("--control", "--setting", "power"))
+        sender.wait_for("connected")
+        receiver.process.send_signal(signal.SIGSTOP)  # what comes from now on, it hears all at once
+        sender.wait_for("report")
+        sender.say("hello")
+        sender.wait_for("warning")  # so all of the run has left
+        sender.kill()
+        receiver.process.send_signal(signal.SIGCONT)
+        self.assertEqual(receiver.wait_for("report")["settingsSuccess"], 1)
+        self.assertExits(0, receiver)
+        self.assertEqual(receiver.stderr, "")
 
     def test_end_while_settings_are_applied(self):
         pair = self.pair()
