@@ -68,15 +68,21 @@ function(zandrove_windows_resources target)
         "${CMAKE_SOURCE_DIR}/resources/icons/app.ico;${CMAKE_SOURCE_DIR}/resources/windows/program.manifest")
 endfunction()
 
-# zandrove_install(TARGET): the program as a part of an installation. On Windows everything that it needs beside the
-# system lies in one folder with it.
+# Where the programs lie in an installation; what they look for beside themselves goes there too. On Windows everything
+# lies in one folder.
+include(GNUInstallDirs)
+set(ZANDROVE_PROGRAM_FOLDER ${CMAKE_INSTALL_BINDIR})
+if(WIN32)
+    set(ZANDROVE_PROGRAM_FOLDER .)
+endif()
+
+# zandrove_install(TARGET): the program as a part of an installation, on Windows with everything that it needs beside the
+# system.
 function(zandrove_install target)
-    include(GNUInstallDirs)
+    install(TARGETS ${target} RUNTIME DESTINATION ${ZANDROVE_PROGRAM_FOLDER})
     if(NOT WIN32)
-        install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
         return()
     endif()
-    install(TARGETS ${target} RUNTIME DESTINATION .)
     set(ZANDROVE_INSTALLED_PROGRAM $<TARGET_FILE:${target}>)
     configure_file(${CMAKE_SOURCE_DIR}/cmake/InstallLibraries.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/${target}.cmake.in @ONLY)
     file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${target}-libraries.cmake INPUT ${CMAKE_CURRENT_BINARY_DIR}/${target}.cmake.in)
