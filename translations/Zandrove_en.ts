@@ -959,24 +959,29 @@ Do you want to accept?</translation>
     <name>Zandrove::LinkManager</name>
     <message>
         <source>配置错误</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuration error</translation>
     </message>
     <message>
         <source>无法加载页面链接。
 
 请联系技术支持或重新安装软件。</source>
-        <translation type="unfinished"></translation>
+        <translation>The link to the page could not be loaded.
+
+Please contact technical support or install the program again.</translation>
     </message>
     <message>
         <source>无法打开浏览器</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot open the browser</translation>
     </message>
     <message>
         <source>无法打开默认浏览器。
 
 请手动复制链接访问：
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>The default browser could not be opened.
+
+Please copy the link and open it yourself:
+%1</translation>
     </message>
 </context>
 <context>
