@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 lupdate=$(qtpaths6 --query QT_HOST_BINS)/lupdate
 [ -x "$lupdate" ] || { echo "update-translations.sh: $lupdate is missing; scripts/setup.sh installs it" >&2; exit 1; }
 "$lupdate" -silent -no-obsolete -locations none -source-language en \
-    -disable-heuristic sametext -disable-heuristic similartext \
+    -disable-heuristic sametext -disable-heuristic similartext -disable-heuristic number \
     src translations/QtTexts.h -ts "$directory"/Zandrove_*.ts
 
 python3 - "$directory/Zandrove_en.ts" <<'PYTHON'

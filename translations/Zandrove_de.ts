@@ -614,14 +614,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Done in %1: %2</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>, %1 on average</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Files: %1 received, %2 failed, %3 skipped.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -663,6 +655,14 @@
     </message>
     <message>
         <source>%1 in applications and folders.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done in %1: %2, %3 on average.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done in %1: %2.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -614,14 +614,6 @@
         <translation>Cancelled by %1.</translation>
     </message>
     <message>
-        <source>Done in %1: %2</source>
-        <translation>Done in %1: %2</translation>
-    </message>
-    <message>
-        <source>, %1 on average</source>
-        <translation>, %1 on average</translation>
-    </message>
-    <message>
         <source>Files: %1 received, %2 failed, %3 skipped.</source>
         <translation>Files: %1 received, %2 failed, %3 skipped.</translation>
     </message>
@@ -664,6 +656,14 @@
     <message>
         <source>%1 in applications and folders.</source>
         <translation>%1 in applications and folders.</translation>
+    </message>
+    <message>
+        <source>Done in %1: %2, %3 on average.</source>
+        <translation>Done in %1: %2, %3 on average.</translation>
+    </message>
+    <message>
+        <source>Done in %1: %2.</source>
+        <translation>Done in %1: %2.</translation>
     </message>
 </context>
 <context>

@@ -196,10 +196,11 @@ void TextOutput::cancelled(Side by)
 void TextOutput::report(const MigrationReport &report)
 {
     const int seconds = static_cast<int>(report.startTime.secsTo(report.endTime));
-    QString head = tr("Done in %1: %2").arg(formatTime(seconds), formatSize(report.totalBytes));
-    if (report.averageSpeed > 0)
-        head += tr(", %1 on average").arg(formatSpeed(report.averageSpeed));
-    line(head + u'.');
+    const QString time = formatTime(seconds);
+    const QString size = formatSize(report.totalBytes);
+    line(report.averageSpeed > 0
+             ? tr("Done in %1: %2, %3 on average.").arg(time, size, formatSpeed(report.averageSpeed))
+             : tr("Done in %1: %2.").arg(time, size));
     const QString format = m_role == NewPC ? tr("Files: %1 received, %2 failed, %3 skipped.")
                                            : tr("Files: %1 sent, %2 failed, %3 skipped.");
     line(format.arg(QString::number(report.filesSuccess), QString::number(report.filesFailed),
