@@ -817,7 +817,7 @@ Do you want to accept?</source>
     </message>
     <message>
         <source>💡 Both PCs must be on the same network with Zandrove running</source>
-        <translation>💡 両方の PC を同じネットワークに接続し、Zandrove を実行しておく必要があります</translation>
+        <translation>💡 両方の PC を同じネットワークに接続し、Zandrove を実行してください</translation>
     </message>
     <message>
         <source>Refresh</source>
@@ -1142,7 +1142,7 @@ The application will restart now.</source>
     </message>
     <message>
         <source>Both computers need Zandrove installed and running</source>
-        <translation>両方のコンピューターに Zandrove をインストールし、実行しておく必要があります</translation>
+        <translation>どちらのコンピューターでも Zandrove をインストールして実行してください</translation>
     </message>
 </context>
 <context>
@@ -1622,7 +1622,7 @@ The application will restart now.</source>
     </message>
     <message>
         <source>Yes, Cancel</source>
-        <translation>はい、キャンセルします</translation>
+        <translation>はい、キャンセル</translation>
     </message>
     <message>
         <source>Continue Transfer</source>

@@ -317,7 +317,7 @@
     </message>
     <message>
         <source>%1 is not a folder.</source>
-        <translation>폴더가 아닙니다. %1.</translation>
+        <translation>%1은(는) 폴더가 아닙니다.</translation>
     </message>
     <message>
         <source>The folder %1 can&apos;t be read.</source>
