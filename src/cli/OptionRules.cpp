@@ -1,5 +1,7 @@
 #include "cli/OptionRules.h"
 
+#include "cli/Columns.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -164,28 +166,8 @@ const std::array Commands = {
                                   "settings.")},
 };
 
-/// `text` in lines of at most `width` columns, broken at blanks, each behind `indent` blanks but the first.
-QString wrapped(const QString &text, qsizetype indent, qsizetype width)
-{
-    QString result;
-    qsizetype column = indent;
-    for (const QString &word : text.split(u' ')) {
-        if (column > indent && column + 1 + word.size() > width) {
-            result += u'\n' + QString(indent, u' ');
-            column = indent;
-        }
-        if (column > indent) {
-            result += u' ';
-            ++column;
-        }
-        result += word;
-        column += word.size();
-    }
-    return result;
-}
-
-constexpr qsizetype HelpWidth = 88;
-constexpr qsizetype HelpIndent = 26;
+constexpr int HelpWidth = 88;
+constexpr int HelpIndent = 26;
 
 QString helpLine(const QString &head, const QString &text)
 {
@@ -209,8 +191,8 @@ QString exitCodeHelp()
 {
     return Text::tr(
         "Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 "
-        "wrong "
-        "usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C "
+        "wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with "
+        "Ctrl-C "
         "(the other PC is told; a second Ctrl-C ends at once).");
 }
 
