@@ -352,7 +352,7 @@
     </message>
     <message>
         <source>A folder to move; may be given several times.</source>
-        <translation>移動するフォルダー。複数回指定できます。</translation>
+        <translation>移行するフォルダー。複数回指定できます。</translation>
     </message>
     <message>
         <source>Let every PC in that asks, without a question.</source>
@@ -412,15 +412,15 @@
     </message>
     <message>
         <source>List what can be moved from this PC: applications, folders, accounts and settings.</source>
-        <translation>この PC から移動できるもの (アプリ、フォルダー、アカウント、設定) を一覧表示します。</translation>
+        <translation>この PC から移行できるもの (アプリ、フォルダー、アカウント、設定) を一覧表示します。</translation>
     </message>
     <message>
         <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>終了コード: 0 すべて移動または一覧表示した、1 接続または実行が失敗したか拒否された、2 使い方の誤り、3 タイムアウト、4 終了したが、失敗またはスキップしたものがある、130 Ctrl-C で取り消した (もう一方の PC に通知します。もう一度 Ctrl-C を押すとすぐに終了します)。</translation>
+        <translation>終了コード: 0 すべて移行または一覧表示した、1 接続または実行が失敗したか拒否された、2 使い方の誤り、3 タイムアウト、4 終了したが、失敗またはスキップしたものがある、130 Ctrl-C でキャンセルした (もう一方の PC に通知します。もう一度 Ctrl-C を押すとすぐに終了します)。</translation>
     </message>
     <message>
         <source>zandrove-cli moves folders from an Old PC to a New PC on the same network.</source>
-        <translation>zandrove-cli は、同じネットワーク上の旧 PC から新 PC へフォルダーを移動します。</translation>
+        <translation>zandrove-cli は、同じネットワーク上の旧 PC から新 PC へフォルダーを移行します。</translation>
     </message>
     <message>
         <source>This text; after a command, the help of that command.</source>
@@ -587,7 +587,7 @@
     </message>
     <message>
         <source>%1 was not moved: %2</source>
-        <translation>%1 は移動できませんでした: %2</translation>
+        <translation>%1 は移行できませんでした: %2</translation>
     </message>
     <message>
         <source>Paused.</source>
@@ -631,7 +631,7 @@
     </message>
     <message>
         <source>(cannot be moved)</source>
-        <translation>(移動できません)</translation>
+        <translation>(移行できません)</translation>
     </message>
     <message>
         <source>Applications: %1</source>
@@ -1000,7 +1000,7 @@ Do you want to accept?</source>
     </message>
     <message>
         <source>PC Migration Tool</source>
-        <translation>PC 引っ越しツール</translation>
+        <translation>PC 移行ツール</translation>
     </message>
     <message>
         <source>Version %1</source>
@@ -1460,7 +1460,7 @@ The application will restart now.</source>
     </message>
     <message>
         <source>Restore</source>
-        <translation>元に戻す</translation>
+        <translation>元のサイズに戻す</translation>
     </message>
 </context>
 <context>

@@ -1000,7 +1000,7 @@ Do you want to accept?</source>
     </message>
     <message>
         <source>PC Migration Tool</source>
-        <translation>PC 이전 도구</translation>
+        <translation>PC 마이그레이션 도구</translation>
     </message>
     <message>
         <source>Version %1</source>

@@ -1000,7 +1000,7 @@ Do you want to accept?</source>
     </message>
     <message>
         <source>PC Migration Tool</source>
-        <translation>電腦搬家工具</translation>
+        <translation>電腦移轉工具</translation>
     </message>
     <message>
         <source>Version %1</source>

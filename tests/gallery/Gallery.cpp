@@ -17,13 +17,16 @@
 #include "ui/pages/SelectionPage.h"
 #include "ui/pages/TransferPage.h"
 #include "ui/pages/WelcomePage.h"
+#include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/FileBrowserWidget.h"
 #include "ui/widgets/RoleCard.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QMessageBox>
 #include <QSignalSpy>
 #include <QTabWidget>
@@ -363,6 +366,25 @@ QList<Scene> scenes()
     return scenes;
 }
 
+/// Texts of visible labels and buttons below `window` that have less room than they need.
+QStringList cutTexts(const QWidget *window)
+{
+    QStringList result;
+    for (const QWidget *widget : window->findChildren<QWidget *>()) {
+        if (!widget->isVisible())
+            continue;
+        const auto *label = qobject_cast<const QLabel *>(widget);
+        const auto *button = qobject_cast<const QAbstractButton *>(widget);
+        if (button && widget->width() < widget->sizeHint().width())
+            result.append(button->text());
+        else if (label && !qobject_cast<const ElidedLabel *>(widget) &&
+                 (label->wordWrap() ? label->height() < label->heightForWidth(label->width())
+                                    : label->width() < label->sizeHint().width()))
+            result.append(label->text());
+    }
+    return result;
+}
+
 /// Makes the picture once the scene stands, or a dialog or menu of it stands open, and all that is queued has
 /// arrived.
 bool render(const Scene &scene, const QString &file)
@@ -377,6 +399,8 @@ bool render(const Scene &scene, const QString &file)
         look.stop();
         QTimer::singleShot(SettlingTime, &stage.window, [&] {
             saved = stage.view.picture().save(file);
+            for (const QString &text : cutTexts(stage.view.front()))
+                QTextStream(stderr) << scene.name << ": cut off: " << text << Qt::endl;
             QApplication::exit();
         });
     });
