@@ -1,6 +1,6 @@
 // Renders the window in its notable states to PNG files: zandrove-gallery [--language XX] FOLDER
 // [PART-OF-A-NAME]. Each state is reached through the window's own ways: its buttons, and what the engine
-// would tell it.
+// would tell it. Texts that are cut off are named.
 
 #include "SilentEngine.h"
 #include "WizardView.h"
