@@ -8,9 +8,11 @@ cd "$(dirname "$0")/.."
 
 lupdate=$(qtpaths6 --query QT_HOST_BINS)/lupdate
 [ -x "$lupdate" ] || { echo "update-translations.sh: $lupdate is missing; scripts/setup.sh installs it" >&2; exit 1; }
-"$lupdate" -silent -no-obsolete -locations none -source-language en \
+said=$("$lupdate" -silent -no-obsolete -locations none -source-language en \
     -disable-heuristic sametext -disable-heuristic similartext -disable-heuristic number \
-    src translations/QtTexts.h -ts "$directory"/Zandrove_*.ts
+    src translations/QtTexts.h -ts "$directory"/Zandrove_*.ts 2>&1)
+# A remark of lupdate is about a text that the running program would look for in another context.
+[ -z "$said" ] || { printf 'update-translations.sh: %s\n' "$said" >&2; exit 1; }
 
 python3 - "$directory/Zandrove_en.ts" <<'PYTHON'
 import pathlib, re, sys

@@ -68,7 +68,7 @@ KEPT = {
     "symbols": symbols,
     "last mark": last_mark,
     "accelerator key": lambda text: len(re.findall(r"&\w", text)),
-    "options": lambda text: sorted(re.findall(r"--[a-z]+|\[[^\]]*\]", text)),
+    "options": lambda text: sorted(re.findall(r"--[a-z]+|\[(?:DIR|y/N)\]", text)),
     "product name": lambda text: text.count("Zandrove"),
 }
 
@@ -100,7 +100,10 @@ def stale(by_language):
             shutil.copy(ROOT / f"translations/Zandrove_{language}.ts", scratch)
         # English is always there for the script to fill in.
         shutil.copy(ROOT / "translations/Zandrove_en.ts", scratch)
-        subprocess.run([ROOT / "scripts/update-translations.sh", scratch], check=True)
+        update = subprocess.run([ROOT / "scripts/update-translations.sh", scratch], capture_output=True, encoding="utf-8")
+        if update.returncode != 0:
+            yield update.stderr.strip()
+            return
         for language, current in by_language.items():
             wanted = {message.key() for message in messages(f"{scratch}/Zandrove_{language}.ts")}
             there = {message.key() for message in current}
