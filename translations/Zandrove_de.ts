@@ -379,7 +379,7 @@
     </message>
     <message>
         <source>End with exit code 3 when nothing has begun to arrive within S seconds. Counted anew each time the program starts to wait; a running transfer is never cut.</source>
-        <translation>Mit Exitcode 3 beenden, wenn innerhalb von S Sekunden nichts anzukommen beginnt. Zählt bei jedem neuen Warten von vorn; eine laufende Übertragung wird nie unterbrochen.</translation>
+        <translation>Mit Exitcode 3 beenden, wenn innerhalb von S Sekunden keine Übertragung beginnt. Zählt bei jedem neuen Warten von vorn; eine laufende Übertragung wird nie unterbrochen.</translation>
     </message>
     <message>
         <source>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</source>
@@ -483,7 +483,7 @@
     </message>
     <message>
         <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</source>
-        <translation>Mit Exitcode 3 beenden, wenn der neue PC nicht innerhalb von S Sekunden gefunden wurde und diesen PC zugelassen hat. Zählt ab dem Beginn der Suche; die Übertragung selbst wird nie unterbrochen.</translation>
+        <translation>Mit Exitcode 3 beenden, wenn der neue PC nicht innerhalb von S Sekunden gefunden wird und diesen PC zulässt. Zählt ab dem Beginn der Suche; die Übertragung selbst wird nie unterbrochen.</translation>
     </message>
     <message>
         <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
-        <translation>Innerhalb der Wartezeit (Sekunden: %1) ist nichts angekommen.</translation>
+        <translation>Innerhalb von %1 s ist nichts angekommen.</translation>
     </message>
 </context>
 <context>
