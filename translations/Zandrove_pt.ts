@@ -5,1693 +5,1772 @@
     <name>QAbstractSocket</name>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>A ligação foi recusada</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>A ligação excedeu o tempo limite</translation>
     </message>
     <message>
         <source>Host not found</source>
-        <translation type="unfinished"></translation>
+        <translation>O anfitrião não foi encontrado</translation>
     </message>
     <message>
         <source>Network unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>A rede está inacessível</translation>
     </message>
     <message>
         <source>Socket operation timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>A operação de rede excedeu o tempo limite</translation>
     </message>
 </context>
 <context>
     <name>QIODevice</name>
     <message>
         <source>No such file or directory</source>
-        <translation type="unfinished"></translation>
+        <translation>O ficheiro ou a pasta não existe</translation>
     </message>
     <message>
         <source>No space left on device</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há espaço suficiente no disco</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Acesso negado</translation>
     </message>
     <message>
         <source>Too many open files</source>
-        <translation type="unfinished"></translation>
+        <translation>Demasiados ficheiros abertos</translation>
     </message>
     <message>
         <source>Unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro desconhecido</translation>
     </message>
 </context>
 <context>
     <name>QLineEdit</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anular</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Refazer</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor&amp;tar</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Co&amp;lar</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecionar tudo</translation>
     </message>
 </context>
 <context>
     <name>QNativeSocketEngine</name>
     <message>
         <source>Connection refused</source>
-        <translation type="unfinished"></translation>
+        <translation>A ligação foi recusada</translation>
     </message>
     <message>
         <source>Connection reset by peer</source>
-        <translation type="unfinished"></translation>
+        <translation>O outro lado repôs a ligação</translation>
     </message>
     <message>
         <source>Connection timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>A ligação excedeu o tempo limite</translation>
     </message>
     <message>
         <source>Host unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>O anfitrião está inacessível</translation>
     </message>
     <message>
         <source>Network dropped connection on reset</source>
-        <translation type="unfinished"></translation>
+        <translation>A rede interrompeu a ligação ao ser reposta</translation>
     </message>
     <message>
         <source>Network operation timed out</source>
-        <translation type="unfinished"></translation>
+        <translation>A operação de rede excedeu o tempo limite</translation>
     </message>
     <message>
         <source>Network unreachable</source>
-        <translation type="unfinished"></translation>
+        <translation>A rede está inacessível</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Acesso negado</translation>
     </message>
     <message>
         <source>The address is not available</source>
-        <translation type="unfinished"></translation>
+        <translation>O endereço não está disponível</translation>
     </message>
     <message>
         <source>The remote host closed the connection</source>
-        <translation type="unfinished"></translation>
+        <translation>O outro lado fechou a ligação</translation>
     </message>
     <message>
         <source>Unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro desconhecido</translation>
     </message>
 </context>
 <context>
     <name>QPlatformTheme</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sim</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Não</translation>
     </message>
 </context>
 <context>
     <name>QScrollBar</name>
     <message>
         <source>Scroll here</source>
-        <translation type="unfinished"></translation>
+        <translation>Deslocar para aqui</translation>
     </message>
     <message>
         <source>Left edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Margem esquerda</translation>
     </message>
     <message>
         <source>Right edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Margem direita</translation>
     </message>
     <message>
         <source>Top</source>
-        <translation type="unfinished"></translation>
+        <translation>Início</translation>
     </message>
     <message>
         <source>Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Fim</translation>
     </message>
     <message>
         <source>Page left</source>
-        <translation type="unfinished"></translation>
+        <translation>Página para a esquerda</translation>
     </message>
     <message>
         <source>Page right</source>
-        <translation type="unfinished"></translation>
+        <translation>Página para a direita</translation>
     </message>
     <message>
         <source>Page up</source>
-        <translation type="unfinished"></translation>
+        <translation>Página para cima</translation>
     </message>
     <message>
         <source>Page down</source>
-        <translation type="unfinished"></translation>
+        <translation>Página para baixo</translation>
     </message>
     <message>
         <source>Scroll left</source>
-        <translation type="unfinished"></translation>
+        <translation>Deslocar para a esquerda</translation>
     </message>
     <message>
         <source>Scroll right</source>
-        <translation type="unfinished"></translation>
+        <translation>Deslocar para a direita</translation>
     </message>
     <message>
         <source>Scroll up</source>
-        <translation type="unfinished"></translation>
+        <translation>Deslocar para cima</translation>
     </message>
     <message>
         <source>Scroll down</source>
-        <translation type="unfinished"></translation>
+        <translation>Deslocar para baixo</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::AccountScanner</name>
     <message>
         <source>Scanning user accounts...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar contas de utilizador...</translation>
     </message>
     <message>
         <source>Enumerating Windows accounts...</source>
-        <translation type="unfinished"></translation>
+        <translation>A listar as contas do Windows...</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::AppInstaller</name>
     <message>
         <source>Copying install files...</source>
-        <translation type="unfinished"></translation>
+        <translation>A copiar os ficheiros de instalação...</translation>
     </message>
     <message>
         <source>Copying AppData files...</source>
-        <translation type="unfinished"></translation>
+        <translation>A copiar os ficheiros de AppData...</translation>
     </message>
     <message>
         <source>Importing registry...</source>
-        <translation type="unfinished"></translation>
+        <translation>A importar o Registo...</translation>
     </message>
     <message>
         <source>Creating shortcuts...</source>
-        <translation type="unfinished"></translation>
+        <translation>A criar atalhos...</translation>
     </message>
     <message>
         <source>Installation complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalação concluída</translation>
     </message>
     <message>
         <source>Failed to copy install files</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível copiar os ficheiros de instalação</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::AppListItem</name>
     <message>
         <source>System App</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicação do sistema</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::AppMigrator</name>
     <message>
         <source>Sending app info...</source>
-        <translation type="unfinished"></translation>
+        <translation>A enviar informações da aplicação...</translation>
     </message>
     <message>
         <source>Sending shortcuts...</source>
-        <translation type="unfinished"></translation>
+        <translation>A enviar atalhos...</translation>
     </message>
     <message>
         <source>Completing...</source>
-        <translation type="unfinished"></translation>
+        <translation>A concluir...</translation>
     </message>
     <message>
         <source>Exporting registry...</source>
-        <translation type="unfinished"></translation>
+        <translation>A exportar o Registo...</translation>
     </message>
     <message>
         <source>Sending install files...</source>
-        <translation type="unfinished"></translation>
+        <translation>A enviar os ficheiros de instalação...</translation>
     </message>
     <message>
         <source>Sending AppData Local...</source>
-        <translation type="unfinished"></translation>
+        <translation>A enviar AppData Local...</translation>
     </message>
     <message>
         <source>Sending AppData Roaming...</source>
-        <translation type="unfinished"></translation>
+        <translation>A enviar AppData Roaming...</translation>
     </message>
     <message>
         <source>Sending ProgramData...</source>
-        <translation type="unfinished"></translation>
+        <translation>A enviar ProgramData...</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::AppScanner</name>
     <message>
         <source>Scanning installed applications...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar aplicações instaladas...</translation>
     </message>
     <message>
         <source>Scanning user installed applications...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar aplicações instaladas pelo utilizador...</translation>
     </message>
     <message>
         <source>Scanning Program Files...</source>
-        <translation type="unfinished"></translation>
+        <translation>A analisar Program Files...</translation>
     </message>
     <message>
         <source>Scanning user software registry...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar software do utilizador no Registo...</translation>
     </message>
     <message>
         <source>Scan complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Análise concluída</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::Cli::DiscoverSession</name>
     <message>
         <source>this PC is only looking around.</source>
-        <translation type="unfinished"></translation>
+        <translation>este PC está apenas a procurar outros.</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::Cli::FolderCheck</name>
     <message>
         <source>There is no folder %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>A pasta %1 não existe.</translation>
     </message>
     <message>
         <source>%1 is not a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 não é uma pasta.</translation>
     </message>
     <message>
         <source>The folder %1 can&apos;t be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível ler a pasta %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::ItemChoice</name>
+    <message>
+        <source>The application %1 cannot be moved.</source>
+        <translation>Não é possível transferir a aplicação %1.</translation>
+    </message>
+    <message>
+        <source>There is no application %1 on this PC. See zandrove-cli scan.</source>
+        <translation>A aplicação %1 não existe neste PC. Consulte zandrove-cli scan.</translation>
+    </message>
+    <message>
+        <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
+        <translation>A definição %1 não existe neste PC. Consulte zandrove-cli scan.</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 não é um número de segundos entre 1 e %2.</translation>
     </message>
     <message>
         <source>--mode is network or cable, not %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>--mode é network ou cable, não %1.</translation>
     </message>
     <message>
         <source>--role is old or new, not %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>--role é old ou new, não %1.</translation>
     </message>
     <message>
         <source>--to needs a code, a name or an address.</source>
-        <translation type="unfinished"></translation>
+        <translation>--to precisa de um código, um nome ou um endereço.</translation>
     </message>
     <message>
         <source>--folder needs a folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>--folder precisa de uma pasta.</translation>
     </message>
     <message>
         <source>The New PC: the four digits on its screen, its name or its address.</source>
-        <translation type="unfinished"></translation>
+        <translation>O PC novo: os quatro algarismos que mostra no ecrã, o nome ou o endereço.</translation>
     </message>
     <message>
         <source>A folder to move; may be given several times.</source>
-        <translation type="unfinished"></translation>
+        <translation>Uma pasta a transferir; pode ser indicada várias vezes.</translation>
     </message>
     <message>
         <source>Let every PC in that asks, without a question.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deixar entrar todos os PC que o peçam, sem perguntar.</translation>
     </message>
     <message>
         <source>End after the first transfer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminar após a primeira transferência.</translation>
     </message>
     <message>
         <source>End with exit code 3 when nothing has begun to arrive within S seconds. Counted anew each time the program starts to wait; a running transfer is never cut.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds of the start. The transfer itself is never cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminar com o código de saída 3 se nenhuma transferência começar em S segundos. A contagem recomeça sempre que o programa volta a esperar; uma transferência em curso nunca é interrompida.</translation>
     </message>
     <message>
         <source>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</source>
-        <translation type="unfinished"></translation>
+        <translation>O que este PC é. Um PC antigo vê os PC novos, um PC novo vê os antigos.</translation>
     </message>
     <message>
         <source>Look for N seconds; without it, until Ctrl-C.</source>
-        <translation type="unfinished"></translation>
+        <translation>Procurar durante N segundos; sem esta opção, até Ctrl+C.</translation>
     </message>
     <message>
         <source>How PCs find each other: by broadcast (the default), or over a direct cable, where the addresses around this PC&apos;s own are tried as well.</source>
-        <translation type="unfinished"></translation>
+        <translation>Como os PC se encontram: por difusão (predefinição) ou através de um cabo direto, caso em que também são experimentados os endereços próximos do deste PC.</translation>
     </message>
     <message>
         <source>Obey commands on standard input, one a line: yes, no (answer a request), pause, resume, cancel, end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obedecer a comandos na entrada padrão, um por linha: yes, no (responder a um pedido), pause, resume, cancel, end.</translation>
     </message>
     <message>
         <source>Obey commands on standard input, one a line: pause, resume, cancel, again [DIR] (a further transfer on the same link), end. The link then stays after a transfer until end, or until standard input ends.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obedecer a comandos na entrada padrão, um por linha: pause, resume, cancel, again [DIR] (outra transferência na mesma ligação), end. Assim, a ligação mantém-se após uma transferência, até end ou até a entrada padrão terminar.</translation>
     </message>
     <message>
         <source>Print one JSON object a line, for scripts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escrever um objeto JSON por linha, para scripts.</translation>
     </message>
     <message>
         <source>Print the program&apos;s log on standard error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escrever o registo do programa na saída de erros padrão.</translation>
     </message>
     <message>
         <source>Be the New PC: show a code, wait for an Old PC, receive what it sends.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Be the Old PC: find the New PC, wait for its yes, send the folders.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ser o PC novo: mostrar um código, esperar por um PC antigo e receber o que este envia.</translation>
     </message>
     <message>
         <source>List the PCs on the network as they come and go.</source>
-        <translation type="unfinished"></translation>
+        <translation>Listar os PC da rede à medida que aparecem e desaparecem.</translation>
     </message>
     <message>
         <source>List what can be moved from this PC: applications, folders, accounts and settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Listar o que pode ser transferido deste PC: aplicações, pastas, contas e definições.</translation>
     </message>
     <message>
         <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>zandrove-cli moves folders from an Old PC to a New PC on the same network.</source>
-        <translation type="unfinished"></translation>
+        <translation>Códigos de saída: 0 tudo transferido ou listado; 1 a ligação ou a transferência falhou ou foi recusada; 2 utilização incorreta; 3 tempo limite excedido; 4 concluído, mas algo falhou ou foi ignorado; 130 cancelado com Ctrl+C (o outro PC é avisado; um segundo Ctrl+C termina de imediato).</translation>
     </message>
     <message>
         <source>This text; after a command, the help of that command.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este texto; depois de um comando, a ajuda desse comando.</translation>
     </message>
     <message>
         <source>The version of the program.</source>
-        <translation type="unfinished"></translation>
+        <translation>A versão do programa.</translation>
     </message>
     <message>
         <source>Unknown option %1. See --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Opção desconhecida: %1. Consulte --help.</translation>
     </message>
     <message>
         <source>%1 takes no value.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 não aceita nenhum valor.</translation>
     </message>
     <message>
         <source>%1 needs a value.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 precisa de um valor.</translation>
     </message>
     <message>
         <source>send needs --to with the New PC&apos;s code, name or address.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>send needs at least one --folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>send precisa de --to com o código, o nome ou o endereço do PC novo.</translation>
     </message>
     <message>
         <source>discover needs --role old or --role new.</source>
-        <translation type="unfinished"></translation>
+        <translation>discover precisa de --role old ou --role new.</translation>
     </message>
     <message>
         <source>Unexpected argument %1. See --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Argumento inesperado: %1. Consulte --help.</translation>
     </message>
     <message>
         <source>Say receive, send, discover or scan. See --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique receive, send, discover ou scan. Consulte --help.</translation>
     </message>
     <message>
         <source>Unknown command %1. See --help.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando desconhecido: %1. Consulte --help.</translation>
+    </message>
+    <message>
+        <source>An application to move, by the exact name that scan lists; may be given several times.</source>
+        <translation>Uma aplicação a transferir, com o nome exato que scan indica; pode ser indicada várias vezes.</translation>
+    </message>
+    <message>
+        <source>Move every application that can be moved.</source>
+        <translation>Transferir todas as aplicações que podem ser transferidas.</translation>
+    </message>
+    <message>
+        <source>A setting to move, by the id that scan lists; may be given several times.</source>
+        <translation>Uma definição a transferir, com o ID que scan indica; pode ser indicada várias vezes.</translation>
+    </message>
+    <message>
+        <source>Move every setting that this PC has.</source>
+        <translation>Transferir todas as definições deste PC.</translation>
+    </message>
+    <message>
+        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</source>
+        <translation>Terminar com o código de saída 3 se, em S segundos, o PC novo não for encontrado e não deixar entrar este PC. O tempo conta desde o início da procura; a transferência em si nunca é interrompida.</translation>
+    </message>
+    <message>
+        <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
+        <translation>Ser o PC antigo: encontrar o PC novo, esperar que este aceite e enviar pastas, aplicações e definições.</translation>
+    </message>
+    <message>
+        <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
+        <translation>zandrove-cli transfere pastas, aplicações e definições de um PC antigo para um PC novo na mesma rede.</translation>
+    </message>
+    <message>
+        <source>send needs something to move: a --folder, an --app or a --setting.</source>
+        <translation>send precisa de algo para transferir: --folder, --app ou --setting.</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::Cli::Output</name>
     <message>
         <source>Allow %1 to connect? [y/N] </source>
-        <translation type="unfinished"></translation>
+        <translation>Permitir que %1 se ligue? [y/N] </translation>
     </message>
 </context>
 <context>
     <name>Zandrove::Cli::ReceiveSession</name>
     <message>
         <source>Nobody can be asked here: every request will be refused without --yes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há aqui ninguém a quem perguntar: sem --yes, todos os pedidos serão recusados.</translation>
     </message>
     <message>
         <source>this PC is receiving from %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>este PC está a receber de %1.</translation>
     </message>
     <message>
         <source>nobody can be asked here. Start with --yes to let every PC in.</source>
-        <translation type="unfinished"></translation>
+        <translation>não há aqui ninguém a quem perguntar. Inicie com --yes para deixar entrar todos os PC.</translation>
     </message>
     <message>
         <source>%1 is not there any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 já não está presente.</translation>
     </message>
     <message>
         <source>The link to %1 broke during a transfer.</source>
-        <translation type="unfinished"></translation>
+        <translation>A ligação a %1 caiu durante uma transferência.</translation>
     </message>
     <message>
         <source>%1 ended the session during a transfer.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 terminou a sessão durante uma transferência.</translation>
     </message>
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada chegou em %1 s.</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::Cli::SendSession</name>
     <message>
         <source>this PC is sending to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>este PC está a enviar para %1.</translation>
     </message>
     <message>
         <source>The link to %1 broke.</source>
-        <translation type="unfinished"></translation>
+        <translation>A ligação a %1 caiu.</translation>
     </message>
     <message>
         <source>%1 ended the session.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 terminou a sessão.</translation>
     </message>
     <message>
         <source>There is no finished transfer to follow.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há nenhuma transferência concluída a que dar seguimento.</translation>
     </message>
     <message>
         <source>%1 was not found within %2 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 não foi encontrado em %2 s.</translation>
     </message>
     <message>
         <source>%1 did not answer within %2 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 não respondeu em %2 s.</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
     <message>
         <source>Unknown command: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando desconhecido: %1</translation>
     </message>
     <message>
         <source>The other PC did not end the session: not everything may have arrived.</source>
-        <translation type="unfinished"></translation>
+        <translation>O outro PC não terminou a sessão: pode não ter chegado tudo.</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::Cli::TextOutput</name>
     <message>
         <source>The code of this PC is %1. Waiting for an Old PC.</source>
-        <translation type="unfinished"></translation>
+        <translation>O código deste PC é %1. A aguardar um PC antigo.</translation>
     </message>
     <message>
         <source>code %1</source>
-        <translation type="unfinished"></translation>
+        <translation>código %1</translation>
     </message>
     <message>
         <source>Found %1. Waiting for it to let this PC in.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 encontrado. A aguardar que deixe entrar este PC.</translation>
     </message>
     <message>
         <source>%1 was refused.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 foi recusado.</translation>
     </message>
     <message>
         <source>%1 was refused: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 foi recusado: %2</translation>
     </message>
     <message>
         <source>Connected to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligado a %1.</translation>
     </message>
     <message>
         <source>Disconnected from %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Desligado de %1.</translation>
     </message>
     <message>
         <source>Receiving</source>
-        <translation type="unfinished"></translation>
+        <translation>A receber</translation>
     </message>
     <message>
         <source>Sending</source>
-        <translation type="unfinished"></translation>
+        <translation>A enviar</translation>
     </message>
     <message>
         <source>%1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>faltam %1</translation>
     </message>
     <message>
         <source>%1 was not moved: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 não foi transferido: %2</translation>
     </message>
     <message>
         <source>Paused.</source>
-        <translation type="unfinished"></translation>
+        <translation>Em pausa.</translation>
     </message>
     <message>
         <source>Paused by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Colocada em pausa por %1.</translation>
     </message>
     <message>
         <source>Resumed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retomada.</translation>
     </message>
     <message>
         <source>Resumed by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retomada por %1.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelada.</translation>
     </message>
     <message>
         <source>Cancelled by %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelada por %1.</translation>
     </message>
     <message>
         <source>Files: %1 received, %2 failed, %3 skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros – recebidos: %1; falhados: %2; ignorados: %3.</translation>
     </message>
     <message>
         <source>Files: %1 sent, %2 failed, %3 skipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros – enviados: %1; falhados: %2; ignorados: %3.</translation>
     </message>
     <message>
         <source>Files saved:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros guardados:</translation>
     </message>
     <message>
         <source>Scanning %1%  %2 applications</source>
-        <translation type="unfinished"></translation>
+        <translation>A analisar %1%  aplicações: %2</translation>
     </message>
     <message>
         <source>(cannot be moved)</source>
-        <translation type="unfinished"></translation>
+        <translation>(não pode ser transferida)</translation>
     </message>
     <message>
         <source>Applications: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicações: %1</translation>
     </message>
     <message>
         <source>files: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ficheiros: %1</translation>
     </message>
     <message>
         <source>Folders: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pastas: %1</translation>
     </message>
     <message>
         <source>Accounts: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Contas: %1</translation>
     </message>
     <message>
         <source>Settings: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições: %1</translation>
     </message>
     <message>
         <source>%1 in applications and folders.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 em aplicações e pastas.</translation>
     </message>
     <message>
         <source>Done in %1: %2, %3 on average.</source>
-        <translation type="unfinished"></translation>
+        <translation>Concluído em %1: %2, em média %3.</translation>
     </message>
     <message>
         <source>Done in %1: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Concluído em %1: %2.</translation>
+    </message>
+    <message>
+        <source>Applications:</source>
+        <translation>Aplicações:</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>instalada</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>enviada</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>Definições:</translation>
+    </message>
+    <message>
+        <source>applied</source>
+        <translation>aplicada</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>falhou</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>falhou: %1</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::CompletePage</name>
     <message>
         <source>Transfer Complete!</source>
-        <translation type="unfinished"></translation>
+        <translation>Transferência concluída!</translation>
     </message>
     <message>
         <source>Your files, apps and settings have been successfully transferred</source>
-        <translation type="unfinished"></translation>
+        <translation>Os seus ficheiros, aplicações e definições foram transferidos com êxito</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros</translation>
     </message>
     <message>
         <source>Apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicações</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições</translation>
     </message>
     <message>
         <source>Files saved to:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros guardados em:</translation>
     </message>
     <message>
         <source>Waiting for more files...</source>
-        <translation type="unfinished"></translation>
+        <translation>A aguardar mais ficheiros...</translation>
     </message>
     <message>
         <source>✓ Finished</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ Concluído</translation>
     </message>
     <message>
         <source>Finished</source>
-        <translation type="unfinished"></translation>
+        <translation>Concluído</translation>
     </message>
     <message>
         <source>📂 Send More Files...</source>
-        <translation type="unfinished"></translation>
+        <translation>📂 Enviar mais ficheiros...</translation>
     </message>
     <message>
         <source>Send More Files...</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar mais ficheiros...</translation>
     </message>
     <message>
         <source>Received Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros recebidos</translation>
     </message>
     <message>
         <source>%1 files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros: %1</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::ConnectionPage</name>
     <message>
         <source>Available Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivos disponíveis</translation>
     </message>
     <message>
         <source>%1 device(s) found, %2 online</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivos encontrados: %1, dos quais online: %2</translation>
     </message>
     <message>
         <source>Connecting to %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>A ligar a %1...</translation>
     </message>
     <message>
         <source>Verifying code...</source>
-        <translation type="unfinished"></translation>
+        <translation>A verificar o código...</translation>
     </message>
     <message>
         <source>Connection request from %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Pedido de ligação de %1...</translation>
     </message>
     <message>
         <source>Connection Request</source>
-        <translation type="unfinished"></translation>
+        <translation>Pedido de ligação</translation>
     </message>
     <message>
         <source>&apos;%1&apos; wants to connect to this PC.
 
 Do you want to accept?</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» quer ligar-se a este PC.
+
+Pretende aceitar?</translation>
     </message>
     <message>
         <source>Connection rejected</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligação rejeitada</translation>
     </message>
     <message>
         <source>The other PC is no longer waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>O outro PC já não está à espera</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligado</translation>
     </message>
     <message>
         <source>✓ Connected to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ Ligado a %1</translation>
     </message>
     <message>
         <source>✓ Connected successfully!</source>
-        <translation type="unfinished"></translation>
+        <translation>✓ Ligado com êxito!</translation>
     </message>
     <message>
         <source>✗ Connection failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>✗ A ligação falhou: %1</translation>
     </message>
     <message>
         <source>Scanning direct connection... 0%</source>
-        <translation type="unfinished"></translation>
+        <translation>A analisar a ligação direta... 0%</translation>
     </message>
     <message>
         <source>Scanning Direct Connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>A analisar a ligação direta...</translation>
     </message>
     <message>
         <source>Scanning direct connection... %1% (%2/%3)</source>
-        <translation type="unfinished"></translation>
+        <translation>A analisar a ligação direta... %1% (%2/%3)</translation>
     </message>
     <message>
         <source>No device found. Please ensure the other PC has Zandrove running</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum dispositivo encontrado. Certifique-se de que o Zandrove está em execução no outro PC</translation>
     </message>
     <message>
         <source>Looking for devices on your network...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar dispositivos na rede...</translation>
     </message>
     <message>
         <source>🔄 Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>🔄 Atualizar</translation>
     </message>
     <message>
         <source>Connect to Another PC</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligar a outro PC</translation>
     </message>
     <message>
         <source>Select a device or enter verification code</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecione um dispositivo ou introduza o código de verificação</translation>
     </message>
     <message>
         <source>💡 Both PCs must be on the same network with Zandrove running</source>
-        <translation type="unfinished"></translation>
+        <translation>💡 Os dois PC têm de estar na mesma rede e com o Zandrove em execução</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Atualizar</translation>
     </message>
     <message>
         <source>Scanned: 0 / 254</source>
-        <translation type="unfinished"></translation>
+        <translation>Analisados: 0 / 254</translation>
     </message>
     <message>
         <source>Please ensure the network cable is connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Certifique-se de que o cabo de rede está ligado</translation>
     </message>
     <message>
         <source>Your Verification Code</source>
-        <translation type="unfinished"></translation>
+        <translation>O seu código de verificação</translation>
     </message>
     <message>
         <source>Show this code to the other PC</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduza este código no outro PC</translation>
     </message>
     <message>
         <source>Or Enter Their Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Ou introduza o código dele</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligar</translation>
     </message>
     <message>
         <source>Their code, character %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Código do outro PC, carácter %1</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::FileBrowserWidget</name>
     <message>
         <source>Quick Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Acesso Rápido</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecionar tudo</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar seleção</translation>
     </message>
     <message>
         <source>Select folders to transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecione as pastas a transferir</translation>
     </message>
     <message>
         <source>Desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Ambiente de trabalho</translation>
     </message>
     <message>
         <source>My Documents</source>
-        <translation type="unfinished"></translation>
+        <translation>Documentos</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagens</translation>
     </message>
     <message>
         <source>Videos</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeos</translation>
     </message>
     <message>
         <source>Music</source>
-        <translation type="unfinished"></translation>
+        <translation>Música</translation>
     </message>
     <message>
         <source>Downloads</source>
-        <translation type="unfinished"></translation>
+        <translation>Transferências</translation>
     </message>
     <message>
         <source>This PC</source>
-        <translation type="unfinished"></translation>
+        <translation>Este PC</translation>
     </message>
     <message>
         <source>Local Disk (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Disco Local (%1)</translation>
     </message>
     <message>
         <source> - %1 free of %2</source>
-        <translation type="unfinished"></translation>
+        <translation> – %1 livres de %2</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::FileReceiverWorker</name>
     <message>
         <source>Write error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro de escrita</translation>
     </message>
     <message>
         <source>Received Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros recebidos</translation>
     </message>
     <message>
         <source>Failed to create file</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível criar o ficheiro</translation>
     </message>
     <message>
         <source>Checksum mismatch</source>
-        <translation type="unfinished"></translation>
+        <translation>A soma de verificação não coincide</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::FileScanner</name>
     <message>
         <source>Starting folder scan...</source>
-        <translation type="unfinished"></translation>
+        <translation>A iniciar a análise das pastas...</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::FileSenderWorker</name>
     <message>
         <source>File not found: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiro não encontrado: %1</translation>
     </message>
     <message>
         <source>Cannot open file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível abrir o ficheiro: %1</translation>
     </message>
     <message>
         <source>not a regular file</source>
-        <translation type="unfinished"></translation>
+        <translation>não é um ficheiro normal</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::FolderListItem</name>
     <message>
         <source>%1 files, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros: %1, %2</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::LinkManager</name>
     <message>
         <source>配置错误</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro de configuração</translation>
     </message>
     <message>
         <source>无法加载页面链接。
 
 请联系技术支持或重新安装软件。</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível carregar a hiperligação da página.
+
+Contacte o suporte técnico ou reinstale a aplicação.</translation>
     </message>
     <message>
         <source>无法打开浏览器</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível abrir o browser</translation>
     </message>
     <message>
         <source>无法打开默认浏览器。
 
 请手动复制链接访问：
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível abrir o browser predefinido.
+
+Copie a hiperligação e abra-a manualmente:
+%1</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::MainWindow</name>
     <message>
         <source>Finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Concluir</translation>
     </message>
     <message>
         <source>Next →</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguinte →</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguinte</translation>
     </message>
     <message>
         <source>PC Migration Tool</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferramenta de migração entre PC</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versão %1</translation>
     </message>
     <message>
         <source>Transfer files, apps, and settings between PCs easily.</source>
-        <translation type="unfinished"></translation>
+        <translation>Transfira facilmente ficheiros, aplicações e definições entre PC.</translation>
     </message>
     <message>
         <source>Copyright © %1. All rights reserved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copyright © %1. Todos os direitos reservados.</translation>
     </message>
     <message>
         <source>About Zandrove</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca do Zandrove</translation>
     </message>
     <message>
         <source>Language Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma alterado</translation>
     </message>
     <message>
         <source>Language has been changed.
 
 The application will restart now.</source>
-        <translation type="unfinished"></translation>
+        <translation>O idioma foi alterado.
+
+A aplicação vai ser reiniciada agora.</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>Registar</translation>
     </message>
     <message>
         <source>This copy of Zandrove is registered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta cópia do Zandrove está registada.</translation>
     </message>
     <message>
         <source>This copy of Zandrove is not registered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta cópia do Zandrove não está registada.</translation>
     </message>
     <message>
         <source>← Back</source>
-        <translation type="unfinished"></translation>
+        <translation>← Anterior</translation>
     </message>
     <message>
         <source>Back</source>
-        <translation type="unfinished"></translation>
+        <translation>Anterior</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::MigrationManager</name>
+    <message>
+        <source>[App] %1</source>
+        <translation>[Aplicação] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[Definição] %1</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::NetworkManager</name>
     <message>
         <source>PC not found</source>
-        <translation type="unfinished"></translation>
+        <translation>PC não encontrado</translation>
     </message>
     <message>
         <source>No device found with verification code: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum dispositivo encontrado com o código de verificação: %1</translation>
     </message>
     <message>
         <source>Unknown error</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro desconhecido</translation>
     </message>
     <message>
         <source>Connection timeout</source>
-        <translation type="unfinished"></translation>
+        <translation>A ligação excedeu o tempo limite</translation>
     </message>
     <message>
         <source>Connection rejected</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligação rejeitada</translation>
     </message>
     <message>
         <source>PC at %1</source>
-        <translation type="unfinished"></translation>
+        <translation>PC em %1</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::PCListItem</name>
     <message>
         <source>Online</source>
-        <translation type="unfinished"></translation>
+        <translation>Online</translation>
     </message>
     <message>
         <source>Offline</source>
-        <translation type="unfinished"></translation>
+        <translation>Offline</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::ProgressCard</name>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidade</translation>
     </message>
     <message>
         <source>Remaining</source>
-        <translation type="unfinished"></translation>
+        <translation>Restante</translation>
     </message>
     <message>
         <source>of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>de %1</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::ProgressDots</name>
     <message>
         <source>Step %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Passo %1 de %2</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::RoleCard</name>
     <message>
         <source>Old PC</source>
-        <translation type="unfinished"></translation>
+        <translation>PC antigo</translation>
     </message>
     <message>
         <source>New PC</source>
-        <translation type="unfinished"></translation>
+        <translation>PC novo</translation>
     </message>
     <message>
         <source>Source / Sender</source>
-        <translation type="unfinished"></translation>
+        <translation>Origem / remetente</translation>
     </message>
     <message>
         <source>Target / Receiver</source>
-        <translation type="unfinished"></translation>
+        <translation>Destino / destinatário</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::RolePage</name>
     <message>
         <source>Select This PC&apos;s Role</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecione a função deste PC</translation>
     </message>
     <message>
         <source>Choose what role this computer plays in the transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha a função deste PC na transferência</translation>
     </message>
     <message>
         <source>Both computers need Zandrove installed and running</source>
-        <translation type="unfinished"></translation>
+        <translation>O Zandrove tem de estar instalado e em execução nos dois PC</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::ScanningPage</name>
     <message>
         <source>Finding apps, files and settings to transfer...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar aplicações, ficheiros e definições para transferir...</translation>
     </message>
     <message>
         <source>Scanning system...</source>
-        <translation type="unfinished"></translation>
+        <translation>A analisar o sistema...</translation>
     </message>
     <message>
         <source>Scanning Your PC</source>
-        <translation type="unfinished"></translation>
+        <translation>A analisar o seu PC</translation>
     </message>
     <message>
         <source>Applications</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicações</translation>
     </message>
     <message>
         <source>Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Contas</translation>
     </message>
     <message>
         <source>Scan complete!</source>
-        <translation type="unfinished"></translation>
+        <translation>Análise concluída!</translation>
     </message>
     <message>
         <source>Found items ready to transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Os itens encontrados podem ser transferidos</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::SelectionPage</name>
     <message>
         <source>Total: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Total: %1</translation>
     </message>
     <message>
         <source>Applications (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicações (%1)</translation>
     </message>
     <message>
         <source>Files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros (%1)</translation>
     </message>
     <message>
         <source>Settings (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições (%1)</translation>
     </message>
     <message>
         <source>Applications</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicações</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros</translation>
     </message>
     <message>
         <source>Accounts &amp; Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Contas e definições</translation>
     </message>
     <message>
         <source>Total: 0 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>Total: 0 GB</translation>
     </message>
     <message>
         <source>Select Content to Transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecione o que pretende transferir</translation>
     </message>
     <message>
         <source>Select All Applications</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecionar todas as aplicações</translation>
     </message>
     <message>
         <source>User Accounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Contas de utilizador</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecionar tudo</translation>
     </message>
     <message>
         <source>System Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições do sistema</translation>
     </message>
     <message>
         <source>Same-name files:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros com o mesmo nome:</translation>
     </message>
     <message>
         <source>Skip</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorar</translation>
     </message>
     <message>
         <source>Overwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>Substituir</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Mudar o nome</translation>
     </message>
     <message>
         <source>Existing apps:</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicações existentes:</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::SettingMigrator</name>
     <message>
         <source>Export failed</source>
-        <translation type="unfinished"></translation>
+        <translation>A exportação falhou</translation>
     </message>
     <message>
         <source>Failed to apply setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível aplicar a definição</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::SettingScanner</name>
     <message>
         <source>Scanning system settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar definições do sistema...</translation>
     </message>
     <message>
         <source>Desktop Wallpaper</source>
-        <translation type="unfinished"></translation>
+        <translation>Fundo do ambiente de trabalho</translation>
     </message>
     <message>
         <source>Personalization</source>
-        <translation type="unfinished"></translation>
+        <translation>Personalização</translation>
     </message>
     <message>
         <source>Current desktop background image</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagem de fundo atual do ambiente de trabalho</translation>
     </message>
     <message>
         <source>Scanning taskbar settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar definições da barra de tarefas...</translation>
     </message>
     <message>
         <source>Taskbar Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições da barra de tarefas</translation>
     </message>
     <message>
         <source>Taskbar position, auto-hide, and icon settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Posição, ocultação automática e ícones da barra de tarefas</translation>
     </message>
     <message>
         <source>Scanning file explorer settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar definições do Explorador de Ficheiros...</translation>
     </message>
     <message>
         <source>File Explorer Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições do Explorador de Ficheiros</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message>
         <source>Show hidden files, file extensions, view options</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros ocultos, extensões de ficheiros, opções de visualização</translation>
     </message>
     <message>
         <source>Scanning mouse settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar definições do rato...</translation>
     </message>
     <message>
         <source>Mouse Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições do rato</translation>
     </message>
     <message>
         <source>Hardware</source>
-        <translation type="unfinished"></translation>
+        <translation>Hardware</translation>
     </message>
     <message>
         <source>Mouse speed, button configuration, scroll settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidade do ponteiro, botões, deslocamento</translation>
     </message>
     <message>
         <source>Scanning keyboard settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar definições do teclado...</translation>
     </message>
     <message>
         <source>Keyboard Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições do teclado</translation>
     </message>
     <message>
         <source>Keyboard repeat rate and delay</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidade e atraso de repetição do teclado</translation>
     </message>
     <message>
         <source>Scanning power settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar definições de energia...</translation>
     </message>
     <message>
         <source>Power Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições de energia</translation>
     </message>
     <message>
         <source>Current power plan settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições do esquema de energia atual</translation>
     </message>
     <message>
         <source>Scanning environment variables...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar variáveis de ambiente...</translation>
     </message>
     <message>
         <source>User Environment Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Variáveis de ambiente do utilizador</translation>
     </message>
     <message>
         <source>User-defined environment variables (%1 variables)</source>
-        <translation type="unfinished"></translation>
+        <translation>Variáveis de ambiente definidas pelo utilizador (%1)</translation>
     </message>
     <message>
         <source>Scanning display settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar definições de visualização...</translation>
     </message>
     <message>
         <source>Theme &amp; Display Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Tema e visualização</translation>
     </message>
     <message>
         <source>Dark/Light mode, transparency, color settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo escuro/claro, transparência, cores</translation>
     </message>
     <message>
         <source>Scanning sound settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>A procurar definições de som...</translation>
     </message>
     <message>
         <source>Sound Scheme</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquema de sons</translation>
     </message>
     <message>
         <source>System sounds and notification settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Sons do sistema e definições de notificação</translation>
     </message>
     <message>
         <source>Scan complete</source>
-        <translation type="unfinished"></translation>
+        <translation>Análise concluída</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::StageIndicator</name>
     <message>
         <source>Prepare</source>
-        <translation type="unfinished"></translation>
+        <translation>Preparar</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros</translation>
     </message>
     <message>
         <source>Apps</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicações</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Definições</translation>
     </message>
     <message>
         <source>Verify</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificar</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::TitleBar</name>
     <message>
         <source>Activate</source>
-        <translation type="unfinished"></translation>
+        <translation>Ativar</translation>
     </message>
     <message>
         <source>Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizar</translation>
     </message>
     <message>
         <source>Maximize</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximizar</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation type="unfinished"></translation>
+        <translation>Registar</translation>
     </message>
     <message>
         <source>Purchase</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajuda</translation>
     </message>
     <message>
         <source>Support</source>
-        <translation type="unfinished"></translation>
+        <translation>Suporte</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::TransferEngine</name>
     <message>
         <source>Network manager not initialized</source>
-        <translation type="unfinished"></translation>
+        <translation>A rede não está inicializada</translation>
     </message>
     <message>
         <source>Discovery started. Verification code: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Procura iniciada. Código de verificação: %1</translation>
     </message>
     <message>
         <source>Broadcast restarted. Verification code: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Difusão reiniciada. Código de verificação: %1</translation>
     </message>
     <message>
         <source>No PC found with verification code: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nenhum PC encontrado com o código de verificação: %1</translation>
     </message>
     <message>
         <source>Invalid verification code</source>
-        <translation type="unfinished"></translation>
+        <translation>Código de verificação inválido</translation>
     </message>
     <message>
         <source>Connected to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligado a %1</translation>
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>Desligado</translation>
     </message>
     <message>
         <source>Connection failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A ligação falhou: %1</translation>
     </message>
     <message>
         <source>Connection timeout</source>
-        <translation type="unfinished"></translation>
+        <translation>A ligação excedeu o tempo limite</translation>
     </message>
     <message>
         <source>Transfer already in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Já está em curso uma transferência</translation>
     </message>
     <message>
         <source>Cannot start transfer. Check connection and selection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não é possível iniciar a transferência. Verifique a ligação e a seleção.</translation>
     </message>
     <message>
         <source>Transfer started - %1 items selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Transferência iniciada – itens selecionados: %1</translation>
     </message>
     <message>
         <source>Waiting to receive files...</source>
-        <translation type="unfinished"></translation>
+        <translation>A aguardar ficheiros...</translation>
     </message>
     <message>
         <source>Transfer paused</source>
-        <translation type="unfinished"></translation>
+        <translation>Transferência em pausa</translation>
     </message>
     <message>
         <source>Transfer resumed</source>
-        <translation type="unfinished"></translation>
+        <translation>Transferência retomada</translation>
     </message>
     <message>
         <source>Transfer cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Transferência cancelada</translation>
     </message>
     <message>
         <source>Retrying failed items...</source>
-        <translation type="unfinished"></translation>
+        <translation>A repetir os itens que falharam...</translation>
     </message>
     <message>
         <source>Transfer completed - Success rate: %1%</source>
-        <translation type="unfinished"></translation>
+        <translation>Transferência concluída – taxa de êxito: %1%</translation>
     </message>
     <message>
         <source>Transfer failed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A transferência falhou: %1</translation>
     </message>
     <message>
         <source>Engine reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Reposição efetuada</translation>
     </message>
     <message>
         <source>Ready for new connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto para uma nova ligação</translation>
     </message>
     <message>
         <source>Scan already in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>A análise já está em curso</translation>
     </message>
     <message>
         <source>Not connected to source PC</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem ligação ao PC de origem</translation>
     </message>
     <message>
         <source>Starting system scan...</source>
-        <translation type="unfinished"></translation>
+        <translation>A iniciar a análise do sistema...</translation>
     </message>
     <message>
         <source>Scan cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Análise cancelada</translation>
     </message>
     <message>
         <source>Scan error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro na análise: %1</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::TransferPage</name>
     <message>
         <source>Receiving Data</source>
-        <translation type="unfinished"></translation>
+        <translation>A receber dados</translation>
     </message>
     <message>
         <source>Sending Data</source>
-        <translation type="unfinished"></translation>
+        <translation>A enviar dados</translation>
     </message>
     <message>
         <source>Waiting for Data...</source>
-        <translation type="unfinished"></translation>
+        <translation>A aguardar dados...</translation>
     </message>
     <message>
         <source>Waiting...</source>
-        <translation type="unfinished"></translation>
+        <translation>A aguardar...</translation>
     </message>
     <message>
         <source>Receiving Data - %1%</source>
-        <translation type="unfinished"></translation>
+        <translation>A receber dados – %1%</translation>
     </message>
     <message>
         <source>Sending Data - %1%</source>
-        <translation type="unfinished"></translation>
+        <translation>A enviar dados – %1%</translation>
     </message>
     <message>
         <source>Transfer Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>A transferência falhou</translation>
     </message>
     <message>
         <source>Receiving Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>Receção em pausa</translation>
     </message>
     <message>
         <source>Sending Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>Envio em pausa</translation>
     </message>
     <message>
         <source>Cancel Transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar transferência</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the transfer?</source>
-        <translation type="unfinished"></translation>
+        <translation>Tem a certeza de que pretende cancelar a transferência?</translation>
     </message>
     <message>
         <source>All progress will be lost and incomplete files may remain on the destination.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo o progresso será perdido e podem ficar ficheiros incompletos no PC de destino.</translation>
     </message>
     <message>
         <source>Yes, Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Sim, cancelar</translation>
     </message>
     <message>
         <source>Continue Transfer</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuar a transferir</translation>
     </message>
     <message>
         <source>Sender cancelled. Waiting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelada pelo remetente. A aguardar...</translation>
     </message>
     <message>
         <source>Transferring Data</source>
-        <translation type="unfinished"></translation>
+        <translation>A transferir dados</translation>
     </message>
     <message>
         <source>Current Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros atuais</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetir</translation>
     </message>
     <message>
         <source>▶ Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>▶ Retomar</translation>
     </message>
     <message>
         <source>⏸ Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>⏸ Pausa</translation>
     </message>
     <message>
         <source>Resume</source>
-        <translation type="unfinished"></translation>
+        <translation>Retomar</translation>
     </message>
     <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausa</translation>
     </message>
     <message>
         <source>%1 failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Falhas: %1</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::VerifyCodeWidget</name>
     <message>
         <source>Verification Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Código de verificação</translation>
     </message>
     <message>
         <source>Enter on the other PC</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduza no outro PC</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::WelcomePage</name>
     <message>
         <source>Transfer files, apps and settings to your new PC</source>
-        <translation type="unfinished"></translation>
+        <translation>Transfira ficheiros, aplicações e definições para o seu novo PC</translation>
     </message>
     <message>
         <source>Network Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de rede</translation>
     </message>
     <message>
         <source>Wi-Fi / LAN (Same Network)</source>
-        <translation type="unfinished"></translation>
+        <translation>Wi-Fi / LAN (mesma rede)</translation>
     </message>
     <message>
         <source>Cable Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de cabo</translation>
     </message>
     <message>
         <source>USB-C or Ethernet Cable</source>
-        <translation type="unfinished"></translation>
+        <translation>Cabo USB-C ou Ethernet</translation>
     </message>
 </context>
 </TS>
