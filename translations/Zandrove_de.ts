@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>Be the New PC: show a code, wait for an Old PC, receive what it sends.</source>
-        <translation>Der neue PC sein: einen Code anzeigen, auf einen alten PC warten und empfangen, was er sendet.</translation>
+        <translation>Als neuer PC einen Code anzeigen, auf einen alten PC warten und empfangen, was er sendet.</translation>
     </message>
     <message>
         <source>List the PCs on the network as they come and go.</source>
@@ -471,7 +471,7 @@
     </message>
     <message>
         <source>Move every application that can be moved.</source>
-        <translation>Jede App übertragen, die übertragen werden kann.</translation>
+        <translation>Alle Apps übertragen, bei denen das möglich ist.</translation>
     </message>
     <message>
         <source>A setting to move, by the id that scan lists; may be given several times.</source>
@@ -487,7 +487,7 @@
     </message>
     <message>
         <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
-        <translation>Der alte PC sein: den neuen PC finden, auf dessen Ja warten, Ordner, Apps und Einstellungen senden.</translation>
+        <translation>Als alter PC den neuen PC finden, auf dessen Zustimmung warten und Ordner, Apps und Einstellungen senden.</translation>
     </message>
     <message>
         <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
@@ -1352,11 +1352,11 @@ Die App wird jetzt neu gestartet.</translation>
     </message>
     <message>
         <source>Scanning taskbar settings...</source>
-        <translation>Einstellungen der Taskleiste werden gesucht...</translation>
+        <translation>Taskleisteneinstellungen werden gesucht...</translation>
     </message>
     <message>
         <source>Taskbar Settings</source>
-        <translation>Taskleiste</translation>
+        <translation>Taskleisteneinstellungen</translation>
     </message>
     <message>
         <source>Taskbar position, auto-hide, and icon settings</source>
@@ -1364,11 +1364,11 @@ Die App wird jetzt neu gestartet.</translation>
     </message>
     <message>
         <source>Scanning file explorer settings...</source>
-        <translation>Einstellungen des Explorers werden gesucht...</translation>
+        <translation>Explorer-Einstellungen werden gesucht...</translation>
     </message>
     <message>
         <source>File Explorer Settings</source>
-        <translation>Explorer</translation>
+        <translation>Explorer-Einstellungen</translation>
     </message>
     <message>
         <source>System</source>
@@ -1436,7 +1436,7 @@ Die App wird jetzt neu gestartet.</translation>
     </message>
     <message>
         <source>Theme &amp; Display Settings</source>
-        <translation>Design und Anzeige</translation>
+        <translation>Design- und Anzeigeeinstellungen</translation>
     </message>
     <message>
         <source>Dark/Light mode, transparency, color settings</source>
@@ -1601,7 +1601,7 @@ Die App wird jetzt neu gestartet.</translation>
     </message>
     <message>
         <source>Retrying failed items...</source>
-        <translation>Fehlgeschlagene Elemente werden wiederholt...</translation>
+        <translation>Fehlgeschlagene Elemente werden erneut übertragen...</translation>
     </message>
     <message>
         <source>Transfer completed - Success rate: %1%</source>
@@ -1754,7 +1754,7 @@ Die App wird jetzt neu gestartet.</translation>
     <name>Zandrove::WelcomePage</name>
     <message>
         <source>Transfer files, apps and settings to your new PC</source>
-        <translation>Dateien, Apps und Einstellungen auf Ihren neuen PC übertragen</translation>
+        <translation>Dateien, Apps und Einstellungen auf Ihren neuen PC übertragen</translation>
     </message>
     <message>
         <source>Network Mode</source>

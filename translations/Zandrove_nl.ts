@@ -363,7 +363,7 @@
     </message>
     <message>
         <source>The New PC: the four digits on its screen, its name or its address.</source>
-        <translation>De nieuwe pc: de vier cijfers op het scherm ervan, de naam of het adres.</translation>
+        <translation>De nieuwe pc: de vier cijfers op zijn scherm, zijn naam of zijn adres.</translation>
     </message>
     <message>
         <source>A folder to move; may be given several times.</source>
@@ -371,7 +371,7 @@
     </message>
     <message>
         <source>Let every PC in that asks, without a question.</source>
-        <translation>Elke pc die erom vraagt toelaten, zonder te vragen.</translation>
+        <translation>Elke pc die zich meldt toelaten, zonder vraag vooraf.</translation>
     </message>
     <message>
         <source>End after the first transfer.</source>
@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>Be the New PC: show a code, wait for an Old PC, receive what it sends.</source>
-        <translation>De nieuwe pc zijn: een code tonen, op een oude pc wachten en ontvangen wat die verzendt.</translation>
+        <translation>Als nieuwe pc een code tonen, op een oude pc wachten en ontvangen wat die verzendt.</translation>
     </message>
     <message>
         <source>List the PCs on the network as they come and go.</source>
@@ -471,7 +471,7 @@
     </message>
     <message>
         <source>Move every application that can be moved.</source>
-        <translation>Alle apps overzetten die kunnen worden overgezet.</translation>
+        <translation>Alle apps overzetten waarbij dat mogelijk is.</translation>
     </message>
     <message>
         <source>A setting to move, by the id that scan lists; may be given several times.</source>
@@ -487,7 +487,7 @@
     </message>
     <message>
         <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
-        <translation>De oude pc zijn: de nieuwe pc zoeken, op de toestemming ervan wachten en mappen, apps en instellingen verzenden.</translation>
+        <translation>Als oude pc de nieuwe pc zoeken, op toestemming wachten en mappen, apps en instellingen verzenden.</translation>
     </message>
     <message>
         <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
@@ -900,7 +900,7 @@ Wilt u dit toestaan?</translation>
     </message>
     <message>
         <source>Or Enter Their Code</source>
-        <translation>Of voer hun code in</translation>
+        <translation>Of de code van de andere pc</translation>
     </message>
     <message>
         <source>Connect</source>
@@ -989,7 +989,7 @@ Wilt u dit toestaan?</translation>
     <name>Zandrove::FileScanner</name>
     <message>
         <source>Starting folder scan...</source>
-        <translation>Mappen scannen starten...</translation>
+        <translation>De mappenscan wordt gestart...</translation>
     </message>
 </context>
 <context>
@@ -1436,7 +1436,7 @@ De app wordt nu opnieuw gestart.</translation>
     </message>
     <message>
         <source>Theme &amp; Display Settings</source>
-        <translation>Thema en beeldscherm</translation>
+        <translation>Thema- en beeldscherminstellingen</translation>
     </message>
     <message>
         <source>Dark/Light mode, transparency, color settings</source>
@@ -1601,7 +1601,7 @@ De app wordt nu opnieuw gestart.</translation>
     </message>
     <message>
         <source>Retrying failed items...</source>
-        <translation>Mislukte items opnieuw proberen...</translation>
+        <translation>Mislukte items opnieuw overzetten...</translation>
     </message>
     <message>
         <source>Transfer completed - Success rate: %1%</source>
@@ -1629,7 +1629,7 @@ De app wordt nu opnieuw gestart.</translation>
     </message>
     <message>
         <source>Starting system scan...</source>
-        <translation>Systeemscan starten...</translation>
+        <translation>De systeemscan wordt gestart...</translation>
     </message>
     <message>
         <source>Scan cancelled</source>

@@ -306,7 +306,7 @@
     <name>Zandrove::Cli::DiscoverSession</name>
     <message>
         <source>this PC is only looking around.</source>
-        <translation>este PC está apenas a procurar outros.</translation>
+        <translation>este PC está apenas a ver quem há na rede.</translation>
     </message>
 </context>
 <context>
@@ -379,7 +379,7 @@
     </message>
     <message>
         <source>End with exit code 3 when nothing has begun to arrive within S seconds. Counted anew each time the program starts to wait; a running transfer is never cut.</source>
-        <translation>Terminar com o código de saída 3 se nenhuma transferência começar em S segundos. A contagem recomeça sempre que o programa volta a esperar; uma transferência em curso nunca é interrompida.</translation>
+        <translation>Terminar com o código de saída 3 se nenhuma transferência começar no prazo de S segundos. A contagem recomeça sempre que o programa volta a esperar; uma transferência em curso nunca é interrompida.</translation>
     </message>
     <message>
         <source>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</source>
@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>Be the New PC: show a code, wait for an Old PC, receive what it sends.</source>
-        <translation>Ser o PC novo: mostrar um código, esperar por um PC antigo e receber o que este envia.</translation>
+        <translation>Como PC novo, mostrar um código, esperar por um PC antigo e receber o que este enviar.</translation>
     </message>
     <message>
         <source>List the PCs on the network as they come and go.</source>
@@ -471,7 +471,7 @@
     </message>
     <message>
         <source>Move every application that can be moved.</source>
-        <translation>Transferir todas as aplicações que podem ser transferidas.</translation>
+        <translation>Transferir todas as aplicações que for possível transferir.</translation>
     </message>
     <message>
         <source>A setting to move, by the id that scan lists; may be given several times.</source>
@@ -483,11 +483,11 @@
     </message>
     <message>
         <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</source>
-        <translation>Terminar com o código de saída 3 se, em S segundos, o PC novo não for encontrado e não deixar entrar este PC. O tempo conta desde o início da procura; a transferência em si nunca é interrompida.</translation>
+        <translation>Terminar com o código de saída 3 se, no prazo de S segundos, o PC novo não for encontrado ou não deixar entrar este PC. O tempo conta desde o início da procura; a transferência em si nunca é interrompida.</translation>
     </message>
     <message>
         <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
-        <translation>Ser o PC antigo: encontrar o PC novo, esperar que este aceite e enviar pastas, aplicações e definições.</translation>
+        <translation>Como PC antigo, encontrar o PC novo, esperar que este aceite e enviar pastas, aplicações e definições.</translation>
     </message>
     <message>
         <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
@@ -646,11 +646,11 @@
     </message>
     <message>
         <source>Files: %1 received, %2 failed, %3 skipped.</source>
-        <translation>Ficheiros – recebidos: %1; falhados: %2; ignorados: %3.</translation>
+        <translation>Ficheiros – recebidos: %1; com falha: %2; ignorados: %3.</translation>
     </message>
     <message>
         <source>Files: %1 sent, %2 failed, %3 skipped.</source>
-        <translation>Ficheiros – enviados: %1; falhados: %2; ignorados: %3.</translation>
+        <translation>Ficheiros – enviados: %1; com falha: %2; ignorados: %3.</translation>
     </message>
     <message>
         <source>Files saved:</source>
@@ -900,7 +900,7 @@ Pretende aceitar?</translation>
     </message>
     <message>
         <source>Or Enter Their Code</source>
-        <translation>Ou introduza o código dele</translation>
+        <translation>Ou introduza o código do outro PC</translation>
     </message>
     <message>
         <source>Connect</source>
@@ -1436,7 +1436,7 @@ A aplicação vai ser reiniciada agora.</translation>
     </message>
     <message>
         <source>Theme &amp; Display Settings</source>
-        <translation>Tema e visualização</translation>
+        <translation>Definições de tema e visualização</translation>
     </message>
     <message>
         <source>Dark/Light mode, transparency, color settings</source>

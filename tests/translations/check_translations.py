@@ -20,7 +20,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 LANGUAGES = ["en", "zh_TW", "fr", "de", "ja", "es", "ko", "nl", "pt", "it"]
 IDEOGRAPH = re.compile(r"[\u3400-\u9fff]")
 FULL_WIDTH = str.maketrans("：。？！，（）", ":.?!,()")
-SAYS_THE_SAME = {"Copyright © %1. All rights reserved."}
+SAYS_THE_SAME = {"Copyright © %1. All rights reserved.", "Total: 0 GB"}
 PROBE = ("Zandrove::Cli::Options", "End after the first transfer.")
 
 
