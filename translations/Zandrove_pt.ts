@@ -900,7 +900,7 @@ Pretende aceitar?</translation>
     </message>
     <message>
         <source>Or Enter Their Code</source>
-        <translation>Ou introduza o código do outro PC</translation>
+        <translation>Ou o código do outro PC</translation>
     </message>
     <message>
         <source>Connect</source>
