@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
-        <translation>Innerhalb von %1 s ist nichts angekommen.</translation>
+        <translation>Innerhalb von %1&#xa0;s ist nichts angekommen.</translation>
     </message>
 </context>
 <context>
@@ -556,11 +556,11 @@
     </message>
     <message>
         <source>%1 was not found within %2 seconds.</source>
-        <translation>%1 wurde innerhalb von %2 s nicht gefunden.</translation>
+        <translation>%1 wurde innerhalb von %2&#xa0;s nicht gefunden.</translation>
     </message>
     <message>
         <source>%1 did not answer within %2 seconds.</source>
-        <translation>%1 hat innerhalb von %2 s nicht geantwortet.</translation>
+        <translation>%1 hat innerhalb von %2&#xa0;s nicht geantwortet.</translation>
     </message>
 </context>
 <context>
@@ -844,7 +844,7 @@ Möchten Sie das zulassen?</translation>
     </message>
     <message>
         <source>Scanning direct connection... 0%</source>
-        <translation>Direktverbindung wird durchsucht... 0 %</translation>
+        <translation>Direktverbindung wird durchsucht... 0&#xa0;%</translation>
     </message>
     <message>
         <source>Scanning Direct Connection...</source>
@@ -852,7 +852,7 @@ Möchten Sie das zulassen?</translation>
     </message>
     <message>
         <source>Scanning direct connection... %1% (%2/%3)</source>
-        <translation>Direktverbindung wird durchsucht... %1 % (%2/%3)</translation>
+        <translation>Direktverbindung wird durchsucht... %1&#xa0;% (%2/%3)</translation>
     </message>
     <message>
         <source>No device found. Please ensure the other PC has Zandrove running</source>
@@ -1605,7 +1605,7 @@ Die App wird jetzt neu gestartet.</translation>
     </message>
     <message>
         <source>Transfer completed - Success rate: %1%</source>
-        <translation>Übertragung abgeschlossen – Erfolgsquote: %1 %</translation>
+        <translation>Übertragung abgeschlossen – Erfolgsquote: %1&#xa0;%</translation>
     </message>
     <message>
         <source>Transfer failed: %1</source>
@@ -1660,11 +1660,11 @@ Die App wird jetzt neu gestartet.</translation>
     </message>
     <message>
         <source>Receiving Data - %1%</source>
-        <translation>Daten werden empfangen – %1 %</translation>
+        <translation>Daten werden empfangen – %1&#xa0;%</translation>
     </message>
     <message>
         <source>Sending Data - %1%</source>
-        <translation>Daten werden gesendet – %1 %</translation>
+        <translation>Daten werden gesendet – %1&#xa0;%</translation>
     </message>
     <message>
         <source>Transfer Failed</source>
@@ -1754,7 +1754,7 @@ Die App wird jetzt neu gestartet.</translation>
     <name>Zandrove::WelcomePage</name>
     <message>
         <source>Transfer files, apps and settings to your new PC</source>
-        <translation>Dateien, Apps und Einstellungen auf Ihren neuen PC übertragen</translation>
+        <translation>Dateien, Apps und Einstellungen auf&#xa0;Ihren&#xa0;neuen&#xa0;PC&#xa0;übertragen</translation>
     </message>
     <message>
         <source>Network Mode</source>

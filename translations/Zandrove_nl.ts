@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
-        <translation>Er is binnen %1 s niets aangekomen.</translation>
+        <translation>Er is binnen %1&#xa0;s niets aangekomen.</translation>
     </message>
 </context>
 <context>
@@ -556,11 +556,11 @@
     </message>
     <message>
         <source>%1 was not found within %2 seconds.</source>
-        <translation>%1 is niet binnen %2 s gevonden.</translation>
+        <translation>%1 is niet binnen %2&#xa0;s gevonden.</translation>
     </message>
     <message>
         <source>%1 did not answer within %2 seconds.</source>
-        <translation>%1 heeft niet binnen %2 s geantwoord.</translation>
+        <translation>%1 heeft niet binnen %2&#xa0;s geantwoord.</translation>
     </message>
 </context>
 <context>

@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
-        <translation>Nada chegou em %1 s.</translation>
+        <translation>Nada chegou em %1&#xa0;s.</translation>
     </message>
 </context>
 <context>
@@ -556,11 +556,11 @@
     </message>
     <message>
         <source>%1 was not found within %2 seconds.</source>
-        <translation>%1 não foi encontrado em %2 s.</translation>
+        <translation>%1 não foi encontrado em %2&#xa0;s.</translation>
     </message>
     <message>
         <source>%1 did not answer within %2 seconds.</source>
-        <translation>%1 não respondeu em %2 s.</translation>
+        <translation>%1 não respondeu em %2&#xa0;s.</translation>
     </message>
 </context>
 <context>
