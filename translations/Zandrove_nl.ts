@@ -55,7 +55,7 @@
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation>Op&amp;nieuw uitvoeren</translation>
+        <translation>Opnieuw &amp;uitvoeren</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
