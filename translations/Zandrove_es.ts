@@ -86,7 +86,7 @@
     </message>
     <message>
         <source>Connection reset by peer</source>
-        <translation>El otro equipo restableció la conexión</translation>
+        <translation>El otro equipo interrumpió la conexión</translation>
     </message>
     <message>
         <source>Connection timed out</source>
@@ -98,7 +98,7 @@
     </message>
     <message>
         <source>Network dropped connection on reset</source>
-        <translation>La conexión se perdió al restablecerse la red</translation>
+        <translation>La conexión se perdió al reiniciarse la red</translation>
     </message>
     <message>
         <source>Network operation timed out</source>
@@ -395,11 +395,11 @@
     </message>
     <message>
         <source>Obey commands on standard input, one a line: yes, no (answer a request), pause, resume, cancel, end.</source>
-        <translation>Obedecer las órdenes de la entrada estándar, una por línea: yes, no (respuesta a una solicitud), pause, resume, cancel, end.</translation>
+        <translation>Ejecutar las órdenes de la entrada estándar, una por línea: yes, no (respuesta a una solicitud), pause, resume, cancel, end.</translation>
     </message>
     <message>
         <source>Obey commands on standard input, one a line: pause, resume, cancel, again [DIR] (a further transfer on the same link), end. The link then stays after a transfer until end, or until standard input ends.</source>
-        <translation>Obedecer las órdenes de la entrada estándar, una por línea: pause, resume, cancel, again [DIR] (otra transferencia por la misma conexión), end. Así, la conexión se mantiene después de una transferencia hasta la orden end o hasta que termine la entrada estándar.</translation>
+        <translation>Ejecutar las órdenes de la entrada estándar, una por línea: pause, resume, cancel, again [DIR] (otra transferencia por la misma conexión), end. Así, la conexión se mantiene después de una transferencia hasta la orden end o hasta que termine la entrada estándar.</translation>
     </message>
     <message>
         <source>Print one JSON object a line, for scripts.</source>
@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>Be the New PC: show a code, wait for an Old PC, receive what it sends.</source>
-        <translation>Ser el PC nuevo: mostrar un código, esperar a un PC antiguo y recibir lo que envíe.</translation>
+        <translation>Usar este PC como PC nuevo: mostrar un código, esperar a un PC antiguo y recibir lo que envíe.</translation>
     </message>
     <message>
         <source>List the PCs on the network as they come and go.</source>
@@ -487,7 +487,7 @@
     </message>
     <message>
         <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
-        <translation>Ser el PC antiguo: buscar el PC nuevo, esperar a que acepte y enviar carpetas, aplicaciones y configuración.</translation>
+        <translation>Usar este PC como PC antiguo: buscar el PC nuevo, esperar a que acepte y enviar carpetas, aplicaciones y configuración.</translation>
     </message>
     <message>
         <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
@@ -622,27 +622,27 @@
     </message>
     <message>
         <source>Paused.</source>
-        <translation>En pausa.</translation>
+        <translation>Transferencia en pausa.</translation>
     </message>
     <message>
         <source>Paused by %1.</source>
-        <translation>En pausa por %1.</translation>
+        <translation>Transferencia pausada por %1.</translation>
     </message>
     <message>
         <source>Resumed.</source>
-        <translation>Reanudado.</translation>
+        <translation>Transferencia reanudada.</translation>
     </message>
     <message>
         <source>Resumed by %1.</source>
-        <translation>Reanudado por %1.</translation>
+        <translation>Transferencia reanudada por %1.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation>Cancelado.</translation>
+        <translation>Transferencia cancelada.</translation>
     </message>
     <message>
         <source>Cancelled by %1.</source>
-        <translation>Cancelado por %1.</translation>
+        <translation>Transferencia cancelada por %1.</translation>
     </message>
     <message>
         <source>Files: %1 received, %2 failed, %3 skipped.</source>
@@ -757,11 +757,11 @@
     </message>
     <message>
         <source>✓ Finished</source>
-        <translation>✓ Finalizado</translation>
+        <translation>✓ Finalizar</translation>
     </message>
     <message>
         <source>Finished</source>
-        <translation>Finalizado</translation>
+        <translation>Finalizar</translation>
     </message>
     <message>
         <source>📂 Send More Files...</source>
@@ -816,7 +816,7 @@
 Do you want to accept?</source>
         <translation>«%1» quiere conectarse a este PC.
 
-¿Desea aceptar?</translation>
+¿Desea aceptar la solicitud?</translation>
     </message>
     <message>
         <source>Connection rejected</source>
@@ -963,7 +963,7 @@ Do you want to accept?</source>
     </message>
     <message>
         <source> - %1 free of %2</source>
-        <translation> - %1 disponibles de %2</translation>
+        <translation> – %1 disponibles de %2</translation>
     </message>
 </context>
 <context>
@@ -1091,7 +1091,7 @@ La aplicación se reiniciará ahora.</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation>Registrar el producto</translation>
+        <translation>Registrar producto</translation>
     </message>
     <message>
         <source>This copy of Zandrove is registered.</source>
@@ -1510,7 +1510,7 @@ La aplicación se reiniciará ahora.</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation>Registrar el producto</translation>
+        <translation>Registrar producto</translation>
     </message>
     <message>
         <source>Purchase</source>
@@ -1581,7 +1581,7 @@ La aplicación se reiniciará ahora.</translation>
     </message>
     <message>
         <source>Transfer started - %1 items selected</source>
-        <translation>Transferencia iniciada - elementos seleccionados: %1</translation>
+        <translation>Transferencia iniciada – elementos seleccionados: %1</translation>
     </message>
     <message>
         <source>Waiting to receive files...</source>
@@ -1605,7 +1605,7 @@ La aplicación se reiniciará ahora.</translation>
     </message>
     <message>
         <source>Transfer completed - Success rate: %1%</source>
-        <translation>Transferencia completada - porcentaje de éxito: %1 %</translation>
+        <translation>Transferencia completada – porcentaje de éxito: %1 %</translation>
     </message>
     <message>
         <source>Transfer failed: %1</source>
@@ -1660,11 +1660,11 @@ La aplicación se reiniciará ahora.</translation>
     </message>
     <message>
         <source>Receiving Data - %1%</source>
-        <translation>Recibiendo datos - %1 %</translation>
+        <translation>Recibiendo datos – %1 %</translation>
     </message>
     <message>
         <source>Sending Data - %1%</source>
-        <translation>Enviando datos - %1 %</translation>
+        <translation>Enviando datos – %1 %</translation>
     </message>
     <message>
         <source>Transfer Failed</source>

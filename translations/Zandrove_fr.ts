@@ -395,11 +395,11 @@
     </message>
     <message>
         <source>Obey commands on standard input, one a line: yes, no (answer a request), pause, resume, cancel, end.</source>
-        <translation>Suivre les commandes reçues sur l’entrée standard, une par ligne : yes, no (réponse à une demande), pause, resume, cancel, end.</translation>
+        <translation>Exécuter les commandes reçues sur l’entrée standard, une par ligne : yes, no (réponse à une demande), pause, resume, cancel, end.</translation>
     </message>
     <message>
         <source>Obey commands on standard input, one a line: pause, resume, cancel, again [DIR] (a further transfer on the same link), end. The link then stays after a transfer until end, or until standard input ends.</source>
-        <translation>Suivre les commandes reçues sur l’entrée standard, une par ligne : pause, resume, cancel, again [DIR] (un nouveau transfert sur la même liaison), end. Après un transfert, la liaison est alors maintenue jusqu’à la commande end ou jusqu’à la fin de l’entrée standard.</translation>
+        <translation>Exécuter les commandes reçues sur l’entrée standard, une par ligne : pause, resume, cancel, again [DIR] (un nouveau transfert sur la même liaison), end. Après un transfert, la liaison est alors maintenue jusqu’à la commande end ou jusqu’à la fin de l’entrée standard.</translation>
     </message>
     <message>
         <source>Print one JSON object a line, for scripts.</source>
@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>Be the New PC: show a code, wait for an Old PC, receive what it sends.</source>
-        <translation>Être le Nouveau PC : afficher un code, attendre un Ancien PC et recevoir ce qu’il envoie.</translation>
+        <translation>Utiliser ce PC comme Nouveau PC : afficher un code, attendre un Ancien PC et recevoir ce qu’il envoie.</translation>
     </message>
     <message>
         <source>List the PCs on the network as they come and go.</source>
@@ -483,11 +483,11 @@
     </message>
     <message>
         <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</source>
-        <translation>S’arrêter avec le code de sortie 3 si le Nouveau PC n’a pas été trouvé et n’a pas accepté ce PC au bout de S secondes. Le décompte commence avec la recherche ; le transfert lui-même n’est jamais interrompu.</translation>
+        <translation>S’arrêter avec le code de sortie 3 si, au bout de S secondes, le Nouveau PC n’a pas été trouvé ou n’a pas accepté ce PC. Le décompte commence avec la recherche ; le transfert lui-même n’est jamais interrompu.</translation>
     </message>
     <message>
         <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
-        <translation>Être l’Ancien PC : trouver le Nouveau PC, attendre son accord, envoyer dossiers, applications et paramètres.</translation>
+        <translation>Utiliser ce PC comme Ancien PC : trouver le Nouveau PC, attendre son accord, puis envoyer dossiers, applications et paramètres.</translation>
     </message>
     <message>
         <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
@@ -622,27 +622,27 @@
     </message>
     <message>
         <source>Paused.</source>
-        <translation>Suspendu.</translation>
+        <translation>Transfert suspendu.</translation>
     </message>
     <message>
         <source>Paused by %1.</source>
-        <translation>Suspendu par %1.</translation>
+        <translation>Transfert suspendu par %1.</translation>
     </message>
     <message>
         <source>Resumed.</source>
-        <translation>Repris.</translation>
+        <translation>Transfert repris.</translation>
     </message>
     <message>
         <source>Resumed by %1.</source>
-        <translation>Repris par %1.</translation>
+        <translation>Transfert repris par %1.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation>Annulé.</translation>
+        <translation>Transfert annulé.</translation>
     </message>
     <message>
         <source>Cancelled by %1.</source>
-        <translation>Annulé par %1.</translation>
+        <translation>Transfert annulé par %1.</translation>
     </message>
     <message>
         <source>Files: %1 received, %2 failed, %3 skipped.</source>
@@ -757,11 +757,11 @@
     </message>
     <message>
         <source>✓ Finished</source>
-        <translation>✓ Terminé</translation>
+        <translation>✓ Terminer</translation>
     </message>
     <message>
         <source>Finished</source>
-        <translation>Terminé</translation>
+        <translation>Terminer</translation>
     </message>
     <message>
         <source>📂 Send More Files...</source>
@@ -816,7 +816,7 @@
 Do you want to accept?</source>
         <translation>« %1 » souhaite se connecter à ce PC.
 
-Voulez-vous accepter ?</translation>
+Voulez-vous accepter cette demande ?</translation>
     </message>
     <message>
         <source>Connection rejected</source>
@@ -963,7 +963,7 @@ Voulez-vous accepter ?</translation>
     </message>
     <message>
         <source> - %1 free of %2</source>
-        <translation> - %1 libres sur %2</translation>
+        <translation> – %1 libres sur %2</translation>
     </message>
 </context>
 <context>
@@ -1039,7 +1039,7 @@ Contactez l’assistance technique ou réinstallez le logiciel.</translation>
 %1</source>
         <translation>Impossible d’ouvrir le navigateur par défaut.
 
-Copiez le lien et ouvrez-le vous-même :
+Copiez le lien et ouvrez-le manuellement :
 %1</translation>
     </message>
 </context>
@@ -1091,7 +1091,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation>Enregistrer le produit</translation>
+        <translation>Enregistrement</translation>
     </message>
     <message>
         <source>This copy of Zandrove is registered.</source>
@@ -1510,7 +1510,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Register</source>
-        <translation>Enregistrer le produit</translation>
+        <translation>Enregistrement</translation>
     </message>
     <message>
         <source>Purchase</source>
@@ -1581,7 +1581,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Transfer started - %1 items selected</source>
-        <translation>Transfert démarré - éléments sélectionnés : %1</translation>
+        <translation>Transfert démarré – éléments sélectionnés : %1</translation>
     </message>
     <message>
         <source>Waiting to receive files...</source>
@@ -1601,11 +1601,11 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Retrying failed items...</source>
-        <translation>Nouvel essai pour les éléments en échec...</translation>
+        <translation>Nouvelle tentative pour les éléments en échec...</translation>
     </message>
     <message>
         <source>Transfer completed - Success rate: %1%</source>
-        <translation>Transfert terminé - taux de réussite : %1 %</translation>
+        <translation>Transfert terminé – taux de réussite : %1 %</translation>
     </message>
     <message>
         <source>Transfer failed: %1</source>
@@ -1660,11 +1660,11 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Receiving Data - %1%</source>
-        <translation>Réception des données - %1 %</translation>
+        <translation>Réception des données – %1 %</translation>
     </message>
     <message>
         <source>Sending Data - %1%</source>
-        <translation>Envoi des données - %1 %</translation>
+        <translation>Envoi des données – %1 %</translation>
     </message>
     <message>
         <source>Transfer Failed</source>
@@ -1754,7 +1754,7 @@ L’application va maintenant redémarrer.</translation>
     <name>Zandrove::WelcomePage</name>
     <message>
         <source>Transfer files, apps and settings to your new PC</source>
-        <translation>Transférez fichiers, applications et paramètres vers votre nouveau PC</translation>
+        <translation>Vos fichiers, applications et paramètres sur votre nouveau PC</translation>
     </message>
     <message>
         <source>Network Mode</source>

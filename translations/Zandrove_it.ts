@@ -86,7 +86,7 @@
     </message>
     <message>
         <source>Connection reset by peer</source>
-        <translation>Connessione reimpostata dall’altro computer</translation>
+        <translation>Connessione interrotta dall’altro computer</translation>
     </message>
     <message>
         <source>Connection timed out</source>
@@ -98,7 +98,7 @@
     </message>
     <message>
         <source>Network dropped connection on reset</source>
-        <translation>Connessione interrotta dalla reimpostazione della rete</translation>
+        <translation>Connessione persa per il ripristino della rete</translation>
     </message>
     <message>
         <source>Network operation timed out</source>
@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>Be the New PC: show a code, wait for an Old PC, receive what it sends.</source>
-        <translation>Fai da Nuovo PC: mostra un codice, attendi un Vecchio PC e ricevi ciò che invia.</translation>
+        <translation>Usa questo PC come Nuovo PC: mostra un codice, attendi un Vecchio PC e ricevi ciò che invia.</translation>
     </message>
     <message>
         <source>List the PCs on the network as they come and go.</source>
@@ -487,7 +487,7 @@
     </message>
     <message>
         <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
-        <translation>Fai da Vecchio PC: trova il Nuovo PC, attendi il suo consenso e invia cartelle, app e impostazioni.</translation>
+        <translation>Usa questo PC come Vecchio PC: trova il Nuovo PC, attendi il suo consenso e invia cartelle, app e impostazioni.</translation>
     </message>
     <message>
         <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
@@ -622,27 +622,27 @@
     </message>
     <message>
         <source>Paused.</source>
-        <translation>Sospeso.</translation>
+        <translation>Trasferimento sospeso.</translation>
     </message>
     <message>
         <source>Paused by %1.</source>
-        <translation>Sospeso da %1.</translation>
+        <translation>Trasferimento sospeso da %1.</translation>
     </message>
     <message>
         <source>Resumed.</source>
-        <translation>Ripreso.</translation>
+        <translation>Trasferimento ripreso.</translation>
     </message>
     <message>
         <source>Resumed by %1.</source>
-        <translation>Ripreso da %1.</translation>
+        <translation>Trasferimento ripreso da %1.</translation>
     </message>
     <message>
         <source>Cancelled.</source>
-        <translation>Annullato.</translation>
+        <translation>Trasferimento annullato.</translation>
     </message>
     <message>
         <source>Cancelled by %1.</source>
-        <translation>Annullato da %1.</translation>
+        <translation>Trasferimento annullato da %1.</translation>
     </message>
     <message>
         <source>Files: %1 received, %2 failed, %3 skipped.</source>
@@ -757,11 +757,11 @@
     </message>
     <message>
         <source>✓ Finished</source>
-        <translation>✓ Completato</translation>
+        <translation>✓ Fine</translation>
     </message>
     <message>
         <source>Finished</source>
-        <translation>Completato</translation>
+        <translation>Fine</translation>
     </message>
     <message>
         <source>📂 Send More Files...</source>
@@ -816,7 +816,7 @@
 Do you want to accept?</source>
         <translation>“%1” chiede di connettersi a questo PC.
 
-Vuoi accettare?</translation>
+Vuoi accettare la richiesta?</translation>
     </message>
     <message>
         <source>Connection rejected</source>
@@ -900,7 +900,7 @@ Vuoi accettare?</translation>
     </message>
     <message>
         <source>Or Enter Their Code</source>
-        <translation>Oppure inserisci il codice dell’altro PC</translation>
+        <translation>O inserisci il codice dell’altro PC</translation>
     </message>
     <message>
         <source>Connect</source>
@@ -963,7 +963,7 @@ Vuoi accettare?</translation>
     </message>
     <message>
         <source> - %1 free of %2</source>
-        <translation> - %1 disponibili su %2</translation>
+        <translation> – %1 disponibili su %2</translation>
     </message>
 </context>
 <context>
@@ -1581,7 +1581,7 @@ L’app verrà ora riavviata.</translation>
     </message>
     <message>
         <source>Transfer started - %1 items selected</source>
-        <translation>Trasferimento avviato - elementi selezionati: %1</translation>
+        <translation>Trasferimento avviato – elementi selezionati: %1</translation>
     </message>
     <message>
         <source>Waiting to receive files...</source>
@@ -1605,7 +1605,7 @@ L’app verrà ora riavviata.</translation>
     </message>
     <message>
         <source>Transfer completed - Success rate: %1%</source>
-        <translation>Trasferimento completato - riuscito al %1%</translation>
+        <translation>Trasferimento completato – percentuale di riuscita: %1%</translation>
     </message>
     <message>
         <source>Transfer failed: %1</source>
@@ -1660,11 +1660,11 @@ L’app verrà ora riavviata.</translation>
     </message>
     <message>
         <source>Receiving Data - %1%</source>
-        <translation>Ricezione dei dati - %1%</translation>
+        <translation>Ricezione dei dati – %1%</translation>
     </message>
     <message>
         <source>Sending Data - %1%</source>
-        <translation>Invio dei dati - %1%</translation>
+        <translation>Invio dei dati – %1%</translation>
     </message>
     <message>
         <source>Transfer Failed</source>
@@ -1688,7 +1688,7 @@ L’app verrà ora riavviata.</translation>
     </message>
     <message>
         <source>All progress will be lost and incomplete files may remain on the destination.</source>
-        <translation>Tutti i progressi andranno persi e nella destinazione potrebbero rimanere file incompleti.</translation>
+        <translation>L’avanzamento andrà perso e nella destinazione potrebbero restare file incompleti.</translation>
     </message>
     <message>
         <source>Yes, Cancel</source>
