@@ -1684,7 +1684,7 @@ L’app verrà ora riavviata.</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the transfer?</source>
-        <translation>Annullare il trasferimento?</translation>
+        <translation>Vuoi annullare il trasferimento?</translation>
     </message>
     <message>
         <source>All progress will be lost and incomplete files may remain on the destination.</source>
