@@ -73,7 +73,8 @@ bool applyWallpaper(const SettingPackage &package)
     writeValue(desktop, u"WallpaperStyle"_s, package.metadata.value(u"WallpaperStyle"_s, u"10"_s));
     writeValue(desktop, u"TileWallpaper"_s, package.metadata.value(u"TileWallpaper"_s, u"0"_s));
     if (!Platform::setWallpaper(path)) {
-        qDebug() << "[Wallpaper] SystemParametersInfo failed, error:" << Platform::lastErrorCode();
+        const auto error = Platform::lastErrorCode();
+        qDebug() << "[Wallpaper] SystemParametersInfo failed, error:" << error;
         return false;
     }
     qDebug() << "[Wallpaper] Applied successfully";

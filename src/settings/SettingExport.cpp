@@ -178,23 +178,35 @@ bool exportNamedKey(SettingPackage &package, const QString &path)
     return false;
 }
 
-bool exportByKey(SettingPackage &package, const SettingInfo &setting)
+/// A setting that is gathered in a way of its own.
+struct Exporter
 {
-    if (package.key == "wallpaper"_L1)
-        return exportWallpaper(package);
-    if (package.key == "taskbar"_L1)
-        return exportTaskbar(package);
-    if (package.key == "explorer"_L1)
-        return exportExplorer(package);
-    if (package.key == "power"_L1)
-        return exportPower(package);
-    if (package.key == "environment"_L1)
-        return exportEnvironment(package);
-    const auto *const known =
-        std::find_if(KeySettings.begin(), KeySettings.end(),
-                     [&package](const KeySetting &entry) { return entry.id == package.key; });
-    return known != KeySettings.end() ? exportKeySetting(package, *known)
-                                      : exportNamedKey(package, setting.registryPath);
+    QLatin1StringView id;
+    bool (*fill)(SettingPackage &package);
+};
+
+constexpr std::array Exporters = {
+    Exporter{"wallpaper"_L1, exportWallpaper},     Exporter{"taskbar"_L1, exportTaskbar},
+    Exporter{"explorer"_L1, exportExplorer},       Exporter{"power"_L1, exportPower},
+    Exporter{"environment"_L1, exportEnvironment},
+};
+
+/// The entry of a table that is about the setting `id`; null where there is none.
+template <typename Table>
+auto entryFor(const Table &table, const QString &id)
+{
+    const auto entry =
+        std::find_if(table.begin(), table.end(), [&id](const auto &known) { return known.id == id; });
+    return entry == table.end() ? nullptr : &*entry;
+}
+
+bool fillPackage(SettingPackage &package, const SettingInfo &setting)
+{
+    if (const Exporter *const exporter = entryFor(Exporters, setting.id))
+        return exporter->fill(package);
+    if (const KeySetting *const known = entryFor(KeySettings, setting.id))
+        return exportKeySetting(package, *known);
+    return exportNamedKey(package, setting.registryPath);
 }
 
 } // namespace
@@ -206,7 +218,7 @@ std::optional<SettingPackage> exportSetting(const SettingInfo &setting)
     package.name = setting.name;
     package.category = setting.category;
     qDebug() << "[SettingMigrator] Exporting:" << package.key << "-" << package.name;
-    if (!exportByKey(package, setting))
+    if (!fillPackage(package, setting))
         return std::nullopt;
     return package;
 }

@@ -123,7 +123,8 @@ void SettingMigrator::sendPackage(const SettingPackage &package)
 {
     Q_EMIT requestSendCommand(wireType(Protocol::MessageType::SettingStart), startPayload(package));
     if (!package.registryData.isEmpty()) {
-        const Data data{package.key, Data::Content::Registry, package.registryData, true, 0, 0, {}};
+        const Data data{
+            .key = package.key, .content = Data::Content::Registry, .bytes = package.registryData};
         Q_EMIT requestSendCommand(wireType(Protocol::MessageType::SettingData), data.toPayload());
     }
     sendFile(package);
@@ -136,13 +137,12 @@ void SettingMigrator::sendFile(const SettingPackage &package)
 {
     const auto chunks = int((package.fileData.size() + ChunkBytes - 1) / ChunkBytes);
     for (int index = 0; index < chunks; ++index) {
-        const Data data{package.key,
-                        Data::Content::File,
-                        package.fileData.mid(index * ChunkBytes, ChunkBytes),
-                        true,
-                        index,
-                        chunks,
-                        package.fileName};
+        const Data data{.key = package.key,
+                        .content = Data::Content::File,
+                        .bytes = package.fileData.mid(index * ChunkBytes, ChunkBytes),
+                        .chunkIndex = index,
+                        .totalChunks = chunks,
+                        .fileName = package.fileName};
         Q_EMIT requestSendCommand(wireType(Protocol::MessageType::SettingData), data.toPayload());
         if (index % ChunksPerPause == 0)
             QThread::msleep(ChunkPause.count());

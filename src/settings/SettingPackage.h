@@ -34,14 +34,14 @@ struct Data
 {
     enum class Content { Registry, File, Unknown };
 
-    QString key;
+    QString key = {};
     Content content = Content::Unknown;
-    QByteArray bytes;
+    QByteArray bytes = {};
     bool intact = true; ///< false where what arrived is no Base64; `bytes` is empty then
     // Of a file only:
     int chunkIndex = 0; ///< from 0
     int totalChunks = 0;
-    QString fileName;
+    QString fileName = {};
 
     [[nodiscard]] QByteArray toPayload() const;
     [[nodiscard]] static Data fromPayload(const QByteArray &payload);

@@ -48,10 +48,13 @@ std::optional<QByteArray> takeFile(const QString &path)
     return content;
 }
 
+/// Makes the file anew, so that a link that lies there in its place is not written through.
 bool writeFile(const QString &path, const QByteArray &content)
 {
+    QFile::remove(path);
     QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
+    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.write(content) == content.size() &&
+           file.flush();
 }
 
 /// Runs a program on a temporary file with this content. Nothing where the file can't be written.
@@ -95,6 +98,7 @@ std::optional<QByteArray> exportRegistryKey(const QString &key)
     if (reg.exitCode != 0) {
         qDebug() << "[Registry] Export failed for:" << name;
         qDebug() << "  Error:" << localText(reg.standardError);
+        QFile::remove(path);
         return std::nullopt;
     }
     const std::optional<QByteArray> data = takeFile(path);
@@ -134,6 +138,7 @@ std::optional<QByteArray> exportPowerScheme()
     }
     if (powercfg.exitCode != 0) {
         qDebug() << "[Power] powercfg export failed:" << localText(powercfg.standardError);
+        QFile::remove(path);
         return std::nullopt;
     }
     return takeFile(path);

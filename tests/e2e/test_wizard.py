@@ -1,9 +1,12 @@
 """Two people move a PC with the window alone."""
 
 import time
+import unittest
 
 import pcs
+import test_environment
 import wizard
+from equipped_pcs import EquippedPc, place_for_pcs
 
 FILM = 24 << 20
 SLOW = 40  # megabit a second
@@ -221,6 +224,50 @@ class WizardTest(pcs.TestCase):
                 new.wait(page=5, text="^Receiving Data - [1-9]")
                 self.assertCloses(*((old, new) if closes_old else (new, old)))
                 self.pair.free_speed()
+
+
+class EquippedWizardTest(WizardTest):
+    """The same with applications and settings to tick."""
+
+    def setUp(self):
+        self.pair = self.two_pcs(old_kind=EquippedPc, new_kind=EquippedPc, place=place_for_pcs())
+        test_environment.furnish(self.pair.old)
+        test_environment.set_up(self.pair.old)
+
+    def assertCounts(self, window, **wanted):
+        """What the cards of the report come to show: the last setting may be applied behind the report."""
+        deadline = time.monotonic() + wizard.DEADLINE
+        while True:
+            texts = window.do("state")["texts"]
+            shown = {title: texts[texts.index(title) - 1] for title in wanted}
+            if shown == wanted or time.monotonic() > deadline:
+                break
+            time.sleep(0.05)
+        self.assertEqual(shown, wanted)
+
+    def test_an_application_and_a_setting(self):
+        old, new = self.both()
+        self.to_selection(old, new)
+        old.click(test_environment.NOTES)
+        old.click(next(text for text in old.tabs() if text.startswith("Settings")))
+        old.wait(text="Mouse Settings")
+        old.click("Mouse Settings")
+        old.picture("4-settings")
+        old.click("Next")
+        for window in (old, new):
+            window.wait(page=6, text="Transfer Complete!")
+            self.assertCounts(window, Apps="1", Settings="1")
+            window.picture("6-with-applications")
+        jotpad = self.pair.new.local / "Programs" / test_environment.NOTES / "jotpad.exe"
+        self.assertEqual(jotpad.read_text(), "jotpad")
+        self.assertFalse((self.pair.new.drive / "Program Files" / "Writer").exists())
+        self.assertCloses(old, new)
+
+
+def load_tests(loader, _standard, _pattern):
+    """Each test once: the second class has the first one's helpers, not its tests."""
+    return unittest.TestSuite([loader.loadTestsFromTestCase(WizardTest),
+                               EquippedWizardTest("test_an_application_and_a_setting")])
 
 
 if __name__ == "__main__":

@@ -70,6 +70,9 @@ CompletePage::CompletePage(TransferEngine *engine, QWidget *parent)
 {
     setupUi();
     connect(m_engine, &TransferEngine::transferCompleted, this, &CompletePage::setReport);
+    // The last settings may still have been in the works when the report was made.
+    connect(m_engine, &TransferEngine::settingsFinished, this,
+            [this](int succeeded) { m_settingsCard->setValue(QString::number(succeeded)); });
 }
 
 void CompletePage::setupUi()
