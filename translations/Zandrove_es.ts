@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
-        <translation>No ha empezado a llegar nada en %1 s.</translation>
+        <translation>No ha empezado a llegar nada en %1&#xa0;s.</translation>
     </message>
 </context>
 <context>
@@ -556,11 +556,11 @@
     </message>
     <message>
         <source>%1 was not found within %2 seconds.</source>
-        <translation>No se ha encontrado %1 en %2 s.</translation>
+        <translation>No se ha encontrado %1 en %2&#xa0;s.</translation>
     </message>
     <message>
         <source>%1 did not answer within %2 seconds.</source>
-        <translation>%1 no ha respondido en %2 s.</translation>
+        <translation>%1 no ha respondido en %2&#xa0;s.</translation>
     </message>
 </context>
 <context>
@@ -658,7 +658,7 @@
     </message>
     <message>
         <source>Scanning %1%  %2 applications</source>
-        <translation>Analizando %1 %  Aplicaciones: %2</translation>
+        <translation>Analizando %1&#xa0;%  Aplicaciones: %2</translation>
     </message>
     <message>
         <source>(cannot be moved)</source>
@@ -844,7 +844,7 @@ Do you want to accept?</source>
     </message>
     <message>
         <source>Scanning direct connection... 0%</source>
-        <translation>Buscando en la conexión directa... 0 %</translation>
+        <translation>Buscando en la conexión directa... 0&#xa0;%</translation>
     </message>
     <message>
         <source>Scanning Direct Connection...</source>
@@ -852,7 +852,7 @@ Do you want to accept?</source>
     </message>
     <message>
         <source>Scanning direct connection... %1% (%2/%3)</source>
-        <translation>Buscando en la conexión directa... %1 % (%2/%3)</translation>
+        <translation>Buscando en la conexión directa... %1&#xa0;% (%2/%3)</translation>
     </message>
     <message>
         <source>No device found. Please ensure the other PC has Zandrove running</source>
@@ -1278,7 +1278,7 @@ La aplicación se reiniciará ahora.</translation>
     </message>
     <message>
         <source>Total: 0 GB</source>
-        <translation>Total: 0 GB</translation>
+        <translation>Total: 0&#xa0;GB</translation>
     </message>
     <message>
         <source>Select Content to Transfer</source>
@@ -1605,7 +1605,7 @@ La aplicación se reiniciará ahora.</translation>
     </message>
     <message>
         <source>Transfer completed - Success rate: %1%</source>
-        <translation>Transferencia completada – porcentaje de éxito: %1 %</translation>
+        <translation>Transferencia completada – porcentaje de éxito: %1&#xa0;%</translation>
     </message>
     <message>
         <source>Transfer failed: %1</source>
@@ -1660,11 +1660,11 @@ La aplicación se reiniciará ahora.</translation>
     </message>
     <message>
         <source>Receiving Data - %1%</source>
-        <translation>Recibiendo datos – %1 %</translation>
+        <translation>Recibiendo datos – %1&#xa0;%</translation>
     </message>
     <message>
         <source>Sending Data - %1%</source>
-        <translation>Enviando datos – %1 %</translation>
+        <translation>Enviando datos – %1&#xa0;%</translation>
     </message>
     <message>
         <source>Transfer Failed</source>

@@ -363,11 +363,11 @@
     </message>
     <message>
         <source>The New PC: the four digits on its screen, its name or its address.</source>
-        <translation>Le Nouveau PC : les quatre chiffres affichés à son écran, son nom ou son adresse.</translation>
+        <translation>Le Nouveau PC&#xa0;: les quatre chiffres affichés à son écran, son nom ou son adresse.</translation>
     </message>
     <message>
         <source>A folder to move; may be given several times.</source>
-        <translation>Un dossier à transférer ; peut être indiqué plusieurs fois.</translation>
+        <translation>Un dossier à transférer&#xa0;; peut être indiqué plusieurs fois.</translation>
     </message>
     <message>
         <source>Let every PC in that asks, without a question.</source>
@@ -379,7 +379,7 @@
     </message>
     <message>
         <source>End with exit code 3 when nothing has begun to arrive within S seconds. Counted anew each time the program starts to wait; a running transfer is never cut.</source>
-        <translation>S’arrêter avec le code de sortie 3 si rien n’a commencé à arriver au bout de S secondes. Le décompte reprend à zéro chaque fois que le programme se met en attente ; un transfert en cours n’est jamais interrompu.</translation>
+        <translation>S’arrêter avec le code de sortie 3 si rien n’a commencé à arriver au bout de S secondes. Le décompte reprend à zéro chaque fois que le programme se met en attente&#xa0;; un transfert en cours n’est jamais interrompu.</translation>
     </message>
     <message>
         <source>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</source>
@@ -387,19 +387,19 @@
     </message>
     <message>
         <source>Look for N seconds; without it, until Ctrl-C.</source>
-        <translation>Rechercher pendant N secondes ; sans cette option, jusqu’à Ctrl-C.</translation>
+        <translation>Rechercher pendant N secondes&#xa0;; sans cette option, jusqu’à Ctrl-C.</translation>
     </message>
     <message>
         <source>How PCs find each other: by broadcast (the default), or over a direct cable, where the addresses around this PC&apos;s own are tried as well.</source>
-        <translation>La façon dont les PC se trouvent : par diffusion sur le réseau (par défaut) ou par un câble direct, auquel cas les adresses voisines de celle de ce PC sont aussi essayées.</translation>
+        <translation>La façon dont les PC se trouvent&#xa0;: par diffusion sur le réseau (par défaut) ou par un câble direct, auquel cas les adresses voisines de celle de ce PC sont aussi essayées.</translation>
     </message>
     <message>
         <source>Obey commands on standard input, one a line: yes, no (answer a request), pause, resume, cancel, end.</source>
-        <translation>Exécuter les commandes reçues sur l’entrée standard, une par ligne : yes, no (réponse à une demande), pause, resume, cancel, end.</translation>
+        <translation>Exécuter les commandes reçues sur l’entrée standard, une par ligne&#xa0;: yes, no (réponse à une demande), pause, resume, cancel, end.</translation>
     </message>
     <message>
         <source>Obey commands on standard input, one a line: pause, resume, cancel, again [DIR] (a further transfer on the same link), end. The link then stays after a transfer until end, or until standard input ends.</source>
-        <translation>Exécuter les commandes reçues sur l’entrée standard, une par ligne : pause, resume, cancel, again [DIR] (un nouveau transfert sur la même liaison), end. Après un transfert, la liaison est alors maintenue jusqu’à la commande end ou jusqu’à la fin de l’entrée standard.</translation>
+        <translation>Exécuter les commandes reçues sur l’entrée standard, une par ligne&#xa0;: pause, resume, cancel, again [DIR] (un nouveau transfert sur la même liaison), end. Après un transfert, la liaison est alors maintenue jusqu’à la commande end ou jusqu’à la fin de l’entrée standard.</translation>
     </message>
     <message>
         <source>Print one JSON object a line, for scripts.</source>
@@ -411,7 +411,7 @@
     </message>
     <message>
         <source>Be the New PC: show a code, wait for an Old PC, receive what it sends.</source>
-        <translation>Utiliser ce PC comme Nouveau PC : afficher un code, attendre un Ancien PC et recevoir ce qu’il envoie.</translation>
+        <translation>Utiliser ce PC comme Nouveau PC&#xa0;: afficher un code, attendre un Ancien PC et recevoir ce qu’il envoie.</translation>
     </message>
     <message>
         <source>List the PCs on the network as they come and go.</source>
@@ -419,15 +419,15 @@
     </message>
     <message>
         <source>List what can be moved from this PC: applications, folders, accounts and settings.</source>
-        <translation>Afficher ce qui peut être transféré de ce PC : applications, dossiers, comptes et paramètres.</translation>
+        <translation>Afficher ce qui peut être transféré de ce PC&#xa0;: applications, dossiers, comptes et paramètres.</translation>
     </message>
     <message>
         <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Codes de sortie : 0 tout a été transféré ou affiché ; 1 la connexion ou l’exécution a échoué ou a été refusée ; 2 utilisation incorrecte ; 3 délai dépassé ; 4 terminé, mais des éléments ont échoué ou ont été ignorés ; 130 annulé par Ctrl-C (l’autre PC en est informé ; un second Ctrl-C arrête immédiatement).</translation>
+        <translation>Codes de sortie&#xa0;: 0 tout a été transféré ou affiché&#xa0;; 1 la connexion ou l’exécution a échoué ou a été refusée&#xa0;; 2 utilisation incorrecte&#xa0;; 3 délai dépassé&#xa0;; 4 terminé, mais des éléments ont échoué ou ont été ignorés&#xa0;; 130 annulé par Ctrl-C (l’autre PC en est informé&#xa0;; un second Ctrl-C arrête immédiatement).</translation>
     </message>
     <message>
         <source>This text; after a command, the help of that command.</source>
-        <translation>Ce texte ; après une commande, l’aide de cette commande.</translation>
+        <translation>Ce texte&#xa0;; après une commande, l’aide de cette commande.</translation>
     </message>
     <message>
         <source>The version of the program.</source>
@@ -435,7 +435,7 @@
     </message>
     <message>
         <source>Unknown option %1. See --help.</source>
-        <translation>Option inconnue : %1. Voir --help.</translation>
+        <translation>Option inconnue&#xa0;: %1. Voir --help.</translation>
     </message>
     <message>
         <source>%1 takes no value.</source>
@@ -455,7 +455,7 @@
     </message>
     <message>
         <source>Unexpected argument %1. See --help.</source>
-        <translation>Argument inattendu : %1. Voir --help.</translation>
+        <translation>Argument inattendu&#xa0;: %1. Voir --help.</translation>
     </message>
     <message>
         <source>Say receive, send, discover or scan. See --help.</source>
@@ -463,11 +463,11 @@
     </message>
     <message>
         <source>Unknown command %1. See --help.</source>
-        <translation>Commande inconnue : %1. Voir --help.</translation>
+        <translation>Commande inconnue&#xa0;: %1. Voir --help.</translation>
     </message>
     <message>
         <source>An application to move, by the exact name that scan lists; may be given several times.</source>
-        <translation>Une application à transférer, sous le nom exact qu’affiche scan ; peut être indiquée plusieurs fois.</translation>
+        <translation>Une application à transférer, sous le nom exact qu’affiche scan&#xa0;; peut être indiquée plusieurs fois.</translation>
     </message>
     <message>
         <source>Move every application that can be moved.</source>
@@ -475,7 +475,7 @@
     </message>
     <message>
         <source>A setting to move, by the id that scan lists; may be given several times.</source>
-        <translation>Un paramètre à transférer, sous l’identifiant qu’affiche scan ; peut être indiqué plusieurs fois.</translation>
+        <translation>Un paramètre à transférer, sous l’identifiant qu’affiche scan&#xa0;; peut être indiqué plusieurs fois.</translation>
     </message>
     <message>
         <source>Move every setting that this PC has.</source>
@@ -483,11 +483,11 @@
     </message>
     <message>
         <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</source>
-        <translation>S’arrêter avec le code de sortie 3 si, au bout de S secondes, le Nouveau PC n’a pas été trouvé ou n’a pas accepté ce PC. Le décompte commence avec la recherche ; le transfert lui-même n’est jamais interrompu.</translation>
+        <translation>S’arrêter avec le code de sortie 3 si, au bout de S secondes, le Nouveau PC n’a pas été trouvé ou n’a pas accepté ce PC. Le décompte commence avec la recherche&#xa0;; le transfert lui-même n’est jamais interrompu.</translation>
     </message>
     <message>
         <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
-        <translation>Utiliser ce PC comme Ancien PC : trouver le Nouveau PC, attendre son accord, puis envoyer dossiers, applications et paramètres.</translation>
+        <translation>Utiliser ce PC comme Ancien PC&#xa0;: trouver le Nouveau PC, attendre son accord, puis envoyer dossiers, applications et paramètres.</translation>
     </message>
     <message>
         <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
@@ -495,21 +495,21 @@
     </message>
     <message>
         <source>send needs something to move: a --folder, an --app or a --setting.</source>
-        <translation>send demande quelque chose à transférer : --folder, --app ou --setting.</translation>
+        <translation>send demande quelque chose à transférer&#xa0;: --folder, --app ou --setting.</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::Cli::Output</name>
     <message>
         <source>Allow %1 to connect? [y/N] </source>
-        <translation>Autoriser %1 à se connecter ? [y/N] </translation>
+        <translation>Autoriser %1 à se connecter&#xa0;? [y/N] </translation>
     </message>
 </context>
 <context>
     <name>Zandrove::Cli::ReceiveSession</name>
     <message>
         <source>Nobody can be asked here: every request will be refused without --yes.</source>
-        <translation>Personne ne peut répondre ici : sans --yes, toutes les demandes seront refusées.</translation>
+        <translation>Personne ne peut répondre ici&#xa0;: sans --yes, toutes les demandes seront refusées.</translation>
     </message>
     <message>
         <source>this PC is receiving from %1.</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
-        <translation>Rien n’a commencé à arriver en %1 s.</translation>
+        <translation>Rien n’a commencé à arriver en %1&#xa0;s.</translation>
     </message>
 </context>
 <context>
@@ -556,22 +556,22 @@
     </message>
     <message>
         <source>%1 was not found within %2 seconds.</source>
-        <translation>%1 n’a pas été trouvé en %2 s.</translation>
+        <translation>%1 n’a pas été trouvé en %2&#xa0;s.</translation>
     </message>
     <message>
         <source>%1 did not answer within %2 seconds.</source>
-        <translation>%1 n’a pas répondu en %2 s.</translation>
+        <translation>%1 n’a pas répondu en %2&#xa0;s.</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
     <message>
         <source>Unknown command: %1</source>
-        <translation>Commande inconnue : %1</translation>
+        <translation>Commande inconnue&#xa0;: %1</translation>
     </message>
     <message>
         <source>The other PC did not end the session: not everything may have arrived.</source>
-        <translation>L’autre PC n’a pas mis fin à la session : il se peut que tout ne soit pas arrivé.</translation>
+        <translation>L’autre PC n’a pas mis fin à la session&#xa0;: il se peut que tout ne soit pas arrivé.</translation>
     </message>
 </context>
 <context>
@@ -594,7 +594,7 @@
     </message>
     <message>
         <source>%1 was refused: %2</source>
-        <translation>%1 a été refusé : %2</translation>
+        <translation>%1 a été refusé&#xa0;: %2</translation>
     </message>
     <message>
         <source>Connected to %1.</source>
@@ -618,7 +618,7 @@
     </message>
     <message>
         <source>%1 was not moved: %2</source>
-        <translation>%1 n’a pas été transféré : %2</translation>
+        <translation>%1 n’a pas été transféré&#xa0;: %2</translation>
     </message>
     <message>
         <source>Paused.</source>
@@ -646,19 +646,19 @@
     </message>
     <message>
         <source>Files: %1 received, %2 failed, %3 skipped.</source>
-        <translation>Fichiers reçus : %1, en échec : %2, ignorés : %3.</translation>
+        <translation>Fichiers reçus&#xa0;: %1, en échec&#xa0;: %2, ignorés&#xa0;: %3.</translation>
     </message>
     <message>
         <source>Files: %1 sent, %2 failed, %3 skipped.</source>
-        <translation>Fichiers envoyés : %1, en échec : %2, ignorés : %3.</translation>
+        <translation>Fichiers envoyés&#xa0;: %1, en échec&#xa0;: %2, ignorés&#xa0;: %3.</translation>
     </message>
     <message>
         <source>Files saved:</source>
-        <translation>Fichiers enregistrés :</translation>
+        <translation>Fichiers enregistrés&#xa0;:</translation>
     </message>
     <message>
         <source>Scanning %1%  %2 applications</source>
-        <translation>Analyse %1 %  Applications : %2</translation>
+        <translation>Analyse %1&#xa0;%  Applications&#xa0;: %2</translation>
     </message>
     <message>
         <source>(cannot be moved)</source>
@@ -666,23 +666,23 @@
     </message>
     <message>
         <source>Applications: %1</source>
-        <translation>Applications : %1</translation>
+        <translation>Applications&#xa0;: %1</translation>
     </message>
     <message>
         <source>files: %1</source>
-        <translation>fichiers : %1</translation>
+        <translation>fichiers&#xa0;: %1</translation>
     </message>
     <message>
         <source>Folders: %1</source>
-        <translation>Dossiers : %1</translation>
+        <translation>Dossiers&#xa0;: %1</translation>
     </message>
     <message>
         <source>Accounts: %1</source>
-        <translation>Comptes : %1</translation>
+        <translation>Comptes&#xa0;: %1</translation>
     </message>
     <message>
         <source>Settings: %1</source>
-        <translation>Paramètres : %1</translation>
+        <translation>Paramètres&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 in applications and folders.</source>
@@ -690,15 +690,15 @@
     </message>
     <message>
         <source>Done in %1: %2, %3 on average.</source>
-        <translation>Terminé en %1 : %2, %3 en moyenne.</translation>
+        <translation>Terminé en %1&#xa0;: %2, %3 en moyenne.</translation>
     </message>
     <message>
         <source>Done in %1: %2.</source>
-        <translation>Terminé en %1 : %2.</translation>
+        <translation>Terminé en %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Applications:</source>
-        <translation>Applications :</translation>
+        <translation>Applications&#xa0;:</translation>
     </message>
     <message>
         <source>installed</source>
@@ -710,7 +710,7 @@
     </message>
     <message>
         <source>Settings:</source>
-        <translation>Paramètres :</translation>
+        <translation>Paramètres&#xa0;:</translation>
     </message>
     <message>
         <source>applied</source>
@@ -722,14 +722,14 @@
     </message>
     <message>
         <source>failed: %1</source>
-        <translation>échec : %1</translation>
+        <translation>échec&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::CompletePage</name>
     <message>
         <source>Transfer Complete!</source>
-        <translation>Transfert terminé !</translation>
+        <translation>Transfert terminé&#xa0;!</translation>
     </message>
     <message>
         <source>Your files, apps and settings have been successfully transferred</source>
@@ -749,7 +749,7 @@
     </message>
     <message>
         <source>Files saved to:</source>
-        <translation>Fichiers enregistrés dans :</translation>
+        <translation>Fichiers enregistrés dans&#xa0;:</translation>
     </message>
     <message>
         <source>Waiting for more files...</source>
@@ -777,7 +777,7 @@
     </message>
     <message>
         <source>%1 files</source>
-        <translation>Fichiers : %1</translation>
+        <translation>Fichiers&#xa0;: %1</translation>
     </message>
     <message>
         <source>Open</source>
@@ -792,7 +792,7 @@
     </message>
     <message>
         <source>%1 device(s) found, %2 online</source>
-        <translation>Appareils trouvés : %1, en ligne : %2</translation>
+        <translation>Appareils trouvés&#xa0;: %1, en ligne&#xa0;: %2</translation>
     </message>
     <message>
         <source>Connecting to %1...</source>
@@ -814,9 +814,9 @@
         <source>&apos;%1&apos; wants to connect to this PC.
 
 Do you want to accept?</source>
-        <translation>« %1 » souhaite se connecter à ce PC.
+        <translation>«&#xa0;%1&#xa0;» souhaite se connecter à ce PC.
 
-Voulez-vous accepter cette demande ?</translation>
+Voulez-vous accepter cette demande&#xa0;?</translation>
     </message>
     <message>
         <source>Connection rejected</source>
@@ -836,15 +836,15 @@ Voulez-vous accepter cette demande ?</translation>
     </message>
     <message>
         <source>✓ Connected successfully!</source>
-        <translation>✓ Connexion établie !</translation>
+        <translation>✓ Connexion établie&#xa0;!</translation>
     </message>
     <message>
         <source>✗ Connection failed: %1</source>
-        <translation>✗ Échec de la connexion : %1</translation>
+        <translation>✗ Échec de la connexion&#xa0;: %1</translation>
     </message>
     <message>
         <source>Scanning direct connection... 0%</source>
-        <translation>Recherche sur la connexion directe... 0 %</translation>
+        <translation>Recherche sur la connexion directe... 0&#xa0;%</translation>
     </message>
     <message>
         <source>Scanning Direct Connection...</source>
@@ -852,7 +852,7 @@ Voulez-vous accepter cette demande ?</translation>
     </message>
     <message>
         <source>Scanning direct connection... %1% (%2/%3)</source>
-        <translation>Recherche sur la connexion directe... %1 % (%2/%3)</translation>
+        <translation>Recherche sur la connexion directe... %1&#xa0;% (%2/%3)</translation>
     </message>
     <message>
         <source>No device found. Please ensure the other PC has Zandrove running</source>
@@ -884,7 +884,7 @@ Voulez-vous accepter cette demande ?</translation>
     </message>
     <message>
         <source>Scanned: 0 / 254</source>
-        <translation>Adresses testées : 0 / 254</translation>
+        <translation>Adresses testées&#xa0;: 0 / 254</translation>
     </message>
     <message>
         <source>Please ensure the network cable is connected</source>
@@ -996,11 +996,11 @@ Voulez-vous accepter cette demande ?</translation>
     <name>Zandrove::FileSenderWorker</name>
     <message>
         <source>File not found: %1</source>
-        <translation>Fichier introuvable : %1</translation>
+        <translation>Fichier introuvable&#xa0;: %1</translation>
     </message>
     <message>
         <source>Cannot open file: %1</source>
-        <translation>Impossible d’ouvrir le fichier : %1</translation>
+        <translation>Impossible d’ouvrir le fichier&#xa0;: %1</translation>
     </message>
     <message>
         <source>not a regular file</source>
@@ -1011,7 +1011,7 @@ Voulez-vous accepter cette demande ?</translation>
     <name>Zandrove::FolderListItem</name>
     <message>
         <source>%1 files, %2</source>
-        <translation>Fichiers : %1 (%2)</translation>
+        <translation>Fichiers&#xa0;: %1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -1039,7 +1039,7 @@ Contactez l’assistance technique ou réinstallez le logiciel.</translation>
 %1</source>
         <translation>Impossible d’ouvrir le navigateur par défaut.
 
-Copiez le lien et ouvrez-le manuellement :
+Copiez le lien et ouvrez-le manuellement&#xa0;:
 %1</translation>
     </message>
 </context>
@@ -1129,7 +1129,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>No device found with verification code: %1</source>
-        <translation>Aucun appareil trouvé avec le code de vérification : %1</translation>
+        <translation>Aucun appareil trouvé avec le code de vérification&#xa0;: %1</translation>
     </message>
     <message>
         <source>Unknown error</source>
@@ -1239,7 +1239,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Scan complete!</source>
-        <translation>Analyse terminée !</translation>
+        <translation>Analyse terminée&#xa0;!</translation>
     </message>
     <message>
         <source>Found items ready to transfer</source>
@@ -1250,7 +1250,7 @@ L’application va maintenant redémarrer.</translation>
     <name>Zandrove::SelectionPage</name>
     <message>
         <source>Total: %1</source>
-        <translation>Total : %1</translation>
+        <translation>Total&#xa0;: %1</translation>
     </message>
     <message>
         <source>Applications (%1)</source>
@@ -1278,7 +1278,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Total: 0 GB</source>
-        <translation>Total : 0 GB</translation>
+        <translation>Total&#xa0;: 0 GB</translation>
     </message>
     <message>
         <source>Select Content to Transfer</source>
@@ -1302,7 +1302,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Same-name files:</source>
-        <translation>Fichiers de même nom :</translation>
+        <translation>Fichiers de même nom&#xa0;:</translation>
     </message>
     <message>
         <source>Skip</source>
@@ -1318,7 +1318,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Existing apps:</source>
-        <translation>Applications existantes :</translation>
+        <translation>Applications existantes&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1541,15 +1541,15 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Discovery started. Verification code: %1</source>
-        <translation>Recherche lancée. Code de vérification : %1</translation>
+        <translation>Recherche lancée. Code de vérification&#xa0;: %1</translation>
     </message>
     <message>
         <source>Broadcast restarted. Verification code: %1</source>
-        <translation>Diffusion relancée. Code de vérification : %1</translation>
+        <translation>Diffusion relancée. Code de vérification&#xa0;: %1</translation>
     </message>
     <message>
         <source>No PC found with verification code: %1</source>
-        <translation>Aucun PC trouvé avec le code de vérification : %1</translation>
+        <translation>Aucun PC trouvé avec le code de vérification&#xa0;: %1</translation>
     </message>
     <message>
         <source>Invalid verification code</source>
@@ -1565,7 +1565,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Connection failed: %1</source>
-        <translation>Échec de la connexion : %1</translation>
+        <translation>Échec de la connexion&#xa0;: %1</translation>
     </message>
     <message>
         <source>Connection timeout</source>
@@ -1581,7 +1581,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Transfer started - %1 items selected</source>
-        <translation>Transfert démarré – éléments sélectionnés : %1</translation>
+        <translation>Transfert démarré – éléments sélectionnés&#xa0;: %1</translation>
     </message>
     <message>
         <source>Waiting to receive files...</source>
@@ -1605,11 +1605,11 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Transfer completed - Success rate: %1%</source>
-        <translation>Transfert terminé – taux de réussite : %1 %</translation>
+        <translation>Transfert terminé – taux de réussite&#xa0;: %1&#xa0;%</translation>
     </message>
     <message>
         <source>Transfer failed: %1</source>
-        <translation>Échec du transfert : %1</translation>
+        <translation>Échec du transfert&#xa0;: %1</translation>
     </message>
     <message>
         <source>Engine reset</source>
@@ -1637,7 +1637,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Scan error: %1</source>
-        <translation>Erreur d’analyse : %1</translation>
+        <translation>Erreur d’analyse&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1660,11 +1660,11 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Receiving Data - %1%</source>
-        <translation>Réception des données – %1 %</translation>
+        <translation>Réception des données – %1&#xa0;%</translation>
     </message>
     <message>
         <source>Sending Data - %1%</source>
-        <translation>Envoi des données – %1 %</translation>
+        <translation>Envoi des données – %1&#xa0;%</translation>
     </message>
     <message>
         <source>Transfer Failed</source>
@@ -1684,7 +1684,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the transfer?</source>
-        <translation>Voulez-vous vraiment annuler le transfert ?</translation>
+        <translation>Voulez-vous vraiment annuler le transfert&#xa0;?</translation>
     </message>
     <message>
         <source>All progress will be lost and incomplete files may remain on the destination.</source>
@@ -1736,7 +1736,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>%1 failed</source>
-        <translation>Échecs : %1</translation>
+        <translation>Échecs&#xa0;: %1</translation>
     </message>
 </context>
 <context>

@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
-        <translation>Non ha iniziato ad arrivare nulla entro %1 s.</translation>
+        <translation>Non ha iniziato ad arrivare nulla entro %1&#xa0;s.</translation>
     </message>
 </context>
 <context>
@@ -556,11 +556,11 @@
     </message>
     <message>
         <source>%1 was not found within %2 seconds.</source>
-        <translation>%1 non è stato trovato entro %2 s.</translation>
+        <translation>%1 non è stato trovato entro %2&#xa0;s.</translation>
     </message>
     <message>
         <source>%1 did not answer within %2 seconds.</source>
-        <translation>%1 non ha risposto entro %2 s.</translation>
+        <translation>%1 non ha risposto entro %2&#xa0;s.</translation>
     </message>
 </context>
 <context>
