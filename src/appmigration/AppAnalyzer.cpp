@@ -16,6 +16,7 @@
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -102,37 +103,49 @@ QStringList shortKeywords(const QString &name)
     return keywords;
 }
 
-bool containsAnyOf(const QString &text, const QStringList &keywords)
+/// What a key or a shortcut is claimed by.
+bool contains(const QString &name, const QString &keyword)
 {
-    return std::any_of(keywords.begin(), keywords.end(), [&text](const QString &keyword) {
-        return text.contains(keyword, Qt::CaseInsensitive);
-    });
+    return name.contains(keyword, Qt::CaseInsensitive);
 }
 
-bool matches(const QString &folder, const QString &keyword)
+/// What a folder is claimed by.
+bool resembles(const QString &name, const QString &keyword)
 {
-    const QString plainFolder = withoutSeparators(folder).toLower();
+    const QString plainName = withoutSeparators(name).toLower();
     const QString plainKeyword = withoutSeparators(keyword).toLower();
-    return folder.contains(keyword, Qt::CaseInsensitive) || plainFolder.contains(plainKeyword) ||
-           plainKeyword.contains(plainFolder);
+    return contains(name, keyword) || plainName.contains(plainKeyword) || plainKeyword.contains(plainName);
+}
+
+/// The first keyword that claims `name` by `rule`.
+std::optional<QString> claimingKeyword(const QStringList &keywords, const QString &name,
+                                       bool (*rule)(const QString &name, const QString &keyword))
+{
+    const auto keyword =
+        std::find_if(keywords.begin(), keywords.end(), [&](const QString &word) { return rule(name, word); });
+    return keyword == keywords.end() ? std::nullopt : std::optional(*keyword);
+}
+
+/// The one place where a user can see why something of another application goes along.
+void logFound(const QString &kind, const QString &path, const QString &keyword)
+{
+    qDebug() << qPrintable(u"  Found %1:"_s.arg(kind)) << path << "matched by keyword:" << keyword;
 }
 
 /// Adds to `found` the folders directly below `root` that a keyword claims.
 void addMatchingFolders(QStringList &found, const QString &root, const QStringList &keywords,
-                        const char *kind)
+                        const QString &kind)
 {
     if (root.isEmpty() || !QDir(root).exists())
         return;
     const QStringList folders = QDir(root).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QString &folder : folders) {
-        const auto keyword = std::find_if(keywords.begin(), keywords.end(),
-                                          [&folder](const QString &word) { return matches(folder, word); });
+        const auto keyword = claimingKeyword(keywords, folder, resembles);
         const QString path = cleanPath(root + u'/' + folder);
-        if (keyword == keywords.end() || found.contains(path, Qt::CaseInsensitive))
+        if (!keyword || found.contains(path, Qt::CaseInsensitive))
             continue;
         found.append(path);
-        qDebug() << qPrintable(u"  Found %1:"_s.arg(QLatin1StringView(kind))) << path
-                 << "matched by keyword:" << *keyword;
+        logFound(kind, path, *keyword);
     }
 }
 
@@ -140,13 +153,17 @@ void addMatchingFolders(QStringList &found, const QString &root, const QStringLi
 QStringList knownInstallDirs(const AppInfo &app)
 {
     QStringList found;
-    const auto addExisting = [&found](const QString &folder) {
-        if (!folder.isEmpty() && QDir(withSlashes(folder)).exists())
-            addUnlessPresent(found, cleanPath(folder));
+    const auto addExisting = [&found](const QString &folder, const QString &source) {
+        if (folder.isEmpty() || !QDir(withSlashes(folder)).exists())
+            return;
+        addUnlessPresent(found, cleanPath(folder));
+        qDebug() << "  Install dir:" << folder << "named by:" << source;
     };
-    addExisting(app.installPath);
-    for (const QString &root : UninstallRoots)
-        addExisting(RegistryKey(root + u'\\' + app.name).text(u"InstallLocation"_s));
+    addExisting(app.installPath, u"scan"_s);
+    for (const QString &root : UninstallRoots) {
+        const QString key = root + u'\\' + app.name;
+        addExisting(RegistryKey(key).text(u"InstallLocation"_s), key);
+    }
     return found;
 }
 
@@ -213,7 +230,7 @@ QStringList findInstallDirs(const AppInfo &app)
     const QStringList keywords = installKeywords(app.name);
     qDebug() << "  Search keywords for" << app.name << ":" << keywords;
     for (const QString &root : {u"C:/Program Files"_s, u"C:/Program Files (x86)"_s})
-        addMatchingFolders(found, root, keywords, "install dir");
+        addMatchingFolders(found, root, keywords, u"install dir"_s);
     return found;
 }
 
@@ -225,7 +242,7 @@ QStringList findAppData(const AppInfo &app, const QString &publisher, bool local
         addKeyword(keywords, word);
     QStringList found;
     const QString root = specialFolder(local ? SpecialFolder::LocalAppData : SpecialFolder::RoamingAppData);
-    addMatchingFolders(found, root, keywords, local ? "AppData Local" : "AppData Roaming");
+    addMatchingFolders(found, root, keywords, local ? u"AppData Local"_s : u"AppData Roaming"_s);
     return found;
 }
 
@@ -233,7 +250,7 @@ QStringList findProgramData(const AppInfo &app, const QString &publisher)
 {
     QStringList found;
     addMatchingFolders(found, specialFolder(SpecialFolder::CommonAppData), dataKeywords(app.name, publisher),
-                       "ProgramData");
+                       u"ProgramData"_s);
     return found;
 }
 
@@ -249,10 +266,11 @@ QStringList findRegistryKeys(const AppInfo &app)
         const QStringList subkeys = RegistryKey(root).subkeyNames();
         for (const QString &subkey : subkeys) {
             const QString key = root + u'\\' + subkey;
-            if (!containsAnyOf(subkey, keywords) || keys.contains(key))
+            const auto keyword = claimingKeyword(keywords, subkey, contains);
+            if (!keyword || keys.contains(key))
                 continue;
             keys.append(key);
-            qDebug() << "  Found registry key:" << key;
+            logFound(u"registry key"_s, key, *keyword);
         }
     }
     return keys;
@@ -271,11 +289,14 @@ QList<ShortcutInfo> findShortcuts(const AppInfo &app, const QString &installLoca
         QDirIterator files(location, {u"*.lnk"_s}, QDir::Files, QDirIterator::Subdirectories);
         while (files.hasNext()) {
             const QString path = files.next();
-            if (!containsAnyOf(QFileInfo(path).completeBaseName(), keywords) || isTooLargeForShortcut(path))
+            const auto keyword = claimingKeyword(keywords, QFileInfo(path).completeBaseName(), contains);
+            if (!keyword || isTooLargeForShortcut(path))
                 continue;
             const ShortcutInfo shortcut = parseShortcut(path);
-            if (leadsTo(shortcut.targetPath, installLocation))
-                shortcuts.append(shortcut);
+            if (!leadsTo(shortcut.targetPath, installLocation))
+                continue;
+            shortcuts.append(shortcut);
+            logFound(u"shortcut"_s, path, *keyword);
         }
     }
     return shortcuts;

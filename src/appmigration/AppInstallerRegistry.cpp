@@ -10,6 +10,7 @@
 #include <QFile>
 
 #include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -96,7 +97,7 @@ bool AppInstaller::importRegistryFile(const QString &path, const QString &source
     if (!text)
         return false;
     if (!sourceUser.isEmpty() && !m_currentUser.isEmpty() && sourceUser != m_currentUser) {
-        text = withUserFolders(*text, sourceUser, m_currentUser);
+        text = withUserFolders(*std::move(text), sourceUser, m_currentUser);
         qDebug() << "  Remapped user paths:" << sourceUser << "->" << m_currentUser;
     }
     const QString file = QDir::temp().filePath(u"zandrove_import.reg"_s);

@@ -68,6 +68,16 @@ std::optional<AppPackage> readAppStart(const QByteArray &payload)
     return package;
 }
 
+QString readAppEnd(const QByteArray &payload)
+{
+    return parseJsonObject(payload).value_or(QJsonObject())[u"appName"_s].toString();
+}
+
+QByteArray heldAppEndPayload(const QString &name)
+{
+    return compactJson({{u"appName"_s, name}});
+}
+
 QByteArray appEndPayload(const QString &name, int filesQueued, int filesSkipped)
 {
     return compactJson({{u"appName"_s, name},

@@ -19,6 +19,12 @@ namespace Zandrove {
 /// is no object, or with a name that can't be a part of a path.
 [[nodiscard]] std::optional<AppPackage> readAppStart(const QByteArray &payload);
 
+/// The name of the application that an end message is about; empty where it says none.
+[[nodiscard]] QString readAppEnd(const QByteArray &payload);
+
+/// What the New PC is told: the name alone.
+[[nodiscard]] QByteArray heldAppEndPayload(const QString &name);
+
 [[nodiscard]] QByteArray appEndPayload(const QString &name, int filesQueued, int filesSkipped);
 
 } // namespace Zandrove

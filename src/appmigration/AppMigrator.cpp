@@ -56,13 +56,16 @@ void AppMigrator::start(const QList<AppInfo> &apps)
             installPaths.append(app.installPath);
     }
     setKnownInstallPaths(installPaths);
-    if (m_running)
+    if (m_running || m_stopped)
         return;
     m_apps = apps;
     m_packages.clear();
     m_running = true;
     m_paused = false;
     m_cancelled = false;
+    // A stop that came in between would be forgotten otherwise.
+    if (m_stopped)
+        m_cancelled = true;
     clearCounts();
     qDebug() << "AppMigrator: Starting migration for" << apps.size() << "apps";
 
@@ -197,7 +200,8 @@ bool AppMigrator::sendDirectory(const QString &folder, const QString &relativeBa
             ++m_filesSkipped;
             m_skippedPaths.append(path);
         } else {
-            queueFile(path, relativeBase + u'/' + directory.relativeFilePath(path));
+            queueFile(path,
+                      relativeBase + u'/' + directory.relativeFilePath(files.fileInfo().absoluteFilePath()));
         }
     }
     return !m_cancelled;
@@ -242,15 +246,17 @@ void AppMigrator::logQueued(const QString &name) const
 
 void AppMigrator::startReceiving()
 {
-    if (m_running)
+    if (m_running || m_stopped)
         return;
-    m_running = true;
     m_paused = false;
     m_cancelled = false;
     clearCounts();
     m_receivePath = QStandardPaths::writableLocation(QStandardPaths::TempLocation) + u"/Zandrove_Apps"_s;
     QDir().mkpath(m_receivePath);
     qDebug() << "AppMigrator: Ready to receive apps at" << m_receivePath;
+    m_running = true; // last: the messages come on another thread
+    if (m_stopped)
+        cancel();
 }
 
 void AppMigrator::onAppPackageReceived(const QByteArray &data)
@@ -277,15 +283,7 @@ void AppMigrator::onAppEndReceived(const QString &appName)
 
 bool AppMigrator::installApp(AppPackage &package)
 {
-    AppPackageInfo info;
-    info.name = package.name;
-    info.version = package.version;
-    info.publisher = package.publisher;
-    info.receivedBasePath = m_receivePath + u"/Apps/"_s + package.name;
-    info.originalInstallLocation = package.installLocation;
-    info.sourceUser = package.sourceUser;
-    info.totalSize = package.totalSize;
-    info.fileCount = package.fileCount;
+    AppPackageInfo info = receivedPackage(package, m_receivePath + u"/Apps/"_s + package.name);
     AppInstaller installer;
     connect(&installer, &AppInstaller::progress, this, &AppMigrator::appProgress);
     const bool installed = installer.install(info);
@@ -297,6 +295,12 @@ void AppMigrator::cancel()
 {
     m_cancelled = true;
     m_running = false;
+}
+
+void AppMigrator::stop()
+{
+    m_stopped = true;
+    cancel();
 }
 
 void AppMigrator::clearCounts()

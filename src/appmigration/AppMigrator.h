@@ -46,6 +46,8 @@ public:
     void resume() { m_paused = false; }
     /// Any thread. Ends the run without a signal, as soon as the work at hand notices.
     void cancel();
+    /// Any thread. A cancel for good: this object begins no other run.
+    void stop();
 
 Q_SIGNALS:
     void analyzeProgress(int current, int total, const QString &appName);
@@ -54,6 +56,7 @@ Q_SIGNALS:
     void appProgress(const QString &appName, int percent, const QString &status);
     void appFinished(const QString &appName, bool success, const QString &errorMsg);
     void finished(int success, int failed, int skipped); ///< numbers of applications
+    void error(const QString &message); ///< never emitted: no failure is more than one application's
 
     void requestSendCommand(int type, const QByteArray &payload); ///< type: a Protocol::MessageType
     void requestSendFile(const QString &filePath, const QString &relativePath);
@@ -82,6 +85,7 @@ private:
     std::atomic<bool> m_running = false;
     std::atomic<bool> m_paused = false;
     std::atomic<bool> m_cancelled = false;
+    std::atomic<bool> m_stopped = false;
     int m_successCount = 0;
     int m_failedCount = 0;
     int m_skippedCount = 0;

@@ -24,6 +24,20 @@ bool isDeviceName(const QString &name)
 
 } // namespace
 
+AppPackageInfo receivedPackage(const AppPackage &package, const QString &receivedBasePath)
+{
+    AppPackageInfo info;
+    info.name = package.name;
+    info.version = package.version;
+    info.publisher = package.publisher;
+    info.receivedBasePath = receivedBasePath;
+    info.originalInstallLocation = package.installLocation;
+    info.sourceUser = package.sourceUser;
+    info.totalSize = package.totalSize;
+    info.fileCount = package.fileCount;
+    return info;
+}
+
 QString makeSafeName(const QString &name)
 {
     static const QRegularExpression Forbidden(u"[<>:\"/\\\\|?*]"_s);

@@ -61,6 +61,9 @@ struct AppPackageInfo
     int status = Received;
 };
 
+/// `package`, whose message has arrived, as it is installed from `receivedBasePath`.
+[[nodiscard]] AppPackageInfo receivedPackage(const AppPackage &package, const QString &receivedBasePath);
+
 /// `name` as one component of a path that every system accepts, the same on both PCs: without the characters
 /// that Windows forbids, not one of its devices, and at most 100 characters long.
 [[nodiscard]] QString makeSafeName(const QString &name);

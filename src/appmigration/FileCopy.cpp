@@ -36,16 +36,36 @@ QString unusedPath(const QString &folder)
     return path;
 }
 
-/// Copies beside the destination first: a full disk or a locked source then leaves the old file as it is.
+/// Puts `copy` in the place of the file `old`, which stays or comes back where that fails: one that another
+/// program holds open may be movable but not removable, or leave its name only later.
+bool takePlace(const QString &copy, const QString &old)
+{
+    if (QFileInfo(old).isSymLink()) // nothing is lost with it
+        return QFile::remove(old) && QFile::rename(copy, old);
+    const QString aside = unusedPath(QFileInfo(old).path());
+    if (!QFile::rename(old, aside))
+        return false;
+    if (QFile::rename(copy, old)) {
+        if (QFile::remove(aside))
+            return true;
+        QFile::remove(old);
+    }
+    QFile::rename(aside, old);
+    return false;
+}
+
+/// Copies beside an old file first: a full disk or a locked source then leaves it as it is.
 bool replaceFile(const QString &source, const QString &destination)
 {
     const QFileInfo old(destination);
     if (old.isDir() || !QDir().mkpath(old.path()))
         return false;
+    if (!old.exists() && !old.isSymLink())
+        return QFile::copy(source, destination);
+    if (old.exists() && !old.isWritable()) // can be moved, but not removed, on Windows
+        return false;
     const QString copy = unusedPath(old.path());
-    const bool replaced = QFile::copy(source, copy) &&
-                          ((!old.exists() && !old.isSymLink()) || QFile::remove(destination)) &&
-                          QFile::rename(copy, destination);
+    const bool replaced = QFile::copy(source, copy) && takePlace(copy, destination);
     if (!replaced)
         QFile::remove(copy);
     return replaced;

@@ -44,7 +44,7 @@ bool exportKey(const QString &key, const QString &file)
     return true;
 }
 
-/// What stands behind the header line of an exported key. Nothing where the file can't be read.
+/// What stands behind the header line of an exported key. Nothing where the file has no text.
 std::optional<QString> contentOfKey(const QString &path)
 {
     QFile file(path);
@@ -54,6 +54,8 @@ std::optional<QString> contentOfKey(const QString &path)
     const QByteArray mark = registryByteOrderMark();
     QString text = bytes.startsWith(mark) ? decodeUtf16LittleEndian(bytes.sliced(mark.size()))
                                           : QString::fromUtf8(bytes);
+    if (text.isEmpty())
+        return std::nullopt;
     const QString lineEnd = u"\r\n"_s;
     const qsizetype firstEnd = text.indexOf(lineEnd);
     if (firstEnd > 0)
@@ -94,7 +96,7 @@ bool exportRegistryKeys(const QStringList &keys, const QString &outputPath)
     write(encodeRegistryText(u"Windows Registry Editor Version 5.00\r\n\r\n"_s));
     for (const QString &key : keys) {
         const std::optional<QString> text = exportedKey(key);
-        if (!text || text->isEmpty())
+        if (!text)
             continue;
         write(encoder(*text));
         qDebug() << "    Successfully exported, content length:" << text->size();

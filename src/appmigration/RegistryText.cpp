@@ -2,6 +2,7 @@
 
 #include <QDebug>
 #include <QStringConverter>
+#include <QStringMatcher>
 
 #include <algorithm>
 #include <optional>
@@ -11,6 +12,14 @@ using namespace Qt::StringLiterals;
 namespace Zandrove {
 
 namespace {
+
+enum class RegistryEncoding { Utf8, Utf16LittleEndian, Utf16BigEndian };
+
+struct DetectedEncoding
+{
+    RegistryEncoding encoding = RegistryEncoding::Utf8;
+    int markSize = 0; ///< bytes of the byte order mark at the beginning
+};
 
 /// Bytes in which zeros are counted.
 constexpr qsizetype LargestSample = 200;
@@ -87,9 +96,21 @@ QString decodeUtf16(QByteArrayView bytes, QStringConverter::Encoding encoding)
     return decoder(bytes.first(bytes.size() / 2 * 2));
 }
 
-} // namespace
+/// QString::replace, but in one pass however often `before` occurs: a peer's text may be hundreds of
+/// megabytes of nothing else.
+QString replaced(const QString &text, const QString &before, const QString &after)
+{
+    const QStringMatcher matcher(before, Qt::CaseInsensitive);
+    QString result;
+    qsizetype from = 0;
+    for (qsizetype at = matcher.indexIn(text); at >= 0; at = matcher.indexIn(text, from)) {
+        result.append(QStringView(text).sliced(from, at - from)).append(after);
+        from = at + before.size();
+    }
+    return from == 0 ? text : result.append(QStringView(text).sliced(from));
+}
 
-DetectedEncoding detectRegistryEncoding(const QByteArray &bytes)
+DetectedEncoding detectEncoding(const QByteArray &bytes)
 {
     std::optional<DetectedEncoding> detected = encodingByMark(bytes);
     if (!detected && bytes.size() >= 4 && bytes.size() % 2 == 0) {
@@ -102,9 +123,11 @@ DetectedEncoding detectRegistryEncoding(const QByteArray &bytes)
     return detected.value_or(DetectedEncoding{});
 }
 
+} // namespace
+
 QString decodeRegistryText(const QByteArray &bytes)
 {
-    const DetectedEncoding detected = detectRegistryEncoding(bytes);
+    const DetectedEncoding detected = detectEncoding(bytes);
     const QByteArrayView content = QByteArrayView(bytes).sliced(detected.markSize);
     switch (detected.encoding) {
     case RegistryEncoding::Utf16LittleEndian:
@@ -124,8 +147,8 @@ QString decodeUtf16LittleEndian(const QByteArray &bytes)
 
 QByteArray encodeRegistryText(const QString &text)
 {
-    QStringEncoder encoder(QStringConverter::Utf16LE);
-    return registryByteOrderMark() + QByteArray(encoder(text));
+    QStringEncoder encoder(QStringConverter::Utf16LE, QStringConverter::Flag::WriteBom);
+    return encoder(text);
 }
 
 QByteArray registryByteOrderMark()
@@ -138,7 +161,7 @@ QString withUserFolders(QString text, const QString &oldUser, const QString &new
     if (oldUser.isEmpty() || newUser.isEmpty() || oldUser == newUser)
         return text;
     for (const QString &folder : {u"\\Users\\%1\\"_s, u"/Users/%1/"_s})
-        text.replace(folder.arg(oldUser), folder.arg(newUser), Qt::CaseInsensitive);
+        text = replaced(text, folder.arg(oldUser), folder.arg(newUser));
     return text;
 }
 

@@ -56,6 +56,11 @@ QJsonObject toJson(const SettingInfo &setting)
             {u"size"_s, setting.size}};
 }
 
+QJsonObject toJson(const ItemOutcome &outcome)
+{
+    return {{u"name"_s, outcome.name}, {u"success"_s, outcome.success}, {u"error"_s, outcome.error}};
+}
+
 template <typename Record>
 QJsonArray toJson(const QList<Record> &records)
 {
@@ -181,9 +186,12 @@ void JsonOutput::cancelled(Side by)
     print("cancelled"_L1, {{u"by"_s, sideName(by)}});
 }
 
-void JsonOutput::report(const MigrationReport &report)
+void JsonOutput::report(const MigrationReport &report, const RunItems &items)
 {
-    print("report"_L1, Cli::toJson(report));
+    QJsonObject fields = Cli::toJson(report);
+    fields.insert(u"apps"_s, toJson(items.apps));
+    fields.insert(u"settings"_s, toJson(items.settings));
+    print("report"_L1, fields);
 }
 
 void JsonOutput::scanning(int percent, const QString &item, int apps)

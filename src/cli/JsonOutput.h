@@ -26,7 +26,7 @@ public:
     void paused(Side by) override;
     void resumed(Side by) override;
     void cancelled(Side by) override;
-    void report(const MigrationReport &report) override;
+    void report(const MigrationReport &report, const RunItems &items) override;
     void scanning(int percent, const QString &item, int apps) override;
     void inventory(const ScanResult &result) override;
     void warning(const QString &message) override;

@@ -74,6 +74,18 @@ QString storeFolder(Options &options, const QString &value)
     return {};
 }
 
+QString storeApp(Options &options, const QString &value)
+{
+    options.apps.append(value);
+    return {};
+}
+
+QString storeSetting(Options &options, const QString &value)
+{
+    options.settings.append(value);
+    return {};
+}
+
 template <bool Options::*Flag>
 QString setFlag(Options &options, const QString &)
 {
@@ -89,6 +101,21 @@ const std::array Rules = {
     OptionRule{"--folder"_L1, "DIR", Send,
                QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "A folder to move; may be given several times."),
                storeFolder},
+    OptionRule{"--app"_L1, "NAME", Send,
+               QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                                 "An application to move, by the exact name that scan lists; may be given "
+                                 "several times."),
+               storeApp},
+    OptionRule{"--all-apps"_L1, nullptr, Send,
+               QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "Move every application that can be moved."),
+               setFlag<&Options::allApps>},
+    OptionRule{"--setting"_L1, "ID", Send,
+               QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                                 "A setting to move, by the id that scan lists; may be given several times."),
+               storeSetting},
+    OptionRule{"--all-settings"_L1, nullptr, Send,
+               QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "Move every setting that this PC has."),
+               setFlag<&Options::allSettings>},
     OptionRule{"--yes"_L1, nullptr, Receive,
                QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "Let every PC in that asks, without a question."),
                setFlag<&Options::yes>},
@@ -101,12 +128,13 @@ const std::array Rules = {
                           "End with exit code 3 when nothing has begun to arrive within S seconds. Counted "
                           "anew each time the program starts to wait; a running transfer is never cut."),
         [](Options &options, const QString &value) { return storeSeconds(options.timeout, value); }},
-    OptionRule{
-        "--timeout"_L1, "S", Send,
-        QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
-                          "End with exit code 3 when the New PC was not found and has not let this PC in "
-                          "within S seconds of the start. The transfer itself is never cut."),
-        [](Options &options, const QString &value) { return storeSeconds(options.timeout, value); }},
+    OptionRule{"--timeout"_L1, "S", Send,
+               QT_TRANSLATE_NOOP(
+                   "Zandrove::Cli::Options",
+                   "End with exit code 3 when the New PC was not found and has not let this PC in "
+                   "within S seconds. Counted from when it is looked for; the transfer itself is never "
+                   "cut."),
+               [](Options &options, const QString &value) { return storeSeconds(options.timeout, value); }},
     OptionRule{"--role"_L1, "old|new", Discover,
                QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
                                  "What this PC is. An Old PC sees the New PCs, a New PC the Old PCs."),
@@ -153,10 +181,12 @@ const std::array Commands = {
     CommandText{Command::Receive, "receive"_L1, "zandrove-cli receive [--yes] [--once] [--timeout S]",
                 QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
                                   "Be the New PC: show a code, wait for an Old PC, receive what it sends.")},
-    CommandText{Command::Send, "send"_L1,
-                "zandrove-cli send --to CODE|NAME|ADDRESS --folder DIR [--folder DIR]... [--timeout S]",
-                QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
-                                  "Be the Old PC: find the New PC, wait for its yes, send the folders.")},
+    CommandText{
+        Command::Send, "send"_L1,
+        "zandrove-cli send --to CODE|NAME|ADDRESS [--folder DIR]... [--app NAME]... [--setting ID]...",
+        QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                          "Be the Old PC: find the New PC, wait for its yes, send folders, "
+                          "applications and settings.")},
     CommandText{
         Command::Discover, "discover"_L1, "zandrove-cli discover --role old|new [--seconds N]",
         QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "List the PCs on the network as they come and go.")},
@@ -218,7 +248,10 @@ std::optional<Command> commandNamed(const QString &name)
 QString generalHelp()
 {
     QString help =
-        Text::tr("zandrove-cli moves folders from an Old PC to a New PC on the same network.") + u"\n\n"_s;
+        Text::tr(
+            "zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same "
+            "network.") +
+        u"\n\n"_s;
     for (const CommandText &text : Commands)
         help += helpLine(text.name, Text::tr(text.purpose));
     help += helpLine(u"--help"_s, Text::tr("This text; after a command, the help of that command."));

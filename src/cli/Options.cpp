@@ -70,8 +70,10 @@ QString whatIsMissing(const Options &options)
 {
     if (options.command == Command::Send && options.target.isEmpty())
         return Text::tr("send needs --to with the New PC's code, name or address.");
-    if (options.command == Command::Send && options.folders.isEmpty())
-        return Text::tr("send needs at least one --folder.");
+    const bool sendsNothing = options.folders.isEmpty() && options.apps.isEmpty() && !options.allApps &&
+                              options.settings.isEmpty() && !options.allSettings;
+    if (options.command == Command::Send && sendsNothing)
+        return Text::tr("send needs something to move: a --folder, an --app or a --setting.");
     if (options.command == Command::Discover && options.role < 0)
         return Text::tr("discover needs --role old or --role new.");
     return {};

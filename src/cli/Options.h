@@ -25,6 +25,10 @@ struct Options
     bool once = false;                           ///< receive: end after the first report
     QString target;                              ///< send: code, name or address of the New PC
     QStringList folders;                         ///< send: folders to move, as written
+    QStringList apps;                            ///< send: applications to move, by display name
+    bool allApps = false;                        ///< send: every application that can be moved
+    QStringList settings;                        ///< send: settings to move, by id
+    bool allSettings = false;                    ///< send: every setting that this PC has
     std::optional<std::chrono::seconds> timeout; ///< receive, send: longest wait
     std::optional<std::chrono::seconds> seconds; ///< discover: how long to look
 };

@@ -3,6 +3,7 @@
 #include "core/common/Records.h"
 
 #include <QByteArray>
+#include <QList>
 #include <QString>
 
 #include <functional>
@@ -13,6 +14,21 @@ namespace Zandrove::Cli {
 enum class Side { Here, Peer };
 
 enum class FileStatus { Started, Completed, Failed };
+
+/// What became of one application or setting.
+struct ItemOutcome
+{
+    QString name;
+    bool success = false;
+    QString error; ///< empty on success
+};
+
+/// The applications and settings of one run, in the order in which they ended.
+struct RunItems
+{
+    QList<ItemOutcome> apps;
+    QList<ItemOutcome> settings;
+};
 
 /// Where printed bytes go.
 struct Streams
@@ -46,7 +62,7 @@ public:
     virtual void paused(Side by) = 0;
     virtual void resumed(Side by) = 0;
     virtual void cancelled(Side by) = 0;
-    virtual void report(const MigrationReport &report) = 0;
+    virtual void report(const MigrationReport &report, const RunItems &items) = 0;
     /// How far the scan of this PC has come, what it looks at, and how many applications it has found.
     virtual void scanning(int percent, const QString &item, int apps) = 0;
     virtual void inventory(const ScanResult &result) = 0;

@@ -4,6 +4,7 @@
 #include "platform/Terminal.h"
 
 #include <chrono>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -20,6 +21,9 @@ constexpr auto PatienceAfterSessionEnd = 30s;
 constexpr auto PatienceAfterBreak = 3s;
 constexpr auto PatienceBeforeFirstSign = 1s;
 
+// How long the settings that have arrived may take to be applied before the report is shown without them.
+constexpr auto SettingsTime = 5min;
+
 bool isYes(const QString &line)
 {
     const QString answer = line.trimmed().toLower();
@@ -35,6 +39,8 @@ ReceiveSession::ReceiveSession(const Options &options, TransferEngine &engine, O
     m_timeoutTimer.setSingleShot(true);
     connect(&m_timeoutTimer, &QTimer::timeout, this, &ReceiveSession::onTimeout);
     m_goodbyeTimer.setSingleShot(true);
+    m_settingsTimer.setSingleShot(true);
+    connect(&m_settingsTimer, &QTimer::timeout, this, &ReceiveSession::concludeHeldRun);
     m_drainTimer.setSingleShot(true);
     connect(&m_drainTimer, &QTimer::timeout, this, &ReceiveSession::onNothingMoreToCome);
     connect(&m_goodbyeTimer, &QTimer::timeout, this, [this] { finish(m_results.exitCode()); });
@@ -68,6 +74,7 @@ void ReceiveSession::connectEngine()
     connect(source, &TransferEngine::newTransferStarted, this, &ReceiveSession::onNewTransferStarted);
     connect(source, &TransferEngine::transferReset, this, &ReceiveSession::onTransferReset);
     connect(source, &TransferEngine::transferCompleted, this, &ReceiveSession::onCompleted);
+    connect(source, &TransferEngine::settingsFinished, this, &ReceiveSession::onSettingsFinished);
     connect(source, &TransferEngine::peerCancelled, this, &ReceiveSession::onPeerCancelled);
     connect(source, &TransferEngine::transferFailed, this, &ReceiveSession::onTransferFailed);
 }
@@ -91,7 +98,7 @@ void ReceiveSession::expectTransfer()
 void ReceiveSession::onConnectionRequested(const QString &name)
 {
     m_asker = name;
-    if (link() == Link::Up || m_drainTimer.isActive()) {
+    if (link() == Link::Up || m_drainTimer.isActive() || m_heldReport) {
         // The newest connection wins: the peer of before is gone already.
         engine().rejectConnection();
         output().refused(name, tr("this PC is receiving from %1.").arg(m_peerName));
@@ -178,6 +185,8 @@ void ReceiveSession::onPeerLeft(const QString &complaint, std::chrono::milliseco
         return;
     setLink(Link::None);
     engine().disconnectFromPeer();
+    if (m_heldReport)
+        return; // what it has sent is here
     if (m_receiving || m_expecting) {
         m_complaint = m_receiving ? complaint : QString();
         m_drainTimer.setInterval(m_receiving ? patience : PatienceBeforeFirstSign);
@@ -219,6 +228,7 @@ void ReceiveSession::onTransferSign()
 
 void ReceiveSession::onNewTransferStarted()
 {
+    concludeHeldRun();
     if (m_reported) {
         finish(m_results.exitCode());
         return;
@@ -240,12 +250,37 @@ void ReceiveSession::onTransferReset()
 
 void ReceiveSession::onCompleted(const MigrationReport &report)
 {
-    showLastProgress();
-    output().report(report);
+    if (!engine().isApplyingSettings()) {
+        concludeRun(report);
+        return;
+    }
+    m_heldReport = report;
+    m_settingsTimer.start(SettingsTime);
+}
+
+void ReceiveSession::onSettingsFinished(int succeeded, int failed)
+{
+    if (!m_heldReport)
+        return;
+    m_heldReport->settingsSuccess = succeeded;
+    m_heldReport->settingsFailed = failed;
+    concludeHeldRun();
+}
+
+void ReceiveSession::concludeHeldRun()
+{
+    m_settingsTimer.stop();
+    if (m_heldReport)
+        concludeRun(*std::exchange(m_heldReport, std::nullopt));
+}
+
+void ReceiveSession::concludeRun(const MigrationReport &report)
+{
+    showReport(report);
     m_results.record(exitCodeFor(report));
     expectTransfer();
     m_reported = options().once;
-    if (m_drainTimer.isActive()) {
+    if (m_drainTimer.isActive() || link() == Link::None) {
         afterLink();
     } else if (m_reported) {
         m_timeoutTimer.stop();
@@ -314,6 +349,7 @@ void ReceiveSession::onTimeout()
 
 void ReceiveSession::onInterrupt()
 {
+    concludeHeldRun();
     if (m_reported) {
         finish(m_results.exitCode());
         return;

@@ -43,6 +43,9 @@ private:
     void onNewTransferStarted();
     void onTransferReset();
     void onCompleted(const MigrationReport &report);
+    void onSettingsFinished(int succeeded, int failed);
+    void concludeHeldRun();
+    void concludeRun(const MigrationReport &report);
     void onPeerCancelled();
     void onTransferFailed(const QString &reason);
     void cancelHere();
@@ -54,8 +57,10 @@ private:
     /// The peer has left, but the end of the run may still be on its way from the socket to the disk: runs
     /// from sign of life to sign of life.
     QTimer m_drainTimer;
-    QString m_complaint; ///< what is to be said if the end of the run does not come
-    QString m_asker;     ///< who asks to be let in
+    QTimer m_settingsTimer;
+    std::optional<MigrationReport> m_heldReport; ///< complete but for the settings, which are being applied
+    QString m_complaint;                         ///< what is to be said if the end of the run does not come
+    QString m_asker;                             ///< who asks to be let in
     QString m_peerName;
     RunResults m_results;
     bool m_expecting = false; ///< armed on a fresh link, nothing has arrived

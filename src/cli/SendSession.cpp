@@ -37,10 +37,30 @@ void SendSession::start()
     showRuns();
     if (options().control)
         readInput();
-    if (options().timeout)
-        m_timeoutTimer.start(*options().timeout);
     engine().setRole(options().role);
     engine().setMode(options().mode);
+    if (needsScan(options()))
+        engine().startScan();
+    else
+        startLooking();
+}
+
+void SendSession::onScanCompleted(const ScanResult &result)
+{
+    m_choice = chooseItems(result, options());
+    if (m_choice.problem.isEmpty()) {
+        startLooking();
+        return;
+    }
+    output().error(m_choice.problem);
+    finish(WrongUsage);
+}
+
+void SendSession::startLooking()
+{
+    m_state = State::Looking;
+    if (options().timeout)
+        m_timeoutTimer.start(*options().timeout);
     engine().startDiscovery();
     m_lookTimer.start(LookInterval);
 }
@@ -50,6 +70,11 @@ void SendSession::connectEngine()
     TransferEngine *source = &engine();
     connect(source, &TransferEngine::pcDiscovered, this, [this](const PCInfo &pc) { output().peer(pc); });
     connect(source, &TransferEngine::pcLost, this, [this](const QString &id) { output().peerLost(id); });
+    connect(source, &TransferEngine::scanProgress, this, [this](int percent, const QString &item, int apps) {
+        if (progressIsDue())
+            output().scanning(percent, item, apps);
+    });
+    connect(source, &TransferEngine::scanCompleted, this, &SendSession::onScanCompleted);
     connect(source, &TransferEngine::connected, this, &SendSession::onConnected);
     connect(source, &TransferEngine::connectionFailed, this, &SendSession::onConnectionFailed);
     connect(source, &TransferEngine::connectionRequested, this, &SendSession::onConnectionRequested);
@@ -92,7 +117,7 @@ void SendSession::onConnected()
     engine().stopDiscovery();
     QTimer::singleShot(SettleTime, this, [this] {
         if (m_state == State::Settling && !isFinishing())
-            sendFolders();
+            sendSelection();
     });
 }
 
@@ -147,10 +172,12 @@ void SendSession::linkOver(const QString &complaint)
     finish(RunFailed);
 }
 
-void SendSession::sendFolders()
+void SendSession::sendSelection()
 {
     m_state = State::Running;
     engine().setSelectedPaths(m_folders);
+    engine().setSelectedApps(m_choice.apps);
+    engine().setSelectedSettings(m_choice.settings);
     engine().startTransfer();
 }
 
@@ -167,13 +194,12 @@ void SendSession::sendAgain(const QString &folder)
     }
     if (m_completed)
         engine().notifyPeerReadyForNew();
-    sendFolders();
+    sendSelection();
 }
 
 void SendSession::onCompleted(const MigrationReport &report)
 {
-    showLastProgress();
-    output().report(report);
+    showReport(report);
     m_completed = true;
     runEnded(exitCodeFor(report));
 }
@@ -254,6 +280,8 @@ void SendSession::onTimeout()
 
 void SendSession::onInterrupt()
 {
+    if (m_state == State::Scanning)
+        engine().cancelScan();
     if (m_state == State::Running)
         cancelHere();
     finish(Cancelled);

@@ -1,12 +1,13 @@
 #pragma once
 
+#include "cli/ItemChoice.h"
 #include "cli/RunResults.h"
 #include "cli/Session.h"
 
 namespace Zandrove::Cli {
 
-/// The Old PC: waits until the New PC that the user named is found, asks to be let in, sends the folders and
-/// ends the session.
+/// The Old PC: waits until the New PC that the user named is found, asks to be let in, sends what was
+/// chosen and ends the session.
 class SendSession final : public Session
 {
     Q_OBJECT
@@ -24,6 +25,7 @@ protected:
 
 private:
     enum class State {
+        Scanning, ///< this PC, for what the user named
         Looking,
         Dialling,
         Settling, ///< connected, the New PC is getting ready
@@ -32,6 +34,8 @@ private:
     };
 
     void connectEngine();
+    void onScanCompleted(const ScanResult &result);
+    void startLooking();
     void look();
     void dial(const PCInfo &pc);
     void onConnected();
@@ -41,7 +45,7 @@ private:
     void onSessionEndReceived();
     void linkOver(const QString &complaint);
 
-    void sendFolders();
+    void sendSelection();
     void sendAgain(const QString &folder);
     void onCompleted(const MigrationReport &report);
     void onPeerCancelled();
@@ -50,10 +54,11 @@ private:
     void runEnded(ExitCode exitCode);
     void onTimeout();
 
-    State m_state = State::Looking;
+    State m_state = State::Scanning;
     QTimer m_lookTimer;
     QTimer m_timeoutTimer; ///< runs until the peer has let this PC in
     QStringList m_folders;
+    ItemChoice m_choice;
     QString m_peerName;
     RunResults m_results;
     bool m_staysForMore = false; ///< --control: standard input may still ask for a further run

@@ -17,8 +17,10 @@ constexpr auto ProgressInterval = 200ms;
 
 // How long the peer may take to hang up: after a completed run, whose last bytes may still be leaving over a
 // slow link, and otherwise.
-constexpr auto FarewellTimeCompleted = 60s;
-constexpr auto FarewellTime = 2s;
+constexpr std::chrono::milliseconds FarewellTimeCompleted = 60s;
+constexpr std::chrono::milliseconds FarewellTime = 2s;
+// And where it may still be installing applications, and can't answer before it is through.
+constexpr std::chrono::milliseconds FarewellTimeInstalling = 1h;
 
 // How long the last frames of a link may take to leave when this side hangs up.
 constexpr auto HangUpTime = 2500ms;
@@ -30,6 +32,7 @@ Session::Session(const Options &options, TransferEngine &engine, Output &output,
     , m_options(options)
     , m_engine(engine)
     , m_output(output)
+    , m_farewellTime(FarewellTimeCompleted)
 {
     connect(&m_engine, &TransferEngine::warning, this,
             [this](const QString &message) { m_output.warning(message); });
@@ -62,6 +65,28 @@ void Session::showRuns()
     connect(&m_engine, &TransferEngine::pausedByPeer, this, [this] { m_output.paused(Side::Peer); });
     connect(&m_engine, &TransferEngine::transferResumed, this, [this] { m_output.resumed(Side::Here); });
     connect(&m_engine, &TransferEngine::resumedByPeer, this, [this] { m_output.resumed(Side::Peer); });
+    collectItems();
+}
+
+void Session::collectItems()
+{
+    connect(&m_engine, &TransferEngine::transferStarted, this, [this] { m_items = {}; });
+    connect(&m_engine, &TransferEngine::newTransferStarted, this, [this] { m_items = {}; });
+    connect(&m_engine, &TransferEngine::appOutcome, this,
+            [this](const QString &name, bool success, const QString &error) {
+                m_items.apps.append({name, success, error});
+            });
+    connect(&m_engine, &TransferEngine::settingOutcome, this,
+            [this](const QString &name, bool success, const QString &error) {
+                m_items.settings.append({name, success, error});
+            });
+}
+
+void Session::showReport(const MigrationReport &report)
+{
+    showLastProgress();
+    m_output.report(report, m_items);
+    m_farewellTime = report.appsSuccess > 0 ? FarewellTimeInstalling : FarewellTimeCompleted;
 }
 
 void Session::showProgress(const TransferProgress &progress)
@@ -144,7 +169,7 @@ void Session::finish(ExitCode exitCode)
         connect(&m_engine, &TransferEngine::disconnected, this, &Session::conclude);
         connect(&m_engine, &TransferEngine::connectionFailed, this, &Session::conclude);
         m_engine.sendSessionEnd();
-        QTimer::singleShot(completed ? FarewellTimeCompleted : FarewellTime, this, &Session::onNoFarewell);
+        QTimer::singleShot(completed ? m_farewellTime : FarewellTime, this, &Session::onNoFarewell);
     } else if (m_link == Link::Pending) {
         hangUp();
     } else {

@@ -9,6 +9,8 @@
 #include <QObject>
 #include <QTimer>
 
+#include <chrono>
+
 namespace Zandrove {
 class TransferEngine;
 namespace Platform {
@@ -60,8 +62,8 @@ protected:
     void showRuns();
     /// Whether it is time to show progress again: at most five times a second.
     [[nodiscard]] bool progressIsDue();
-    /// Shows the last progress that was held back; to be called before the end of a run is shown.
-    void showLastProgress();
+    /// Shows how a run ended, with the applications and settings that it moved.
+    void showReport(const MigrationReport &report);
 
     /// Reads standard input from now on: each line goes to `onInput`, its end to `onInputEnded`.
     void readInput();
@@ -81,7 +83,9 @@ protected:
 private:
     void hangUp();
     void onNoFarewell();
+    void collectItems();
     void showProgress(const TransferProgress &progress);
+    void showLastProgress();
     void conclude();
 
     const Options m_options;
@@ -92,6 +96,8 @@ private:
     QElapsedTimer m_sinceProgress;
     TransferProgress m_heldProgress;
     bool m_progressHeld = false;
+    RunItems m_items;
+    std::chrono::milliseconds m_farewellTime; ///< how long a peer that has got everything may take to hang up
     bool m_finishing = false;
     bool m_concluded = false;
     ExitCode m_exitCode = EverythingMoved;

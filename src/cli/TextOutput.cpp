@@ -155,7 +155,7 @@ void TextOutput::cancelled(Side by)
     line(by == Side::Here ? tr("Cancelled.") : tr("Cancelled by %1.").arg(m_peerName));
 }
 
-void TextOutput::report(const MigrationReport &report)
+void TextOutput::report(const MigrationReport &report, const RunItems &items)
 {
     const int seconds = static_cast<int>(report.startTime.secsTo(report.endTime));
     const QString time = formatTime(seconds);
@@ -168,6 +168,20 @@ void TextOutput::report(const MigrationReport &report)
     line(format.arg(QString::number(report.filesSuccess), QString::number(report.filesFailed),
                     QString::number(report.filesSkipped)));
     savedFolders(report);
+    const bool receives = m_role == NewPC;
+    outcomes(tr("Applications:"), receives ? tr("installed") : tr("sent"), items.apps);
+    outcomes(tr("Settings:"), receives ? tr("applied") : tr("sent"), items.settings);
+}
+
+void TextOutput::outcomes(const QString &head, const QString &done, const QList<ItemOutcome> &items)
+{
+    if (items.isEmpty())
+        return;
+    line(head);
+    for (const ItemOutcome &item : items) {
+        const QString failure = item.error.isEmpty() ? tr("failed") : tr("failed: %1").arg(item.error);
+        line(u"  "_s + item.name + u": "_s + (item.success ? done : failure));
+    }
 }
 
 void TextOutput::savedFolders(const MigrationReport &report)
@@ -219,7 +233,7 @@ void TextOutput::inventory(const ScanResult &result)
 
     QStringList settings;
     for (const SettingInfo &setting : result.settings)
-        settings.append(inventoryRow(setting.size, {setting.name, setting.description, setting.value}));
+        settings.append(inventoryRow(setting.size, {setting.id, setting.name, setting.value}));
     section(tr("Settings: %1"), settings);
 
     line(tr("%1 in applications and folders.").arg(formatSize(result.totalSize)));

@@ -30,7 +30,7 @@ public:
     void paused(Side by) override;
     void resumed(Side by) override;
     void cancelled(Side by) override;
-    void report(const MigrationReport &report) override;
+    void report(const MigrationReport &report, const RunItems &items) override;
     void scanning(int percent, const QString &item, int apps) override;
     void inventory(const ScanResult &result) override;
     void warning(const QString &message) override;
@@ -42,6 +42,7 @@ private:
     void showLiveLine(const QString &text);
     void clearLiveLine();
     void savedFolders(const MigrationReport &report);
+    void outcomes(const QString &head, const QString &done, const QList<ItemOutcome> &items);
     void section(const QString &title, const QStringList &rows);
 
     Streams m_streams;

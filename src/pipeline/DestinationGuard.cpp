@@ -3,6 +3,9 @@
 #include "pipeline/DestinationMap.h"
 #include "platform/FileAttributes.h"
 
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -23,6 +26,19 @@ bool isDiverted(const QString &path)
     return false;
 }
 
+void removeTree(const QString &folder)
+{
+    QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    while (entries.hasNext()) {
+        const QString entry = entries.next();
+        if (entries.fileInfo().isDir() && !Platform::isForeignOrLink(entry))
+            removeTree(entry);
+        else if (!QFile::remove(entry))
+            QDir().rmdir(entry); // a link to a folder is itself one on some systems
+    }
+    QDir().rmdir(folder);
+}
+
 } // namespace
 
 bool isSafeDestination(const QString &relativePath, const QString &destination)
@@ -32,9 +48,14 @@ bool isSafeDestination(const QString &relativePath, const QString &destination)
     return !destination.startsWith(receivedAppsFolder() + u'/') || !isDiverted(destination);
 }
 
-bool isOwnReceivedAppsFolder()
+bool removeReceived(const QString &folder)
 {
-    return !isDiverted(receivedAppsFolder());
+    const QString place = QDir::cleanPath(folder);
+    const QString top = QDir::cleanPath(receivedAppsFolder());
+    if ((place != top && !place.startsWith(top + u'/')) || isDiverted(place))
+        return false;
+    removeTree(place);
+    return !QFileInfo::exists(place);
 }
 
 } // namespace Zandrove

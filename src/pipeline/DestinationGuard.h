@@ -9,7 +9,9 @@ namespace Zandrove {
 /// was put there by somebody else.
 [[nodiscard]] bool isSafeDestination(const QString &relativePath, const QString &destination);
 
-/// Whether the received-applications folder may be removed with everything in it.
-[[nodiscard]] bool isOwnReceivedAppsFolder();
+/// Removes `folder`, which is receivedAppsFolder() or lies below it, with everything in it. Links in it go,
+/// what they lead to stays. Any other folder, and one that is reached by a link, is left alone. False when
+/// something is still there.
+[[nodiscard]] bool removeReceived(const QString &folder);
 
 } // namespace Zandrove

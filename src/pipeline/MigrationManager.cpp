@@ -1,16 +1,15 @@
 #include "pipeline/MigrationManager.h"
 
+#include "appmigration/AppMessages.h"
 #include "peer/NetworkManager.h"
-#include "pipeline/DestinationGuard.h"
-#include "pipeline/DestinationMap.h"
 #include "pipeline/FileReceiverWorker.h"
 #include "pipeline/FileSenderWorker.h"
+#include "pipeline/ReceivedApps.h"
 #include "pipeline/TaskList.h"
 #include "pipeline/TransferMessages.h"
 #include "support/Json.h"
 
 #include <QDebug>
-#include <QDir>
 #include <QThread>
 
 #include <algorithm>
@@ -23,25 +22,13 @@ namespace Zandrove {
 
 using Protocol::MessageType;
 
-namespace {
-
-/// Applications and settings have no lane of their own yet.
-void logLeftOut(const QList<AppInfo> &apps, const QList<SettingInfo> &settings)
-{
-    const auto appCount = std::count_if(apps.cbegin(), apps.cend(),
-                                        [](const AppInfo &app) { return app.canTransfer && app.selected; });
-    const auto settingCount =
-        std::count_if(settings.cbegin(), settings.cend(),
-                      [](const SettingInfo &setting) { return setting.selected && setting.available; });
-    if (appCount + settingCount > 0)
-        qDebug() << "Left out of the run:" << appCount << "applications," << settingCount << "settings";
-}
-
-} // namespace
-
 MigrationManager::MigrationManager(QObject *parent)
     : QObject(parent)
+    , m_receivedApps(new ReceivedApps(this))
 {
+    connect(m_receivedApps, &ReceivedApps::installProgress, this, &MigrationManager::appInstallProgress);
+    connect(m_receivedApps, &ReceivedApps::installFinished, this, &MigrationManager::appInstallFinished);
+    connect(m_receivedApps, &ReceivedApps::installed, this, &MigrationManager::onAppInstalled);
 }
 
 MigrationManager::~MigrationManager()
@@ -91,25 +78,36 @@ void MigrationManager::start(const QList<AppInfo> &apps, const QList<FolderInfo>
     if (m_role == OldPC)
         m_runLink = m_networkManager ? m_networkManager->acceptedLink() : 0;
     Q_EMIT started();
-    if (m_role == NewPC) {
-        invokeStartReceiving();
-        return;
-    }
+    if (m_role == NewPC)
+        startEverythingReceiving();
+    else
+        startSending();
+}
 
-    logLeftOut(m_apps, m_settings);
-    appMigrationDone = true;
-    settingPhaseDone = true;
+void MigrationManager::startSending()
+{
+    const QList<AppInfo> apps = appsToMigrate();
+    hasAppsToMigrate = !apps.isEmpty();
+    if (!hasAppsToMigrate) {
+        appMigrationDone = true;
+        appFilesAllQueued = true;
+    }
+    const QList<SettingInfo> settings = settingsToMigrate();
+    if (settings.isEmpty())
+        settingPhaseDone = true;
     QList<FileTransferTask> tasks = buildTaskList(m_folders);
     qDebug() << "Starting migration:";
     qDebug() << "  - Folder files:" << tasks.size();
-    qDebug() << "  - Apps:" << 0;
-    qDebug() << "  - Settings:" << 0;
+    qDebug() << "  - Apps:" << apps.size();
+    qDebug() << "  - Settings:" << settings.size();
     QMetaObject::invokeMethod(
         m_senderWorker,
         [sender = m_senderWorker, tasks = std::move(tasks)]() mutable {
             sender->startSending(std::move(tasks));
         },
         Qt::QueuedConnection);
+    startAppMigration(apps);
+    startSettingMigration(settings);
 }
 
 void MigrationManager::startReceiving()
@@ -120,23 +118,37 @@ void MigrationManager::startReceiving()
     m_migrating = true;
     m_startTime = QDateTime::currentDateTime();
     settingPhaseDone = false;
+    m_receivedApps->forgetFiles();
     clearReportCounters();
     stopWorkers();
     setupConnections();
     Q_EMIT started();
     invokeStartReceiving();
+    beginReceivingSettings();
 }
 
 /// What a fresh run must not find of the one before. The flags of the file and application lanes stay: only
 /// resetAndListen clears those.
 void MigrationManager::clearRunState()
 {
+    clearAppQueue();
     m_foldersPhaseDone = false;
     m_appFilePhaseDone = false;
+    sendingAppPhase = false;
     settingPhaseDone = false;
     m_nextTaskId = 0;
     m_accumulated = {};
     clearReportCounters();
+}
+
+void MigrationManager::clearAppQueue()
+{
+    m_pendingAppTasks.clear();
+    m_delayedAppEnds.clear();
+    appFilesQueued = 0;
+    m_appFilesMissing = 0;
+    appFilesAllQueued = false;
+    m_receivedApps->forgetFiles();
 }
 
 void MigrationManager::clearReportCounters()
@@ -183,6 +195,7 @@ void MigrationManager::cancel()
     if (!m_migrating)
         return;
     qDebug() << "MigrationManager::cancel()";
+    m_settingsOwed = false;
     cancelWorkersQueued();
     // A paused receiver waits inside a slot: a queued call would wait with it.
     if (m_paused && m_receiverWorker)
@@ -216,6 +229,8 @@ void MigrationManager::resetRun()
 {
     qDebug() << "MigrationManager::resetAndListen()";
     ++m_run;
+    if (m_migrating)
+        m_settingsOwed = false; // of a run that never came to its end
     m_migrating = false;
     m_completing = false;
     m_incomingRun = false;
@@ -226,6 +241,9 @@ void MigrationManager::resetRun()
     m_foldersPhaseDone = false;
     m_appFilePhaseDone = false;
     storeCounts({});
+    clearAppQueue();
+    // A later run must not install what one that was called off has left half received.
+    m_receivedApps->forgetPackages();
     m_settingsApplied = m_settingsFailed = 0;
     resumeReadingLink();
 }
@@ -237,7 +255,7 @@ void MigrationManager::restartReceiving()
     clearReportCounters();
     stopWorkers();
     setupConnections();
-    invokeStartReceiving();
+    startEverythingReceiving();
     qDebug() << "Receiver restarted, waiting for new transfer";
 }
 
@@ -249,7 +267,7 @@ QList<FileTransferTask> MigrationManager::buildTaskList(const QList<FolderInfo> 
 void MigrationManager::onWorkerAllCompleted(int success, int failed, int skipped, qlonglong totalBytes)
 {
     qDebug() << "[Serial] MigrationManager::onWorkerAllCompleted - success:" << success << "failed:" << failed
-             << "skipped:" << skipped << "bytes:" << totalBytes << "sendingAppPhase:" << false;
+             << "skipped:" << skipped << "bytes:" << totalBytes << "sendingAppPhase:" << sendingAppPhase;
     m_accumulated.success += success;
     m_accumulated.failed += failed;
     m_accumulated.skipped += skipped;
@@ -258,25 +276,45 @@ void MigrationManager::onWorkerAllCompleted(int success, int failed, int skipped
     if (m_role == NewPC) {
         storeCounts({success, failed, skipped, totalBytes});
         fileTransferDone = true;
-        qDebug() << "Apps pending installation:" << 0;
-        cleanUpReceivedApps();
+        m_receivedApps->forceInstallAll();
+        m_receivedApps->cleanUp();
+    } else if (!finishFileList()) {
+        return;
     } else {
-        finishFolderPhase();
+        storeCounts(m_accumulated);
+        fileTransferDone = m_foldersPhaseDone && m_appFilePhaseDone;
+        qDebug() << "[Serial] fileTransferDone=" << fileTransferDone
+                 << "appMigrationDone=" << appMigrationDone;
     }
     checkAllCompleted();
 }
 
-void MigrationManager::finishFolderPhase()
+/// One of the sender's lists is through. False while another is to follow.
+bool MigrationManager::finishFileList()
 {
+    if (sendingAppPhase) {
+        m_appFilePhaseDone = true;
+        sendingAppPhase = false;
+        appMigrationDone = true;
+        qDebug() << "[Serial] App file phase done.";
+        sendDelayedAppEnds();
+        return true;
+    }
     m_foldersPhaseDone = true;
-    qDebug() << "[Serial] Folders phase done. appFilesAllQueued=" << true << "pendingAppTasks=" << 0
-             << "hasAppsToMigrate=" << false;
+    qDebug() << "[Serial] Folders phase done. appFilesAllQueued=" << appFilesAllQueued
+             << "pendingAppTasks=" << m_pendingAppTasks.size() << "hasAppsToMigrate=" << hasAppsToMigrate;
+    if (hasAppsToMigrate && !appFilesAllQueued) {
+        qDebug() << "[Serial] Waiting AppMigrator to finish queueing...";
+        return false;
+    }
+    if (hasAppsToMigrate && !m_pendingAppTasks.isEmpty()) {
+        startAppFilePhase();
+        return false;
+    }
     m_appFilePhaseDone = true;
     appMigrationDone = true;
     qDebug() << "[Serial] No app files to send, marking app file phase done.";
-    storeCounts(m_accumulated);
-    fileTransferDone = m_foldersPhaseDone && m_appFilePhaseDone;
-    qDebug() << "[Serial] fileTransferDone=" << fileTransferDone << "appMigrationDone=" << appMigrationDone;
+    return true;
 }
 
 void MigrationManager::checkAllCompleted()
@@ -301,20 +339,6 @@ void MigrationManager::checkAllCompleted()
     Q_EMIT completed(report);
     qDebug() << "All migration completed!";
     processDeferred();
-}
-
-void MigrationManager::cleanUpReceivedApps()
-{
-    QDir folder(receivedAppsFolder());
-    if (!folder.exists() || !isOwnReceivedAppsFolder())
-        return;
-    const QStringList remaining = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    if (!remaining.isEmpty())
-        qDebug() << "Found" << remaining.size() << "remaining app directories (not installed)";
-    for (const QString &name : remaining)
-        qDebug() << "  Remaining:" << name;
-    folder.removeRecursively();
-    qDebug() << "Cleaned up received apps temp directory";
 }
 
 MigrationReport MigrationManager::buildReport() const
@@ -383,6 +407,11 @@ void MigrationManager::onWorkerRequestSendCommand(int type, const QByteArray &pa
         qDebug() << ">>> onWorkerRequestSendCommand called! type:" << type << "size:" << payload.size();
     if (!m_networkManager) {
         qDebug() << ">>> ERROR: m_networkManager is NULL!";
+        return;
+    }
+    if (type == int(MessageType::AppEnd)) {
+        m_delayedAppEnds.append(readAppEnd(payload));
+        qDebug() << "[Serial] AppEnd queued for later:" << m_delayedAppEnds.constLast();
         return;
     }
     if (traced)

@@ -8,20 +8,31 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QStringList>
 
+#include <functional>
 #include <optional>
 
 class QThread;
 
 namespace Zandrove {
 
+class AppMigrator;
 class FileReceiverWorker;
 class FileSenderWorker;
 class NetworkManager;
+class ReceivedApps;
+class SettingMigrator;
 
 /// Runs one transfer on either PC: owns the workers and their threads, decides the order of the phases, sends
 /// every message that a worker wants sent, hands every message of the peer to its handler, and knows when the
 /// run is over.
+///
+/// On the Old PC three things begin together: the folders' files are sent, the applications are packed, the
+/// settings are exported. The files of applications follow those of the folders, and only behind them the
+/// New PC is told that an application is complete, which makes it install it: on this thread, blocking it.
+/// The run is complete with the slowest of the three. On the New PC the peer's last message completes it;
+/// settings that have arrived by then may still be being applied.
 ///
 /// Lives on the main thread. A run ends by exactly one of `completed`, `cancelled` (here), `peerCancelled`
 /// and `transferReset`, or silently by `resetAndListen`; a failed file is a count in the report. A lost link
@@ -51,6 +62,9 @@ public:
 
     /// New PC: the peer has begun a run since this side last cancelled, was cancelled, or started to wait.
     [[nodiscard]] bool hasIncomingRun() const { return m_incomingRun; }
+
+    /// New PC: settings have arrived of which it isn't known yet what became of them.
+    [[nodiscard]] bool isApplyingSettings() const { return m_settingsOwed; }
 
     /// Begins a run in either role. Ignored while one is on.
     void start(const QList<AppInfo> &apps, const QList<FolderInfo> &folders,
@@ -93,6 +107,14 @@ Q_SIGNALS:
     void transferReset();
     void appInstallProgress(const QString &appName, int percent, const QString &status);
     void appInstallFinished(const QString &appName, bool success, const QString &error);
+    /// What became of one application: on the Old PC whether it was packed, on the New PC whether it is
+    /// installed.
+    void appOutcome(const QString &appName, bool success, const QString &error);
+    /// What became of one setting: on the Old PC whether it was exported, on the New PC whether it is
+    /// applied.
+    void settingOutcome(const QString &name, bool success, const QString &error);
+    /// All settings of the run are through.
+    void settingsFinished(int succeeded, int failed);
 
 public Q_SLOTS:
     /// The one entry of transfer messages, whatever link they came by.
@@ -122,11 +144,19 @@ private:
     void setupConnections();
     void createReceiver();
     void createSender();
+    void createAppMigrator();
+    void createSettingMigrator();
     template <typename Worker>
     void startWorker(Worker *worker);
+    void startOn(QThread *&thread, const QString &name, QObject *worker);
+    template <typename... Arguments>
+    [[nodiscard]] auto ofThisRun(void (MigrationManager::*slot)(Arguments...));
     void stopWorkers();
-    [[nodiscard]] static bool endThread(QThread &thread, const char *warning);
+    void finishSettings();
+    template <typename... Workers>
+    static void endThread(QThread *&thread, const char *warning, Workers *&...workers);
     void invokeStartReceiving();
+    void startEverythingReceiving();
     [[nodiscard]] bool mayReadLink() const;
     [[nodiscard]] bool isLinkOfRun() const;
     void resumeReadingLink();
@@ -135,15 +165,44 @@ private:
     void cancelWorkersQueued();
 
     // The run.
+    void startSending();
     void clearRunState();
+    void clearAppQueue();
     void resetRun();
     void clearReportCounters();
     void restartReceiving();
     [[nodiscard]] QList<FileTransferTask> buildTaskList(const QList<FolderInfo> &folders);
     void checkAllCompleted();
-    void finishFolderPhase();
+    [[nodiscard]] bool finishFileList();
     void storeCounts(const FileCounts &counts);
-    void cleanUpReceivedApps();
+
+    // Applications on the Old PC.
+    [[nodiscard]] QList<AppInfo> appsToMigrate() const;
+    void startAppMigration(const QList<AppInfo> &apps);
+    void onAppRequestSendFile(const QString &filePath, const QString &relativePath);
+    void onAppMigrationFinished(int success, int failed, int skipped);
+    void checkAppQueue();
+    void startAppFilePhase();
+    void sendDelayedAppEnds();
+
+    // Applications on the New PC.
+    void onAppStart(const QByteArray &payload);
+    void onAppEnd(const QByteArray &payload);
+    void processAppEnd(const QString &appName);
+    void installWhenWritten(const QString &appName);
+    void afterAppEndDelay(std::function<void()> action);
+    [[nodiscard]] bool flushReceiver();
+    void onAppInstalled(const QString &name, bool success, const QString &error);
+
+    // Settings.
+    [[nodiscard]] QList<SettingInfo> settingsToMigrate() const;
+    void startSettingMigration(const QList<SettingInfo> &settings);
+    void onSettingMigrationFinished(int applied, int failed);
+    void onSettingStart(const QByteArray &payload);
+    void onSettingComplete(const QByteArray &payload);
+    void beginReceivingSettings();
+    void tellSettingMigrator(void (SettingMigrator::*slot)(const QByteArray &), const QByteArray &payload);
+
     [[nodiscard]] MigrationReport buildReport() const;
     void sendToPeer(Protocol::MessageType type, const QByteArray &payload = {});
 
@@ -156,6 +215,12 @@ private:
     void onWorkerAllCompleted(int success, int failed, int skipped, qlonglong totalBytes);
     void onWorkerError(const QString &msg);
     void onWorkerRequestSendCommand(int type, const QByteArray &payload);
+    void onAppStarted(const QString &name);
+    void onAppProgress(const QString &name, int percent, const QString &status);
+    void onAppFinished(const QString &name, bool success, const QString &error);
+    void onSettingStarted(const QString &name);
+    void onSettingProgress(const QString &name, int percent);
+    void onSettingFinished(const QString &name, bool success, const QString &error);
 
     // What the peer sends.
     void process(Protocol::MessageType type, const QByteArray &payload);
@@ -165,6 +230,7 @@ private:
     [[nodiscard]] bool admitWhileIdle(Protocol::MessageType type);
     void restartForNewTransfer();
     void dispatch(Protocol::MessageType type, const QByteArray &payload);
+    void dispatchSetting(Protocol::MessageType type, const QByteArray &payload);
     void onTransferStart(const QByteArray &payload);
     void onFileHeader(const QByteArray &payload);
     void onFileData(const QByteArray &payload);
@@ -176,9 +242,12 @@ private:
     void onTransferComplete();
     void onTransferReset();
 
+    SettingMigrator *m_settingMigrator = nullptr;
+    QThread *m_settingThread = nullptr;
     bool settingPhaseDone = false;
     int m_settingsApplied = 0;
     int m_settingsFailed = 0;
+    QStringList m_delayedAppEnds; // names of applications, held back until their files are through
     QPointer<NetworkManager> m_networkManager;
     int m_role = OldPC;
     ConflictConfig m_conflictConfig;
@@ -186,6 +255,9 @@ private:
     QThread *m_workerThread = nullptr;
     FileSenderWorker *m_senderWorker = nullptr;     // Old PC only
     FileReceiverWorker *m_receiverWorker = nullptr; // New PC only
+    AppMigrator *m_appMigrator = nullptr;
+    QThread *m_appThread = nullptr;
+    ReceivedApps *m_receivedApps = nullptr; // New PC
     bool m_migrating = false;
     bool m_paused = false;
     QList<AppInfo> m_apps;
@@ -201,10 +273,16 @@ private:
     int m_appsSuccess = 0;
     int m_appsFailed = 0;
     int m_appsSkipped = 0;
+    int appFilesQueued = 0;         // files that the application migrator has announced
+    int m_appFilesMissing = 0;      // those of them that were gone by then
+    bool appFilesAllQueued = false; // it has announced everything
     bool fileTransferDone = false;
     bool appMigrationDone = false;
+    bool hasAppsToMigrate = false;
+    QList<FileTransferTask> m_pendingAppTasks; // files of applications, to follow those of the folders
     bool m_foldersPhaseDone = false;
     bool m_appFilePhaseDone = false;
+    bool sendingAppPhase = false; // the sender's list is that of the applications
     int m_nextTaskId = 0;
     FileCounts m_accumulated; // over the lists that the sender of one run is given
 
@@ -216,6 +294,8 @@ private:
     std::optional<quint64> m_runLink; // Old PC: the link that the run began on
     bool m_completing = false;        // New PC: all has arrived, the receiver is still working it off
     QList<Message> m_deferred;        // what arrived meanwhile
+    bool m_settingsBegun = false;     // New PC: the setting migrator was told to receive
+    bool m_settingsOwed = false;      // New PC: it has not said yet what became of the settings
 };
 
 } // namespace Zandrove

@@ -4,7 +4,9 @@
 #include "pipeline/FileReceiverWorker.h"
 #include "pipeline/FileSenderWorker.h"
 #include "pipeline/MigrationManager.h"
+#include "pipeline/ReceivedApps.h"
 #include "pipeline/TransferMessages.h"
+#include "settings/SettingMigrator.h"
 
 #include <QDebug>
 #include <QTimer>
@@ -138,7 +140,7 @@ void MigrationManager::restartForNewTransfer()
     setupConnections();
     m_migrating = true;
     m_startTime = QDateTime::currentDateTime();
-    invokeStartReceiving();
+    startEverythingReceiving();
     Q_EMIT newTransferStarted();
 }
 
@@ -179,6 +181,41 @@ void MigrationManager::dispatch(MessageType type, const QByteArray &payload)
     case MessageType::TransferReset:
         onTransferReset();
         break;
+    case MessageType::AppStart:
+        onAppStart(payload);
+        break;
+    case MessageType::AppEnd:
+        onAppEnd(payload);
+        break;
+    default:
+        dispatchSetting(type, payload);
+        break;
+    }
+}
+
+void MigrationManager::dispatchSetting(MessageType type, const QByteArray &payload)
+{
+    const bool isReceiver = m_role == NewPC && m_settingMigrator;
+    switch (type) {
+    case MessageType::SettingStart:
+        qDebug() << ">>> SettingStart received";
+        if (isReceiver)
+            onSettingStart(payload);
+        break;
+    case MessageType::SettingData:
+        if (isReceiver)
+            tellSettingMigrator(&SettingMigrator::onSettingData, payload);
+        break;
+    case MessageType::SettingEnd:
+        qDebug() << ">>> SettingEnd received";
+        if (isReceiver)
+            tellSettingMigrator(&SettingMigrator::onSettingEnd, payload);
+        break;
+    case MessageType::SettingComplete:
+        qDebug() << ">>> SettingComplete received";
+        if (isReceiver)
+            onSettingComplete(payload);
+        break;
     default:
         break;
     }
@@ -203,6 +240,7 @@ void MigrationManager::onFileHeader(const QByteArray &payload)
     qDebug() << ">>> FileHeader CASE ENTERED! payload:" << payload.size();
     const auto header = TransferMessages::Header::fromPayload(payload);
     qDebug() << ">>> FileHeader:" << header.relativePath << header.fileSize << header.taskId;
+    m_receivedApps->countFileIn(header.relativePath);
     if (!m_receiverWorker) {
         qDebug() << ">>> WARNING: m_receiverWorker is NULL! File will fail!";
         return;
@@ -229,12 +267,16 @@ void MigrationManager::onFileEnd(const QByteArray &payload)
 {
     if (!m_receiverWorker)
         return;
+    const auto end = TransferMessages::End::fromPayload(payload);
     QMetaObject::invokeMethod(
         m_receiverWorker,
-        [receiver = m_receiverWorker, end = TransferMessages::End::fromPayload(payload)] {
+        [receiver = m_receiverWorker, end] {
             receiver->onFileEnd(end.relativePath, end.checksum, end.taskId);
         },
         Qt::QueuedConnection);
+    const QString completeApp = m_receivedApps->countFileOut(end.relativePath);
+    if (!completeApp.isEmpty())
+        installWhenWritten(completeApp);
 }
 
 void MigrationManager::onFileAck(const QByteArray &payload)
@@ -296,6 +338,7 @@ void MigrationManager::handlePeerCancel()
     qDebug() << "Received TransferCancel from peer";
     qDebug() << "MigrationManager::handlePeerCancel()";
     m_migrating = false;
+    m_settingsOwed = false;
     cancelWorkersQueued();
     resetRun();
     if (m_role == NewPC) {
@@ -313,6 +356,7 @@ void MigrationManager::onTransferComplete()
     if (m_role == NewPC) {
         qDebug() << "Receiver: Marking all phases as done";
         appMigrationDone = true;
+        appFilesAllQueued = true;
         settingPhaseDone = true;
     }
     if (!m_receiverWorker) {

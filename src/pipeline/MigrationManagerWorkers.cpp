@@ -1,9 +1,11 @@
 // MigrationManager's workers: making, wiring, pausing and stopping them.
 
+#include "appmigration/AppMigrator.h"
 #include "peer/NetworkManager.h"
 #include "pipeline/FileReceiverWorker.h"
 #include "pipeline/FileSenderWorker.h"
 #include "pipeline/MigrationManager.h"
+#include "settings/SettingMigrator.h"
 
 #include <QDebug>
 #include <QThread>
@@ -18,8 +20,19 @@ namespace Zandrove {
 namespace {
 
 constexpr auto StopDeadline = 3000ms;
+constexpr auto SettingsDeadline = 60s; // several programs of the system one after the other
 
 } // namespace
+
+/// A slot that is called while this run lasts.
+template <typename... Arguments>
+auto MigrationManager::ofThisRun(void (MigrationManager::*slot)(Arguments...))
+{
+    return [this, run = m_run, slot](Arguments... arguments) {
+        if (run == m_run)
+            (this->*slot)(arguments...);
+    };
+}
 
 void MigrationManager::setupConnections()
 {
@@ -32,6 +45,8 @@ void MigrationManager::setupConnections()
         createReceiver();
     else
         createSender();
+    createAppMigrator();
+    createSettingMigrator();
 }
 
 void MigrationManager::createReceiver()
@@ -44,13 +59,8 @@ void MigrationManager::createReceiver()
     connect(m_receiverWorker, &FileReceiverWorker::inflowBelowMark, this,
             &MigrationManager::resumeReadingLink);
     startWorker(m_receiverWorker);
-    connect(
-        m_receiverWorker, &FileReceiverWorker::requestSendCommand, this,
-        [this, run = m_run](int type, const QByteArray &payload) {
-            if (run == m_run)
-                onWorkerRequestSendCommand(type, payload);
-        },
-        Qt::QueuedConnection);
+    connect(m_receiverWorker, &FileReceiverWorker::requestSendCommand, this,
+            ofThisRun(&MigrationManager::onWorkerRequestSendCommand), Qt::QueuedConnection);
 }
 
 void MigrationManager::createSender()
@@ -81,22 +91,53 @@ void MigrationManager::createSender()
         Qt::QueuedConnection);
 }
 
-/// Moves the worker to its thread and listens to it for as long as this run lasts.
+void MigrationManager::createAppMigrator()
+{
+    m_appMigrator = new AppMigrator;
+    connect(m_appMigrator, &AppMigrator::appStarted, this, ofThisRun(&MigrationManager::onAppStarted));
+    connect(m_appMigrator, &AppMigrator::appProgress, this, ofThisRun(&MigrationManager::onAppProgress));
+    connect(m_appMigrator, &AppMigrator::appFinished, this, ofThisRun(&MigrationManager::onAppFinished));
+    connect(m_appMigrator, &AppMigrator::finished, this,
+            ofThisRun(&MigrationManager::onAppMigrationFinished));
+    connect(m_appMigrator, &AppMigrator::requestSendCommand, this,
+            ofThisRun(&MigrationManager::onWorkerRequestSendCommand));
+    connect(m_appMigrator, &AppMigrator::requestSendFile, this,
+            ofThisRun(&MigrationManager::onAppRequestSendFile));
+    startOn(m_appThread, u"Applications"_s, m_appMigrator);
+}
+
+void MigrationManager::createSettingMigrator()
+{
+    m_settingsBegun = false;
+    m_settingMigrator = new SettingMigrator;
+    connect(m_settingMigrator, &SettingMigrator::settingStarted, this,
+            ofThisRun(&MigrationManager::onSettingStarted));
+    connect(m_settingMigrator, &SettingMigrator::settingProgress, this,
+            ofThisRun(&MigrationManager::onSettingProgress));
+    connect(m_settingMigrator, &SettingMigrator::settingFinished, this,
+            ofThisRun(&MigrationManager::onSettingFinished));
+    connect(m_settingMigrator, &SettingMigrator::finished, this,
+            ofThisRun(&MigrationManager::onSettingMigrationFinished));
+    connect(m_settingMigrator, &SettingMigrator::requestSendCommand, this,
+            ofThisRun(&MigrationManager::onWorkerRequestSendCommand), Qt::QueuedConnection);
+    startOn(m_settingThread, u"Settings"_s, m_settingMigrator);
+}
+
+void MigrationManager::startOn(QThread *&thread, const QString &name, QObject *worker)
+{
+    if (!thread) {
+        thread = new QThread(this);
+        thread->setObjectName(name);
+    }
+    worker->moveToThread(thread);
+    if (!thread->isRunning())
+        thread->start();
+}
+
+/// Listens to the worker for as long as this run lasts, and moves it to its thread.
 template <typename Worker>
 void MigrationManager::startWorker(Worker *worker)
 {
-    if (!m_workerThread) {
-        m_workerThread = new QThread(this);
-        m_workerThread->setObjectName(u"Worker"_s);
-    }
-    worker->moveToThread(m_workerThread);
-
-    const auto ofThisRun = [this, run = m_run](auto slot) {
-        return [this, run, slot](const auto &...arguments) {
-            if (run == m_run)
-                (this->*slot)(arguments...);
-        };
-    };
     connect(worker, &Worker::fileStarted, this, ofThisRun(&MigrationManager::onWorkerFileStarted));
     connect(worker, &Worker::fileProgress, this, ofThisRun(&MigrationManager::onWorkerFileProgress));
     connect(worker, &Worker::fileCompleted, this, ofThisRun(&MigrationManager::onWorkerFileCompleted));
@@ -104,43 +145,62 @@ void MigrationManager::startWorker(Worker *worker)
     connect(worker, &Worker::overallProgress, this, ofThisRun(&MigrationManager::onWorkerOverallProgress));
     connect(worker, &Worker::allCompleted, this, ofThisRun(&MigrationManager::onWorkerAllCompleted));
     connect(worker, &Worker::error, this, ofThisRun(&MigrationManager::onWorkerError));
-
-    if (!m_workerThread->isRunning())
-        m_workerThread->start();
+    startOn(m_workerThread, u"Worker"_s, worker);
 }
 
 void MigrationManager::stopWorkers()
 {
+    finishSettings();
     ++m_run;
     stopWork();
-    if (m_senderWorker)
-        QObject::disconnect(m_senderWorker, nullptr, nullptr, nullptr);
-    if (m_receiverWorker)
-        QObject::disconnect(m_receiverWorker, nullptr, nullptr, nullptr);
-    if (m_workerThread) {
-        if (endThread(*m_workerThread, "Worker thread did not stop in time, terminating...")) {
-            delete m_senderWorker;
-            delete m_receiverWorker;
-        }
-        delete m_workerThread;
+    const std::initializer_list<QObject *> workers = {m_senderWorker, m_receiverWorker, m_appMigrator,
+                                                      m_settingMigrator};
+    for (QObject *worker : workers) {
+        if (worker)
+            worker->disconnect();
     }
-    m_senderWorker = nullptr;
-    m_receiverWorker = nullptr;
-    m_workerThread = nullptr;
+    // All of them at first, so that only the slowest is waited for.
+    for (QThread *thread : {m_workerThread, m_appThread, m_settingThread}) {
+        if (thread) {
+            thread->requestInterruption();
+            thread->quit();
+        }
+    }
+    endThread(m_workerThread, "Worker thread did not stop in time, terminating...", m_senderWorker,
+              m_receiverWorker);
+    endThread(m_appThread, "App thread did not stop in time, terminating...", m_appMigrator);
+    endThread(m_settingThread, "Setting thread did not stop in time, terminating...", m_settingMigrator);
     resumeReadingLink();
 }
 
-/// False when the thread had to be terminated: what it was working on is in no state to be touched then.
-bool MigrationManager::endThread(QThread &thread, const char *warning)
+/// The settings of a run that is complete are still applied: they have arrived, and the peer was told so.
+void MigrationManager::finishSettings()
 {
-    thread.requestInterruption();
-    thread.quit();
-    if (thread.wait(QDeadlineTimer(StopDeadline)))
-        return true;
-    qWarning() << warning;
-    thread.terminate();
-    thread.wait();
-    return false;
+    if (!m_settingsOwed || !m_settingThread)
+        return;
+    m_settingsOwed = false;
+    QMetaObject::invokeMethod(
+        m_settingMigrator, [thread = m_settingThread] { thread->quit(); }, Qt::QueuedConnection);
+    m_settingThread->wait(QDeadlineTimer(SettingsDeadline));
+}
+
+/// Waits for the end of a thread that was told to quit, and deletes the workers that live on it. What a
+/// thread that had to be terminated was working on is in no state to be touched, so it stays.
+template <typename... Workers>
+void MigrationManager::endThread(QThread *&thread, const char *warning, Workers *&...workers)
+{
+    if (thread) {
+        if (thread->wait(QDeadlineTimer(StopDeadline))) {
+            (delete workers, ...);
+        } else {
+            qWarning() << warning;
+            thread->terminate();
+            thread->wait();
+        }
+        delete thread;
+    }
+    thread = nullptr;
+    ((workers = nullptr), ...);
 }
 
 void MigrationManager::invokeStartReceiving()
@@ -148,6 +208,13 @@ void MigrationManager::invokeStartReceiving()
     if (m_receiverWorker)
         QMetaObject::invokeMethod(m_receiverWorker, &FileReceiverWorker::startReceiving,
                                   Qt::QueuedConnection);
+}
+
+void MigrationManager::startEverythingReceiving()
+{
+    invokeStartReceiving();
+    beginReceivingSettings();
+    QMetaObject::invokeMethod(m_appMigrator, &AppMigrator::startReceiving, Qt::QueuedConnection);
 }
 
 void MigrationManager::setWorkersPaused(bool paused)
@@ -169,6 +236,10 @@ void MigrationManager::stopWork()
         m_senderWorker->stop();
     if (m_receiverWorker)
         m_receiverWorker->stop();
+    if (m_appMigrator)
+        m_appMigrator->stop();
+    if (m_settingMigrator)
+        m_settingMigrator->stop();
 }
 
 void MigrationManager::cancelWorkersQueued()

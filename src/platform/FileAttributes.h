@@ -14,7 +14,8 @@ namespace Zandrove::Platform {
 [[nodiscard]] bool isUnsafeRelativePath(const QString &relativePath);
 
 /// Whether `path` exists as a symbolic link or belongs to another user, so that a private file below it could
-/// be diverted or read by somebody else. A path that does not exist is not foreign. Always false on Windows.
+/// be diverted or read by somebody else. A path that does not exist is not foreign. On Windows links and
+/// junctions are told, owners are not.
 [[nodiscard]] bool isForeignOrLink(const QString &path);
 
 /// The size of the file itself in bytes, where the portable classes would give that of a shortcut's target.

@@ -7,8 +7,8 @@ namespace {
 int runAll(int argc, char *argv[])
 {
     const QCoreApplication app(argc, argv);
-    return Zandrove::TestMain::runTests(makePackageTest, makeRegistryExportTest, makeAppAnalyzerTest,
-                                        makeAppInstallerTest, makeAppMigratorTest);
+    return Zandrove::TestMain::runTests(makeRegistryFileTest, makeAppAnalyzerTest, makeAppInstallerTest,
+                                        makeAppMigratorTest);
 }
 
 } // namespace

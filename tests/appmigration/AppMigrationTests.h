@@ -1,9 +1,42 @@
 #pragma once
 
-#include <QObject>
+#include "SimulatedPc.h"
+
+#include <QFile>
+#include <QTest>
+
+#include <memory>
 
 QObject *makeAppMigratorTest();
-QObject *makePackageTest();
 QObject *makeAppAnalyzerTest();
 QObject *makeAppInstallerTest();
-QObject *makeRegistryExportTest();
+QObject *makeRegistryFileTest();
+
+/// A test that has a PC of its own for each of its functions.
+class PcTest : public QObject
+{
+    Q_OBJECT
+
+protected Q_SLOTS:
+    void initTestCase()
+    {
+        if (!Zandrove::SimulatedPc::isMadeUp() && !qEnvironmentVariableIsSet("ZANDROVE_SCRATCH_PC"))
+            QSKIP("Needs a PC that ZANDROVE_SCRATCH_PC gives away for tests");
+    }
+    void init() { m_pc = std::make_unique<Zandrove::SimulatedPc>(); }
+    void cleanup() { m_pc.reset(); }
+
+protected:
+    static QByteArray contentOf(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("unreadable");
+    }
+
+    /// Expects a line of the log: the test fails where it does not come.
+    static void expectLog(const QString &line) { QTest::ignoreMessage(QtDebugMsg, qPrintable(line)); }
+
+    /// A key that tests may fill.
+    const QString Key = QStringLiteral("HKEY_CURRENT_USER\\Software\\ZandroveTest");
+    std::unique_ptr<Zandrove::SimulatedPc> m_pc;
+};

@@ -1,10 +1,7 @@
 #include "AppMigrationTests.h"
 
-#include "SimulatedPc.h"
-
 #include "appmigration/AppMessages.h"
 #include "appmigration/AppMigrator.h"
-#include "peer/Protocol.h"
 #include "platform/ShellLink.h"
 #include "platform/SpecialFolders.h"
 #include "support/Json.h"
@@ -13,7 +10,6 @@
 #include <QJsonObject>
 #include <QSignalSpy>
 #include <QStandardPaths>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
@@ -21,30 +17,26 @@ using namespace Zandrove;
 using Platform::SpecialFolder;
 using Platform::specialFolder;
 
-class AppMigratorTest : public QObject
+class AppMigratorTest : public PcTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!SimulatedPc::isMadeUp() && !qEnvironmentVariableIsSet("ZANDROVE_SCRATCH_PC"))
-            QSKIP("Needs a PC that ZANDROVE_SCRATCH_PC gives away for tests");
-    }
     void init()
     {
-        m_pc = std::make_unique<SimulatedPc>();
+        PcTest::init();
         m_migrator = std::make_unique<AppMigrator>();
         m_requests.clear();
         connect(m_migrator.get(), &AppMigrator::requestSendCommand, this,
                 [this](int type, const QByteArray &payload) {
                     const QJsonObject object = parseJsonObject(payload).value_or(QJsonObject());
-                    const bool begins = type == int(Protocol::MessageType::AppStart);
-                    m_requests.append((begins ? u"begin "_s : u"end "_s) +
-                                      object.value(u"safeName"_s).toString() +
-                                      (begins ? QString()
-                                              : u" %1 %2"_s.arg(object.value(u"filesQueued"_s).toInt())
-                                                    .arg(object.value(u"filesSkipped"_s).toInt())));
+                    QString request = QString::number(type);
+                    for (const QString &key : {u"safeName"_s, u"fileCount"_s, u"totalSize"_s,
+                                               u"filesQueued"_s, u"filesSkipped"_s}) {
+                        if (object.contains(key))
+                            request += u' ' + object.value(key).toVariant().toString();
+                    }
+                    m_requests.append(request);
                 });
         connect(m_migrator.get(), &AppMigrator::requestSendFile, this,
                 [this](const QString &, const QString &relativePath) { m_requests.append(relativePath); });
@@ -52,12 +44,12 @@ private Q_SLOTS:
     void cleanup()
     {
         m_migrator.reset();
-        m_pc.reset();
+        PcTest::cleanup();
     }
 
+    void namesBecomeOneComponent();
     void applicationsAreSentInOrder();
     void cancelledRunsEndInSilence();
-    void beginMessagesAreRead_data();
     void beginMessagesAreRead();
     void receivedApplicationsAreAnnouncedAndEnded();
 
@@ -73,39 +65,67 @@ private:
         return info;
     }
 
-    std::unique_ptr<SimulatedPc> m_pc;
     std::unique_ptr<AppMigrator> m_migrator;
     QStringList m_requests; ///< what was to be sent, in order
 };
 
+void AppMigratorTest::namesBecomeOneComponent()
+{
+    const std::pair<QString, QString> safeNames[] = {
+        {u"Acme Editor 2"_s, u"Acme Editor 2"_s},
+        {u"<a>:\"b\"/\\c|?*"_s, u"_a___b___c___"_s},
+        {u"Acme Inc. . "_s, u"Acme Inc"_s},
+        {u"com1"_s, u"_com1"_s},
+        {u"COM1.txt"_s, u"_COM1.txt"_s},
+        {u"nul."_s, u"_nul"_s},
+        {u"COM10"_s, u"COM10"_s},
+        {u"..."_s, u"unnamed"_s},
+        {QString(), u"unnamed"_s},
+        {QString(99, u'x') + u". y"_s, QString(99, u'x') + u'.'}}; // cut at a point, which stays
+    for (const auto &[name, safeName] : safeNames)
+        QCOMPARE(makeSafeName(name), safeName);
+}
+
 void AppMigratorTest::applicationsAreSentInOrder()
 {
-    const QList<AppInfo> apps = {app(u"Zqx: One"_s), app(u"Vwvk"_s), app(u"Idle"_s, false),
-                                 app(u"Stuck"_s, true, false)};
-    m_pc->writeFile(apps[0].installPath + u"/left.log"_s, "x");
+    QList<AppInfo> apps = {app(u"Zqx: One"_s), app(u"Vwvk"_s), app(u"Idle"_s, false),
+                           app(u"Stuck"_s, true, false)};
+    apps.append(apps[0]);
+    apps.last().name = u"Zqx? One"_s; // which travels as the first one does
+    m_pc->writeFile(apps[0].installPath + u"/left.log"_s, QByteArray(100, 'x'));
     m_pc->writeFile(specialFolder(SpecialFolder::LocalAppData) + u"/zqx./l"_s, "x");
     m_pc->writeFile(specialFolder(SpecialFolder::RoamingAppData) + u"/Zqx/sub/r"_s, "x");
     m_pc->writeFile(specialFolder(SpecialFolder::CommonAppData) + u"/Zqx/p"_s, "x");
     m_pc->addRegistry(u"[HKEY_CURRENT_USER\\Software\\Zqx:]\n\"value\"=\"a text\"\n"_s);
-    for (const QString &folder : {specialFolder(SpecialFolder::StartMenuPrograms),
-                                  QStandardPaths::writableLocation(QStandardPaths::DesktopLocation)})
-        QVERIFY(Platform::writeShellLink(folder + u"/Zqx: 1.lnk"_s,
-                                         {.path = apps[0].installPath + u"/bin/a.exe"_s}));
+    const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+    const std::pair<QString, AppInfo> links[] = {
+        {specialFolder(SpecialFolder::StartMenuPrograms) + u"/Zqx: 1.lnk"_s, apps[0]},
+        {desktop + u"/Zqx: 1.lnk"_s, apps[0]},
+        {desktop + u"/Vwvk.lnk"_s, apps[1]}};
+    for (const auto &[link, target] : links)
+        QVERIFY(Platform::writeShellLink(link, {.path = target.installPath + u"/bin/a.exe"_s}));
+    connect(m_migrator.get(), &AppMigrator::appStarted, this, [&](const QString &name) {
+        if (name == "Vwvk"_L1) // vanishes between its analysis and its sending
+            QVERIFY(QDir(apps[1].installPath).removeRecursively() && QFile::remove(desktop + u"/Vwvk.lnk"_s));
+    });
 
     QSignalSpy appFinished(m_migrator.get(), &AppMigrator::appFinished);
     QSignalSpy finished(m_migrator.get(), &AppMigrator::finished);
+    expectLog(u"  [WARN] Another application travels under the same name: \"Zqx? One\""_s);
+    expectLog(u"  [WARN] Directory not exists: \"%1\""_s.arg(apps[1].installPath));
     m_migrator->start(apps);
     const QString base = u"Apps/Zqx_ One/"_s;
-    QCOMPARE(
-        m_requests,
-        (QStringList{u"begin Zqx_ One"_s, base + u"registry.reg"_s, base + u"Install/Zqx_ One/bin/a.exe"_s,
-                     base + u"AppData/Local/zqx/l"_s, base + u"AppData/Roaming/Zqx/sub/r"_s,
-                     base + u"ProgramData/Zqx/p"_s, base + u"Shortcuts/StartMenu/Zqx_ 1.lnk"_s,
-                     base + u"Shortcuts/Desktop/Zqx_ 1.lnk"_s, u"end Zqx_ One 7 1"_s, u"begin Vwvk"_s,
-                     u"Apps/Vwvk/Install/Vwvk/bin/a.exe"_s, u"end Vwvk 1 0"_s}));
-    QCOMPARE(appFinished,
-             (QList<QVariantList>{{u"Zqx: One"_s, true, QString()}, {u"Vwvk"_s, true, QString()}}));
-    QCOMPARE(finished, (QList<QVariantList>{{2, 0, 2}}));
+    const QStringList folders = {base + u"Install/Zqx_ One/bin/a.exe"_s, base + u"AppData/Local/zqx/l"_s,
+                                 base + u"AppData/Roaming/Zqx/sub/r"_s, base + u"ProgramData/Zqx/p"_s};
+    QCOMPARE(m_requests, (QStringList{u"96 Zqx_ One 4 4"_s, base + u"registry.reg"_s} + folders +
+                          QStringList{base + u"Shortcuts/StartMenu/Zqx_ 1.lnk"_s,
+                                      base + u"Shortcuts/Desktop/Zqx_ 1.lnk"_s, u"97 Zqx_ One 7 1"_s,
+                                      u"96 Vwvk 1 1"_s, u"97 Vwvk 0 1"_s, u"96 Zqx_ One 4 4"_s} +
+                          folders + QStringList{u"97 Zqx_ One 4 1"_s}));
+    QCOMPARE(appFinished, (QList<QVariantList>{{u"Zqx: One"_s, true, QString()},
+                                               {u"Vwvk"_s, true, QString()},
+                                               {u"Zqx? One"_s, true, QString()}}));
+    QCOMPARE(finished, (QList<QVariantList>{{3, 0, 2}}));
 }
 
 void AppMigratorTest::cancelledRunsEndInSilence()
@@ -116,7 +136,7 @@ void AppMigratorTest::cancelledRunsEndInSilence()
     const auto once = connect(m_migrator.get(), &AppMigrator::requestSendCommand, m_migrator.get(),
                               [this] { m_migrator->cancel(); });
     m_migrator->start(apps);
-    QCOMPARE(m_requests, QStringList(u"begin Zqx"_s));
+    QCOMPARE(m_requests, QStringList(u"96 Zqx 1 1"_s));
     QCOMPARE(appFinished, (QList<QVariantList>{{u"Zqx"_s, false, QString()}}));
     QCOMPARE(finished.size(), 0);
 
@@ -125,42 +145,33 @@ void AppMigratorTest::cancelledRunsEndInSilence()
     QCOMPARE(finished, (QList<QVariantList>{{2, 0, 0}}));
 }
 
-void AppMigratorTest::beginMessagesAreRead_data()
+void AppMigratorTest::beginMessagesAreRead()
 {
-    QTest::addColumn<QByteArray>("payload");
-    QTest::addColumn<QString>("name"); ///< null for a message that is ignored
-    QTest::addColumn<int>("fileCount");
-
     AppPackage package;
     package.name = u"AC/DC"_s;
     package.fileCount = 7;
     package.shortcuts = {ShortcutInfo{}};
-    QTest::newRow("own") << appStartPayload(package) << u"AC/DC"_s << 7;
-    QTest::newRow("wrong types") << R"({"appName":"x","fileCount":"many","shortcuts":4,"version":[]})"_ba
-                                 << u"x"_s << 0;
-    QTest::newRow("harmless points") << R"({"appName":".a..b."})"_ba << u".a..b."_s << 0;
-    QTest::newRow("too many") << R"({"appName":"x","fileCount":1e12})"_ba << u"x"_s << 2147483647;
-    for (const QByteArray &payload :
-         {""_ba, "[]"_ba, "{}"_ba, R"({"appName":7})"_ba, R"({"appName":" "})"_ba, R"({"appName":"../x"})"_ba,
-          R"({"appName":"x\\..\\y"})"_ba, R"({"appName":"."})"_ba, R"({"appName":"x/. ./y"})"_ba,
-          R"({"appName":"x\u0000"})"_ba})
-        QTest::addRow("'%s'", payload.constData()) << payload << QString() << 0;
-}
-
-void AppMigratorTest::beginMessagesAreRead()
-{
-    QFETCH(QByteArray, payload);
-    QFETCH(QString, name);
-    const std::optional<AppPackage> package = readAppStart(payload);
-    QCOMPARE(package.has_value(), !name.isNull());
-    QCOMPARE(package.value_or(AppPackage{}).name, name);
-    QTEST(package.value_or(AppPackage{}).fileCount, "fileCount");
+    const std::tuple<QByteArray, QString, int> taken[] = {
+        {appStartPayload(package), u"AC/DC"_s, 7},
+        {R"({"appName":"x","fileCount":"many","shortcuts":4,"version":[]})", u"x"_s, 0},
+        {R"({"appName":".a..b."})", u".a..b."_s, 0},
+        {R"({"appName":"x","fileCount":1e12})", u"x"_s, 2147483647}};
+    for (const auto &[payload, name, fileCount] : taken) {
+        const AppPackage read = readAppStart(payload).value_or(AppPackage{});
+        QCOMPARE(read.name, name);
+        QCOMPARE(read.fileCount, fileCount);
+    }
+    for (const char *payload : {"", "[]", "{}", R"({"appName":7})", R"({"appName":" "})",
+                                R"({"appName":"../x"})", R"({"appName":"x\\..\\y"})", R"({"appName":"."})",
+                                R"({"appName":"x/. ./y"})", R"({"appName":"x\u0000"})"})
+        QVERIFY2(!readAppStart(payload), payload);
 }
 
 void AppMigratorTest::receivedApplicationsAreAnnouncedAndEnded()
 {
     AppPackage package;
     package.name = u"Zqx"_s;
+    package.installLocation = m_pc->path(u"Target"_s);
     QSignalSpy started(m_migrator.get(), &AppMigrator::appStarted);
     QSignalSpy finished(m_migrator.get(), &AppMigrator::appFinished);
     m_migrator->onAppPackageReceived(appStartPayload(package));
@@ -177,6 +188,7 @@ void AppMigratorTest::receivedApplicationsAreAnnouncedAndEnded()
     const QString base = QStandardPaths::writableLocation(QStandardPaths::TempLocation) + u"/Zandrove_Apps"_s;
     QVERIFY(QDir().mkpath(base + u"/Apps/Zqx/Install/empty"_s));
     m_migrator->onAppEndReceived(u"Zqx"_s);
+    QVERIFY(QDir(base).removeRecursively());
     QCOMPARE(finished.last(), (QVariantList{u"Zqx"_s, false, u"Failed to copy install files"_s}));
 }
 

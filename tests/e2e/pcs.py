@@ -217,9 +217,11 @@ class Pc:
 class TwoPcs:
     """Context manager: an old and a new PC that can reach each other, and a scratch folder that goes with them."""
 
-    def __init__(self, old_address="192.168.77.1/24", new_address="192.168.77.2/24", old_kind=Pc, new_kind=Pc):
+    def __init__(self, old_address="192.168.77.1/24", new_address="192.168.77.2/24", old_kind=Pc, new_kind=Pc,
+                 place=None):
         self._addresses = (old_address, new_address)
         self._kinds = (old_kind, new_kind)
+        self._place = place
 
     def __enter__(self):
         self._stack = contextlib.ExitStack()
@@ -232,7 +234,7 @@ class TwoPcs:
 
     def _set_up(self):
         self.folder = pathlib.Path(self._stack.enter_context(
-            tempfile.TemporaryDirectory(prefix="zandrove-pcs-", ignore_cleanup_errors=True)))
+            tempfile.TemporaryDirectory(prefix="zandrove-pcs-", dir=self._place, ignore_cleanup_errors=True)))
         self.old = self._made_pc(self._kinds[0], "OldBox")
         self.new = self._made_pc(self._kinds[1], "NewBox")
         self.old.run("ip", "link", "add", LINK, "type", "veth", "peer", "name", LINK, "netns",

@@ -48,6 +48,57 @@ class WindowsPc(pcs.Pc):
         super().close()
 
 
+class UserPc(WindowsPc):
+    """A Windows PC that was set up by a user of its own."""
+
+    USERS = {"OldBox": "alice", "NewBox": "bob"}
+
+    def __init__(self, name, folder):
+        pcs.Pc.__init__(self, name, folder)
+        self.user = self.USERS[name]
+        self.prefix = folder / "prefix"
+        subprocess.run([str(RUNNER.parent / "prefix.sh"), str(self.prefix)], check=True, env=self.environment)
+        self.drive = self.prefix / "drive_c"
+        self.home = self.drive / "users" / self.user
+        self.start_menu = self.home / "AppData/Roaming/Microsoft/Windows/Start Menu/Programs"
+
+    @property
+    def environment(self):
+        return super().environment | {key: self.user for key in ("USER", "LOGNAME", "WINEUSERNAME")}
+
+    def tool(self, *words):
+        """Runs a program of this PC to its end and returns what it says."""
+        done = subprocess.run(self.command(str(RUNNER), *words), env=self.environment, capture_output=True, text=True,
+                              encoding="utf-8", errors="replace", timeout=60)
+        if done.returncode != 0:
+            raise AssertionError(f"{words}: {done.returncode}\n{done.stdout}{done.stderr}")
+        return done.stdout
+
+    def write(self, place, content="x"):
+        path = self.drive / place
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_text(content, encoding="utf-8")
+        return path
+
+    def add_registry(self, text):
+        path = self.write("registry.reg")
+        path.write_bytes(b"\xff\xfe" + f"Windows Registry Editor Version 5.00\n\n{text}".encode("utf-16-le"))
+        self.tool("reg", "import", "C:\\registry.reg")
+        path.unlink()
+
+    def value(self, key, name):
+        """A value of the registry as reg.exe shows it."""
+        shown = self.tool("reg", "query", key, "/v", name)
+        return next(line for line in shown.splitlines() if line.strip().startswith(name)).split(None, 2)[2].strip()
+
+    def write_link(self, path, target, working="", arguments=""):
+        self.tool(os.environ["ZANDROVE_SHELL_LINK"], "write", self.own_path(path), target, working, arguments)
+
+    def link(self, path):
+        """Target, working folder, arguments, and "there" or "missing"."""
+        return self.tool(os.environ["ZANDROVE_SHELL_LINK"], "read", self.own_path(path)).splitlines()
+
+
 class PackagedPc(WindowsPc):
     """A Windows PC that has nothing of the build: the zip has been unpacked there, and that is all."""
 

@@ -9,7 +9,7 @@ int runAll(int argc, char *argv[])
     const Zandrove::TestMain::OwnHome home;
     const QCoreApplication app(argc, argv);
     return Zandrove::TestMain::runTests(makePipelineRulesTest, makeFileSenderTest, makeFileReceiverTest,
-                                        makeMigrationManagerTest);
+                                        makeMigrationManagerTest, makeRunLanesTest);
 }
 
 } // namespace

@@ -7,6 +7,7 @@ QObject *makePipelineRulesTest();
 QObject *makeFileSenderTest();
 QObject *makeFileReceiverTest();
 QObject *makeMigrationManagerTest();
+QObject *makeRunLanesTest();
 
 /// `size` bytes without a pattern that a chunk size could hide.
 inline QByteArray someBytes(qsizetype size, quint32 seed = 1)

@@ -119,6 +119,9 @@ void TransferEngine::setupMigrationConnections()
     connect(m_migrationManager, &Run::fileTransferProgress, this, &TransferEngine::onFileTransferProgress);
     connect(m_migrationManager, &Run::fileTransferCompleted, this, &TransferEngine::onFileTransferCompleted);
     connect(m_migrationManager, &Run::fileTransferFailed, this, &TransferEngine::onFileTransferFailed);
+    connect(m_migrationManager, &Run::appOutcome, this, &TransferEngine::appOutcome);
+    connect(m_migrationManager, &Run::settingOutcome, this, &TransferEngine::settingOutcome);
+    connect(m_migrationManager, &Run::settingsFinished, this, &TransferEngine::settingsFinished);
 }
 
 void TransferEngine::setRole(int role)

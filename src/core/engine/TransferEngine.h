@@ -99,6 +99,8 @@ public:
     /// New PC: whether the peer has begun to send since this side last cancelled, was cancelled, or started
     /// to wait. To start waiting again would end that run.
     [[nodiscard]] bool hasIncomingRun() const;
+    /// New PC: settings have arrived that are still being applied. `settingsFinished` follows.
+    [[nodiscard]] bool isApplyingSettings() const;
     /// Holds the transfer on both sides. Emits `transferPaused`.
     void pauseTransfer();
     /// Goes on, whichever side paused. Emits `transferResumed`.
@@ -166,6 +168,14 @@ Q_SIGNALS:
     void fileTransferProgress(const QString &fileName, int percent);
     void fileTransferCompleted(const QString &fileName);
     void fileTransferFailed(const QString &fileName, const QString &reason);
+    /// What became of one application: on the Old PC whether it was packed, on the New PC whether it is
+    /// installed. `error` is empty on success.
+    void appOutcome(const QString &appName, bool success, const QString &error);
+    /// What became of one setting: on the Old PC whether it was exported, on the New PC whether it is
+    /// applied, which may come after `transferCompleted`.
+    void settingOutcome(const QString &name, bool success, const QString &error);
+    /// All settings of the run are through.
+    void settingsFinished(int succeeded, int failed);
     void info(const QString &message);
     void warning(const QString &message);
     void error(const QString &message);

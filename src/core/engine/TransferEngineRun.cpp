@@ -147,6 +147,11 @@ bool TransferEngine::hasIncomingRun() const
     return m_migrationManager->hasIncomingRun();
 }
 
+bool TransferEngine::isApplyingSettings() const
+{
+    return m_migrationManager->isApplyingSettings();
+}
+
 void TransferEngine::pauseTransfer()
 {
     if (!m_transferring || m_paused)

@@ -48,9 +48,15 @@ bool isUnsafeRelativePath(const QString &relativePath)
            std::any_of(names.cbegin(), names.cend(), isUnsafeName);
 }
 
-bool isForeignOrLink(const QString &)
+bool isForeignOrLink(const QString &path)
 {
-    return false;
+    WIN32_FIND_DATAW found = {};
+    const HANDLE search = FindFirstFileW(wide(nativePath(path)), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return false;
+    FindClose(search);
+    return (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+           IsReparseTagNameSurrogate(found.dwReserved0);
 }
 
 std::optional<qint64> realFileSize(const QString &path)

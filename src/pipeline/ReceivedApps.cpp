@@ -1,0 +1,160 @@
+#include "pipeline/ReceivedApps.h"
+
+#include "appmigration/AppMessages.h"
+#include "pipeline/DestinationGuard.h"
+#include "pipeline/DestinationMap.h"
+
+#include <QDebug>
+#include <QDir>
+
+namespace Zandrove {
+
+namespace {
+
+QString receivedAppFolder(const QString &appName)
+{
+    return receivedAppsFolder() + u'/' + appName;
+}
+
+/// The application that a file belongs to: what stands between the first slash and the next.
+QString appOfFile(const QString &relativePath)
+{
+    const qsizetype start = relativePath.indexOf(u'/') + 1;
+    const qsizetype end = relativePath.indexOf(u'/', start);
+    return isAppPath(relativePath) && end > start ? relativePath.sliced(start, end - start) : QString();
+}
+
+} // namespace
+
+ReceivedApps::ReceivedApps(QObject *parent)
+    : QObject(parent)
+{
+    connect(&m_appInstaller, &AppInstaller::progress, this,
+            [this](const QString &name, int percent, const QString &status) {
+                qDebug() << "Installing" << name << percent << status;
+                Q_EMIT installProgress(name, percent, status);
+            });
+    connect(&m_appInstaller, &AppInstaller::finished, this,
+            [this](const QString &name, bool success, const QString &error) {
+                qDebug() << "App install finished:" << name << (success ? "SUCCESS" : "FAILED");
+                if (!error.isEmpty())
+                    qDebug() << "  Error:" << error;
+                Q_EMIT installFinished(name, success, error);
+            });
+}
+
+bool ReceivedApps::begin(const QByteArray &payload)
+{
+    const std::optional<AppPackage> package = readAppStart(payload);
+    if (!package) {
+        qDebug() << "Ignoring an application that can't be read or has a name of no use";
+        return false;
+    }
+    const QString basePath = receivedAppFolder(package->name);
+    if (QDir(basePath).exists()) {
+        qDebug() << "Cleaning previous app data:" << basePath;
+        if (!removeReceived(basePath)) {
+            qDebug() << "Ignoring an application whose folder can't be cleaned:" << basePath;
+            return false;
+        }
+    }
+    QDir().mkpath(basePath);
+    const AppPackageInfo &info =
+        *m_receivedPackages.insert(package->name, receivedPackage(*package, basePath));
+    qDebug() << "Received AppStart for:" << info.name;
+    qDebug() << "  Original install location:" << info.originalInstallLocation;
+    qDebug() << "  Source user:" << info.sourceUser;
+    qDebug() << "  Saved to receivedBasePath:" << info.receivedBasePath;
+    return true;
+}
+
+void ReceivedApps::countFileIn(const QString &relativePath)
+{
+    const QString name = appOfFile(relativePath);
+    if (name.isEmpty())
+        return;
+    const int count = ++m_appOpenFiles[name];
+    qDebug() << "App file opened:" << name << "count:" << count;
+}
+
+QString ReceivedApps::countFileOut(const QString &relativePath)
+{
+    const QString name = appOfFile(relativePath);
+    if (name.isEmpty())
+        return {};
+    const int count = --m_appOpenFiles[name];
+    qDebug() << "App file closed:" << name << "count:" << count;
+    return isComplete(name) ? name : QString();
+}
+
+int ReceivedApps::end(const QString &appName)
+{
+    m_appEndReceived[appName] = true;
+    return m_appOpenFiles.value(appName);
+}
+
+bool ReceivedApps::isComplete(const QString &appName) const
+{
+    return m_appEndReceived.value(appName) && m_appOpenFiles.value(appName) <= 0;
+}
+
+void ReceivedApps::tryInstallApp(const QString &appName)
+{
+    qDebug() << "tryInstallApp:" << appName;
+    const auto waiting = m_receivedPackages.constFind(appName);
+    if (waiting == m_receivedPackages.cend()) {
+        qDebug() << "  WARNING: No package info found for:" << appName;
+        return;
+    }
+    AppPackageInfo package = *waiting;
+    package.receivedBasePath = receivedAppFolder(appName);
+    qDebug() << "Installing app:" << appName;
+    qDebug() << "  receivedBasePath:" << package.receivedBasePath;
+    qDebug() << "  originalInstallLocation:" << package.originalInstallLocation;
+    qDebug() << "  sourceUser:" << package.sourceUser;
+
+    const bool success = m_appInstaller.install(package);
+    qDebug() << (success ? "App installed successfully:" : "App install failed:") << appName;
+    if (!removeReceived(package.receivedBasePath))
+        qDebug() << "Something is left in temp directory:" << package.receivedBasePath;
+    qDebug() << "Cleaned up temp directory:" << package.receivedBasePath;
+    m_receivedPackages.remove(appName);
+    m_appOpenFiles.remove(appName);
+    m_appEndReceived.remove(appName);
+    Q_EMIT installed(appName, success, success ? QString() : package.errorMessage);
+}
+
+void ReceivedApps::forceInstallAll()
+{
+    const QStringList names = m_receivedPackages.keys();
+    qDebug() << "Apps pending installation:" << names.size();
+    for (const QString &name : names) {
+        qDebug() << "Force installing app:" << name;
+        m_appEndReceived[name] = true;
+        m_appOpenFiles[name] = 0;
+        tryInstallApp(name);
+    }
+}
+
+void ReceivedApps::cleanUp()
+{
+    const QDir folder(receivedAppsFolder());
+    if (folder.exists()) {
+        const QStringList remaining = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        if (!remaining.isEmpty())
+            qDebug() << "Found" << remaining.size() << "remaining app directories (not installed)";
+        for (const QString &name : remaining)
+            qDebug() << "  Remaining:" << name;
+        if (removeReceived(folder.path()))
+            qDebug() << "Cleaned up received apps temp directory";
+    }
+    forgetPackages();
+}
+
+void ReceivedApps::forgetFiles()
+{
+    m_appOpenFiles.clear();
+    m_appEndReceived.clear();
+}
+
+} // namespace Zandrove
