@@ -325,6 +325,21 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::ItemChoice</name>
+    <message>
+        <source>The application %1 cannot be moved.</source>
+        <translation>The application %1 cannot be moved.</translation>
+    </message>
+    <message>
+        <source>There is no application %1 on this PC. See zandrove-cli scan.</source>
+        <translation>There is no application %1 on this PC. See zandrove-cli scan.</translation>
+    </message>
+    <message>
+        <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
+        <translation>There is no setting %1 on this PC. See zandrove-cli scan.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -367,10 +382,6 @@
         <translation>End with exit code 3 when nothing has begun to arrive within S seconds. Counted anew each time the program starts to wait; a running transfer is never cut.</translation>
     </message>
     <message>
-        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds of the start. The transfer itself is never cut.</source>
-        <translation>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds of the start. The transfer itself is never cut.</translation>
-    </message>
-    <message>
         <source>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</source>
         <translation>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</translation>
     </message>
@@ -403,10 +414,6 @@
         <translation>Be the New PC: show a code, wait for an Old PC, receive what it sends.</translation>
     </message>
     <message>
-        <source>Be the Old PC: find the New PC, wait for its yes, send the folders.</source>
-        <translation>Be the Old PC: find the New PC, wait for its yes, send the folders.</translation>
-    </message>
-    <message>
         <source>List the PCs on the network as they come and go.</source>
         <translation>List the PCs on the network as they come and go.</translation>
     </message>
@@ -417,10 +424,6 @@
     <message>
         <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
         <translation>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</translation>
-    </message>
-    <message>
-        <source>zandrove-cli moves folders from an Old PC to a New PC on the same network.</source>
-        <translation>zandrove-cli moves folders from an Old PC to a New PC on the same network.</translation>
     </message>
     <message>
         <source>This text; after a command, the help of that command.</source>
@@ -447,10 +450,6 @@
         <translation>send needs --to with the New PC&apos;s code, name or address.</translation>
     </message>
     <message>
-        <source>send needs at least one --folder.</source>
-        <translation>send needs at least one --folder.</translation>
-    </message>
-    <message>
         <source>discover needs --role old or --role new.</source>
         <translation>discover needs --role old or --role new.</translation>
     </message>
@@ -465,6 +464,38 @@
     <message>
         <source>Unknown command %1. See --help.</source>
         <translation>Unknown command %1. See --help.</translation>
+    </message>
+    <message>
+        <source>An application to move, by the exact name that scan lists; may be given several times.</source>
+        <translation>An application to move, by the exact name that scan lists; may be given several times.</translation>
+    </message>
+    <message>
+        <source>Move every application that can be moved.</source>
+        <translation>Move every application that can be moved.</translation>
+    </message>
+    <message>
+        <source>A setting to move, by the id that scan lists; may be given several times.</source>
+        <translation>A setting to move, by the id that scan lists; may be given several times.</translation>
+    </message>
+    <message>
+        <source>Move every setting that this PC has.</source>
+        <translation>Move every setting that this PC has.</translation>
+    </message>
+    <message>
+        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</source>
+        <translation>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</translation>
+    </message>
+    <message>
+        <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
+        <translation>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</translation>
+    </message>
+    <message>
+        <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
+        <translation>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</translation>
+    </message>
+    <message>
+        <source>send needs something to move: a --folder, an --app or a --setting.</source>
+        <translation>send needs something to move: a --folder, an --app or a --setting.</translation>
     </message>
 </context>
 <context>
@@ -664,6 +695,34 @@
     <message>
         <source>Done in %1: %2.</source>
         <translation>Done in %1: %2.</translation>
+    </message>
+    <message>
+        <source>Applications:</source>
+        <translation>Applications:</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>installed</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>sent</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>Settings:</translation>
+    </message>
+    <message>
+        <source>applied</source>
+        <translation>applied</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>failed</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>failed: %1</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1108,17 @@ The application will restart now.</translation>
     <message>
         <source>Back</source>
         <translation>Back</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::MigrationManager</name>
+    <message>
+        <source>[App] %1</source>
+        <translation>[App] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[Setting] %1</translation>
     </message>
 </context>
 <context>

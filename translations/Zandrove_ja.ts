@@ -325,6 +325,21 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::ItemChoice</name>
+    <message>
+        <source>The application %1 cannot be moved.</source>
+        <translation>アプリ %1 は移行できません。</translation>
+    </message>
+    <message>
+        <source>There is no application %1 on this PC. See zandrove-cli scan.</source>
+        <translation>この PC にアプリ %1 はありません。zandrove-cli scan を参照してください。</translation>
+    </message>
+    <message>
+        <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
+        <translation>この PC に設定 %1 はありません。zandrove-cli scan を参照してください。</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -367,10 +382,6 @@
         <translation>S 秒以内に何も届き始めなければ、終了コード 3 で終了します。待機を始めるたびに数え直します。実行中の転送が打ち切られることはありません。</translation>
     </message>
     <message>
-        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds of the start. The transfer itself is never cut.</source>
-        <translation>開始から S 秒以内に新 PC が見つからないか、新 PC がこの PC を許可しなければ、終了コード 3 で終了します。転送そのものが打ち切られることはありません。</translation>
-    </message>
-    <message>
         <source>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</source>
         <translation>この PC の役割。旧 PC には新 PC が、新 PC には旧 PC が見えます。</translation>
     </message>
@@ -403,10 +414,6 @@
         <translation>新 PC になります。確認コードを表示し、旧 PC を待ち、送られたものを受信します。</translation>
     </message>
     <message>
-        <source>Be the Old PC: find the New PC, wait for its yes, send the folders.</source>
-        <translation>旧 PC になります。新 PC を探し、許可を待ち、フォルダーを送信します。</translation>
-    </message>
-    <message>
         <source>List the PCs on the network as they come and go.</source>
         <translation>ネットワークに現れた PC と消えた PC を一覧表示します。</translation>
     </message>
@@ -417,10 +424,6 @@
     <message>
         <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
         <translation>終了コード: 0 すべて移行または一覧表示した、1 接続または実行が失敗したか拒否された、2 使い方の誤り、3 タイムアウト、4 終了したが、失敗またはスキップしたものがある、130 Ctrl-C でキャンセルした (もう一方の PC に通知します。もう一度 Ctrl-C を押すとすぐに終了します)。</translation>
-    </message>
-    <message>
-        <source>zandrove-cli moves folders from an Old PC to a New PC on the same network.</source>
-        <translation>zandrove-cli は、同じネットワーク上の旧 PC から新 PC へフォルダーを移行します。</translation>
     </message>
     <message>
         <source>This text; after a command, the help of that command.</source>
@@ -447,10 +450,6 @@
         <translation>send では、--to で新 PC の確認コード、名前、またはアドレスを指定してください。</translation>
     </message>
     <message>
-        <source>send needs at least one --folder.</source>
-        <translation>send には --folder が少なくとも 1 つ必要です。</translation>
-    </message>
-    <message>
         <source>discover needs --role old or --role new.</source>
         <translation>discover には --role old または --role new が必要です。</translation>
     </message>
@@ -465,6 +464,38 @@
     <message>
         <source>Unknown command %1. See --help.</source>
         <translation>不明なコマンド %1。--help を参照してください。</translation>
+    </message>
+    <message>
+        <source>An application to move, by the exact name that scan lists; may be given several times.</source>
+        <translation>移行するアプリ。scan が表示する名前のとおりに指定します。複数回指定できます。</translation>
+    </message>
+    <message>
+        <source>Move every application that can be moved.</source>
+        <translation>移行できるすべてのアプリを移行します。</translation>
+    </message>
+    <message>
+        <source>A setting to move, by the id that scan lists; may be given several times.</source>
+        <translation>移行する設定。scan が表示する ID で指定します。複数回指定できます。</translation>
+    </message>
+    <message>
+        <source>Move every setting that this PC has.</source>
+        <translation>この PC のすべての設定を移行します。</translation>
+    </message>
+    <message>
+        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</source>
+        <translation>S 秒以内に新 PC が見つからないか、新 PC がこの PC を許可しなければ、終了コード 3 で終了します。探し始めてから数えます。転送そのものが打ち切られることはありません。</translation>
+    </message>
+    <message>
+        <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
+        <translation>旧 PC になります。新 PC を探し、許可を待ち、フォルダー、アプリ、設定を送信します。</translation>
+    </message>
+    <message>
+        <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
+        <translation>zandrove-cli は、同じネットワーク上の旧 PC から新 PC へフォルダー、アプリ、設定を移行します。</translation>
+    </message>
+    <message>
+        <source>send needs something to move: a --folder, an --app or a --setting.</source>
+        <translation>send には移行するもの (--folder、--app、--setting のいずれか) が必要です。</translation>
     </message>
 </context>
 <context>
@@ -664,6 +695,34 @@
     <message>
         <source>Done in %1: %2.</source>
         <translation>%1 で完了: %2。</translation>
+    </message>
+    <message>
+        <source>Applications:</source>
+        <translation>アプリ:</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>インストール済み</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>送信済み</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>設定:</translation>
+    </message>
+    <message>
+        <source>applied</source>
+        <translation>適用済み</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>失敗: %1</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1108,17 @@ The application will restart now.</source>
     <message>
         <source>Back</source>
         <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::MigrationManager</name>
+    <message>
+        <source>[App] %1</source>
+        <translation>[アプリ] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[設定] %1</translation>
     </message>
 </context>
 <context>

@@ -325,6 +325,21 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::ItemChoice</name>
+    <message>
+        <source>The application %1 cannot be moved.</source>
+        <translation>%1 앱은 옮길 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>There is no application %1 on this PC. See zandrove-cli scan.</source>
+        <translation>이 PC에 %1 앱이 없습니다. zandrove-cli scan을 참조하십시오.</translation>
+    </message>
+    <message>
+        <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
+        <translation>이 PC에 %1 설정이 없습니다. zandrove-cli scan을 참조하십시오.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -367,10 +382,6 @@
         <translation>S초 안에 아무것도 도착하기 시작하지 않으면 종료 코드 3으로 종료합니다. 대기를 시작할 때마다 다시 셉니다. 진행 중인 전송은 중단되지 않습니다.</translation>
     </message>
     <message>
-        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds of the start. The transfer itself is never cut.</source>
-        <translation>시작 후 S초 안에 새 PC를 찾지 못하거나 새 PC가 이 PC를 허용하지 않으면 종료 코드 3으로 종료합니다. 전송 자체는 중단되지 않습니다.</translation>
-    </message>
-    <message>
         <source>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</source>
         <translation>이 PC의 역할. 이전 PC에는 새 PC가 보이고, 새 PC에는 이전 PC가 보입니다.</translation>
     </message>
@@ -403,10 +414,6 @@
         <translation>새 PC가 됩니다. 확인 코드를 표시하고, 이전 PC를 기다리고, 보내는 것을 받습니다.</translation>
     </message>
     <message>
-        <source>Be the Old PC: find the New PC, wait for its yes, send the folders.</source>
-        <translation>이전 PC가 됩니다. 새 PC를 찾고, 허용을 기다리고, 폴더를 보냅니다.</translation>
-    </message>
-    <message>
         <source>List the PCs on the network as they come and go.</source>
         <translation>네트워크에 나타나고 사라지는 PC를 나열합니다.</translation>
     </message>
@@ -417,10 +424,6 @@
     <message>
         <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
         <translation>종료 코드: 0 모두 옮겼거나 나열함, 1 연결 또는 실행이 실패했거나 거부됨, 2 잘못된 사용법, 3 시간 초과, 4 끝났으나 실패하거나 건너뛴 항목이 있음, 130 Ctrl-C로 취소됨(다른 PC에 알립니다. Ctrl-C를 한 번 더 누르면 바로 종료합니다).</translation>
-    </message>
-    <message>
-        <source>zandrove-cli moves folders from an Old PC to a New PC on the same network.</source>
-        <translation>zandrove-cli는 같은 네트워크에 있는 이전 PC에서 새 PC로 폴더를 옮깁니다.</translation>
     </message>
     <message>
         <source>This text; after a command, the help of that command.</source>
@@ -447,10 +450,6 @@
         <translation>send에는 새 PC의 확인 코드, 이름 또는 주소를 지정하는 --to가 필요합니다.</translation>
     </message>
     <message>
-        <source>send needs at least one --folder.</source>
-        <translation>send에는 --folder가 하나 이상 필요합니다.</translation>
-    </message>
-    <message>
         <source>discover needs --role old or --role new.</source>
         <translation>discover에는 --role old 또는 --role new가 필요합니다.</translation>
     </message>
@@ -465,6 +464,38 @@
     <message>
         <source>Unknown command %1. See --help.</source>
         <translation>알 수 없는 명령 %1. --help를 참조하십시오.</translation>
+    </message>
+    <message>
+        <source>An application to move, by the exact name that scan lists; may be given several times.</source>
+        <translation>옮길 앱. scan에 표시되는 이름 그대로 지정합니다. 여러 번 지정할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Move every application that can be moved.</source>
+        <translation>옮길 수 있는 모든 앱을 옮깁니다.</translation>
+    </message>
+    <message>
+        <source>A setting to move, by the id that scan lists; may be given several times.</source>
+        <translation>옮길 설정. scan에 표시되는 ID로 지정합니다. 여러 번 지정할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Move every setting that this PC has.</source>
+        <translation>이 PC의 모든 설정을 옮깁니다.</translation>
+    </message>
+    <message>
+        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</source>
+        <translation>S초 안에 새 PC를 찾지 못하거나 새 PC가 이 PC를 허용하지 않으면 종료 코드 3으로 종료합니다. 찾기 시작한 때부터 셉니다. 전송 자체는 중단되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
+        <translation>이전 PC가 됩니다. 새 PC를 찾고, 허용을 기다리고, 폴더, 앱, 설정을 보냅니다.</translation>
+    </message>
+    <message>
+        <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
+        <translation>zandrove-cli는 같은 네트워크에 있는 이전 PC에서 새 PC로 폴더, 앱, 설정을 옮깁니다.</translation>
+    </message>
+    <message>
+        <source>send needs something to move: a --folder, an --app or a --setting.</source>
+        <translation>send에는 옮길 것(--folder, --app 또는 --setting)이 필요합니다.</translation>
     </message>
 </context>
 <context>
@@ -664,6 +695,34 @@
     <message>
         <source>Done in %1: %2.</source>
         <translation>%1 만에 완료: %2.</translation>
+    </message>
+    <message>
+        <source>Applications:</source>
+        <translation>앱:</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>설치됨</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>보냄</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>설정:</translation>
+    </message>
+    <message>
+        <source>applied</source>
+        <translation>적용됨</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>실패</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>실패: %1</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1108,17 @@ The application will restart now.</source>
     <message>
         <source>Back</source>
         <translation>뒤로</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::MigrationManager</name>
+    <message>
+        <source>[App] %1</source>
+        <translation>[앱] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[설정] %1</translation>
     </message>
 </context>
 <context>

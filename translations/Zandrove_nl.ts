@@ -325,6 +325,21 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::ItemChoice</name>
+    <message>
+        <source>The application %1 cannot be moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no application %1 on this PC. See zandrove-cli scan.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -367,10 +382,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds of the start. The transfer itself is never cut.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -403,10 +414,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Be the Old PC: find the New PC, wait for its yes, send the folders.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>List the PCs on the network as they come and go.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -416,10 +423,6 @@
     </message>
     <message>
         <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>zandrove-cli moves folders from an Old PC to a New PC on the same network.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -447,10 +450,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>send needs at least one --folder.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>discover needs --role old or --role new.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -464,6 +463,38 @@
     </message>
     <message>
         <source>Unknown command %1. See --help.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An application to move, by the exact name that scan lists; may be given several times.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move every application that can be moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A setting to move, by the id that scan lists; may be given several times.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move every setting that this PC has.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>send needs something to move: a --folder, an --app or a --setting.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -663,6 +694,34 @@
     </message>
     <message>
         <source>Done in %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Applications:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>applied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1039,6 +1098,17 @@ The application will restart now.</source>
     </message>
     <message>
         <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::MigrationManager</name>
+    <message>
+        <source>[App] %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -325,6 +325,21 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::ItemChoice</name>
+    <message>
+        <source>The application %1 cannot be moved.</source>
+        <translation>應用程式 %1 無法搬移。</translation>
+    </message>
+    <message>
+        <source>There is no application %1 on this PC. See zandrove-cli scan.</source>
+        <translation>這部電腦上沒有應用程式 %1。請參閱 zandrove-cli scan。</translation>
+    </message>
+    <message>
+        <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
+        <translation>這部電腦上沒有設定 %1。請參閱 zandrove-cli scan。</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -367,10 +382,6 @@
         <translation>S 秒內沒有開始收到任何資料時，以結束代碼 3 結束。程式每次開始等候時重新計時；進行中的傳輸不會被中斷。</translation>
     </message>
     <message>
-        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds of the start. The transfer itself is never cut.</source>
-        <translation>啟動後 S 秒內找不到新電腦，或新電腦未允許這部電腦連線時，以結束代碼 3 結束。傳輸本身不會被中斷。</translation>
-    </message>
-    <message>
         <source>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</source>
         <translation>這部電腦的角色。舊電腦會看到新電腦，新電腦會看到舊電腦。</translation>
     </message>
@@ -403,10 +414,6 @@
         <translation>作為新電腦：顯示驗證碼，等候舊電腦，接收它傳送的內容。</translation>
     </message>
     <message>
-        <source>Be the Old PC: find the New PC, wait for its yes, send the folders.</source>
-        <translation>作為舊電腦：尋找新電腦，等候其同意，傳送資料夾。</translation>
-    </message>
-    <message>
         <source>List the PCs on the network as they come and go.</source>
         <translation>列出網路上出現和離開的電腦。</translation>
     </message>
@@ -417,10 +424,6 @@
     <message>
         <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
         <translation>結束代碼：0 全部已搬移或列出；1 連線或執行失敗，或遭拒絕；2 用法錯誤；3 逾時；4 已完成，但有項目失敗或略過；130 以 Ctrl-C 取消（會通知另一部電腦；再按一次 Ctrl-C 立即結束）。</translation>
-    </message>
-    <message>
-        <source>zandrove-cli moves folders from an Old PC to a New PC on the same network.</source>
-        <translation>zandrove-cli 將資料夾從舊電腦搬移到同一網路上的新電腦。</translation>
     </message>
     <message>
         <source>This text; after a command, the help of that command.</source>
@@ -447,10 +450,6 @@
         <translation>send 需要以 --to 指定新電腦的驗證碼、名稱或位址。</translation>
     </message>
     <message>
-        <source>send needs at least one --folder.</source>
-        <translation>send 至少需要一個 --folder。</translation>
-    </message>
-    <message>
         <source>discover needs --role old or --role new.</source>
         <translation>discover 需要 --role old 或 --role new。</translation>
     </message>
@@ -465,6 +464,38 @@
     <message>
         <source>Unknown command %1. See --help.</source>
         <translation>未知的命令 %1。請參閱 --help。</translation>
+    </message>
+    <message>
+        <source>An application to move, by the exact name that scan lists; may be given several times.</source>
+        <translation>要搬移的應用程式，以 scan 列出的完整名稱指定；可重複指定。</translation>
+    </message>
+    <message>
+        <source>Move every application that can be moved.</source>
+        <translation>搬移所有可搬移的應用程式。</translation>
+    </message>
+    <message>
+        <source>A setting to move, by the id that scan lists; may be given several times.</source>
+        <translation>要搬移的設定，以 scan 列出的識別碼指定；可重複指定。</translation>
+    </message>
+    <message>
+        <source>Move every setting that this PC has.</source>
+        <translation>搬移這部電腦的所有設定。</translation>
+    </message>
+    <message>
+        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</source>
+        <translation>S 秒內找不到新電腦，或新電腦未允許這部電腦連線時，以結束代碼 3 結束。從開始尋找時計時；傳輸本身不會被中斷。</translation>
+    </message>
+    <message>
+        <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
+        <translation>作為舊電腦：尋找新電腦，等候其同意，傳送資料夾、應用程式和設定。</translation>
+    </message>
+    <message>
+        <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
+        <translation>zandrove-cli 將資料夾、應用程式和設定從舊電腦搬移到同一網路上的新電腦。</translation>
+    </message>
+    <message>
+        <source>send needs something to move: a --folder, an --app or a --setting.</source>
+        <translation>send 需要要搬移的項目：--folder、--app 或 --setting。</translation>
     </message>
 </context>
 <context>
@@ -664,6 +695,34 @@
     <message>
         <source>Done in %1: %2.</source>
         <translation>已完成，耗時 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Applications:</source>
+        <translation>應用程式：</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>已安裝</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>已傳送</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>設定：</translation>
+    </message>
+    <message>
+        <source>applied</source>
+        <translation>已套用</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>失敗：%1</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1108,17 @@ The application will restart now.</source>
     <message>
         <source>Back</source>
         <translation>上一步</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::MigrationManager</name>
+    <message>
+        <source>[App] %1</source>
+        <translation>[應用程式] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[設定] %1</translation>
     </message>
 </context>
 <context>

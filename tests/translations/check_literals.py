@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Finds texts of the interface that do not go through tr.
 
-Looked at are the string literals of the two faces and of LinkManager, and elsewhere those that a signal carries. What has
-a blank between words, or begins with a capital or a letter that is not ASCII, is taken for a text to be read, unless it
-is a style sheet, a path, an object name, a size or a log line. Names that stay are listed below.
+Looked at are the string literals of the two faces and of LinkManager, and elsewhere those that a signal carries. What
+has a blank between words, or begins with a capital or a letter that is not ASCII, is taken for a text to be read,
+unless it is a style sheet, a path, an object name, a size, a command line or a log line. Names that stay are listed
+below.
 """
 
 import pathlib
@@ -15,14 +16,10 @@ FACES = ("src/ui/", "src/cli/", "src/support/LinkManager")
 
 NAMES_THAT_STAY = {
     # Languages by their own names.
-    "🇺🇸  English", "🇹🇼  繁體中文", "🇫🇷  Français", "🇩🇪  Deutsch", "🇯🇵  日本語", "🇪🇸  Español", "🇰🇷  한국어",
-    "🇳🇱  Nederlands", "🇵🇹  Português", "🇮🇹  Italiano",
+    "🇺🇸  English", "🇹🇼  繁體中文", "🇫🇷  Français", "🇩🇪  Deutsch", "🇯🇵  日本語", "🇪🇸  Español",
+    "🇰🇷  한국어", "🇳🇱  Nederlands", "🇵🇹  Português", "🇮🇹  Italiano",
     # What is typed on the command line.
-    "CODE|NAME|ADDRESS", "DIR",
-    "zandrove-cli receive [--yes] [--once] [--timeout S]",
-    "zandrove-cli send --to CODE|NAME|ADDRESS --folder DIR [--folder DIR]... [--timeout S]",
-    "zandrove-cli discover --role old|new [--seconds N]",
-    "zandrove-cli scan",
+    "CODE|NAME|ADDRESS", "DIR", "ID", "NAME",
     # Folders and words of software, as they stand on a disk or in a registry.
     "System Volume Information", "Recovery", "$Recycle.Bin", "Config.Msi", "MSOCache", "PerfLogs",
     "update for", "security update",
@@ -44,7 +41,7 @@ TOKEN = re.compile(
     r"|'(?:\\.|[^'\\])*'|(?P<name>[A-Za-z_]\w*)|(?P<mark>[(){};\[\]])",
     re.DOTALL | re.MULTILINE)
 READ = re.compile(r"^[\W\d_]*[^\W\d_a-z]|[A-Za-z]+[.,:;!?]? +[A-Za-z]")
-NOT_WORDS = re.compile(r"[{}]|: .*;|px|^:?/|^#|qlineargradient|^[-\d]+ [KMGT]?B(/s)?$")
+NOT_WORDS = re.compile(r"[{}]|: .*;|px|^:?/|^#|qlineargradient|^[-\d]+ [KMGT]?B(/s)?$|^zandrove-cli ")
 
 
 def literals(source):

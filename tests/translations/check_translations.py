@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Holds translations/*.ts against the sources and against what a translation has to keep of its source, and the compiled
-ones against a program that runs in each language. Prints a table, then what is wrong.
+"""Holds translations/*.ts against the sources and against what a translation has to keep of its source, and the
+compiled ones against a program that runs in each language. Prints a table, then what is wrong.
 
 Usage: check_translations.py [--program zandrove-cli] [--languages de fr ...]
 """
@@ -100,7 +100,8 @@ def stale(by_language):
             shutil.copy(ROOT / f"translations/Zandrove_{language}.ts", scratch)
         # English is always there for the script to fill in.
         shutil.copy(ROOT / "translations/Zandrove_en.ts", scratch)
-        update = subprocess.run([ROOT / "scripts/update-translations.sh", scratch], capture_output=True, encoding="utf-8")
+        script = ROOT / "scripts/update-translations.sh"
+        update = subprocess.run([script, scratch], capture_output=True, encoding="utf-8")
         if update.returncode != 0:
             yield update.stderr.strip()
             return
