@@ -247,11 +247,10 @@ std::optional<Command> commandNamed(const QString &name)
 
 QString generalHelp()
 {
-    QString help =
-        Text::tr(
-            "zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same "
-            "network.") +
-        u"\n\n"_s;
+    const QString purpose = Text::tr(
+        "zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same "
+        "network.");
+    QString help = wrapped(purpose, 0, HelpWidth) + u"\n\n"_s;
     for (const CommandText &text : Commands)
         help += helpLine(text.name, Text::tr(text.purpose));
     help += helpLine(u"--help"_s, Text::tr("This text; after a command, the help of that command."));
@@ -264,7 +263,8 @@ QString commandHelp(Command command)
     const CommandText &text =
         *std::find_if(Commands.begin(), Commands.end(),
                       [command](const CommandText &candidate) { return candidate.command == command; });
-    QString help = QLatin1StringView(text.usage) + u"\n\n"_s + Text::tr(text.purpose) + u"\n\n"_s;
+    QString help =
+        QLatin1StringView(text.usage) + u"\n\n"_s + wrapped(Text::tr(text.purpose), 0, HelpWidth) + u"\n\n"_s;
     for (const OptionRule &rule : Rules) {
         if (rule.belongsTo(command))
             help += optionLine(rule);
