@@ -1,4 +1,5 @@
 #include "TestMain.h"
+#include "cli/Columns.h"
 #include "cli/ControlCommand.h"
 #include "cli/FolderCheck.h"
 #include "cli/ItemChoice.h"
@@ -59,6 +60,8 @@ private Q_SLOTS:
     void choosesWhatIsMeant();
     void answersHelpAndVersionInsteadOfRunning_data();
     void answersHelpAndVersionInsteadOfRunning();
+    void wrapsAtTheEndOfTheLine_data();
+    void wrapsAtTheEndOfTheLine();
     void findsThePeerThatIsMeant_data();
     void findsThePeerThatIsMeant();
     void readsControlLines_data();
@@ -199,6 +202,24 @@ void CliTest::answersHelpAndVersionInsteadOfRunning()
     QVERIFY2(parsed.text.contains(mentions), qPrintable(parsed.text));
     // A word that is only the value of an option asks for nothing.
     QVERIFY(parseArguments({u"send"_s, u"--to"_s, u"x"_s, u"--folder"_s, u"--help"_s}).options);
+}
+
+void CliTest::wrapsAtTheEndOfTheLine_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("lines");
+    QTest::newRow("words") << u"one two three four"_s << u"one two\n  three\n  four"_s;
+    QTest::newRow("a word too long") << u"a incomprehensible b"_s << u"a\n  incomprehensible\n  b"_s;
+    QTest::newRow("an option stays whole") << u"it is --timeout"_s << u"it is\n  --timeout"_s;
+    QTest::newRow("wide characters") << u"旧電腦新電腦"_s << u"旧電腦新\n  電腦"_s;
+    QTest::newRow("no line begins with a full stop") << u"旧電腦新。電"_s << u"旧電腦\n  新。電"_s;
+}
+
+void CliTest::wrapsAtTheEndOfTheLine()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, lines);
+    QCOMPARE(wrapped(text, 2, 10), lines);
 }
 
 void CliTest::findsThePeerThatIsMeant_data()
