@@ -69,7 +69,7 @@ ItemChoice chooseItems(const ScanResult &result, const Options &options)
     if (options.allSettings)
         add(choice.settings, result.settings, [](const SettingInfo &setting) { return setting.available; });
     if (options.folders.isEmpty() && choice.apps.isEmpty() && choice.settings.isEmpty())
-        choice.problem = tr("This PC has nothing of that to move. See zandrove-cli scan.");
+        choice.problem = Text::tr("This PC has nothing of that to move. See zandrove-cli scan.");
     return choice;
 }
 

@@ -77,7 +77,7 @@ QString storeFolder(Options &options, const QString &value)
 QString storeApp(Options &options, const QString &value)
 {
     if (value.isEmpty())
-        return tr("--app needs the name of an application.");
+        return Text::tr("%1 needs a value.").arg("--app"_L1);
     options.apps.append(value);
     return {};
 }
@@ -85,7 +85,7 @@ QString storeApp(Options &options, const QString &value)
 QString storeSetting(Options &options, const QString &value)
 {
     if (value.isEmpty())
-        return tr("--setting needs the id of a setting.");
+        return Text::tr("%1 needs a value.").arg("--setting"_L1);
     options.settings.append(value);
     return {};
 }
@@ -162,8 +162,7 @@ const std::array Rules = {
         "--control"_L1, nullptr, Send,
         QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
                           "Obey commands on standard input, one a line: pause, resume, cancel, again [DIR] "
-                          "(a further transfer on the same link, of DIR alone or of the same things), end. "
-                          "The link then stays after a "
+                          "(a further transfer on the same link), end. The link then stays after a "
                           "transfer until end, or until standard input ends."),
         setFlag<&Options::control>},
     OptionRule{"--json"_L1, nullptr, Every,
@@ -186,12 +185,12 @@ const std::array Commands = {
     CommandText{Command::Receive, "receive"_L1, "zandrove-cli receive [--yes] [--once] [--timeout S]",
                 QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
                                   "Be the New PC: show a code, wait for an Old PC, receive what it sends.")},
-    CommandText{Command::Send, "send"_L1,
-                "zandrove-cli send --to CODE|NAME|ADDRESS [--folder DIR]... [--app NAME]... [--all-apps] "
-                "[--setting ID]... [--all-settings]",
-                QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
-                                  "Be the Old PC: find the New PC, wait for its yes, send folders, "
-                                  "applications and settings.")},
+    CommandText{
+        Command::Send, "send"_L1,
+        "zandrove-cli send --to CODE|NAME|ADDRESS [--folder DIR]... [--app NAME]... [--setting ID]...",
+        QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                          "Be the Old PC: find the New PC, wait for its yes, send folders, "
+                          "applications and settings.")},
     CommandText{
         Command::Discover, "discover"_L1, "zandrove-cli discover --role old|new [--seconds N]",
         QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "List the PCs on the network as they come and go.")},

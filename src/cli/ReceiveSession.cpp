@@ -273,7 +273,7 @@ void ReceiveSession::concludeWithoutSettings()
 {
     if (!m_heldReport)
         return;
-    output().warning(tr("Settings are still being applied, so the report is without some of them."));
+    output().warning(tr("Some settings are still being applied; the report is without them."));
     m_results.record(SomethingMissing);
     concludeRun(takeHeldReport());
 }
