@@ -225,8 +225,9 @@ class Environment(pcs.TestCase):
         sender.wait_for("connected")
         receiver.process.send_signal(signal.SIGSTOP)  # what comes from now on, it hears all at once
         sender.wait_for("report")
-        sender.say("hello")
-        sender.wait_for("warning")  # so all of the run has left
+        for _ in range(3):  # turns of its event loop, in which all of the run leaves
+            sender.say("hello")
+            sender.wait_for("warning")
         sender.kill()
         receiver.process.send_signal(signal.SIGCONT)
         self.assertEqual(receiver.wait_for("report")["settingsSuccess"], 1)
