@@ -3,7 +3,7 @@
 set(description_en "\
 Zandrove runs on both PCs, the old one and the new one. The two find each
 other on the local network or over a direct cable, with no server and no
-account in between. Once the one has asked and the other has said yes, the
+account in between. Once one user has asked and the other has said yes, the
 chosen folders cross, and every file is verified by its checksum.
 
 Everything lands where it was: documents with the documents, pictures with
