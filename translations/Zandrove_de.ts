@@ -338,6 +338,10 @@
         <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
         <translation>Die Einstellung %1 gibt es auf diesem PC nicht. Siehe zandrove-cli scan.</translation>
     </message>
+    <message>
+        <source>This PC has nothing of that to move. See zandrove-cli scan.</source>
+        <translation>Davon gibt es auf diesem PC nichts zu übertragen. Siehe zandrove-cli scan.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Options</name>
@@ -534,6 +538,10 @@
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
         <translation>Innerhalb von %1&#xa0;s ist nichts angekommen.</translation>
+    </message>
+    <message>
+        <source>Some settings are still being applied; the report is without them.</source>
+        <translation>Einige Einstellungen werden noch angewendet; im Bericht fehlen sie.</translation>
     </message>
 </context>
 <context>

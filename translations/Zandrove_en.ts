@@ -338,6 +338,10 @@
         <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
         <translation>There is no setting %1 on this PC. See zandrove-cli scan.</translation>
     </message>
+    <message>
+        <source>This PC has nothing of that to move. See zandrove-cli scan.</source>
+        <translation>This PC has nothing of that to move. See zandrove-cli scan.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Options</name>
@@ -534,6 +538,10 @@
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
         <translation>Nothing began to arrive within %1 seconds.</translation>
+    </message>
+    <message>
+        <source>Some settings are still being applied; the report is without them.</source>
+        <translation>Some settings are still being applied; the report is without them.</translation>
     </message>
 </context>
 <context>

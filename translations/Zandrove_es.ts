@@ -338,6 +338,10 @@
         <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
         <translation>No hay ninguna opción de configuración %1 en este PC. Consulte zandrove-cli scan.</translation>
     </message>
+    <message>
+        <source>This PC has nothing of that to move. See zandrove-cli scan.</source>
+        <translation>En este PC no hay nada de eso que transferir. Consulte zandrove-cli scan.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Options</name>
@@ -534,6 +538,10 @@
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
         <translation>No ha empezado a llegar nada en %1&#xa0;s.</translation>
+    </message>
+    <message>
+        <source>Some settings are still being applied; the report is without them.</source>
+        <translation>Aún se están aplicando algunas opciones de configuración; faltan en el informe.</translation>
     </message>
 </context>
 <context>

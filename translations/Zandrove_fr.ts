@@ -338,6 +338,10 @@
         <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
         <translation>Ce PC n’a pas de paramètre %1. Voir zandrove-cli scan.</translation>
     </message>
+    <message>
+        <source>This PC has nothing of that to move. See zandrove-cli scan.</source>
+        <translation>Ce PC n’a rien de cela à transférer. Voir zandrove-cli scan.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Options</name>
@@ -534,6 +538,10 @@
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
         <translation>Rien n’a commencé à arriver en %1&#xa0;s.</translation>
+    </message>
+    <message>
+        <source>Some settings are still being applied; the report is without them.</source>
+        <translation>Certains paramètres sont encore en cours d’application&#xa0;; ils manquent dans le rapport.</translation>
     </message>
 </context>
 <context>

@@ -338,6 +338,10 @@
         <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
         <translation>In questo PC non c’è un’impostazione %1. Vedi zandrove-cli scan.</translation>
     </message>
+    <message>
+        <source>This PC has nothing of that to move. See zandrove-cli scan.</source>
+        <translation>In questo PC non c’è nulla di tutto ciò da trasferire. Vedi zandrove-cli scan.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Options</name>
@@ -534,6 +538,10 @@
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
         <translation>Non ha iniziato ad arrivare nulla entro %1&#xa0;s.</translation>
+    </message>
+    <message>
+        <source>Some settings are still being applied; the report is without them.</source>
+        <translation>Alcune impostazioni sono ancora in corso di applicazione; mancano nel report.</translation>
     </message>
 </context>
 <context>

@@ -338,6 +338,10 @@
         <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
         <translation>この PC に設定 %1 はありません。zandrove-cli scan を参照してください。</translation>
     </message>
+    <message>
+        <source>This PC has nothing of that to move. See zandrove-cli scan.</source>
+        <translation>この PC には該当する転送対象がありません。zandrove-cli scan を参照してください。</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Options</name>
@@ -534,6 +538,10 @@
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
         <translation>%1 秒以内に何も届き始めませんでした。</translation>
+    </message>
+    <message>
+        <source>Some settings are still being applied; the report is without them.</source>
+        <translation>一部の設定はまだ適用中のため、レポートに含まれていません。</translation>
     </message>
 </context>
 <context>

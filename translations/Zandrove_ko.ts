@@ -338,6 +338,10 @@
         <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
         <translation>이 PC에 %1 설정이 없습니다. zandrove-cli scan을 참조하십시오.</translation>
     </message>
+    <message>
+        <source>This PC has nothing of that to move. See zandrove-cli scan.</source>
+        <translation>이 PC에는 그중 전송할 것이 없습니다. zandrove-cli scan을 참조하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Options</name>
@@ -534,6 +538,10 @@
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
         <translation>%1초 안에 아무것도 도착하기 시작하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Some settings are still being applied; the report is without them.</source>
+        <translation>일부 설정이 아직 적용 중이며 보고서에는 빠져 있습니다.</translation>
     </message>
 </context>
 <context>

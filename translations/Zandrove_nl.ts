@@ -338,6 +338,10 @@
         <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
         <translation>De instelling %1 bestaat niet op deze pc. Zie zandrove-cli scan.</translation>
     </message>
+    <message>
+        <source>This PC has nothing of that to move. See zandrove-cli scan.</source>
+        <translation>Daarvan is op deze pc niets om over te zetten. Zie zandrove-cli scan.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Options</name>
@@ -534,6 +538,10 @@
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
         <translation>Er is binnen %1&#xa0;s niets aangekomen.</translation>
+    </message>
+    <message>
+        <source>Some settings are still being applied; the report is without them.</source>
+        <translation>Sommige instellingen worden nog toegepast; ze ontbreken in het rapport.</translation>
     </message>
 </context>
 <context>

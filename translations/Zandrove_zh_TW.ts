@@ -338,6 +338,10 @@
         <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
         <translation>這部電腦上沒有設定 %1。請參閱 zandrove-cli scan。</translation>
     </message>
+    <message>
+        <source>This PC has nothing of that to move. See zandrove-cli scan.</source>
+        <translation>這部電腦上沒有可傳輸的此類項目。請參閱 zandrove-cli scan。</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Options</name>
@@ -534,6 +538,10 @@
     <message>
         <source>Nothing began to arrive within %1 seconds.</source>
         <translation>%1 秒內沒有開始收到任何資料。</translation>
+    </message>
+    <message>
+        <source>Some settings are still being applied; the report is without them.</source>
+        <translation>部分設定仍在套用中，未列入報告。</translation>
     </message>
 </context>
 <context>

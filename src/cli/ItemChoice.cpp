@@ -38,7 +38,8 @@ QString addApp(QList<int> &positions, const QList<AppInfo> &apps, const QString 
 
 QString addSetting(QList<int> &positions, const QList<SettingInfo> &settings, const QString &id)
 {
-    return add(positions, settings, [&](const SettingInfo &setting) { return setting.id == id; })
+    return add(positions, settings,
+               [&](const SettingInfo &setting) { return setting.id == id && setting.available; })
                ? QString()
                : Text::tr("There is no setting %1 on this PC. See zandrove-cli scan.").arg(id);
 }
@@ -67,6 +68,8 @@ ItemChoice chooseItems(const ScanResult &result, const Options &options)
         add(choice.apps, result.apps, [](const AppInfo &app) { return app.canTransfer; });
     if (options.allSettings)
         add(choice.settings, result.settings, [](const SettingInfo &setting) { return setting.available; });
+    if (options.folders.isEmpty() && choice.apps.isEmpty() && choice.settings.isEmpty())
+        choice.problem = Text::tr("This PC has nothing of that to move. See zandrove-cli scan.");
     return choice;
 }
 

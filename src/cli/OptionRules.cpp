@@ -76,12 +76,16 @@ QString storeFolder(Options &options, const QString &value)
 
 QString storeApp(Options &options, const QString &value)
 {
+    if (value.isEmpty())
+        return Text::tr("%1 needs a value.").arg("--app"_L1);
     options.apps.append(value);
     return {};
 }
 
 QString storeSetting(Options &options, const QString &value)
 {
+    if (value.isEmpty())
+        return Text::tr("%1 needs a value.").arg("--setting"_L1);
     options.settings.append(value);
     return {};
 }
