@@ -3,8 +3,8 @@
 set(description_en "\
 Zandrove runs on both PCs, the old one and the new one. The two find each
 other on the local network or over a direct cable, with no server and no
-account in between. Once the person at the new PC has said yes, the chosen
-folders cross, and every file is verified by its checksum.
+account in between. Once one user has asked and the other has said yes, the
+chosen folders cross, and every file is verified by its checksum.
 
 Everything lands where it was: documents with the documents, pictures with
 the pictures. What is on the new PC already is left alone, and a report on
