@@ -7,6 +7,7 @@
 #include <QJsonArray>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenu>
 #include <QPainter>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -100,8 +101,16 @@ QStringList WizardView::texts() const
     QStringList texts;
     for (const QWidget *widget : seenIn(front()))
         texts.append(textOf(widget));
+    for (const QAction *entry : entries())
+        texts.append(entry->text());
     texts.removeAll(QString());
     return texts;
+}
+
+QList<QAction *> WizardView::entries() const
+{
+    const auto *menu = qobject_cast<const QMenu *>(front());
+    return menu ? menu->actions() : QList<QAction *>();
 }
 
 QString WizardView::nameOf(QWidget *widget)
@@ -130,6 +139,10 @@ bool WizardView::click(const QString &name) const
             if (bar->tabText(tab) == name)
                 return clickAt(bar, bar->tabRect(tab).center());
         }
+    }
+    for (QAction *entry : entries()) {
+        if (entry->text() == name)
+            return clickAt(front(), static_cast<QMenu *>(front())->actionGeometry(entry).center());
     }
     return false;
 }
