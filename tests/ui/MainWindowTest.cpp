@@ -256,6 +256,7 @@ private Q_SLOTS:
     {
         QStringList names;
         for (int step = 0; step < 8; ++step) {
+            QVERIFY(m_window->focusWidget());
             names.append(m_window->focusWidget()->accessibleName());
             QTest::keyClick(m_window->focusWidget(), Qt::Key_Tab);
         }
