@@ -11,7 +11,6 @@
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
 using Protocol::MessageType;
-using TestMain::addColumns;
 
 /// An address of this machine that the managers take for another one: without adapters only 127.0.0.1 is own.
 inline const QHostAddress OtherMachine(u"127.0.0.2"_s);

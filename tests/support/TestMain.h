@@ -10,6 +10,17 @@
 #include <functional>
 #include <memory>
 
+namespace Zandrove {
+
+/// Declares the columns of a test's table, in their order: addColumns<int, QString>("seconds", "text").
+template <typename... Types, typename... Names>
+void addColumns(Names... names)
+{
+    (QTest::addColumn<Types>(names), ...);
+}
+
+} // namespace Zandrove
+
 /// What the test programs share: their main function, which a program without one of its own gets, and the
 /// test classes that it runs.
 namespace Zandrove::TestMain {
@@ -43,13 +54,6 @@ public:
 private:
     QTemporaryDir m_folder;
 };
-
-/// Declares the columns of a test's table, in their order: addColumns<int, QString>("seconds", "text").
-template <typename... Types, typename... Names>
-void addColumns(Names... names)
-{
-    (QTest::addColumn<Types>(names), ...);
-}
 
 /// Runs the test objects one after the other; one alone, with QtTest's own arguments after it, when its class
 /// name is the first argument. Returns the number of failures.
