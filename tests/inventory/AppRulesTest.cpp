@@ -1,10 +1,8 @@
-#include "InventoryTests.h"
+#include "TestMain.h"
 
 #include "inventory/AppIdentity.h"
 #include "inventory/AppList.h"
 #include "inventory/PathExclusion.h"
-
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
@@ -29,15 +27,6 @@ QList<std::pair<QString, QString>> pairsIn(const QString &table, QChar separator
     for (const QString &item : itemsIn(table))
         pairs.append({item.section(separator, 0, 0).trimmed(), item.section(separator, 1).trimmed()});
     return pairs;
-}
-
-AppInfo app(const QString &name, const QString &path, qint64 size)
-{
-    AppInfo info;
-    info.name = name;
-    info.installPath = path;
-    info.size = size;
-    return info;
 }
 
 } // namespace
@@ -108,38 +97,23 @@ private Q_SLOTS:
     void tellsSystemParts_data()
     {
         addColumns<QString, QString, QString, bool>("name", "location", "publisher", "isSystem");
-        const auto row = [](bool isSystem, const QString &name, const QString &location = {},
-                            const QString &publisher = {}) {
-            QTest::addRow("%s, %s, %s", qPrintable(name), qPrintable(location), qPrintable(publisher))
-                << name << location << publisher << isSystem;
+        // name @ location @ publisher
+        const auto rows = [](bool isSystem, const QString &text) {
+            for (const QString &item : itemsIn(text)) {
+                const auto part = [&item](int i) { return item.section(u'@', i, i).trimmed(); };
+                QTest::addRow("%s", qPrintable(item)) << part(0) << part(1) << part(2) << isSystem;
+            }
         };
-        row(true, u"WINDOWS Thing"_s);
-        row(true, u"Microsoft Windows Thing"_s);
-        row(false, u"Thing for Windows"_s);
-        row(true, u"Auto Update"_s);
-        row(false, u"Auto Updates"_s);
-        row(true, u"kb4471332"_s);
-        row(false, u"KBoard 2"_s);
-        row(false, u"My KB123"_s);
-        row(true, u"Hotfix Update 3"_s);
-        row(true, u"Foo Update"_s, {}, u"Microsoft Corporation"_s);
-        row(false, u"Foo Update"_s, {}, u"Halden"_s);
-        row(true, u"Foo"_s, u"D:\\Windows\\Foo"_s);
-        row(true, u"Foo"_s, u"C:\\WindowsApps"_s);
-        row(true, u"Foo"_s, u"D:\\a\\SysWOW64\\b"_s);
-        row(false, u"Foo"_s, u"D:\\WindowsApps\\Foo"_s);
-        row(false, u"Foo"_s, u"C:/Windows/System32/Foo"_s);
-        row(true, u"Visual C++ 2015 Runtime"_s);
-        row(false, u"Visual C++ Guide"_s);
-        row(true, u"My .NET Core Host"_s);
-        row(true, u"Sound Driver"_s, {}, u"Realtek Semiconductor"_s);
-        row(false, u"Sound Driver"_s, {}, u"Halden"_s);
-        row(false, u"Sound"_s, {}, u"Intel"_s);
-        row(true, u"Photo Setup"_s);
-        row(true, u"VS_Community 2022"_s);
-        row(true, u" 10.2.3 "_s);
-        row(false, u"10.2 b"_s);
-        row(false, u"Photo Lab"_s, u"C:\\Program Files\\Photo Lab"_s, u"Halden"_s);
+        rows(true, u"WINDOWS Thing ; Microsoft Windows Thing ; Auto Update ; kb4471332 ; Hotfix Update 3 ;"
+                   "Visual C++ 2015 Runtime ; My .NET Core Host ; Photo Setup ; VS_Community 2022 ; 10.2.3 ;"
+                   "Microsoft OneDrive ; Microsoft Edge WebView2 Runtime ; vcredist_x64 ; Update ;"
+                   "Shared Redistributable Pack ; Security Patch Update ; 7 ;"
+                   "Foo Update @ @ Microsoft Corporation ; Sound Driver @ @ Realtek Semiconductor ;"
+                   "Foo @ D:\\Windows\\Foo ; Foo @ C:\\WindowsApps ; Foo @ D:\\a\\SysWOW64\\b"_s);
+        rows(false, u"Thing for Windows ; Auto Updates ; KBoard 2 ; My KB123 ; Visual C++ Guide ; 10.2 b ;"
+                    "Foo Update @ @ Halden ; Sound Driver @ @ Halden ; Sound @ @ Intel ;"
+                    "Foo @ D:\\WindowsApps\\Foo ; Foo @ C:/Windows/System32/Foo ;"
+                    "Photo Lab @ C:\\Program Files\\Photo Lab @ Halden"_s);
     }
     void tellsSystemParts()
     {
@@ -151,16 +125,16 @@ private Q_SLOTS:
 
     void keepsTheBiggerOfTwoFinds_data()
     {
-        addColumns<QString, QString, qint64, bool, QStringList>("name", "location", "measured", "isAdded",
-                                                                "remaining");
-        const QStringList all{u"Photo Lab"_s, u"Mail"_s};
+        addColumns<QString, QString, qint64, bool, QString>("name", "location", "measured", "isAdded",
+                                                            "remaining");
         const auto row = [](const char *what, const QString &name, const QString &location, qint64 measured,
-                            bool isAdded, const QStringList &remaining) {
+                            bool isAdded, const QString &remaining) {
             QTest::newRow(what) << name << location << measured << isAdded << remaining;
         };
+        const QString all = u"Photo Lab, Mail"_s;
         row("a new one", u"Chess"_s, u"C:\\Chess"_s, 1, true, all);
         row("equal name, however big", u"photo lab"_s, u"D:\\x"_s, 999, false, all);
-        row("the same, bigger", u"Photo Lab 2"_s, u"D:\\x"_s, 101, true, {u"Mail"_s});
+        row("the same, bigger", u"Photo Lab 2"_s, u"D:\\x"_s, 101, true, u"Mail"_s);
         row("the same, as big", u"Photo Lab 2"_s, u"D:\\x"_s, 100, false, all);
         row("the same without a folder, 0 is not more than 0", u"Mail 2"_s, u""_s, 0, false, all);
         row("the folder of another, in another form", u"Chess"_s, u"c:/PHOTO\\sub/..\\"_s, 999, false, all);
@@ -171,15 +145,19 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(QString, location);
         QFETCH(qint64, measured);
+        QList<AppInfo> known(2);
+        known[0].name = u"Photo Lab"_s;
+        known[0].installPath = u"C:\\Photo"_s;
+        known[0].size = 100;
+        known[1].name = u"Mail"_s;
         AppList list;
-        list.append(app(u"Photo Lab"_s, u"C:\\Photo"_s, 100));
-        list.append(app(u"Mail"_s, {}, 0));
-
+        for (const AppInfo &app : known)
+            list.append(app);
         QTEST(list.shouldAddApp(name, location, [measured](const QString &) { return measured; }), "isAdded");
         QStringList names;
         for (const AppInfo &info : list.apps())
             names.append(info.name);
-        QTEST(names, "remaining");
+        QTEST(names.join(u", "_s), "remaining");
     }
 
     void tellsFilesThatStayBehind_data()

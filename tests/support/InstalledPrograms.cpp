@@ -38,11 +38,18 @@ QString uninstallRoot(const QString &root)
     return u"HKEY_LOCAL_MACHINE\\SOFTWARE\\"_s + (root == "32"_L1 ? u"WOW6432Node\\"_s : QString()) + below;
 }
 
-QString iconIn(const QString &folder, const QString &icon)
+/// What a scan must list, with the icon as the list names it.
+AppInfo listed(const QString &name, const QString &version, const QString &folder, const QString &bytes,
+               const QString &icon)
 {
-    if (icon.startsWith(u'='))
-        return icon.mid(1);
-    return icon.isEmpty() ? icon : folder + u'/' + icon;
+    AppInfo app;
+    app.name = name;
+    app.version = version;
+    app.installPath = folder;
+    app.size = bytes.toLongLong();
+    if (!icon.isEmpty())
+        app.iconPath = icon.startsWith(u'=') ? icon.mid(1) : folder + u'/' + icon;
+    return app;
 }
 
 /// The lines that `line` stands for.
@@ -119,14 +126,8 @@ void InstalledPrograms::addFolder(const QStringList &fields)
         m_pc.writeFile(folder + u'/' + file.section(u' ', 0, -2), content);
     }
     const QStringList outcome = split(fields.at(4), u';');
-    if (outcome.at(0) != "keep"_L1)
-        return;
-    AppInfo app;
-    app.name = folder.section(u'/', -1);
-    app.installPath = folder;
-    app.size = outcome.at(1).toLongLong();
-    app.iconPath = iconIn(folder, outcome.at(2));
-    m_fromFolders.append(app);
+    if (outcome.at(0) == "keep"_L1)
+        m_fromFolders.append(listed(folder.section(u'/', -1), {}, folder, outcome.at(1), outcome.at(2)));
 }
 
 void InstalledPrograms::addUninstallKey(const QStringList &fields)
@@ -145,15 +146,9 @@ void InstalledPrograms::addUninstallKey(const QStringList &fields)
     addKey(uninstallRoot(fields.at(0)) + key, values);
 
     const QStringList outcome = split(fields.at(8), u';');
-    if (outcome.at(0) != "keep"_L1)
-        return;
-    AppInfo app;
-    app.name = fields.at(2);
-    app.version = fields.at(3);
-    app.installPath = outcome.at(1);
-    app.size = outcome.at(2).toLongLong();
-    app.iconPath = iconIn(app.installPath, outcome.at(3));
-    m_fromUninstallKeys.append(app);
+    if (outcome.at(0) == "keep"_L1)
+        m_fromUninstallKeys.append(
+            listed(fields.at(2), fields.at(3), outcome.at(1), outcome.at(2), outcome.at(3)));
 }
 
 void InstalledPrograms::addUserSoftware(const QStringList &fields)
@@ -169,13 +164,8 @@ void InstalledPrograms::addUserSoftware(const QStringList &fields)
     const QStringList outcome = split(fields.at(4), u';');
     if (outcome.at(0) != "keep"_L1)
         return;
-    AppInfo app;
-    app.name = outcome.at(1);
-    app.version = outcome.at(2);
-    app.installPath = outcome.at(3);
-    app.size = outcome.at(4).toLongLong();
+    AppInfo app = listed(outcome.at(1), outcome.at(2), outcome.at(3), outcome.at(4), outcome.at(6));
     app.canTransfer = outcome.at(5) == "yes"_L1;
-    app.iconPath = iconIn(app.installPath, outcome.at(6));
     app.hkcuRegPath = key;
     m_fromUserSoftware.append(app);
 }

@@ -17,8 +17,6 @@ public:
     /// Installs everything on `pc`.
     explicit InstalledPrograms(SimulatedPc &pc);
 
-    [[nodiscard]] int uninstallKeys() const { return m_uninstallKeys; }
-
     /// What the passes over the registry must list, in this order.
     [[nodiscard]] const QList<AppInfo> &fromUninstallKeys() const { return m_fromUninstallKeys; }
     [[nodiscard]] const QList<AppInfo> &fromUserSoftware() const { return m_fromUserSoftware; }
