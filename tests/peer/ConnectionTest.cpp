@@ -202,6 +202,7 @@ private Q_SLOTS:
     {
         Stranger asking(*m_newPC);
         asking.ask();
+        asking.say(header(Protocol::Magic, 50, 1000)); // the rest never comes, and hurts nobody
         QVERIFY(m_newPC->requested.wait());
         Stranger quiet(*m_newPC);
         QTRY_VERIFY(asking.isCutOff());
@@ -249,16 +250,6 @@ private Q_SLOTS:
         stranger.say(frame(MessageType::FileData, QByteArray(40 << 20, 'x')));
         QVERIFY(m_newPC->commands.wait(10'000));
         QCOMPARE(m_newPC->payload(0).size(), 40 << 20);
-    }
-
-    void halfAFrameOfADeadSocketHurtsNobody()
-    {
-        Stranger first(*m_newPC);
-        first.say(frame(MessageType::SessionEnd) + header(Protocol::Magic, 50, 1000));
-        QVERIFY(m_newPC->commands.wait());
-        Stranger second(*m_newPC);
-        second.ask();
-        QVERIFY(m_newPC->requested.wait());
     }
 
     void lastFramesLeaveBeforeTheSocketCloses_data()

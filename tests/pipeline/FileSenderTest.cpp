@@ -28,7 +28,6 @@ class FileSenderTest : public QObject
     std::unique_ptr<FileSenderWorker> m_sender;
     std::unique_ptr<QSignalSpy> m_completed;
     QMap<MessageType, QByteArrayList> m_sent; ///< payloads
-    QThread m_thread;
     int m_nextTaskId = 0;
 
     FileTransferTask taskFor(const QString &name, const QByteArray &content)
@@ -59,18 +58,6 @@ class FileSenderTest : public QObject
         });
     }
 
-    void sendOnAThread(const FileTransferTask &task)
-    {
-        m_sender->moveToThread(&m_thread);
-        m_thread.start();
-        QMetaObject::invokeMethod(m_sender.get(), [this, task] { m_sender->startSending({task}); });
-    }
-    bool endThread()
-    {
-        m_thread.quit();
-        return m_thread.wait(2000);
-    }
-
 private Q_SLOTS:
     void init()
     {
@@ -83,13 +70,6 @@ private Q_SLOTS:
     }
 
     void cleanup() { m_sender.reset(); }
-
-    void emptyListIsStartedAndDone()
-    {
-        m_sender->startSending({});
-        QCOMPARE(m_sent.values(), QList<QByteArrayList>{{R"({"fileCount":0,"totalSize":0})"}});
-        QCOMPARE(m_completed->takeFirst(), (QVariantList{0, 0, 0, 0ll}));
-    }
 
     void filesCrossInChunks()
     {
@@ -191,32 +171,16 @@ private Q_SLOTS:
         std::atomic<bool> asked = false;
         onMessage(
             [&](MessageType type, const QByteArray &) { asked = asked || type == MessageType::FileAck; });
-        sendOnAThread(taskFor(u"a"_s, "abc"));
+        const FileTransferTask task = taskFor(u"a"_s, "abc");
+        QThread thread;
+        m_sender->moveToThread(&thread);
+        thread.start();
+        QMetaObject::invokeMethod(m_sender.get(), [this, task] { m_sender->startSending({task}); });
         const bool askedInTime = QTest::qWaitFor([&asked] { return asked.load(); });
         m_sender->cancel();
-        QVERIFY(endThread());
+        thread.quit();
+        QVERIFY(thread.wait(2000));
         QVERIFY(askedInTime);
-    }
-
-    void pauseHoldsTheListAndResumeLetsItGo()
-    {
-        answerBatches(true);
-        std::atomic<bool> begun = false;
-        onMessage([&](MessageType type, const QByteArray &) {
-            if (type == MessageType::FileHeader)
-                m_sender->setPaused(begun = true);
-        });
-        std::atomic<bool> completed = false;
-        const auto complete = [&completed] { completed = true; };
-        connect(m_sender.get(), &FileSenderWorker::allCompleted, this, complete, Qt::DirectConnection);
-        const auto isCompleted = [&completed] { return completed.load(); };
-        sendOnAThread(taskFor(u"big"_s, someBytes(2 * FileSenderWorker::ChunkBytes)));
-        const bool started = QTest::qWaitFor([&begun] { return begun.load(); });
-        const bool held = !QTest::qWaitFor(isCompleted, 300);
-        m_sender->setPaused(false);
-        const bool ended = QTest::qWaitFor(isCompleted);
-        QVERIFY(endThread());
-        QVERIFY(started && held && ended);
     }
 
     void fullSocketHoldsTheNextChunk()

@@ -1,5 +1,4 @@
 #include "SimulatedPc.h"
-#include "ScratchFolder.h"
 #include "TestFiles.h"
 
 #include "platform/generic/RegistryFile.h"
@@ -96,11 +95,6 @@ SimulatedPc::~SimulatedPc()
 bool SimulatedPc::isMadeUp()
 {
     return true;
-}
-
-QString SimulatedPc::path(const QString &place) const
-{
-    return QFileInfo(place).isAbsolute() ? place : m_folder->filePath(place);
 }
 
 QString SimulatedPc::homePath(const QString &place) const
