@@ -37,9 +37,8 @@ class AppRulesTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void normalizesNames_data()
+    void normalizesNames()
     {
-        addColumns<QString, QString>("name", "form");
         for (const auto &[name, form] : pairsIn(uR"(
             Foo Bar > foobar ; Foo - > foo ; Foo3 > foo3 ; Foo 2 - > foo2
             Foo (x64 en) > foo ; Foo (x86) > foo ; Foo x64 > foo ; Max64Tool > matool ; Foox86 > foo
@@ -49,23 +48,19 @@ private Q_SLOTS:
             7 Foo > foo ; v2 Foo 3 > foo
             天气 2.0 > 天气 ; 天气 预报 X > x ; *** > ***)"_s,
                                                 u'>'))
-            QTest::addRow("%s", qPrintable(name)) << name << form;
-    }
-    void normalizesNames()
-    {
-        QFETCH(QString, name);
-        QTEST(normalizeAppName(name), "form");
+            QCOMPARE(name + u" > "_s + normalizeAppName(name), name + u" > "_s + form);
     }
 
-    void comparesNames_data()
+    void comparesNames()
     {
-        addColumns<QString, QString, bool>("a", "b", "same");
-        const auto rows = [](bool same, const QString &text) {
-            for (const auto &[a, b] : pairsIn(text, u'/'))
-                QTest::addRow("%s / %s", qPrintable(a), qPrintable(b)) << a << b << same;
+        const auto judge = [](bool same, const QString &text) {
+            for (const auto &[a, b] : pairsIn(text, u'/')) {
+                QVERIFY2(isSameApp(a, b) == same, qPrintable(a + u" / "_s + b));
+                QVERIFY2(isSameApp(b, a) == same, qPrintable(b + u" / "_s + a));
+            }
         };
         // One rule a line: equal forms; a word of five; half of the longer one; a common beginning.
-        rows(true, uR"(
+        judge(true, uR"(
             Foo / foo ; Foo / F-O-O ; A / a 3 ; Foo - / Foo ; 1.0 / (1.0) ; Foo 64 / Foo ; 2023 Foo / Foo
             Foo / Foo 2.1 ; Foo 1 / Foo v9.9 ; Foo Version 1.0 / Foo Version 2.0 ; 天气 / 天气 2.0
             Foo (x64) / Foo (x86) ; Foo (en-us) / Foo (zh-cn) ; Foo (64-bit) / Foo (32-bit)
@@ -75,52 +70,36 @@ private Q_SLOTS:
             Foo Edit / My Foo Edit ; Photo Lab / Photo Lab Pro ; Viewer / The Viewer ; Notes / Notes+ 64
             Clarityabc / Clarityxyz ; Clarityabc / Clarityxyzuvwxyz ; Quicktab / Quicktor
             Foobarx / Foobary ; Painter One / Painter Two ; Developer Kit / Developer Kip)"_s);
-        // Only one removes the other; below four characters; no common word; too little of it; too short a
-        // start.
-        rows(false, uR"(
+        // Only one removes the other; below four characters; no or too little in common; too short a start.
+        judge(false, uR"(
             Uninstall Foo / Foo ; Uninstall Foo / UninstallFoo ; uninstall Photo Lab / Photo Lab
             Abc / Abd ; Abc / Abcd ; Foo / Foo Pro ; A / B ; 三国 / 三国志 ; Foo / Foo (deu-at) ; Foo 3 / Bar 3
             长江记事 标准 / 增强 长江记事 ; 长江记事本 / 黄河记事本 ; один два / один три ; 天气 / Weather
             Stone / Stonebridge ; Stone / The Old Stone House ; Edit / My Edit ; Word / Words ; View / Viewer
             Horizoabcd / Horizowxyz ; Abcdexy / Abcdeuv ; Paint Box / Paint Set ; Spring Data / Spring Mail
-            Amber Notes / Amber Draw ; Photo Lab / Video Lab ; Alpha / Omega ; One Two / Two Three ; Mail x64 / Maps x64 ; Foobar Tool / Tool Foobar)"_s);
-    }
-    void comparesNames()
-    {
-        QFETCH(QString, a);
-        QFETCH(QString, b);
-        QFETCH(bool, same);
-        QCOMPARE(isSameApp(a, b), same);
-        QCOMPARE(isSameApp(b, a), same);
+            Amber Notes / Amber Draw ; Photo Lab / Video Lab ; Alpha / Omega ; One Two / Two Three
+            Mail x64 / Maps x64 ; Foobar Tool / Tool Foobar)"_s);
     }
 
-    void tellsSystemParts_data()
-    {
-        addColumns<QString, QString, QString, bool>("name", "location", "publisher", "isSystem");
-        // name @ location @ publisher
-        const auto rows = [](bool isSystem, const QString &text) {
-            for (const QString &item : itemsIn(text)) {
-                const auto part = [&item](int i) { return item.section(u'@', i, i).trimmed(); };
-                QTest::addRow("%s", qPrintable(item)) << part(0) << part(1) << part(2) << isSystem;
-            }
-        };
-        rows(true, u"WINDOWS Thing ; Microsoft Windows Thing ; Auto Update ; kb4471332 ; Hotfix Update 3 ;"
-                   "Visual C++ 2015 Runtime ; My .NET Core Host ; Photo Setup ; VS_Community 2022 ; 10.2.3 ;"
-                   "Microsoft OneDrive ; Microsoft Edge WebView2 Runtime ; vcredist_x64 ; Update ;"
-                   "Shared Redistributable Pack ; Security Patch Update ; 7 ;"
-                   "Foo Update @ @ Microsoft Corporation ; Sound Driver @ @ Realtek Semiconductor ;"
-                   "Foo @ D:\\Windows\\Foo ; Foo @ C:\\WindowsApps ; Foo @ D:\\a\\SysWOW64\\b"_s);
-        rows(false, u"Thing for Windows ; Auto Updates ; KBoard 2 ; My KB123 ; Visual C++ Guide ; 10.2 b ;"
-                    "Foo Update @ @ Halden ; Sound Driver @ @ Halden ; Sound @ @ Intel ;"
-                    "Foo @ D:\\WindowsApps\\Foo ; Foo @ C:/Windows/System32/Foo ;"
-                    "Photo Lab @ C:\\Program Files\\Photo Lab @ Halden"_s);
-    }
     void tellsSystemParts()
     {
-        QFETCH(QString, name);
-        QFETCH(QString, location);
-        QFETCH(QString, publisher);
-        QTEST(isSystemApp(name, location, publisher), "isSystem");
+        // name @ location @ publisher
+        const auto judge = [](bool isSystem, const QString &text) {
+            for (const QString &item : itemsIn(text)) {
+                const auto part = [&item](int i) { return item.section(u'@', i, i).trimmed(); };
+                QVERIFY2(isSystemApp(part(0), part(1), part(2)) == isSystem, qPrintable(item));
+            }
+        };
+        judge(true, u"WINDOWS Thing ; Microsoft Windows Thing ; Auto Update ; kb4471332 ; Hotfix Update 3 ;"
+                    "Visual C++ 2015 Runtime ; My .NET Core Host ; Photo Setup ; VS_Community 2022 ; 10.2.3 ;"
+                    "Microsoft OneDrive ; Microsoft Edge WebView2 Runtime ; vcredist_x64 ; Update ;"
+                    "Shared Redistributable Pack ; Security Patch Update ; 7 ;"
+                    "Foo Update @ @ Microsoft Corporation ; Sound Driver @ @ Realtek Semiconductor ;"
+                    "Foo @ D:\\Windows\\Foo ; Foo @ C:\\WindowsApps ; Foo @ D:\\a\\SysWOW64\\b"_s);
+        judge(false, u"Thing for Windows ; Auto Updates ; KBoard 2 ; My KB123 ; Visual C++ Guide ; 10.2 b ;"
+                     "Foo Update @ @ Halden ; Sound Driver @ @ Halden ; Sound @ @ Intel ;"
+                     "Foo @ D:\\WindowsApps\\Foo ; Foo @ C:/Windows/System32/Foo ;"
+                     "Photo Lab @ C:\\Program Files\\Photo Lab @ Halden"_s);
     }
 
     void keepsTheBiggerOfTwoFinds_data()
@@ -160,29 +139,23 @@ private Q_SLOTS:
         QTEST(names.join(u", "_s), "remaining");
     }
 
-    void tellsFilesThatStayBehind_data()
+    void tellsFilesThatStayBehind()
     {
-        addColumns<QString, bool>("path", "staysBehind");
-        const auto rows = [](bool staysBehind, const QString &text) {
+        const auto judge = [](bool staysBehind, const QString &text) {
             for (const QString &path : itemsIn(text))
-                QTest::addRow("%s", qPrintable(path)) << path << staysBehind;
+                QVERIFY2(isExcludedFile(path) == staysBehind, qPrintable(path));
         };
-        rows(true, uR"(
+        judge(true, uR"(
             C:/App/CACHE/a.bin ; C:\App\Code Cache\a.bin ; C:/App/fontcache/a.bin ; C:/App/DiskCache/a.bin
             C:/temp/App/app.exe ; C:\App\.temp\a ; C:\App\Crash Reports\a.dmp
             C:/App/foo-updater/a.dll ; C:\App\Update\a.dll ; C:/App/AutoUpdate.exe ; C:/App/mysetup.EXE
             C:/App/Thumbs.db ; C:/App/~$report.docx ; C:\App\~$report.docx ; C:/App/report~$
             C:/App/IndexedDB/1 ; C:\network\App\a.dll ; C:/App/data.db-wal
             C:/Downloads/App.zip ; C:\Downloads\a\App.7z)"_s);
-        rows(false, uR"(
+        judge(false, uR"(
             C:\App\DiskCache\a.bin ; C:/App/mycache/a.bin ; C:/App/cache ; C:/App/templates/a
             C:/App/setup.exe.config ; C:/~$App/report.docx ; C:/App/data.db
             C:/Downloads/notes.txt ; C:/App/App.zip ; C:/Program Files/App/app.exe)"_s);
-    }
-    void tellsFilesThatStayBehind()
-    {
-        QFETCH(QString, path);
-        QTEST(isExcludedFile(path), "staysBehind");
     }
 };
 

@@ -152,31 +152,6 @@ private Q_SLOTS:
         QVERIFY(!m_old->engine.isConnected());
     }
 
-    void foldersCrossTwiceOnOneLink()
-    {
-        for (int i = 0; i < 25; ++i)
-            writeFile(m_photos + u"/%1/ü %1.jpg"_s.arg(i), QByteArray(i * 1000, char(i)));
-        writeFile(m_photos + u"/big"_s, QByteArray(3 * 1024 * 1024 + 1, 'b'));
-        QVERIFY(pair());
-        startRun();
-        QVERIFY(m_new->completed.wait());
-        QTRY_COMPARE(m_old->completed.size(), 1);
-        QCOMPARE(m_new->report().filesSuccess, 26);
-        QCOMPARE(m_new->report().totalBytes, m_old->report().totalBytes);
-        QCOMPARE(tree(m_received), tree(m_photos));
-
-        // Once more, with one file that is new: the rest is there and stays as it is.
-        writeFile(m_photos + u"/new"_s, "new");
-        m_old->engine.notifyPeerReadyForNew();
-        m_old->engine.resetTransfer();
-        m_old->engine.setSelectedPaths({m_photos});
-        m_old->engine.startTransfer();
-        QVERIFY(m_new->completed.wait());
-        QCOMPARE(m_new->restarted.size(), 1);
-        QCOMPARE(m_new->report().filesSkipped, 26);
-        QCOMPARE(tree(m_received), tree(m_photos));
-    }
-
     void pauseCanBeEndedFromTheOtherSide()
     {
         writeFile(m_photos + u"/big"_s, QByteArray(100 * 1024 * 1024, 'b'));
