@@ -4,7 +4,6 @@
 
 #include "core/app/StartUp.h"
 
-#include <QDataStream>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -26,24 +25,10 @@ QStringList logOf(Work work)
     return logged;
 }
 
-/// A compiled translation of the one text "Hello" in the context "Test".
-QByteArray compiledTranslation(const QString &translated)
-{
-    const auto section = [](quint8 tag, const QByteArray &content) {
-        QByteArray bytes;
-        QDataStream(&bytes, QIODevice::WriteOnly) << tag << content;
-        return bytes;
-    };
-    QByteArray text;
-    for (const QChar unit : translated)
-        text.append(char(unit.unicode() >> 8)).append(char(unit.unicode() & 0xff));
-    const QByteArray message = section(3, text) + section(6, "Hello") + section(7, "Test") + '\x01';
-    const quint32 hashOfHello = 0x04ec32f;
-    QByteArray index;
-    QDataStream(&index, QIODevice::WriteOnly) << hashOfHello << quint32(0);
-    return QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd") + section(0x42, index) +
-           section(0x69, message);
-}
+/// A compiled translation of the one text "Hello" in the context "Test": "Grüß Gott".
+const QByteArray Translation = QByteArray::fromHex(
+    "3cb86418caef9c95cd211cbf60a1bddd4200000008004ec32f00000000690000002b03000000120047007200fc00df00"
+    "200047006f00740074060000000548656c6c6f07000000045465737401");
 
 } // namespace
 
@@ -161,7 +146,7 @@ private Q_SLOTS:
 
     void translationIsInstalled()
     {
-        writeFile(m_program + u"/translations/Zandrove_de.qm"_s, compiledTranslation(u"Grüß Gott"_s));
+        writeFile(m_program + u"/translations/Zandrove_de.qm"_s, Translation);
         const QStringList log = logOf([this] { QVERIFY(StartUp::installTranslation(m_program, u"de"_s)); });
         QCOMPARE(log.last(), u"[Main] ✓ Translation loaded successfully: \"de\""_s);
         QCOMPARE(QCoreApplication::translate("Test", "Hello"), u"Grüß Gott"_s);
