@@ -28,6 +28,7 @@ class FileSenderTest : public QObject
     std::unique_ptr<FileSenderWorker> m_sender;
     std::unique_ptr<QSignalSpy> m_completed;
     QMap<MessageType, QByteArrayList> m_sent; ///< payloads
+    QThread m_thread;
     int m_nextTaskId = 0;
 
     FileTransferTask taskFor(const QString &name, const QByteArray &content)
@@ -56,6 +57,18 @@ class FileSenderTest : public QObject
             if (type == MessageType::FileAck)
                 m_sender->onBatchAckReceived(json(payload).value(u"batchId"_s).toInt(), success, {});
         });
+    }
+
+    void sendOnAThread(const FileTransferTask &task)
+    {
+        m_sender->moveToThread(&m_thread);
+        m_thread.start();
+        QMetaObject::invokeMethod(m_sender.get(), [this, task] { m_sender->startSending({task}); });
+    }
+    bool endThread()
+    {
+        m_thread.quit();
+        return m_thread.wait(2000);
     }
 
 private Q_SLOTS:
@@ -171,16 +184,30 @@ private Q_SLOTS:
         std::atomic<bool> asked = false;
         onMessage(
             [&](MessageType type, const QByteArray &) { asked = asked || type == MessageType::FileAck; });
-        const FileTransferTask task = taskFor(u"a"_s, "abc");
-        QThread thread;
-        m_sender->moveToThread(&thread);
-        thread.start();
-        QMetaObject::invokeMethod(m_sender.get(), [this, task] { m_sender->startSending({task}); });
+        sendOnAThread(taskFor(u"a"_s, "abc"));
         const bool askedInTime = QTest::qWaitFor([&asked] { return asked.load(); });
         m_sender->cancel();
-        thread.quit();
-        QVERIFY(thread.wait(2000));
+        QVERIFY(endThread());
         QVERIFY(askedInTime);
+    }
+
+    void pauseHoldsTheFileAndResumeLetsItGo()
+    {
+        answerBatches(true);
+        std::atomic<bool> begun = false;
+        std::atomic<bool> over = false;
+        onMessage([&](MessageType type, const QByteArray &) {
+            if (type == MessageType::FileHeader)
+                m_sender->setPaused(begun = true);
+            over = over || type == MessageType::FileEnd;
+        });
+        sendOnAThread(taskFor(u"big"_s, someBytes(2 * FileSenderWorker::ChunkBytes)));
+        const bool started = QTest::qWaitFor([&begun] { return begun.load(); });
+        const bool held = !QTest::qWaitFor([&over] { return over.load(); }, 300);
+        m_sender->setPaused(false);
+        const bool ended = QTest::qWaitFor([&over] { return over.load(); });
+        QVERIFY(endThread());
+        QVERIFY(started && held && ended);
     }
 
     void fullSocketHoldsTheNextChunk()

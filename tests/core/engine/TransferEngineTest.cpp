@@ -152,22 +152,6 @@ private Q_SLOTS:
         QVERIFY(!m_old->engine.isConnected());
     }
 
-    void pauseCanBeEndedFromTheOtherSide()
-    {
-        writeFile(m_photos + u"/big"_s, QByteArray(100 * 1024 * 1024, 'b'));
-        QVERIFY(pair());
-        QSignalSpy paused(&m_new->engine, &TransferEngine::pausedByPeer);
-        QSignalSpy resumed(&m_old->engine, &TransferEngine::resumedByPeer);
-        startRun();
-        m_old->engine.pauseTransfer(); // before its list has begun
-        QVERIFY(paused.wait());
-        QVERIFY(!m_new->completed.wait(500));
-        m_new->engine.resumeTransfer();
-        QVERIFY(resumed.wait());
-        QVERIFY(m_new->completed.wait());
-        QVERIFY(tree(m_received) == tree(m_photos));
-    }
-
     void brokenRunDoesNotGoOnWithALaterPeer()
     {
         for (int i = 0; i < 40; ++i)
