@@ -138,6 +138,15 @@ private Q_SLOTS:
         QCOMPARE(sweep.progress.last(), (QVariantList{(1 + 3 + 5) * Hosts - 3, 5 * Hosts - 1}));
     }
 
+    void sweepOfAnUnreachableNetworkWidensToTheEnd()
+    {
+        Sweep sweep({u"169.254.10.1"_s});
+        sweep.helper.startDirectScan();
+        QVERIFY(sweep.finished.wait(60'000));
+        QCOMPARE(sweep.finished, (QList<QVariantList>{{false}}));
+        QCOMPARE(sweep.progress.last(), (QVariantList{36 * Hosts - 6, 11 * Hosts - 1}));
+    }
+
     void sweepWaitsForAnOpenHandshake()
     {
         Sweep sweep({u"10.1.2.3"_s});
