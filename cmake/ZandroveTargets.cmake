@@ -14,6 +14,14 @@ target_compile_options(zandrove_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor
     $<$<BOOL:${ZANDROVE_WERROR}>:-Werror>)
 
+# What reads frames of any peer on the network is built to stop at a smashed stack or buffer.
+if(NOT WIN32)
+    target_compile_options(zandrove_options INTERFACE
+        $<$<CONFIG:Release>:-fstack-protector-strong>
+        $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>)
+    target_link_options(zandrove_options INTERFACE $<$<CONFIG:Release>:LINKER:-z,relro,-z,now>)
+endif()
+
 if(ZANDROVE_SANITIZERS)
     target_compile_options(zandrove_options INTERFACE
         -fsanitize=${ZANDROVE_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
@@ -69,15 +77,26 @@ function(zandrove_windows_resources target)
         "${CMAKE_SOURCE_DIR}/resources/icons/app.ico;${CMAKE_SOURCE_DIR}/resources/windows/program.manifest")
 endfunction()
 
-# zandrove_install(TARGET): the program as a part of an installation. On Windows everything that it needs beside the
-# system lies in one folder with it.
+# Where the programs lie in an installation; what they look for beside themselves goes there too. On Windows everything
+# lies in one folder.
+include(GNUInstallDirs)
+set(ZANDROVE_PROGRAM_FOLDER lib/zandrove)
+if(WIN32)
+    set(ZANDROVE_PROGRAM_FOLDER .)
+endif()
+
+# zandrove_install(TARGET): the program as a part of an installation, on Windows with everything that it needs beside the
+# system. Elsewhere its name among the commands is a link, because what it looks for lies where the program itself is.
 function(zandrove_install target)
-    include(GNUInstallDirs)
+    install(TARGETS ${target} RUNTIME DESTINATION ${ZANDROVE_PROGRAM_FOLDER})
+    set_property(GLOBAL APPEND PROPERTY ZANDROVE_INSTALLED_TARGETS ${target})
     if(NOT WIN32)
-        install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+        file(RELATIVE_PATH place ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_PREFIX}/${ZANDROVE_PROGRAM_FOLDER}/${target})
+        file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/commands)
+        file(CREATE_LINK ${place} ${CMAKE_CURRENT_BINARY_DIR}/commands/${target} SYMBOLIC)
+        install(FILES ${CMAKE_CURRENT_BINARY_DIR}/commands/${target} DESTINATION ${CMAKE_INSTALL_BINDIR})
         return()
     endif()
-    install(TARGETS ${target} RUNTIME DESTINATION .)
     set(ZANDROVE_INSTALLED_PROGRAM $<TARGET_FILE:${target}>)
     configure_file(${CMAKE_SOURCE_DIR}/cmake/InstallLibraries.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/${target}.cmake.in @ONLY)
     file(GENERATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/${target}-libraries.cmake INPUT ${CMAKE_CURRENT_BINARY_DIR}/${target}.cmake.in)

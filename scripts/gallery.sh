@@ -1,9 +1,14 @@
 #!/usr/bin/env bash
 # Renders every page of the window in its notable states, in both roles and at two scalings, to PNG files below DIR.
-# Usage: scripts/gallery.sh DIR [PART-OF-A-NAME]
+# Usage: scripts/gallery.sh [--language XX] DIR [PART-OF-A-NAME]
 set -euo pipefail
 root=$(cd "$(dirname "$0")/.." && pwd)
-target=$(realpath -m "${1:?usage: scripts/gallery.sh DIR [PART-OF-A-NAME]}")
+language=en
+if [ "${1:-}" = --language ]; then
+    language=${2:?--language needs one of the languages in translations}
+    shift 2
+fi
+target=$(realpath -m "${1:?usage: scripts/gallery.sh [--language XX] DIR [PART-OF-A-NAME]}")
 program=${ZANDROVE_GALLERY:-$root/build/debug/bin/zandrove-gallery}
 
 cd "$root"
@@ -29,6 +34,6 @@ for percent in 100 200; do
     env -i PATH="$PATH" HOME="$home" XDG_CONFIG_HOME="$home/.config" XDG_RUNTIME_DIR="$home" LC_ALL=C.UTF-8 \
         QT_QPA_PLATFORM="offscreen:configfile=$home/screen.json" QT_SCALE_FACTOR=$((percent / 100)) \
         QT_LOGGING_RULES='default.debug=false' \
-        "$program" "$target/$percent" ${2:+"$2"}
+        "$program" --language "$language" "$target/$percent" ${2:+"$2"}
 done
 echo "$(find "$target" -name '*.png' | wc -l) pictures in $target"

@@ -8,10 +8,10 @@ namespace Zandrove::Cli {
 
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("Zandrove::Cli::FolderCheck", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Zandrove::Cli::FolderCheck)
+};
 
 } // namespace
 
@@ -24,11 +24,11 @@ QString folderProblem(const QString &path)
 {
     const QFileInfo info(path);
     if (!info.exists())
-        return tr("There is no folder %1.").arg(path);
+        return Text::tr("There is no folder %1.").arg(path);
     if (!info.isDir())
-        return tr("%1 is not a folder.").arg(path);
+        return Text::tr("%1 is not a folder.").arg(path);
     if (!info.isReadable() || !info.isExecutable())
-        return tr("The folder %1 can't be read.").arg(path);
+        return Text::tr("The folder %1 can't be read.").arg(path);
     return {};
 }
 

@@ -6,10 +6,10 @@ namespace Zandrove::Cli {
 
 namespace {
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("Zandrove::Cli::ItemChoice", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Zandrove::Cli::ItemChoice)
+};
 
 /// Adds the positions of all items that `isMeant`. Returns whether there was one.
 template <typename Item, typename Rule>
@@ -32,15 +32,16 @@ QString addApp(QList<int> &positions, const QList<AppInfo> &apps, const QString 
         return {};
     QList<int> others;
     return add(others, apps, [&](const AppInfo &app) { return app.name == name; })
-               ? tr("The application %1 cannot be moved.").arg(name)
-               : tr("There is no application %1 on this PC. See zandrove-cli scan.").arg(name);
+               ? Text::tr("The application %1 cannot be moved.").arg(name)
+               : Text::tr("There is no application %1 on this PC. See zandrove-cli scan.").arg(name);
 }
 
 QString addSetting(QList<int> &positions, const QList<SettingInfo> &settings, const QString &id)
 {
-    return add(positions, settings, [&](const SettingInfo &setting) { return setting.id == id; })
+    return add(positions, settings,
+               [&](const SettingInfo &setting) { return setting.id == id && setting.available; })
                ? QString()
-               : tr("There is no setting %1 on this PC. See zandrove-cli scan.").arg(id);
+               : Text::tr("There is no setting %1 on this PC. See zandrove-cli scan.").arg(id);
 }
 
 } // namespace
@@ -67,6 +68,8 @@ ItemChoice chooseItems(const ScanResult &result, const Options &options)
         add(choice.apps, result.apps, [](const AppInfo &app) { return app.canTransfer; });
     if (options.allSettings)
         add(choice.settings, result.settings, [](const SettingInfo &setting) { return setting.available; });
+    if (options.folders.isEmpty() && choice.apps.isEmpty() && choice.settings.isEmpty())
+        choice.problem = Text::tr("This PC has nothing of that to move. See zandrove-cli scan.");
     return choice;
 }
 

@@ -1,5 +1,7 @@
 #include "cli/OptionRules.h"
 
+#include "cli/Columns.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -11,7 +13,6 @@ namespace Zandrove::Cli {
 
 namespace {
 
-constexpr const char *Context = "Zandrove::Cli::Options";
 constexpr int LongestWait = 7 * 24 * 3600; // seconds
 
 constexpr unsigned Receive = 1u << static_cast<unsigned>(Command::Receive);
@@ -21,17 +22,18 @@ constexpr unsigned Scan = 1u << static_cast<unsigned>(Command::Scan);
 constexpr unsigned Networked = Receive | Send | Discover;
 constexpr unsigned Every = Networked | Scan;
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate(Context, text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Zandrove::Cli::Options)
+};
 
 QString storeSeconds(std::optional<std::chrono::seconds> &target, const QString &value)
 {
     bool isNumber = false;
     const int seconds = value.toInt(&isNumber);
     if (!isNumber || seconds < 1 || seconds > LongestWait)
-        return tr("%1 is not a number of seconds from 1 to %2.").arg(value, QString::number(LongestWait));
+        return Text::tr("%1 is not a number of seconds from 1 to %2.")
+            .arg(value, QString::number(LongestWait));
     target = std::chrono::seconds(seconds);
     return {};
 }
@@ -43,7 +45,7 @@ QString storeMode(Options &options, const QString &value)
     else if (value == "cable"_L1)
         options.mode = CableMode;
     else
-        return tr("--mode is network or cable, not %1.").arg(value);
+        return Text::tr("--mode is network or cable, not %1.").arg(value);
     return {};
 }
 
@@ -54,32 +56,36 @@ QString storeRole(Options &options, const QString &value)
     else if (value == "new"_L1)
         options.role = NewPC;
     else
-        return tr("--role is old or new, not %1.").arg(value);
+        return Text::tr("--role is old or new, not %1.").arg(value);
     return {};
 }
 
 QString storeTarget(Options &options, const QString &value)
 {
     options.target = value.trimmed();
-    return options.target.isEmpty() ? tr("--to needs a code, a name or an address.") : QString();
+    return options.target.isEmpty() ? Text::tr("--to needs a code, a name or an address.") : QString();
 }
 
 QString storeFolder(Options &options, const QString &value)
 {
     if (value.isEmpty())
-        return tr("--folder needs a folder.");
+        return Text::tr("--folder needs a folder.");
     options.folders.append(value);
     return {};
 }
 
 QString storeApp(Options &options, const QString &value)
 {
+    if (value.isEmpty())
+        return Text::tr("%1 needs a value.").arg("--app"_L1);
     options.apps.append(value);
     return {};
 }
 
 QString storeSetting(Options &options, const QString &value)
 {
+    if (value.isEmpty())
+        return Text::tr("%1 needs a value.").arg("--setting"_L1);
     options.settings.append(value);
     return {};
 }
@@ -194,28 +200,8 @@ const std::array Commands = {
                                   "settings.")},
 };
 
-/// `text` in lines of at most `width` columns, broken at blanks, each behind `indent` blanks but the first.
-QString wrapped(const QString &text, qsizetype indent, qsizetype width)
-{
-    QString result;
-    qsizetype column = indent;
-    for (const QString &word : text.split(u' ')) {
-        if (column > indent && column + 1 + word.size() > width) {
-            result += u'\n' + QString(indent, u' ');
-            column = indent;
-        }
-        if (column > indent) {
-            result += u' ';
-            ++column;
-        }
-        result += word;
-        column += word.size();
-    }
-    return result;
-}
-
-constexpr qsizetype HelpWidth = 88;
-constexpr qsizetype HelpIndent = 26;
+constexpr int HelpWidth = 88;
+constexpr int HelpIndent = 26;
 
 QString helpLine(const QString &head, const QString &text)
 {
@@ -232,15 +218,15 @@ QString optionLine(const OptionRule &rule)
     QString head = rule.name;
     if (rule.takesValue())
         head += u' ' + QLatin1StringView(rule.valueName);
-    return helpLine(head, tr(rule.help));
+    return helpLine(head, Text::tr(rule.help));
 }
 
 QString exitCodeHelp()
 {
-    return tr(
+    return Text::tr(
         "Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 "
-        "wrong "
-        "usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C "
+        "wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with "
+        "Ctrl-C "
         "(the other PC is told; a second Ctrl-C ends at once).");
 }
 
@@ -265,14 +251,14 @@ std::optional<Command> commandNamed(const QString &name)
 
 QString generalHelp()
 {
-    QString help =
-        tr("zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same "
-           "network.") +
-        u"\n\n"_s;
+    const QString purpose = Text::tr(
+        "zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same "
+        "network.");
+    QString help = wrapped(purpose, 0, HelpWidth) + u"\n\n"_s;
     for (const CommandText &text : Commands)
-        help += helpLine(text.name, tr(text.purpose));
-    help += helpLine(u"--help"_s, tr("This text; after a command, the help of that command."));
-    help += helpLine(u"--version"_s, tr("The version of the program."));
+        help += helpLine(text.name, Text::tr(text.purpose));
+    help += helpLine(u"--help"_s, Text::tr("This text; after a command, the help of that command."));
+    help += helpLine(u"--version"_s, Text::tr("The version of the program."));
     return help + u'\n' + wrapped(exitCodeHelp(), 0, HelpWidth) + u'\n';
 }
 
@@ -281,7 +267,8 @@ QString commandHelp(Command command)
     const CommandText &text =
         *std::find_if(Commands.begin(), Commands.end(),
                       [command](const CommandText &candidate) { return candidate.command == command; });
-    QString help = QLatin1StringView(text.usage) + u"\n\n"_s + tr(text.purpose) + u"\n\n"_s;
+    QString help =
+        QLatin1StringView(text.usage) + u"\n\n"_s + wrapped(Text::tr(text.purpose), 0, HelpWidth) + u"\n\n"_s;
     for (const OptionRule &rule : Rules) {
         if (rule.belongsTo(command))
             help += optionLine(rule);

@@ -20,10 +20,10 @@ struct Token
     bool joined = false; ///< written as --name=value
 };
 
-QString tr(const char *text)
+struct Text
 {
-    return QCoreApplication::translate("Zandrove::Cli::Options", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(Zandrove::Cli::Options)
+};
 
 QList<Token> tokens(const QStringList &arguments)
 {
@@ -58,24 +58,24 @@ QString apply(const Token &token, Options &options)
 {
     const OptionRule *rule = findOption(token.name, options.command);
     if (!rule)
-        return tr("Unknown option %1. See --help.").arg(token.name);
+        return Text::tr("Unknown option %1. See --help.").arg(token.name);
     if (!rule->takesValue() && token.joined)
-        return tr("%1 takes no value.").arg(token.name);
+        return Text::tr("%1 takes no value.").arg(token.name);
     if (rule->takesValue() && !token.value)
-        return tr("%1 needs a value.").arg(token.name);
+        return Text::tr("%1 needs a value.").arg(token.name);
     return rule->apply(options, token.value.value_or(QString()));
 }
 
 QString whatIsMissing(const Options &options)
 {
     if (options.command == Command::Send && options.target.isEmpty())
-        return tr("send needs --to with the New PC's code, name or address.");
+        return Text::tr("send needs --to with the New PC's code, name or address.");
     const bool sendsNothing = options.folders.isEmpty() && options.apps.isEmpty() && !options.allApps &&
                               options.settings.isEmpty() && !options.allSettings;
     if (options.command == Command::Send && sendsNothing)
-        return tr("send needs something to move: a --folder, an --app or a --setting.");
+        return Text::tr("send needs something to move: a --folder, an --app or a --setting.");
     if (options.command == Command::Discover && options.role < 0)
-        return tr("discover needs --role old or --role new.");
+        return Text::tr("discover needs --role old or --role new.");
     return {};
 }
 
@@ -100,7 +100,7 @@ ParsedArguments parseCommand(Command command, const QList<Token> &tokenList)
     for (const Token &token : tokenList) {
         if (token.name.isEmpty()) {
             if (commandSeen)
-                return failure(tr("Unexpected argument %1. See --help.").arg(*token.value));
+                return failure(Text::tr("Unexpected argument %1. See --help.").arg(*token.value));
             commandSeen = true;
             continue;
         }
@@ -127,11 +127,11 @@ ParsedArguments parseArguments(const QStringList &arguments)
                                    [](const Token &token) { return token.name.isEmpty(); });
     if (word == tokenList.end())
         return wantsHelp ? answer(generalHelp())
-                         : failure(tr("Say receive, send, discover or scan. See --help."));
+                         : failure(Text::tr("Say receive, send, discover or scan. See --help."));
 
     const std::optional<Command> command = commandNamed(*word->value);
     if (!command)
-        return failure(tr("Unknown command %1. See --help.").arg(*word->value));
+        return failure(Text::tr("Unknown command %1. See --help.").arg(*word->value));
     return wantsHelp ? answer(commandHelp(*command)) : parseCommand(*command, tokenList);
 }
 

@@ -40,7 +40,7 @@ ReceiveSession::ReceiveSession(const Options &options, TransferEngine &engine, O
     connect(&m_timeoutTimer, &QTimer::timeout, this, &ReceiveSession::onTimeout);
     m_goodbyeTimer.setSingleShot(true);
     m_settingsTimer.setSingleShot(true);
-    connect(&m_settingsTimer, &QTimer::timeout, this, &ReceiveSession::concludeHeldRun);
+    connect(&m_settingsTimer, &QTimer::timeout, this, &ReceiveSession::concludeWithoutSettings);
     m_drainTimer.setSingleShot(true);
     connect(&m_drainTimer, &QTimer::timeout, this, &ReceiveSession::onNothingMoreToCome);
     connect(&m_goodbyeTimer, &QTimer::timeout, this, [this] { finish(m_results.exitCode()); });
@@ -228,7 +228,7 @@ void ReceiveSession::onTransferSign()
 
 void ReceiveSession::onNewTransferStarted()
 {
-    concludeHeldRun();
+    concludeWithoutSettings();
     if (m_reported) {
         finish(m_results.exitCode());
         return;
@@ -239,6 +239,7 @@ void ReceiveSession::onNewTransferStarted()
 
 void ReceiveSession::onTransferReset()
 {
+    concludeWithoutSettings();
     if (m_reported) {
         finish(m_results.exitCode());
         return;
@@ -254,6 +255,7 @@ void ReceiveSession::onCompleted(const MigrationReport &report)
         concludeRun(report);
         return;
     }
+    m_drainTimer.stop(); // all has come
     m_heldReport = report;
     m_settingsTimer.start(SettingsTime);
 }
@@ -264,14 +266,22 @@ void ReceiveSession::onSettingsFinished(int succeeded, int failed)
         return;
     m_heldReport->settingsSuccess = succeeded;
     m_heldReport->settingsFailed = failed;
-    concludeHeldRun();
+    concludeRun(takeHeldReport());
 }
 
-void ReceiveSession::concludeHeldRun()
+void ReceiveSession::concludeWithoutSettings()
+{
+    if (!m_heldReport)
+        return;
+    output().warning(tr("Some settings are still being applied; the report is without them."));
+    m_results.record(SomethingMissing);
+    concludeRun(takeHeldReport());
+}
+
+MigrationReport ReceiveSession::takeHeldReport()
 {
     m_settingsTimer.stop();
-    if (m_heldReport)
-        concludeRun(*std::exchange(m_heldReport, std::nullopt));
+    return *std::exchange(m_heldReport, std::nullopt);
 }
 
 void ReceiveSession::concludeRun(const MigrationReport &report)
@@ -280,7 +290,9 @@ void ReceiveSession::concludeRun(const MigrationReport &report)
     m_results.record(exitCodeFor(report));
     expectTransfer();
     m_reported = options().once;
-    if (m_drainTimer.isActive() || link() == Link::None) {
+    if (m_endsThen) {
+        finish(m_results.exitCode());
+    } else if (m_drainTimer.isActive() || link() == Link::None) {
         afterLink();
     } else if (m_reported) {
         m_timeoutTimer.stop();
@@ -318,13 +330,15 @@ bool ReceiveSession::obey(const ControlCommand &command)
         answer(command.kind == ControlCommand::Yes);
         return true;
     case ControlCommand::Cancel:
-        if (m_receiving) {
+        if (m_receiving && !m_heldReport) {
             cancelHere();
             runEnded(Cancelled);
         }
         return true;
     case ControlCommand::End:
-        finish(m_results.exitCode());
+        m_endsThen = m_heldReport.has_value();
+        if (!m_endsThen)
+            finish(m_results.exitCode());
         return true;
     case ControlCommand::Again:
         return false;
@@ -349,7 +363,7 @@ void ReceiveSession::onTimeout()
 
 void ReceiveSession::onInterrupt()
 {
-    concludeHeldRun();
+    concludeWithoutSettings();
     if (m_reported) {
         finish(m_results.exitCode());
         return;

@@ -44,7 +44,8 @@ private:
     void onTransferReset();
     void onCompleted(const MigrationReport &report);
     void onSettingsFinished(int succeeded, int failed);
-    void concludeHeldRun();
+    void concludeWithoutSettings();
+    [[nodiscard]] MigrationReport takeHeldReport();
     void concludeRun(const MigrationReport &report);
     void onPeerCancelled();
     void onTransferFailed(const QString &reason);
@@ -66,6 +67,7 @@ private:
     bool m_expecting = false; ///< armed on a fresh link, nothing has arrived
     bool m_receiving = false; ///< something of a run has arrived
     bool m_reported = false;  ///< --once: the one report is out
+    bool m_endsThen = false;  ///< --control: the held report is the last one
 };
 
 } // namespace Zandrove::Cli

@@ -191,6 +191,7 @@ void SendSession::sendAgain(const QString &folder)
             return;
         }
         m_folders = {path};
+        m_choice = {};
     }
     if (m_completed)
         engine().notifyPeerReadyForNew();

@@ -19,7 +19,8 @@ constexpr auto ProgressInterval = 200ms;
 // slow link, and otherwise.
 constexpr std::chrono::milliseconds FarewellTimeCompleted = 60s;
 constexpr std::chrono::milliseconds FarewellTime = 2s;
-// And where it may still be installing applications, and can't answer before it is through.
+// And where it may still be installing applications or applying settings, and can't answer before it is
+// through.
 constexpr std::chrono::milliseconds FarewellTimeInstalling = 1h;
 
 // How long the last frames of a link may take to leave when this side hangs up.
@@ -72,6 +73,8 @@ void Session::collectItems()
 {
     connect(&m_engine, &TransferEngine::transferStarted, this, [this] { m_items = {}; });
     connect(&m_engine, &TransferEngine::newTransferStarted, this, [this] { m_items = {}; });
+    // The New PC waits for a further run without another word.
+    connect(&m_engine, &TransferEngine::peerCancelled, this, [this] { m_items = {}; });
     connect(&m_engine, &TransferEngine::appOutcome, this,
             [this](const QString &name, bool success, const QString &error) {
                 m_items.apps.append({name, success, error});
@@ -86,7 +89,9 @@ void Session::showReport(const MigrationReport &report)
 {
     showLastProgress();
     m_output.report(report, m_items);
-    m_farewellTime = report.appsSuccess > 0 ? FarewellTimeInstalling : FarewellTimeCompleted;
+    // A further run may stand behind what an earlier one has left the other PC to do.
+    if (report.appsSuccess > 0 || report.settingsSuccess > 0)
+        m_farewellTime = FarewellTimeInstalling;
 }
 
 void Session::showProgress(const TransferProgress &progress)

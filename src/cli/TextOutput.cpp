@@ -1,9 +1,9 @@
 #include "cli/TextOutput.h"
 
+#include "cli/Columns.h"
 #include "support/PrintableText.h"
 #include "support/Utilities.h"
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -16,21 +16,6 @@ namespace {
 constexpr int NarrowestLiveLine = 20; // columns; less says nothing
 constexpr int CountColumns = 8;
 constexpr int SizeColumns = 11;
-
-int columnsOf(char32_t character)
-{
-    const QChar::Category category = QChar::category(character);
-    if (category == QChar::Mark_NonSpacing || category == QChar::Mark_Enclosing ||
-        category == QChar::Other_Format)
-        return 0;
-    constexpr std::pair<char32_t, char32_t> Wide[] = {
-        {0x1100, 0x115F}, {0x2E80, 0xA4CF}, {0xAC00, 0xD7A3},   {0xF900, 0xFAFF},  {0xFE30, 0xFE6F},
-        {0xFF00, 0xFF60}, {0xFFE0, 0xFFE6}, {0x1F300, 0x1F64F}, {0x20000, 0x3FFFD}};
-    const bool isWide = std::any_of(std::begin(Wide), std::end(Wide), [character](const auto &range) {
-        return character >= range.first && character <= range.second;
-    });
-    return isWide ? 2 : 1;
-}
 
 /// Name of a peer for a person, with what is known besides it.
 QString described(const PCInfo &pc)
@@ -46,29 +31,6 @@ QString inventoryRow(std::optional<qint64> size, QStringList parts)
 }
 
 } // namespace
-
-int columnsOf(const QString &text)
-{
-    int columns = 0;
-    for (const char32_t character : text.toUcs4())
-        columns += columnsOf(character);
-    return columns;
-}
-
-QString fitted(const QString &text, int columns)
-{
-    if (columnsOf(text) <= columns)
-        return text;
-    QString result;
-    int used = 1; // of the ellipsis
-    for (const char32_t character : text.toUcs4()) {
-        used += columnsOf(character);
-        if (used > columns)
-            break;
-        result += QString::fromUcs4(&character, 1);
-    }
-    return columns > 0 ? result + u'…' : QString();
-}
 
 TextOutput::TextOutput(Streams streams, int role, bool listsPeers)
     : m_streams(std::move(streams))
@@ -196,10 +158,11 @@ void TextOutput::cancelled(Side by)
 void TextOutput::report(const MigrationReport &report, const RunItems &items)
 {
     const int seconds = static_cast<int>(report.startTime.secsTo(report.endTime));
-    QString head = tr("Done in %1: %2").arg(formatTime(seconds), formatSize(report.totalBytes));
-    if (report.averageSpeed > 0)
-        head += tr(", %1 on average").arg(formatSpeed(report.averageSpeed));
-    line(head + u'.');
+    const QString time = formatTime(seconds);
+    const QString size = formatSize(report.totalBytes);
+    line(report.averageSpeed > 0
+             ? tr("Done in %1: %2, %3 on average.").arg(time, size, formatSpeed(report.averageSpeed))
+             : tr("Done in %1: %2.").arg(time, size));
     const QString format = m_role == NewPC ? tr("Files: %1 received, %2 failed, %3 skipped.")
                                            : tr("Files: %1 sent, %2 failed, %3 skipped.");
     line(format.arg(QString::number(report.filesSuccess), QString::number(report.filesFailed),

@@ -52,10 +52,4 @@ private:
     QString m_peerName;
 };
 
-/// Columns that `text` takes on a terminal: wide East Asian characters two, combining ones none.
-[[nodiscard]] int columnsOf(const QString &text);
-
-/// As much of `text` as fits into `columns`, with "…" in place of a cut end.
-[[nodiscard]] QString fitted(const QString &text, int columns);
-
 } // namespace Zandrove::Cli

@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -137,6 +138,8 @@ void MigrationManager::clearRunState()
     sendingAppPhase = false;
     settingPhaseDone = false;
     m_nextTaskId = 0;
+    m_listAnnounced = false;
+    m_early.clear();
     m_accumulated = {};
     clearReportCounters();
 }
@@ -175,6 +178,7 @@ void MigrationManager::pause()
     if (!m_migrating || m_paused)
         return;
     qDebug() << "MigrationManager::pause() - local request";
+    m_pausedByPeer = false;
     setWorkersPaused(true);
     sendToPeer(MessageType::TransferPause);
     Q_EMIT paused();
@@ -204,6 +208,8 @@ void MigrationManager::cancel()
     m_migrating = false;
     m_completing = false;
     m_incomingRun = false;
+    // What the receiver still works off, and an end of an application that is still due, install nothing.
+    m_receivedApps->forgetPackages();
     dropDeferred();
     resumeReadingLink();
     Q_EMIT cancelled();
@@ -242,6 +248,7 @@ void MigrationManager::resetRun()
     m_appFilePhaseDone = false;
     storeCounts({});
     clearAppQueue();
+    m_early.clear();
     // A later run must not install what one that was called off has left half received.
     m_receivedApps->forgetPackages();
     m_settingsApplied = m_settingsFailed = 0;
@@ -402,8 +409,7 @@ void MigrationManager::sendToPeer(MessageType type, const QByteArray &payload)
 
 void MigrationManager::onWorkerRequestSendCommand(int type, const QByteArray &payload)
 {
-    const bool traced = type != int(MessageType::FileData);
-    if (traced)
+    if (type != int(MessageType::FileData))
         qDebug() << ">>> onWorkerRequestSendCommand called! type:" << type << "size:" << payload.size();
     if (!m_networkManager) {
         qDebug() << ">>> ERROR: m_networkManager is NULL!";
@@ -414,9 +420,24 @@ void MigrationManager::onWorkerRequestSendCommand(int type, const QByteArray &pa
         qDebug() << "[Serial] AppEnd queued for later:" << m_delayedAppEnds.constLast();
         return;
     }
+    // Packing and exporting run beside the sender and may be quicker. A peer that waits for a further run
+    // would take none of it before it knows of one.
+    m_listAnnounced = m_listAnnounced || m_role == NewPC || type == int(MessageType::TransferStart);
+    if (!m_listAnnounced) {
+        m_early.append({MessageType(type), payload});
+        return;
+    }
+    sendForWorker(MessageType(type), payload);
+    for (const Message &message : std::exchange(m_early, {}))
+        sendForWorker(message.type, message.payload);
+}
+
+void MigrationManager::sendForWorker(MessageType type, const QByteArray &payload)
+{
+    const bool traced = type != MessageType::FileData;
     if (traced)
-        qDebug() << ">>> Sending command via NetworkManager, type:" << type;
-    sendToPeer(MessageType(type), payload);
+        qDebug() << ">>> Sending command via NetworkManager, type:" << int(type);
+    sendToPeer(type, payload);
     if (traced)
         qDebug() << ">>> Command sent!";
 }

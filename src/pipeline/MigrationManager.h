@@ -10,6 +10,7 @@
 #include <QPointer>
 #include <QStringList>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 
@@ -64,7 +65,7 @@ public:
     [[nodiscard]] bool hasIncomingRun() const { return m_incomingRun; }
 
     /// New PC: settings have arrived of which it isn't known yet what became of them.
-    [[nodiscard]] bool isApplyingSettings() const { return m_settingsOwed; }
+    [[nodiscard]] bool isApplyingSettings() const { return m_settingsOwed && m_settingsRun == m_run; }
 
     /// Begins a run in either role. Ignored while one is on.
     void start(const QList<AppInfo> &apps, const QList<FolderInfo> &folders,
@@ -124,6 +125,9 @@ private Q_SLOTS:
     void onLinkCommandReceived(Zandrove::Protocol::MessageType type, const QByteArray &payload);
 
 private:
+    /// How long settings may still be applied before a new run ends that.
+    static constexpr std::chrono::seconds SettingsDeadline{60}; // several programs of the system in a row
+
     /// A message that waits for the run in front of it to end.
     struct Message
     {
@@ -205,6 +209,7 @@ private:
 
     [[nodiscard]] MigrationReport buildReport() const;
     void sendToPeer(Protocol::MessageType type, const QByteArray &payload = {});
+    void sendForWorker(Protocol::MessageType type, const QByteArray &payload);
 
     // What the workers report.
     void onWorkerFileStarted(const QString &fileName, qlonglong size);
@@ -224,8 +229,10 @@ private:
 
     // What the peer sends.
     void process(Protocol::MessageType type, const QByteArray &payload);
-    [[nodiscard]] bool mustWaitForReport(Protocol::MessageType type) const;
+    [[nodiscard]] bool isSettling() const { return !m_migrating && isApplyingSettings(); }
+    [[nodiscard]] bool mustWait(Protocol::MessageType type) const;
     void processDeferred();
+    void boundWaitForSettings();
     void dropDeferred();
     [[nodiscard]] bool admitWhileIdle(Protocol::MessageType type);
     void restartForNewTransfer();
@@ -260,6 +267,7 @@ private:
     ReceivedApps *m_receivedApps = nullptr; // New PC
     bool m_migrating = false;
     bool m_paused = false;
+    bool m_pausedByPeer = false; // and not here
     QList<AppInfo> m_apps;
     QList<FolderInfo> m_folders;
     QList<AccountInfo> m_accounts; // kept, not used
@@ -284,7 +292,9 @@ private:
     bool m_appFilePhaseDone = false;
     bool sendingAppPhase = false; // the sender's list is that of the applications
     int m_nextTaskId = 0;
-    FileCounts m_accumulated; // over the lists that the sender of one run is given
+    bool m_listAnnounced = false; // the peer knows that a run begins
+    QList<Message> m_early;       // what is to follow that
+    FileCounts m_accumulated;     // over the lists that the sender of one run is given
 
     int m_run = 0; // deliveries made under an older number belong to a run that is over
     bool m_incomingRun = false;
@@ -296,6 +306,7 @@ private:
     QList<Message> m_deferred;        // what arrived meanwhile
     bool m_settingsBegun = false;     // New PC: the setting migrator was told to receive
     bool m_settingsOwed = false;      // New PC: it has not said yet what became of the settings
+    int m_settingsRun = -1;           // New PC: the run in which it will
 };
 
 } // namespace Zandrove

@@ -39,6 +39,11 @@ void traceMessage(MessageType type, qsizetype size)
              << "size:" << size;
 }
 
+bool beginsOrResets(MessageType type)
+{
+    return type == MessageType::TransferStart || type == MessageType::TransferReset;
+}
+
 } // namespace
 
 void MigrationManager::onLinkCommandReceived(MessageType type, const QByteArray &payload)
@@ -60,31 +65,52 @@ void MigrationManager::onLinkCommandReceived(MessageType type, const QByteArray 
 void MigrationManager::onNetworkCommandReceived(MessageType type, const QByteArray &payload)
 {
     traceMessage(type, payload.size());
-    if (mustWaitForReport(type))
-        m_deferred.append({type, payload});
-    else
+    if (!mustWait(type)) {
         process(type, payload);
+        return;
+    }
+    m_deferred.append({type, payload});
+    if (m_deferred.size() == 1)
+        boundWaitForSettings();
 }
 
-/// Between the last message of a run and its report the receiver still works off what is queued: what begins
-/// or resets a run waits for that, and so does what follows it.
-bool MigrationManager::mustWaitForReport(MessageType type) const
+/// Between the last message of a run and its report the receiver still works off what is queued, and behind
+/// the report the settings are still applied: what begins or resets a run waits for that, and so does what
+/// follows it.
+bool MigrationManager::mustWait(MessageType type) const
 {
     if (type == MessageType::TransferPause || type == MessageType::TransferResume)
         return false;
     if (type == MessageType::SessionEnd && m_paused)
         return false;
-    const bool touchesTheRun = type == MessageType::TransferStart || type == MessageType::TransferReset ||
-                               type == MessageType::SessionEnd;
-    return !m_deferred.isEmpty() || (m_completing && touchesTheRun);
+    return !m_deferred.isEmpty() || (m_completing && type == MessageType::SessionEnd) ||
+           ((m_completing || isSettling()) && beginsOrResets(type));
 }
 
 void MigrationManager::processDeferred()
 {
     while (!m_deferred.isEmpty() && !m_completing) {
+        if (isSettling() && beginsOrResets(m_deferred.constFirst().type)) {
+            boundWaitForSettings();
+            return;
+        }
         const Message message = m_deferred.takeFirst();
         process(message.type, message.payload);
     }
+    resumeReadingLink();
+}
+
+/// A program of the system that never ends must not keep the peer out for good.
+void MigrationManager::boundWaitForSettings()
+{
+    if (!isSettling())
+        return;
+    QTimer::singleShot(SettingsDeadline, this, [this, run = m_run] {
+        if (run != m_run || !isSettling())
+            return;
+        m_settingsOwed = false;
+        processDeferred();
+    });
 }
 
 /// The run in front of them has been called off. The end of the session stands all the same.
@@ -320,6 +346,7 @@ void MigrationManager::onPeerPause()
     if (m_paused)
         return;
     qDebug() << "MigrationManager::onPeerPause() - peer requested pause";
+    m_pausedByPeer = true;
     setWorkersPaused(true);
     Q_EMIT pausedByPeer();
 }
@@ -358,6 +385,11 @@ void MigrationManager::onTransferComplete()
         appMigrationDone = true;
         appFilesAllQueued = true;
         settingPhaseDone = true;
+        if (m_settingsBegun)
+            m_settingsRun = -1; // the peer forgot to say that they are complete
+        // Whoever has ended its run has nothing left to resume.
+        if (m_pausedByPeer)
+            onPeerResume();
     }
     if (!m_receiverWorker) {
         qDebug() << "WARNING: m_receiverWorker is null!";

@@ -37,6 +37,7 @@ void MigrationManager::onSettingMigrationFinished(int applied, int failed)
     m_settingsOwed = false;
     checkAllCompleted();
     Q_EMIT settingsFinished(applied, failed);
+    processDeferred();
 }
 
 void MigrationManager::beginReceivingSettings()
@@ -53,6 +54,7 @@ void MigrationManager::onSettingStart(const QByteArray &payload)
     if (!m_settingsBegun)
         beginReceivingSettings();
     m_settingsOwed = true;
+    m_settingsRun = m_run;
     tellSettingMigrator(&SettingMigrator::onSettingStart, payload);
 }
 

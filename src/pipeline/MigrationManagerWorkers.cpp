@@ -20,7 +20,6 @@ namespace Zandrove {
 namespace {
 
 constexpr auto StopDeadline = 3000ms;
-constexpr auto SettingsDeadline = 60s; // several programs of the system one after the other
 
 } // namespace
 
@@ -254,7 +253,7 @@ void MigrationManager::cancelWorkersQueued()
 /// bounded. A paused run reads on: the peer's resume stands behind its data.
 bool MigrationManager::mayReadLink() const
 {
-    if (m_completing && !m_paused)
+    if ((m_completing && !m_paused) || (isSettling() && !m_deferred.isEmpty()))
         return false;
     return !m_migrating || m_paused || !m_receiverWorker ||
            m_receiverWorker->inflow() <= FileReceiverWorker::InflowMark;

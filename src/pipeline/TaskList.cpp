@@ -1,5 +1,7 @@
 #include "pipeline/TaskList.h"
 
+#include "pipeline/DestinationMap.h"
+
 #include <QDebug>
 #include <QDir>
 #include <QDirIterator>
@@ -58,7 +60,9 @@ QString taskRoot(const QString &folderPath, const StandardFolders &standard)
         if (lower.startsWith(entry.key() + u'/') || lower.startsWith(entry.key() + u'\\'))
             return folder.rootWord + u'/' + cleaned.mid(folder.length + 1);
     }
-    return QDir(QDir::cleanPath(QFileInfo(folderPath).absoluteFilePath())).dirName();
+    const QString name = QDir(QDir::cleanPath(QFileInfo(folderPath).absoluteFilePath())).dirName();
+    // The New PC keeps files below "Apps" only until the applications are installed.
+    return isAppPath(name + u'/') ? name + u'_' : name;
 }
 
 QList<FileTransferTask> taskListFor(const QList<FolderInfo> &folders, int &nextTaskId)

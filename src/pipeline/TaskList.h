@@ -24,7 +24,8 @@ using StandardFolders = QMap<QString, StandardFolder>;
 [[nodiscard]] StandardFolders standardFolders();
 
 /// The root of the relative paths for files below `folderPath`: a standard folder's word, with the path from
-/// there down to the folder, or else the folder's own name.
+/// there down to the folder, or else the folder's own name; "Apps", where those of applications go, gets a
+/// "_".
 [[nodiscard]] QString taskRoot(const QString &folderPath, const StandardFolders &standard);
 
 /// One task for each file below each selected folder that exists, in the order of the file system. Hidden

@@ -157,9 +157,14 @@ bool LinkManager::openLink(const QString &category, const QString &key, QWidget 
         return true;
     }
     qWarning() << "[LinkManager] ⚠ 无法打开浏览器:" << url;
-    if (parent != nullptr)
-        QMessageBox::warning(parent, tr("无法打开浏览器"),
-                             tr("无法打开默认浏览器。\n\n请手动复制链接访问：\n%1").arg(url));
+    if (parent != nullptr) {
+        QMessageBox warning(QMessageBox::Warning, tr("无法打开浏览器"),
+                            tr("无法打开默认浏览器。\n\n请手动复制链接访问：\n%1").arg(url), QMessageBox::Ok,
+                            parent);
+        // It asks to copy the link, and most styles let nobody do so.
+        warning.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        warning.exec();
+    }
     return false;
 }
 

@@ -8,6 +8,7 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QDebug>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLinearGradient>
@@ -178,6 +179,8 @@ void TitleBar::onLanguageChosen(const QString &code)
     QSettings settings(AppConfig::userOrganisation(), AppConfig::appName());
     settings.setValue(LanguageKey, code);
     settings.sync();
+    if (settings.status() != QSettings::NoError)
+        qWarning() << "[TitleBar] The language could not be kept in" << settings.fileName();
     LinkManager::instance().setLanguage(code);
     Q_EMIT languageChanged(code);
 }

@@ -1,6 +1,8 @@
 #include "TestMain.h"
+#include "cli/Columns.h"
 #include "cli/ControlCommand.h"
 #include "cli/FolderCheck.h"
+#include "cli/ItemChoice.h"
 #include "cli/JsonOutput.h"
 #include "cli/Options.h"
 #include "cli/PeerMatch.h"
@@ -54,8 +56,12 @@ private Q_SLOTS:
     void refusesWrongArguments_data();
     void refusesWrongArguments();
     void readsOptionsInEitherFormAndAnyOrder();
+    void choosesWhatIsMeant_data();
+    void choosesWhatIsMeant();
     void answersHelpAndVersionInsteadOfRunning_data();
     void answersHelpAndVersionInsteadOfRunning();
+    void wrapsAtTheEndOfTheLine_data();
+    void wrapsAtTheEndOfTheLine();
     void findsThePeerThatIsMeant_data();
     void findsThePeerThatIsMeant();
     void readsControlLines_data();
@@ -85,6 +91,10 @@ void CliTest::refusesWrongArguments_data()
     QTest::newRow("no folder") << u"send --to 1234"_s << u"--folder"_s;
     QTest::newRow("value missing at the end") << u"send --folder x --to"_s << u"--to"_s;
     QTest::newRow("value for a flag") << u"receive --yes=1"_s << u"--yes"_s;
+    QTest::newRow("no name") << u"send --to x --app="_s << u"--app"_s;
+    QTest::newRow("no id") << u"send --to x --setting="_s << u"--setting"_s;
+    QTest::newRow("value for all") << u"send --to x --all-apps=1"_s << u"--all-apps"_s;
+    QTest::newRow("items of the other side") << u"receive --all-settings"_s << u"--all-settings"_s;
     QTest::newRow("no role") << u"discover"_s << u"--role"_s;
     QTest::newRow("wrong role") << u"discover --role 0"_s << u"0"_s;
     QTest::newRow("wrong mode") << u"receive --mode wifi"_s << u"wifi"_s;
@@ -131,6 +141,45 @@ void CliTest::readsOptionsInEitherFormAndAnyOrder()
     QCOMPARE(discover.options->role, int(NewPC));
 }
 
+void CliTest::choosesWhatIsMeant_data()
+{
+    QTest::addColumn<QString>("items");
+    QTest::addColumn<QList<int>>("apps");
+    QTest::addColumn<QList<int>>("settings");
+    QTest::addColumn<QString>("problem");
+    QTest::newRow("both of one name, once")
+        << u"--app Pad --app Pad"_s << QList{0, 3} << QList<int>() << u""_s;
+    QTest::newRow("one and all") << u"--app=Pen --all-apps"_s << QList{1, 0, 3} << QList<int>() << u""_s;
+    QTest::newRow("another case") << u"--app pad"_s << QList<int>() << QList<int>()
+                                  << u"no application pad"_s;
+    QTest::newRow("keys only") << u"--app Keys"_s << QList<int>() << QList<int>() << u"cannot be moved"_s;
+    QTest::newRow("setting") << u"--setting mouse"_s << QList<int>() << QList{0} << u""_s;
+    QTest::newRow("not here") << u"--setting sound"_s << QList<int>() << QList<int>()
+                              << u"no setting sound"_s;
+    QTest::newRow("all") << u"--all-apps --all-settings"_s << QList{0, 1, 3} << QList{0} << u""_s;
+}
+
+void CliTest::choosesWhatIsMeant()
+{
+    QFETCH(QString, items);
+    QFETCH(QString, problem);
+    ScanResult result;
+    for (const QString &name : {u"Pad"_s, u"Pen"_s, u"Keys"_s, u"Pad"_s})
+        result.apps.emplaceBack().name = name;
+    result.apps[2].canTransfer = false;
+    for (const QString &id : {u"mouse"_s, u"sound"_s})
+        result.settings.emplaceBack().id = id;
+    result.settings[1].available = false;
+    const ParsedArguments parsed = parseArguments(u"send --to x %1"_s.arg(items).split(u' '));
+    QVERIFY2(parsed.options && needsScan(*parsed.options), qPrintable(parsed.error));
+    const ItemChoice choice = chooseItems(result, *parsed.options);
+    QVERIFY2(problem.isEmpty() ? choice.problem.isEmpty() : choice.problem.contains(problem),
+             qPrintable(choice.problem));
+    QTEST(choice.apps, "apps");
+    QTEST(choice.settings, "settings");
+    QVERIFY(!chooseItems({}, *parsed.options).problem.isEmpty());
+}
+
 void CliTest::answersHelpAndVersionInsteadOfRunning_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -153,6 +202,24 @@ void CliTest::answersHelpAndVersionInsteadOfRunning()
     QVERIFY2(parsed.text.contains(mentions), qPrintable(parsed.text));
     // A word that is only the value of an option asks for nothing.
     QVERIFY(parseArguments({u"send"_s, u"--to"_s, u"x"_s, u"--folder"_s, u"--help"_s}).options);
+}
+
+void CliTest::wrapsAtTheEndOfTheLine_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("lines");
+    QTest::newRow("words") << u"one two three four"_s << u"one two\n  three\n  four"_s;
+    QTest::newRow("a word too long") << u"a incomprehensible b"_s << u"a\n  incomprehensible\n  b"_s;
+    QTest::newRow("an option stays whole") << u"it is --timeout"_s << u"it is\n  --timeout"_s;
+    QTest::newRow("wide characters") << u"旧電腦新電腦"_s << u"旧電腦新\n  電腦"_s;
+    QTest::newRow("no line begins with a full stop") << u"旧電腦新。電"_s << u"旧電腦\n  新。電"_s;
+}
+
+void CliTest::wrapsAtTheEndOfTheLine()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, lines);
+    QCOMPARE(wrapped(text, 2, 10), lines);
 }
 
 void CliTest::findsThePeerThatIsMeant_data()

@@ -1,5 +1,6 @@
 // The window of the program with a pair of hands: obeys one JSON command a line from standard input, by
-// clicks and key strokes alone, and answers each with one line. tests/e2e/wizard.py speaks to it.
+// clicks and key strokes alone, and answers each with one line that bears its number; the line with the
+// number 0 comes unasked, when the window has opened. tests/e2e/wizard.py speaks to it.
 
 #include "WizardView.h"
 
@@ -42,6 +43,7 @@ public:
         connect(&m_input, &Platform::InputLines::ended, qApp, &QApplication::quit);
         connect(&m_look, &QTimer::timeout, this, &Driver::lookAgain);
         m_look.setInterval(LookInterval);
+        QTimer::singleShot(0, this, [this] { answer({{u"number"_s, 0}}, true); });
     }
 
 private:
@@ -54,17 +56,17 @@ private:
             m_deadline.setRemainingTime(qint64(command["within"_L1].toDouble() * 1000));
             m_look.start();
         } else if (action == "picture"_L1) {
-            answer(m_view.picture().save(name));
+            answer(command, m_view.picture().save(name));
         } else if (action == "state"_L1) {
-            answer(true);
+            answer(command, true);
         } else if (action == "type"_L1) {
             m_view.type(name);
-            answer(true);
+            answer(command, true);
         } else if (action == "close"_L1) {
-            answerLater();
+            answerLater(command);
             m_window.close();
         } else {
-            answerLater();
+            answerLater(command);
             if (!perform(action, name))
                 m_failed = true;
         }
@@ -111,19 +113,20 @@ private:
         if (!there && !m_deadline.hasExpired())
             return;
         m_look.stop();
-        answer(there);
+        answer(m_awaited, there);
     }
 
     /// Once the click has had its effect, or its effect is a dialog that goes on.
-    void answerLater()
+    void answerLater(const QJsonObject &command)
     {
         m_failed = false;
-        QTimer::singleShot(0, this, [this] { answer(!m_failed); });
+        QTimer::singleShot(0, this, [this, command] { answer(command, !m_failed); });
     }
 
-    void answer(bool ok)
+    void answer(const QJsonObject &command, bool ok)
     {
         QJsonObject state = m_view.state();
+        state["number"_L1] = command["number"_L1];
         state["ok"_L1] = ok;
         std::puts(compactJson(state).constData());
         std::fflush(stdout);
@@ -145,6 +148,7 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     StartUp::setIdentity();
     StartUp::registerMetaTypes();
+    LinkManager::instance().setLanguage(StartUp::initTranslation());
     application.setStyleSheet(StartUp::styleSheet());
 
     MainWindow window;

@@ -1,5 +1,7 @@
 """Applications and settings move between two equipped PCs."""
 
+import signal
+
 import pcs
 from equipped_pcs import EquippedPc, place_for_pcs
 
@@ -196,6 +198,53 @@ class Environment(pcs.TestCase):
         self.assertEqual(calls, [["powercfg", "/import"], ["powercfg", "/setactive"]])
         self.assertEqual([path.name for pc in (pair.old, pair.new) for path in pc.temp.rglob("zandrove_*")], [])
 
+    def test_further_run_while_settings_are_applied(self):
+        """Each run has its own report, and the further one moves nothing but its folder."""
+        pair = self.pair()
+        set_up(pair.old)
+        folder = pcs.small_tree(pair.old.home / "things")
+        pair.new.slow_down("powercfg", 2)
+        receiver = pair.new.receive("--yes")
+        sender = pair.old.send("NewBox", options=("--control", "--all-settings"))
+        sender.wait_for("report", within=60)
+        sender.say(f"again {folder}")
+        sender.wait_for("report")
+        for count in (len(SETTINGS), 0):
+            report = receiver.wait_for("report")
+            self.assertEqual((report["settingsSuccess"], len(report["settings"])), (count, count), report)
+        self.assertSameTree(folder, pair.new.received("things"))
+        sender.say("end")
+        self.assertExits(0, sender)
+
+    def test_peer_that_vanishes_behind_its_last_word(self):
+        pair = self.pair()
+        set_up(pair.old)
+        pair.new.slow_down("powercfg", 2)
+        receiver = pair.new.receive("--yes", "--once")
+        sender = pair.old.send("NewBox", options=("--control", "--setting", "power"))
+        sender.wait_for("connected")
+        receiver.process.send_signal(signal.SIGSTOP)  # what comes from now on, it hears all at once
+        sender.wait_for("report")
+        for _ in range(3):  # turns of its event loop, in which all of the run leaves
+            sender.say("hello")
+            sender.wait_for("warning")
+        sender.kill()
+        receiver.process.send_signal(signal.SIGCONT)
+        self.assertEqual(receiver.wait_for("report")["settingsSuccess"], 1)
+        self.assertExits(0, receiver)
+        self.assertEqual(receiver.stderr, "")
+
+    def test_end_while_settings_are_applied(self):
+        pair = self.pair()
+        set_up(pair.old)
+        pair.new.slow_down("powercfg", 2)
+        receiver = pair.new.receive("--yes", "--control")
+        sender = pair.old.send("NewBox", options=("--all-settings",))
+        self.assertExits(0, sender)  # the other side has got everything and ended the link
+        receiver.say("end")
+        self.assertEqual(len(receiver.wait_for("report")["settings"]), len(SETTINGS))
+        self.assertExits(0, receiver)
+
     def test_everything_cancelled_once_and_then_completed(self):
         """The slowest setting holds the run; a slow installation neither breaks the link nor loses what comes behind."""
         pair = self.pair()
@@ -222,6 +271,7 @@ class Environment(pcs.TestCase):
         for report in (sent, got):
             self.assertItems(report, "apps", (WRITER, NOTES, LEDGER, ODD))
             self.assertEqual((report["settingsSuccess"], report["settingsFailed"]), (len(SETTINGS), 0), report)
+            self.assertEqual(len(report["settings"]), len(SETTINGS), report["settings"])  # each once
             self.assertReport(report, success=sent["filesSuccess"])
         self.assertSameTree(folder, pair.new.received("things"))
         self.assertApplicationsLanded(pair.new)

@@ -1,12 +1,13 @@
 """The Windows program under Wine: between two Windows PCs, and between Windows and Linux."""
 
 import os
+import zipfile
 
 import pcs
 import test_move
-from windows_pcs import PackagedPc, WindowsPc
+from windows_pcs import BarePc, InstalledPc, PackagedPc, WindowsPc, package
 
-KINDS = {"linux": pcs.Pc, "windows": WindowsPc, "packaged": PackagedPc}
+KINDS = {"linux": pcs.Pc, "windows": WindowsPc, "bare": BarePc, "packaged": PackagedPc, "installed": InstalledPc}
 
 # Names that Linux knows and Windows does not: none may reach a device, another file, or a hidden stream.
 NAMES_NOT_FOR_WINDOWS = ("colon: here.txt", "CON", "NUL.txt", "com1.log", "ends with a dot.", "ends with a blank ", "... ",
@@ -75,13 +76,61 @@ class Windows(pcs.TestCase):
         self.assertNotIn("colon", "".join(path.name for path in pair.new.received("names").iterdir()))
         self.assertExits(4, receiver)
 
-    def test_zip_on_an_empty_pc(self):
-        self.move("packaged", "packaged")
+    def test_zip_and_installer_on_empty_pcs(self):
+        self.move("packaged", "installed")
+
+    def assertVersion(self, pc):
+        code, output = pc.run_windows("--version")
+        self.assertEqual((code, output.strip()), (0, "zandrove-cli " + os.environ.get("ZANDROVE_VERSION", "5.0")))
+
+    def test_installer_removes_what_it_has_brought(self):
+        pc = self.pair_of("bare", "linux").old
+        files, registry = pc.files(), pc.registry_lines()
+
+        for run in ("first", "over the first"):
+            self.assertEqual(pc.set_up(package("-setup.exe")), 0, run)
+        self.assertVersion(pc)
+        pc.wait_for_all()
+        with zipfile.ZipFile(package(".zip")) as archive:
+            packed = {name.partition("/")[2] for name in archive.namelist() if not name.endswith("/")}
+        self.assertEqual(set(pcs.sizes(pc.folder)), packed | {"uninstall.exe"})
+        self.assertTrue(any("DisplayName" in line for line in pc.registry_lines()))
+        shortcuts = [path.name for path in pc.files() - files if path.suffix == ".lnk"]
+        self.assertEqual(shortcuts, ["Zandrove.lnk"] if (pc.folder / "zandrove.exe").exists() else [])
+
+        own = pc.folder / "notes of the user.txt"
+        own.write_text("mine")
+        pc.set_up(pc.folder / "uninstall.exe")
+        pc.wait_for_all()
+        self.assertEqual(pc.files() - files, {pc.folder, own})
+        self.assertEqual(pc.registry_lines(), registry)
+
+    def test_installer_adds_the_rules_that_the_program_adds(self):
+        pc = self.pair_of("bare", "linux").old
+        self.assertEqual(pc.set_up(package("-setup.exe"), "/NOFIREWALL"), 0)
+        self.assertEqual(pc.firewall_calls(), [])
+        pc.run_windows("discover", "--role", "old", "--seconds", "1")
+        added = [call for call in pc.firewall_calls() if call[0] == "add"]
+        self.assertEqual(len(added), 2)
+        pc.set_up(package("-setup.exe"))
+        self.assertEqual([call for call in pc.firewall_calls() if call[0] == "add"], added)
+        pc.set_up(pc.folder / "uninstall.exe")
+        pc.wait_for_all()
+        self.assertEqual(pc.firewall_calls(), [["delete", "rule", call[2]] for call in added])
+
+    def test_installer_leaves_a_running_program_alone(self):
+        pc = self.pair_of("bare", "linux").old
+        pc.folder = pc.drive / "Tools"
+        self.assertEqual(pc.set_up(package("-setup.exe"), r"/D=C:\Tools"), 0)
+        running = pc.receive("--yes")
+        running.wait_for("code", within=60)
+        before = pcs.sizes(pc.folder)
+        for command in ([package("-setup.exe")], [pc.folder / "uninstall.exe", r"_?=C:\Tools"]):
+            self.assertEqual((pc.set_up(*command), pcs.sizes(pc.folder)), (2, before), command)
 
     def test_console_program(self):
         pair = self.pair_of("packaged", "linux")
-        code, output = pair.old.run_windows("--version")
-        self.assertEqual((code, output.strip()), (0, "zandrove-cli " + os.environ.get("ZANDROVE_VERSION", "5.0")))
+        self.assertVersion(pair.old)
         code, _ = pair.old.run_windows("send")
         self.assertEqual(code, 2)
         receiver = pair.new.receive("--yes")

@@ -68,6 +68,18 @@ class WizardTest(pcs.TestCase):
         old.wait(enabled="Next")
         old.picture("4-files")
 
+    def choose_language(self, window, menu, language, title):
+        """From the menu to the restarted program. The names are those of the language before."""
+        window.click(menu[0])
+        window.wait(text=menu[1])
+        window.click(menu[1])
+        window.wait(text=language)
+        window.picture("language-menu")
+        window.click(language)
+        window.wait(dialog=title)
+        window.picture("language-dialog")
+        window.restart_by("OK")
+
     def assertMoved(self, folder):
         self.assertSameTree(folder, self.pair.new.home / "Documents" / folder.name)
 
@@ -182,6 +194,27 @@ class WizardTest(pcs.TestCase):
         for window in (old, new):
             window.wait(page=6)
         self.assertMoved(self.work)
+
+    def test_another_language_and_back(self):
+        old = self.window(self.pair.old)
+        settings = self.pair.old.home / ".config" / "Ostrelin" / "Zandrove.conf"
+        self.choose_language(old, ("Menu", "🌐  Language"), "🇩🇪  Deutsch", "Language Changed")
+        old.wait(text="^Weiter →$", enabled="Weiter")
+        old.picture("language-german")
+        self.assertIn("language=de\n", settings.read_text())
+        self.choose_language(old, ("Menü", "🌐  Sprache"), "🇺🇸  English", "Sprache geändert")
+        old.wait(text="^Next →$", enabled="Next")
+        self.assertIn("language=en\n", settings.read_text())
+
+    def test_another_language_in_mid_transfer(self):
+        old, new = self.both()
+        self.to_selection(old, new)
+        self.tick(old, self.work)
+        self.pair.limit_speed(SLOW)
+        old.click("Next")
+        new.wait(page=5, text="^Receiving Data - [1-9]")
+        self.choose_language(new, ("Menu", "🌐  Language"), "🇳🇱  Nederlands", "Language Changed")
+        new.wait(text="^Volgende →$")
 
     def test_close_on_the_pages_before_the_link(self):
         old, new = self.both()

@@ -1,11 +1,13 @@
 """A Windows PC for the end-to-end tests: the cross-built program under Wine, in a prefix of its own.
 
 Taken from the environment: ZANDROVE_CLI_WINDOWS, the program; ZANDROVE_WINE_TEMPLATE, a fresh prefix that is copied for
-each PC; ZANDROVE_QT_MINGW, the Qt whose libraries the program needs; ZANDROVE_PACKAGES, the folder with the portable zip.
+each PC; ZANDROVE_QT_MINGW, the Qt whose libraries the program needs; ZANDROVE_PACKAGES, the folder with the portable zip
+and the installer.
 """
 
 import os
 import pathlib
+import shlex
 import subprocess
 import zipfile
 
@@ -99,20 +101,69 @@ class UserPc(WindowsPc):
         return self.tool(os.environ["ZANDROVE_SHELL_LINK"], "read", self.own_path(path)).splitlines()
 
 
-class PackagedPc(WindowsPc):
-    """A Windows PC that has nothing of the build: the zip has been unpacked there, and that is all."""
+def package(ending):
+    """The package of that kind, as it would be downloaded."""
+    found, = pathlib.Path(os.environ["ZANDROVE_PACKAGES"]).glob(f"Zandrove-*-windows-x64{ending}")
+    return found
+
+
+class BarePc(WindowsPc):
+    """A Windows PC that has nothing of the build. Its firewall's program only notes what it is asked for."""
 
     def __init__(self, name, folder):
         super().__init__(name, folder)
-        archive, = pathlib.Path(os.environ["ZANDROVE_PACKAGES"]).glob("*-windows-x64.zip")
-        with zipfile.ZipFile(archive) as package:
-            package.extractall(self.home / "Desktop")
-        self.folder, = (self.home / "Desktop").glob("Zandrove-*")
+        self.folder = self.drive / "Program Files" / "Zandrove"
+        firewall = self.drive / "windows" / "system32" / "netsh.exe"
+        subprocess.run(["makensis", "-V1", f"-DOUTPUT={firewall}", pathlib.Path(__file__).with_name("netsh.nsi")], check=True)
 
     @property
     def environment(self):
         plain = {key: value for key, value in super().environment.items() if not key.startswith("ZANDROVE_")}
-        return plain | {"WINEARCH": "win64", "WINEDEBUG": "-all", "WINEDLLOVERRIDES": "mscoree=;mshtml="}
+        return plain | {"WINEARCH": "win64", "WINEDEBUG": "-all",
+                        "WINEDLLOVERRIDES": "mscoree=;mshtml=;winemenubuilder.exe=;netsh.exe=n"}
 
     def program(self):
         return [WINE, str(self.folder / "zandrove-cli.exe")]
+
+    def set_up(self, program, *options):
+        """Runs an installer or uninstaller silently; returns its exit code."""
+        return subprocess.run(self.command(WINE, program, "/S", *options), env=self.environment, timeout=60).returncode
+
+    def wait_for_all(self):
+        """Waits until nothing runs any more: an uninstaller goes on in a copy of itself."""
+        subprocess.run(self.command("/usr/lib/wine/wineserver", "--wait"), env=self.environment, timeout=60, check=True)
+
+    def files(self):
+        """The files of this PC that are neither the system's own nor temporary."""
+        return {path for path in self.drive.rglob("*")
+                if not {"windows", "Temp"} & set(path.relative_to(self.drive).parts) and path.name != "netsh.log"}
+
+    def registry_lines(self):
+        """What the registry says of the program."""
+        return [line for line in (self.prefix / "system.reg").read_text(errors="replace").splitlines() if "Zandrove" in line]
+
+    def firewall_calls(self):
+        """What the firewall's program was asked for since the last time, without its own name and the fixed words."""
+        log = self.drive / "netsh.log"
+        lines = log.read_text(encoding="utf-16-le").splitlines() if log.exists() else []
+        log.unlink(missing_ok=True)
+        return [shlex.split(line.replace("\\", "/"))[3:] for line in lines]
+
+
+class PackagedPc(BarePc):
+    """The zip has been unpacked there, and that is all."""
+
+    def __init__(self, name, folder):
+        super().__init__(name, folder)
+        with zipfile.ZipFile(package(".zip")) as archive:
+            archive.extractall(self.home / "Desktop")
+        self.folder, = (self.home / "Desktop").glob("Zandrove-*")
+
+
+class InstalledPc(BarePc):
+    """The installer has run there, and that is all."""
+
+    def __init__(self, name, folder):
+        super().__init__(name, folder)
+        if self.set_up(package("-setup.exe")) != 0:
+            raise RuntimeError("the installer failed")

@@ -1,5 +1,7 @@
 """The window of the program on a PC of pcs.py, worked by clicks and key strokes alone."""
 
+import contextlib
+import itertools
 import json
 import os
 import pathlib
@@ -10,6 +12,7 @@ import threading
 import pcs
 
 DEADLINE = 30.0  # seconds
+GREETING = 0  # what a window that has just opened answers
 
 
 def driver_path():
@@ -30,11 +33,12 @@ class Wizard:
         self._pictures = os.environ.get("ZANDROVE_PICTURES")
         self.process = pc.popen("env", "QT_QPA_PLATFORM=offscreen", driver_path(), stdin=subprocess.PIPE,
                                 stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, encoding="utf-8")
+        self._numbers = itertools.count(GREETING + 1)
         self._answers = queue.Queue()
         self._readers = [threading.Thread(target=reader, daemon=True) for reader in (self._read_answers, self._read_log)]
         for reader in self._readers:
             reader.start()
-        self.wait(page=0)
+        self._greeted()
 
     def _read_answers(self):
         for line in self.process.stdout:
@@ -45,21 +49,37 @@ class Wizard:
         for line in self.process.stderr:
             self.log += line
 
+    def _tell(self, action, name="", **details):
+        command = {"do": action, "name": str(name), "number": next(self._numbers), **details}
+        self.process.stdin.write(json.dumps(command) + "\n")
+        self.process.stdin.flush()
+        return command["number"]
+
+    def _take(self, number, within=0):
+        """The answer of that number. Those before it may still come: who tells does not always wait."""
+        with contextlib.suppress(queue.Empty):
+            while answer := self._answers.get(timeout=DEADLINE + within):
+                state = json.loads(answer)
+                if state["number"] == number:
+                    return state
+        return None
+
+    def _greeted(self):
+        self.state = self._take(GREETING)
+        if not self.state:
+            raise AssertionError(f"{self.title}: no window\n{self.log[-4000:]}")
+
     def do(self, action, name="", **details):
         """One command. Gives what can be seen afterwards."""
-        command = {"do": action, "name": str(name), **details}
-        try:
-            self.process.stdin.write(json.dumps(command) + "\n")
-            self.process.stdin.flush()
-            answer = self._answers.get(timeout=DEADLINE + details.get("within", 0))
-        except (OSError, queue.Empty):
-            answer = ""
-        if not answer:
-            raise AssertionError(f"{self.title}: no answer to {command}\n{self.log[-4000:]}")
-        self.state = state = json.loads(answer)
+        state = None
+        with contextlib.suppress(OSError):
+            state = self._take(self._tell(action, name, **details), details.get("within", 0))
+        if not state:
+            raise AssertionError(f"{self.title}: no answer to {action} {name!r} {details}\n{self.log[-4000:]}")
+        self.state = state
         if not state["ok"]:
             self.picture("failed")
-            raise AssertionError(f"{self.title}: {command} failed\n{json.dumps(state, indent=1)}\n{self.log[-4000:]}")
+            raise AssertionError(f"{self.title}: {action} {name!r} {details} failed\n{json.dumps(state, indent=1)}\n{self.log[-4000:]}")
         return state
 
     def click(self, *names):
@@ -102,14 +122,12 @@ class Wizard:
 
     def close(self):
         """Closes the window by its own button. Gives the exit code."""
-        self.process.stdin.write(json.dumps({"do": "click", "name": "Close"}) + "\n")
-        self.process.stdin.flush()
+        self._tell("click", "Close")
         return self.exit_code()
 
     def close_by_system(self):
         """What the window's system does when the window is closed from outside."""
-        self.process.stdin.write(json.dumps({"do": "close"}) + "\n")
-        self.process.stdin.flush()
+        self._tell("close")
         return self.exit_code()
 
     def exit_code(self):
@@ -118,7 +136,14 @@ class Wizard:
         except subprocess.TimeoutExpired:
             raise AssertionError(f"{self.title} did not end\n{self.log[-4000:]}") from None
 
+    def restart_by(self, name):
+        """A click by which the program ends and another one takes its place, in the same hands."""
+        self._tell("click", name)
+        self._greeted()
+
     def end(self):
+        with contextlib.suppress(OSError):
+            self.process.stdin.close()
         if self.process.poll() is None:
             self.process.kill()
             self.process.wait()

@@ -1,20 +1,32 @@
-// Renders the window in its notable states to PNG files: zandrove-gallery FOLDER. Each state is reached
-// through the window's own ways: its buttons, and what the engine would tell it.
+// Renders the window in its notable states to PNG files: zandrove-gallery [--language XX] FOLDER
+// [PART-OF-A-NAME]. Each state is reached through the window's own ways: its buttons, and what the engine
+// would tell it. Texts that are cut off are named.
 
 #include "SilentEngine.h"
 #include "WizardView.h"
 
 #include "core/app/StartUp.h"
 #include "core/engine/TransferEngine.h"
+#include "inventory/SettingScanner.h"
 #include "peer/NetworkManager.h"
 #include "support/Utilities.h"
 #include "ui/MainWindow.h"
+#include "ui/TitleBar.h"
 #include "ui/pages/ConnectionPage.h"
 #include "ui/pages/ScanningPage.h"
+#include "ui/pages/SelectionPage.h"
+#include "ui/pages/TransferPage.h"
+#include "ui/pages/WelcomePage.h"
+#include "ui/widgets/ElidedLabel.h"
+#include "ui/widgets/FileBrowserWidget.h"
+#include "ui/widgets/RoleCard.h"
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QMessageBox>
 #include <QSignalSpy>
 #include <QTabWidget>
@@ -63,14 +75,14 @@ struct Stage
 
     void choose(int role)
     {
-        view.click(u"Next"_s);
-        view.click(role == OldPC ? u"Old PC"_s : u"New PC"_s);
+        view.click(MainWindow::tr("Next"));
+        view.click(role == OldPC ? RoleCard::tr("Old PC") : RoleCard::tr("New PC"));
     }
 
     void connectTo(int role)
     {
         choose(role);
-        view.click(u"Next"_s);
+        view.click(MainWindow::tr("Next"));
     }
 
     void select()
@@ -92,8 +104,8 @@ struct Stage
             return;
         }
         select();
-        view.click(u"Select All Applications"_s);
-        view.click(u"Next"_s);
+        view.click(SelectionPage::tr("Select All Applications"));
+        view.click(MainWindow::tr("Next"));
     }
 
     void transferSome(int role)
@@ -173,10 +185,10 @@ ScanResult Stage::scanResult()
         account.accountType = u"Local User"_s;
         result.accounts.append(account);
     }
-    for (const char *name : {"Desktop Wallpaper", "Mouse Settings", "Keyboard Settings", "Power Plan"}) {
+    for (const char *name : {"Desktop Wallpaper", "Mouse Settings", "Keyboard Settings", "Power Settings"}) {
         SettingInfo setting;
         setting.id = QString::fromUtf8(name);
-        setting.name = setting.id;
+        setting.name = SettingScanner::tr(name);
         result.settings.append(setting);
     }
     return result;
@@ -250,7 +262,7 @@ QList<Scene> connectionScenes(int role)
          [role](Stage &stage) {
              stage.connectTo(role);
              listPeers(stage);
-             Q_EMIT stage.engine->connectionFailed(u"Connection rejected by peer"_s);
+             Q_EMIT stage.engine->connectionFailed(NetworkManager::tr("Connection rejected"));
          }},
         {u"2-connection-%1-direct-scan"_s.arg(pc),
          [role](Stage &stage) {
@@ -291,7 +303,7 @@ QList<Scene> transferScenes(int role)
         {u"5-transfer-%1-cancel-question"_s.arg(pc),
          [role](Stage &stage) {
              stage.transferSome(role);
-             stage.view.click(u"Cancel"_s);
+             stage.view.click(TransferPage::tr("Cancel"));
          }},
         {u"5-transfer-%1-cancelled-by-peer"_s.arg(pc),
          [role](Stage &stage) {
@@ -305,10 +317,10 @@ QList<Scene> scenes()
 {
     QList<Scene> scenes = {
         {u"0-welcome-network"_s, [](Stage &) {}},
-        {u"0-welcome-cable"_s, [](Stage &stage) { stage.view.click(u"Cable Mode"_s); }},
-        {u"0-welcome-menu"_s, [](Stage &stage) { stage.view.click(u"Menu"_s); }},
+        {u"0-welcome-cable"_s, [](Stage &stage) { stage.view.click(WelcomePage::tr("Cable Mode")); }},
+        {u"0-welcome-menu"_s, [](Stage &stage) { stage.view.click(TitleBar::tr("Menu")); }},
         {u"0-welcome-keyboard"_s, [](Stage &stage) { stage.view.press(Qt::Key_Tab); }},
-        {u"1-role-none"_s, [](Stage &stage) { stage.view.click(u"Next"_s); }},
+        {u"1-role-none"_s, [](Stage &stage) { stage.view.click(MainWindow::tr("Next")); }},
         {u"1-role-old"_s, [](Stage &stage) { stage.choose(OldPC); }},
         {u"1-role-new"_s, [](Stage &stage) { stage.choose(NewPC); }},
         {u"3-scanning-begin"_s,
@@ -337,7 +349,7 @@ QList<Scene> scenes()
         {u"4-selection-files"_s,
          [](Stage &stage) {
              showTab(stage, 1);
-             stage.view.clickListEntry(u"My Documents"_s);
+             stage.view.clickListEntry(FileBrowserWidget::tr("My Documents"));
          }},
         {u"4-selection-settings"_s, [](Stage &stage) { showTab(stage, 2); }},
         {u"4-selection-empty"_s,
@@ -354,6 +366,25 @@ QList<Scene> scenes()
     return scenes;
 }
 
+/// Texts of visible labels and buttons below `window` that have less room than they need.
+QStringList cutTexts(const QWidget *window)
+{
+    QStringList result;
+    for (const QWidget *widget : window->findChildren<QWidget *>()) {
+        if (!widget->isVisible())
+            continue;
+        const auto *label = qobject_cast<const QLabel *>(widget);
+        const auto *button = qobject_cast<const QAbstractButton *>(widget);
+        if (button && widget->width() < widget->sizeHint().width())
+            result.append(button->text());
+        else if (label && !qobject_cast<const ElidedLabel *>(widget) &&
+                 (label->wordWrap() ? label->height() < label->heightForWidth(label->width())
+                                    : label->width() < label->sizeHint().width()))
+            result.append(label->text());
+    }
+    return result;
+}
+
 /// Makes the picture once the scene stands, or a dialog or menu of it stands open, and all that is queued has
 /// arrived.
 bool render(const Scene &scene, const QString &file)
@@ -368,6 +399,8 @@ bool render(const Scene &scene, const QString &file)
         look.stop();
         QTimer::singleShot(SettlingTime, &stage.window, [&] {
             saved = stage.view.picture().save(file);
+            for (const QString &text : cutTexts(stage.view.front()))
+                QTextStream(stderr) << scene.name << ": cut off: " << text << Qt::endl;
             QApplication::exit();
         });
     });
@@ -390,8 +423,17 @@ int main(int argc, char *argv[])
     application.setStyleSheet(StartUp::styleSheet());
     application.setQuitOnLastWindowClosed(false);
 
-    const QDir folder(QApplication::arguments().value(1));
-    const QString only = QApplication::arguments().value(2);
+    QCommandLineParser arguments;
+    arguments.addOption({u"language"_s, u"The language of the window."_s, u"XX"_s, u"en"_s});
+    arguments.process(application);
+    const QString language = arguments.value(u"language"_s);
+    if (!StartUp::installTranslation(QApplication::applicationDirPath(), language) && language != "en"_L1) {
+        QTextStream(stderr) << "zandrove-gallery: there is no translation " << language << Qt::endl;
+        return 1;
+    }
+
+    const QDir folder(arguments.positionalArguments().value(0));
+    const QString only = arguments.positionalArguments().value(1);
     int failures = 0;
     for (const Scene &scene : scenes()) {
         if (!scene.name.contains(only))

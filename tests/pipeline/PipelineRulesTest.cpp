@@ -147,6 +147,7 @@ private Q_SLOTS:
         QTest::newRow("name that only begins alike") << u"/home/u/Documents2/a"_s << u"a"_s;
         QTest::newRow("lower case is longer") << u"/home/İ/Pictures/Trip"_s << u"Pictures/Trip"_s;
         QTest::newRow("elsewhere") << u"/data/Music"_s << u"Music"_s;
+        QTest::newRow("place of applications") << u"/data/apps"_s << u"apps_"_s;
         QTest::newRow("drive root") << u"/"_s << u""_s;
     }
     void taskRoots()

@@ -3,6 +3,7 @@
 #include "SimulatedPc.h"
 
 #include "appmigration/AppMessages.h"
+#include "peer/NetworkManager.h"
 #include "pipeline/DestinationGuard.h"
 #include "pipeline/DestinationMap.h"
 #include "pipeline/FileChecksum.h"
@@ -13,8 +14,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSemaphore>
 #include <QSignalSpy>
 #include <QTest>
+#include <QThread>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
@@ -30,6 +33,15 @@ bool canLink(const QString &scratch)
     const QString link = scratch + u"/link-probe"_s;
     const bool made = QFile::link(scratch, link) && QFileInfo(link).isSymbolicLink();
     return QFile::remove(link) && made;
+}
+
+/// The types of the messages that left for the link, as the log has them.
+QStringList sentTypes;
+
+void recordSentType(QtMsgType, const QMessageLogContext &, const QString &line)
+{
+    if (line.startsWith(u">>> Sending command via NetworkManager"_s))
+        sentTypes.append(line.section(u' ', -1));
 }
 
 } // namespace
@@ -52,13 +64,18 @@ private Q_SLOTS:
     void hostileNamesTouchNothing_data();
     void hostileNamesTouchNothing();
     void removalsFollowNoLink();
+    void calledOffRunLeavesNothingToInstall_data();
     void calledOffRunLeavesNothingToInstall();
+    void peerThatHasEndedItsRunPausesNoMore();
 
     void vanishedAppFilesDoNotHoldTheRun_data();
     void vanishedAppFilesDoNotHoldTheRun();
     void cancelledPackingIsOver();
+    void nothingLeavesAheadOfTheRunsBeginning();
 
     void settingsAreAppliedWhenTheRunHasItsReport();
+    void nextRunWaitsForTheSettingsOfTheLast();
+    void settingsThatNeverEndAreNotWaitedFor();
 
 private:
     void peer(MessageType type, const QByteArray &payload = {})
@@ -74,8 +91,11 @@ private:
         peerBeginsFile(relativePath);
         peerEndsFile(relativePath);
     }
+    void peerSendsSetting(const QString &key);
+    void holdThread(const QString &name);
     [[nodiscard]] QString target(const QString &name) const { return m_pc->path(u"Target/"_s + name); }
 
+    QSemaphore m_gate; // what a held thread waits for
     std::unique_ptr<SimulatedPc> m_pc;
     std::unique_ptr<MigrationManager> m_manager;
     std::unique_ptr<QSignalSpy> m_outcomes;
@@ -254,19 +274,47 @@ void RunLanesTest::removalsFollowNoLink()
     QVERIFY(QFile::exists(kept));
 }
 
+void RunLanesTest::calledOffRunLeavesNothingToInstall_data()
+{
+    QTest::addColumn<QString>("how");
+    QTest::newRow("by the peer") << u"peer"_s;
+    QTest::newRow("here") << u"here"_s;
+    QTest::newRow("here, when all has arrived") << u"complete"_s;
+}
+
 void RunLanesTest::calledOffRunLeavesNothingToInstall()
 {
+    QFETCH(QString, how);
     m_manager->startReceiving();
     peerBeginsApp(u"Tool"_s);
     peerSendsFile(u"Apps/Tool/Install/Tool/half.txt"_s);
     peerEndsApp(u"Tool"_s);
-    peer(MessageType::TransferCancel);
+    if (how == "peer"_L1) {
+        peer(MessageType::TransferCancel);
+    } else {
+        if (how == "complete"_L1) {
+            m_manager->pause();
+            peerSendsFile(u"Apps/Tool/Install/Tool/more.txt"_s);
+            peer(MessageType::TransferComplete);
+        }
+        m_manager->cancel();
+    }
     QVERIFY(!m_outcomes->wait(BeyondAppEnd));
     peer(MessageType::TransferStart, TransferMessages::Start{0, 0}.toPayload());
     peer(MessageType::TransferComplete);
     QTRY_COMPARE(m_completed->size(), 1);
     QCOMPARE(m_outcomes->size(), 0);
     QVERIFY(!QFile::exists(target(u"Tool"_s)));
+}
+
+void RunLanesTest::peerThatHasEndedItsRunPausesNoMore()
+{
+    m_manager->startReceiving();
+    peer(MessageType::TransferPause);
+    peerSendsFile(u"x"_s);
+    peer(MessageType::TransferComplete);
+    QTRY_COMPARE(m_completed->size(), 1);
+    QVERIFY(QFile::exists(m_pc->path(u"Received/x"_s)));
 }
 
 void RunLanesTest::vanishedAppFilesDoNotHoldTheRun_data()
@@ -319,19 +367,62 @@ void RunLanesTest::cancelledPackingIsOver()
     QCOMPARE(m_outcomes->size(), 0);
 }
 
+void RunLanesTest::nothingLeavesAheadOfTheRunsBeginning()
+{
+    NetworkManager network;
+    m_manager->setNetworkManager(&network);
+    m_manager->setRole(OldPC);
+    connect(m_manager.get(), &MigrationManager::started, this, [this] { holdThread(u"Worker"_s); });
+    AppInfo app;
+    app.name = u"Tool"_s;
+    app.selected = true;
+    SettingInfo setting;
+    setting.id = u"mouse"_s;
+    setting.selected = true;
+    sentTypes.clear();
+    const QtMessageHandler before = qInstallMessageHandler(recordSentType);
+    QSignalSpy settings(m_manager.get(), &MigrationManager::settingsFinished);
+    m_manager->start({app}, {}, {}, {setting});
+    const bool allIsReady = settings.wait() && (!m_outcomes->isEmpty() || m_outcomes->wait());
+    m_gate.release();
+    const bool isComplete = m_completed->wait();
+    qInstallMessageHandler(before);
+    QVERIFY(allIsReady && isComplete);
+    QCOMPARE(sentTypes.value(0), QString::number(int(MessageType::TransferStart)));
+    for (const MessageType type : {MessageType::AppStart, MessageType::SettingComplete})
+        QCOMPARE(sentTypes.count(QString::number(int(type))), 1);
+}
+
+/// Keeps a thread of the manager from everything it is given from now on, until the gate opens.
+void RunLanesTest::holdThread(const QString &name)
+{
+    auto *obstacle = new QObject;
+    obstacle->moveToThread(m_manager->findChild<QThread *>(name));
+    QMetaObject::invokeMethod(
+        obstacle,
+        [this, obstacle] {
+            m_gate.acquire();
+            delete obstacle;
+        },
+        Qt::QueuedConnection);
+}
+
+void RunLanesTest::peerSendsSetting(const QString &key)
+{
+    SettingPackage package;
+    package.key = package.name = key;
+    peer(MessageType::SettingStart, SettingMessages::startPayload(package));
+    peer(MessageType::SettingEnd, SettingMessages::End{package.key, package.name}.toPayload());
+}
+
 void RunLanesTest::settingsAreAppliedWhenTheRunHasItsReport()
 {
     constexpr int Count = 6;
     QSignalSpy outcomes(m_manager.get(), &MigrationManager::settingOutcome);
     QSignalSpy finished(m_manager.get(), &MigrationManager::settingsFinished);
     m_manager->startReceiving();
-    for (int i = 0; i < Count; ++i) {
-        SettingPackage package;
-        package.key = u"unknown%1"_s.arg(i);
-        package.name = package.key;
-        peer(MessageType::SettingStart, SettingMessages::startPayload(package));
-        peer(MessageType::SettingEnd, SettingMessages::End{package.key, package.name}.toPayload());
-    }
+    for (int i = 0; i < Count; ++i)
+        peerSendsSetting(u"unknown%1"_s.arg(i));
     QVERIFY(m_manager->isApplyingSettings());
     peer(MessageType::SettingComplete, SettingMessages::Complete{Count, 0}.toPayload());
     peer(MessageType::TransferComplete);
@@ -339,6 +430,39 @@ void RunLanesTest::settingsAreAppliedWhenTheRunHasItsReport()
     QTRY_COMPARE(finished.size(), 1);
     QCOMPARE(outcomes.size(), Count);
     QCOMPARE(finished.first().at(0).toInt() + finished.first().at(1).toInt(), Count);
+    QVERIFY(!m_manager->isApplyingSettings());
+}
+
+void RunLanesTest::nextRunWaitsForTheSettingsOfTheLast()
+{
+    QSignalSpy finished(m_manager.get(), &MigrationManager::settingsFinished);
+    QSignalSpy begun(m_manager.get(), &MigrationManager::newTransferStarted);
+    m_manager->startReceiving();
+    holdThread(u"Settings"_s);
+    peerSendsSetting(u"unknown"_s);
+    peer(MessageType::SettingComplete, SettingMessages::Complete{1, 0}.toPayload());
+    peer(MessageType::TransferComplete);
+    peer(MessageType::TransferReset); // while the report is still due
+    peer(MessageType::TransferStart, TransferMessages::Start{1, 1}.toPayload());
+    peerSendsFile(u"x"_s);
+    peer(MessageType::TransferComplete);
+    QTRY_COMPARE(m_completed->size(), 1);
+    QCOMPARE(begun.size(), 0);
+    QVERIFY(m_manager->isApplyingSettings());
+
+    m_gate.release();
+    QTRY_COMPARE(m_completed->size(), 2);
+    QCOMPARE(finished.size(), 1);
+    QCOMPARE(begun.size(), 1);
+    QVERIFY(QFile::exists(m_pc->path(u"Received/x"_s)));
+}
+
+void RunLanesTest::settingsThatNeverEndAreNotWaitedFor()
+{
+    m_manager->startReceiving();
+    peerSendsSetting(u"unknown"_s);
+    peer(MessageType::TransferComplete);
+    QTRY_COMPARE(m_completed->size(), 1);
     QVERIFY(!m_manager->isApplyingSettings());
 }
 

@@ -20,8 +20,7 @@ void ensureFirewallRules();
 void registerMetaTypes();
 
 /// The language to show: `storedLanguage` as it stands unless it is empty, else the one that fits
-/// `localeName`
-/// ("pt_BR" gives "pt", every Chinese locale "zh_TW"), else "en".
+/// `localeName` ("pt_BR" gives "pt", every Chinese locale "zh_TW"), else "en".
 [[nodiscard]] QString chooseLanguage(const QString &storedLanguage, const QString &localeName);
 
 /// Where the translation into `language` is looked for, with the program in `applicationDir`.

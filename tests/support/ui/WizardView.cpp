@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPainter>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -98,7 +99,15 @@ QStringList WizardView::texts() const
         if (!text.isEmpty() && widget->isVisible())
             texts.append(text);
     }
+    for (const QAction *entry : entries())
+        texts.append(entry->text());
     return texts;
+}
+
+QList<QAction *> WizardView::entries() const
+{
+    const auto *menu = qobject_cast<const QMenu *>(front());
+    return menu ? menu->actions() : QList<QAction *>();
 }
 
 QString WizardView::nameOf(QWidget *widget)
@@ -132,6 +141,12 @@ bool WizardView::click(const QString &name) const
                 clickAt(bar, bar->tabRect(tab).center());
                 return true;
             }
+        }
+    }
+    for (QAction *entry : entries()) {
+        if (entry->text() == name) {
+            clickAt(front(), static_cast<QMenu *>(front())->actionGeometry(entry).center());
+            return true;
         }
     }
     return false;

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QJsonObject>
+#include <QList>
 #include <QPixmap>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
 
+class QAction;
 class QTreeWidgetItem;
 class QWidget;
 
@@ -27,15 +29,15 @@ public:
     /// Title of the open dialog; empty without one.
     [[nodiscard]] QString dialogTitle() const;
 
-    /// Everything that is written on visible labels and controls.
+    /// Everything that is written on visible labels and controls, or in the menu that stands open.
     [[nodiscard]] QStringList texts() const;
     /// The first visible control of that name, whether enabled or not; null without one.
     [[nodiscard]] QWidget *control(const QString &name) const;
     /// What a screen reader calls `widget`.
     [[nodiscard]] static QString nameOf(QWidget *widget);
 
-    /// One click of the left mouse button, in the middle of the control or the tab of that name, as the
-    /// window system would deliver it. False when there is no such control in sight.
+    /// One click of the left mouse button, in the middle of the control, the tab or the menu entry of that
+    /// name, as the window system would deliver it. False when there is no such thing in sight.
     bool click(const QString &name) const;
     /// The same on the box of the folder tree's item that stands for `path`, or on the entry of a list.
     bool clickFolder(const QString &path) const;
@@ -50,6 +52,9 @@ public:
     [[nodiscard]] QJsonObject state() const;
 
 private:
+    /// Of the menu that stands open.
+    [[nodiscard]] QList<QAction *> entries() const;
+
     QPointer<QWidget> m_window;
 };
 

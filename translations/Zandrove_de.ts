@@ -1,0 +1,1784 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>Die Verbindung wurde verweigert</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>Zeitüberschreitung beim Verbinden</translation>
+    </message>
+    <message>
+        <source>Host not found</source>
+        <translation>Der Host wurde nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>Das Netzwerk ist nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>Zeitüberschreitung bei einem Netzwerkvorgang</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>Datei oder Ordner nicht gefunden</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>Nicht genügend Speicherplatz auf dem Datenträger</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Zugriff verweigert</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Zu viele geöffnete Dateien</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Unbekannter Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Wiederholen</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>A&amp;usschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>Die Verbindung wurde verweigert</translation>
+    </message>
+    <message>
+        <source>Connection reset by peer</source>
+        <translation>Die Gegenstelle hat die Verbindung zurückgesetzt</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>Zeitüberschreitung beim Verbinden</translation>
+    </message>
+    <message>
+        <source>Host unreachable</source>
+        <translation>Der Host ist nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>Network dropped connection on reset</source>
+        <translation>Das Netzwerk hat die Verbindung beim Zurücksetzen getrennt</translation>
+    </message>
+    <message>
+        <source>Network operation timed out</source>
+        <translation>Zeitüberschreitung bei einem Netzwerkvorgang</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>Das Netzwerk ist nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Zugriff verweigert</translation>
+    </message>
+    <message>
+        <source>The address is not available</source>
+        <translation>Die Adresse ist nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>The remote host closed the connection</source>
+        <translation>Die Gegenstelle hat die Verbindung geschlossen</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Unbekannter Fehler</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Ja</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Nein</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Bildlauf hierhin</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Linker Rand</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Rechter Rand</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Anfang</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Seite nach links</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Seite nach rechts</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Seite nach oben</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Seite nach unten</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Bildlauf nach links</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Bildlauf nach rechts</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Bildlauf nach oben</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Bildlauf nach unten</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AccountScanner</name>
+    <message>
+        <source>Scanning user accounts...</source>
+        <translation>Benutzerkonten werden gesucht...</translation>
+    </message>
+    <message>
+        <source>Enumerating Windows accounts...</source>
+        <translation>Windows-Konten werden aufgelistet...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppInstaller</name>
+    <message>
+        <source>Copying install files...</source>
+        <translation>Installationsdateien werden kopiert...</translation>
+    </message>
+    <message>
+        <source>Copying AppData files...</source>
+        <translation>AppData-Dateien werden kopiert...</translation>
+    </message>
+    <message>
+        <source>Importing registry...</source>
+        <translation>Registrierung wird importiert...</translation>
+    </message>
+    <message>
+        <source>Creating shortcuts...</source>
+        <translation>Verknüpfungen werden erstellt...</translation>
+    </message>
+    <message>
+        <source>Installation complete</source>
+        <translation>Installation abgeschlossen</translation>
+    </message>
+    <message>
+        <source>Failed to copy install files</source>
+        <translation>Die Installationsdateien konnten nicht kopiert werden</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppListItem</name>
+    <message>
+        <source>System App</source>
+        <translation>System-App</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppMigrator</name>
+    <message>
+        <source>Sending app info...</source>
+        <translation>App-Informationen werden gesendet...</translation>
+    </message>
+    <message>
+        <source>Sending shortcuts...</source>
+        <translation>Verknüpfungen werden gesendet...</translation>
+    </message>
+    <message>
+        <source>Completing...</source>
+        <translation>Wird abgeschlossen...</translation>
+    </message>
+    <message>
+        <source>Exporting registry...</source>
+        <translation>Registrierung wird exportiert...</translation>
+    </message>
+    <message>
+        <source>Sending install files...</source>
+        <translation>Installationsdateien werden gesendet...</translation>
+    </message>
+    <message>
+        <source>Sending AppData Local...</source>
+        <translation>AppData Local wird gesendet...</translation>
+    </message>
+    <message>
+        <source>Sending AppData Roaming...</source>
+        <translation>AppData Roaming wird gesendet...</translation>
+    </message>
+    <message>
+        <source>Sending ProgramData...</source>
+        <translation>ProgramData wird gesendet...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppScanner</name>
+    <message>
+        <source>Scanning installed applications...</source>
+        <translation>Installierte Apps werden gesucht...</translation>
+    </message>
+    <message>
+        <source>Scanning user installed applications...</source>
+        <translation>Vom Benutzer installierte Apps werden gesucht...</translation>
+    </message>
+    <message>
+        <source>Scanning Program Files...</source>
+        <translation>Program Files wird durchsucht...</translation>
+    </message>
+    <message>
+        <source>Scanning user software registry...</source>
+        <translation>Registrierung wird nach Benutzersoftware durchsucht...</translation>
+    </message>
+    <message>
+        <source>Scan complete</source>
+        <translation>Suche abgeschlossen</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::DiscoverSession</name>
+    <message>
+        <source>this PC is only looking around.</source>
+        <translation>dieser PC sieht sich nur um.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::FolderCheck</name>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>Der Ordner %1 ist nicht vorhanden.</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder.</source>
+        <translation>%1 ist kein Ordner.</translation>
+    </message>
+    <message>
+        <source>The folder %1 can&apos;t be read.</source>
+        <translation>Der Ordner %1 kann nicht gelesen werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::ItemChoice</name>
+    <message>
+        <source>The application %1 cannot be moved.</source>
+        <translation>Die App %1 kann nicht übertragen werden.</translation>
+    </message>
+    <message>
+        <source>There is no application %1 on this PC. See zandrove-cli scan.</source>
+        <translation>Die App %1 gibt es auf diesem PC nicht. Siehe zandrove-cli scan.</translation>
+    </message>
+    <message>
+        <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
+        <translation>Die Einstellung %1 gibt es auf diesem PC nicht. Siehe zandrove-cli scan.</translation>
+    </message>
+    <message>
+        <source>This PC has nothing of that to move. See zandrove-cli scan.</source>
+        <translation>Davon gibt es auf diesem PC nichts zu übertragen. Siehe zandrove-cli scan.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Options</name>
+    <message>
+        <source>%1 is not a number of seconds from 1 to %2.</source>
+        <translation>%1 ist keine Sekundenzahl von 1 bis %2.</translation>
+    </message>
+    <message>
+        <source>--mode is network or cable, not %1.</source>
+        <translation>--mode ist network oder cable, nicht %1.</translation>
+    </message>
+    <message>
+        <source>--role is old or new, not %1.</source>
+        <translation>--role ist old oder new, nicht %1.</translation>
+    </message>
+    <message>
+        <source>--to needs a code, a name or an address.</source>
+        <translation>--to braucht einen Code, einen Namen oder eine Adresse.</translation>
+    </message>
+    <message>
+        <source>--folder needs a folder.</source>
+        <translation>--folder braucht einen Ordner.</translation>
+    </message>
+    <message>
+        <source>The New PC: the four digits on its screen, its name or its address.</source>
+        <translation>Der neue PC: die vier Ziffern auf seinem Bildschirm, sein Name oder seine Adresse.</translation>
+    </message>
+    <message>
+        <source>A folder to move; may be given several times.</source>
+        <translation>Ein Ordner, der übertragen werden soll; kann mehrmals angegeben werden.</translation>
+    </message>
+    <message>
+        <source>Let every PC in that asks, without a question.</source>
+        <translation>Jeden anfragenden PC ohne Rückfrage zulassen.</translation>
+    </message>
+    <message>
+        <source>End after the first transfer.</source>
+        <translation>Nach der ersten Übertragung beenden.</translation>
+    </message>
+    <message>
+        <source>End with exit code 3 when nothing has begun to arrive within S seconds. Counted anew each time the program starts to wait; a running transfer is never cut.</source>
+        <translation>Mit Exitcode 3 beenden, wenn innerhalb von S Sekunden keine Übertragung beginnt. Zählt bei jedem neuen Warten von vorn; eine laufende Übertragung wird nie unterbrochen.</translation>
+    </message>
+    <message>
+        <source>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</source>
+        <translation>Was dieser PC ist. Ein alter PC sieht die neuen PCs, ein neuer PC die alten.</translation>
+    </message>
+    <message>
+        <source>Look for N seconds; without it, until Ctrl-C.</source>
+        <translation>N Sekunden lang suchen; ohne Angabe bis Strg+C.</translation>
+    </message>
+    <message>
+        <source>How PCs find each other: by broadcast (the default), or over a direct cable, where the addresses around this PC&apos;s own are tried as well.</source>
+        <translation>Wie die PCs einander finden: per Broadcast (Standard) oder über ein direktes Kabel, wobei auch die Adressen rund um die eigene versucht werden.</translation>
+    </message>
+    <message>
+        <source>Obey commands on standard input, one a line: yes, no (answer a request), pause, resume, cancel, end.</source>
+        <translation>Befehle von der Standardeingabe befolgen, einen je Zeile: yes, no (Antwort auf eine Anfrage), pause, resume, cancel, end.</translation>
+    </message>
+    <message>
+        <source>Obey commands on standard input, one a line: pause, resume, cancel, again [DIR] (a further transfer on the same link), end. The link then stays after a transfer until end, or until standard input ends.</source>
+        <translation>Befehle von der Standardeingabe befolgen, einen je Zeile: pause, resume, cancel, again [DIR] (eine weitere Übertragung über dieselbe Verbindung), end. Die Verbindung bleibt dann nach einer Übertragung bestehen, bis end kommt oder die Standardeingabe endet.</translation>
+    </message>
+    <message>
+        <source>Print one JSON object a line, for scripts.</source>
+        <translation>Je Zeile ein JSON-Objekt ausgeben, für Skripts.</translation>
+    </message>
+    <message>
+        <source>Print the program&apos;s log on standard error.</source>
+        <translation>Das Protokoll des Programms auf der Standardfehlerausgabe ausgeben.</translation>
+    </message>
+    <message>
+        <source>Be the New PC: show a code, wait for an Old PC, receive what it sends.</source>
+        <translation>Als neuer PC einen Code anzeigen, auf einen alten PC warten und empfangen, was er sendet.</translation>
+    </message>
+    <message>
+        <source>List the PCs on the network as they come and go.</source>
+        <translation>Die PCs im Netzwerk auflisten, wie sie kommen und gehen.</translation>
+    </message>
+    <message>
+        <source>List what can be moved from this PC: applications, folders, accounts and settings.</source>
+        <translation>Auflisten, was von diesem PC übertragen werden kann: Apps, Ordner, Konten und Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Exitcodes: 0 alles übertragen oder aufgelistet; 1 Verbindung oder Lauf fehlgeschlagen oder abgelehnt; 2 falscher Aufruf; 3 Zeitüberschreitung; 4 beendet, aber etwas ist fehlgeschlagen oder wurde übersprungen; 130 mit Strg+C abgebrochen (der andere PC erfährt davon; ein zweites Strg+C beendet sofort).</translation>
+    </message>
+    <message>
+        <source>This text; after a command, the help of that command.</source>
+        <translation>Dieser Text; nach einem Befehl die Hilfe zu diesem Befehl.</translation>
+    </message>
+    <message>
+        <source>The version of the program.</source>
+        <translation>Die Version des Programms.</translation>
+    </message>
+    <message>
+        <source>Unknown option %1. See --help.</source>
+        <translation>Unbekannte Option %1. Siehe --help.</translation>
+    </message>
+    <message>
+        <source>%1 takes no value.</source>
+        <translation>%1 erwartet keinen Wert.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value.</source>
+        <translation>%1 braucht einen Wert.</translation>
+    </message>
+    <message>
+        <source>send needs --to with the New PC&apos;s code, name or address.</source>
+        <translation>send braucht --to mit dem Code, dem Namen oder der Adresse des neuen PCs.</translation>
+    </message>
+    <message>
+        <source>discover needs --role old or --role new.</source>
+        <translation>discover braucht --role old oder --role new.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument %1. See --help.</source>
+        <translation>Unerwartetes Argument %1. Siehe --help.</translation>
+    </message>
+    <message>
+        <source>Say receive, send, discover or scan. See --help.</source>
+        <translation>Geben Sie receive, send, discover oder scan an. Siehe --help.</translation>
+    </message>
+    <message>
+        <source>Unknown command %1. See --help.</source>
+        <translation>Unbekannter Befehl %1. Siehe --help.</translation>
+    </message>
+    <message>
+        <source>An application to move, by the exact name that scan lists; may be given several times.</source>
+        <translation>Eine App, die übertragen werden soll, mit genau dem Namen, den scan auflistet; kann mehrmals angegeben werden.</translation>
+    </message>
+    <message>
+        <source>Move every application that can be moved.</source>
+        <translation>Alle Apps übertragen, bei denen das möglich ist.</translation>
+    </message>
+    <message>
+        <source>A setting to move, by the id that scan lists; may be given several times.</source>
+        <translation>Eine Einstellung, die übertragen werden soll, mit der ID, die scan auflistet; kann mehrmals angegeben werden.</translation>
+    </message>
+    <message>
+        <source>Move every setting that this PC has.</source>
+        <translation>Alle Einstellungen dieses PCs übertragen.</translation>
+    </message>
+    <message>
+        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</source>
+        <translation>Mit Exitcode 3 beenden, wenn der neue PC nicht innerhalb von S Sekunden gefunden wird und diesen PC zulässt. Zählt ab dem Beginn der Suche; die Übertragung selbst wird nie unterbrochen.</translation>
+    </message>
+    <message>
+        <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
+        <translation>Als alter PC den neuen PC finden, auf dessen Zustimmung warten und Ordner, Apps und Einstellungen senden.</translation>
+    </message>
+    <message>
+        <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
+        <translation>zandrove-cli überträgt Ordner, Apps und Einstellungen von einem alten PC auf einen neuen PC im selben Netzwerk.</translation>
+    </message>
+    <message>
+        <source>send needs something to move: a --folder, an --app or a --setting.</source>
+        <translation>send braucht etwas zum Übertragen: --folder, --app oder --setting.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Output</name>
+    <message>
+        <source>Allow %1 to connect? [y/N] </source>
+        <translation>Darf %1 sich verbinden? [y/N] </translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::ReceiveSession</name>
+    <message>
+        <source>Nobody can be asked here: every request will be refused without --yes.</source>
+        <translation>Hier kann niemand gefragt werden: Ohne --yes wird jede Anfrage abgelehnt.</translation>
+    </message>
+    <message>
+        <source>this PC is receiving from %1.</source>
+        <translation>dieser PC empfängt gerade von %1.</translation>
+    </message>
+    <message>
+        <source>nobody can be asked here. Start with --yes to let every PC in.</source>
+        <translation>hier kann niemand gefragt werden. Mit --yes starten, um jeden PC zuzulassen.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 ist nicht mehr da.</translation>
+    </message>
+    <message>
+        <source>The link to %1 broke during a transfer.</source>
+        <translation>Die Verbindung zu %1 ist während einer Übertragung abgebrochen.</translation>
+    </message>
+    <message>
+        <source>%1 ended the session during a transfer.</source>
+        <translation>%1 hat die Sitzung während einer Übertragung beendet.</translation>
+    </message>
+    <message>
+        <source>Nothing began to arrive within %1 seconds.</source>
+        <translation>Innerhalb von %1&#xa0;s ist nichts angekommen.</translation>
+    </message>
+    <message>
+        <source>Some settings are still being applied; the report is without them.</source>
+        <translation>Einige Einstellungen werden noch angewendet; im Bericht fehlen sie.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::SendSession</name>
+    <message>
+        <source>this PC is sending to %1.</source>
+        <translation>dieser PC sendet gerade an %1.</translation>
+    </message>
+    <message>
+        <source>The link to %1 broke.</source>
+        <translation>Die Verbindung zu %1 ist abgebrochen.</translation>
+    </message>
+    <message>
+        <source>%1 ended the session.</source>
+        <translation>%1 hat die Sitzung beendet.</translation>
+    </message>
+    <message>
+        <source>There is no finished transfer to follow.</source>
+        <translation>Es gibt keine beendete Übertragung, auf die eine weitere folgen könnte.</translation>
+    </message>
+    <message>
+        <source>%1 was not found within %2 seconds.</source>
+        <translation>%1 wurde innerhalb von %2&#xa0;s nicht gefunden.</translation>
+    </message>
+    <message>
+        <source>%1 did not answer within %2 seconds.</source>
+        <translation>%1 hat innerhalb von %2&#xa0;s nicht geantwortet.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Session</name>
+    <message>
+        <source>Unknown command: %1</source>
+        <translation>Unbekannter Befehl: %1</translation>
+    </message>
+    <message>
+        <source>The other PC did not end the session: not everything may have arrived.</source>
+        <translation>Der andere PC hat die Sitzung nicht beendet: Möglicherweise ist nicht alles angekommen.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::TextOutput</name>
+    <message>
+        <source>The code of this PC is %1. Waiting for an Old PC.</source>
+        <translation>Der Code dieses PCs ist %1. Warten auf einen alten PC.</translation>
+    </message>
+    <message>
+        <source>code %1</source>
+        <translation>Code %1</translation>
+    </message>
+    <message>
+        <source>Found %1. Waiting for it to let this PC in.</source>
+        <translation>%1 gefunden. Warten, bis er diesen PC zulässt.</translation>
+    </message>
+    <message>
+        <source>%1 was refused.</source>
+        <translation>%1 wurde abgelehnt.</translation>
+    </message>
+    <message>
+        <source>%1 was refused: %2</source>
+        <translation>%1 wurde abgelehnt: %2</translation>
+    </message>
+    <message>
+        <source>Connected to %1.</source>
+        <translation>Mit %1 verbunden.</translation>
+    </message>
+    <message>
+        <source>Disconnected from %1.</source>
+        <translation>Verbindung zu %1 getrennt.</translation>
+    </message>
+    <message>
+        <source>Receiving</source>
+        <translation>Empfangen</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>Senden</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>noch %1</translation>
+    </message>
+    <message>
+        <source>%1 was not moved: %2</source>
+        <translation>%1 wurde nicht übertragen: %2</translation>
+    </message>
+    <message>
+        <source>Paused.</source>
+        <translation>Angehalten.</translation>
+    </message>
+    <message>
+        <source>Paused by %1.</source>
+        <translation>Von %1 angehalten.</translation>
+    </message>
+    <message>
+        <source>Resumed.</source>
+        <translation>Fortgesetzt.</translation>
+    </message>
+    <message>
+        <source>Resumed by %1.</source>
+        <translation>Von %1 fortgesetzt.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Cancelled by %1.</source>
+        <translation>Von %1 abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Files: %1 received, %2 failed, %3 skipped.</source>
+        <translation>Dateien: %1 empfangen, %2 fehlgeschlagen, %3 übersprungen.</translation>
+    </message>
+    <message>
+        <source>Files: %1 sent, %2 failed, %3 skipped.</source>
+        <translation>Dateien: %1 gesendet, %2 fehlgeschlagen, %3 übersprungen.</translation>
+    </message>
+    <message>
+        <source>Files saved:</source>
+        <translation>Gespeicherte Dateien:</translation>
+    </message>
+    <message>
+        <source>Scanning %1%  %2 applications</source>
+        <translation>Suche %1%  Apps: %2</translation>
+    </message>
+    <message>
+        <source>(cannot be moved)</source>
+        <translation>(kann nicht übertragen werden)</translation>
+    </message>
+    <message>
+        <source>Applications: %1</source>
+        <translation>Apps: %1</translation>
+    </message>
+    <message>
+        <source>files: %1</source>
+        <translation>Dateien: %1</translation>
+    </message>
+    <message>
+        <source>Folders: %1</source>
+        <translation>Ordner: %1</translation>
+    </message>
+    <message>
+        <source>Accounts: %1</source>
+        <translation>Konten: %1</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>Einstellungen: %1</translation>
+    </message>
+    <message>
+        <source>%1 in applications and folders.</source>
+        <translation>%1 in Apps und Ordnern.</translation>
+    </message>
+    <message>
+        <source>Done in %1: %2, %3 on average.</source>
+        <translation>Fertig in %1: %2, durchschnittlich %3.</translation>
+    </message>
+    <message>
+        <source>Done in %1: %2.</source>
+        <translation>Fertig in %1: %2.</translation>
+    </message>
+    <message>
+        <source>Applications:</source>
+        <translation>Apps:</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>installiert</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>gesendet</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>Einstellungen:</translation>
+    </message>
+    <message>
+        <source>applied</source>
+        <translation>angewendet</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>fehlgeschlagen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::CompletePage</name>
+    <message>
+        <source>Transfer Complete!</source>
+        <translation>Übertragung abgeschlossen!</translation>
+    </message>
+    <message>
+        <source>Your files, apps and settings have been successfully transferred</source>
+        <translation>Ihre Dateien, Apps und Einstellungen wurden erfolgreich übertragen</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Apps</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Files saved to:</source>
+        <translation>Dateien gespeichert unter:</translation>
+    </message>
+    <message>
+        <source>Waiting for more files...</source>
+        <translation>Warten auf weitere Dateien...</translation>
+    </message>
+    <message>
+        <source>✓ Finished</source>
+        <translation>✓ Fertig</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>📂 Send More Files...</source>
+        <translation>📂 Weitere Dateien senden...</translation>
+    </message>
+    <message>
+        <source>Send More Files...</source>
+        <translation>Weitere Dateien senden...</translation>
+    </message>
+    <message>
+        <source>Received Files</source>
+        <translation>Empfangene Dateien</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>Dateien: %1</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ConnectionPage</name>
+    <message>
+        <source>Available Devices</source>
+        <translation>Verfügbare Geräte</translation>
+    </message>
+    <message>
+        <source>%1 device(s) found, %2 online</source>
+        <translation>Gefundene Geräte: %1, davon online: %2</translation>
+    </message>
+    <message>
+        <source>Connecting to %1...</source>
+        <translation>Verbindung mit %1 wird hergestellt...</translation>
+    </message>
+    <message>
+        <source>Verifying code...</source>
+        <translation>Code wird überprüft...</translation>
+    </message>
+    <message>
+        <source>Connection request from %1...</source>
+        <translation>Verbindungsanfrage von %1...</translation>
+    </message>
+    <message>
+        <source>Connection Request</source>
+        <translation>Verbindungsanfrage</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; wants to connect to this PC.
+
+Do you want to accept?</source>
+        <translation>„%1“ möchte sich mit diesem PC verbinden.
+
+Möchten Sie das zulassen?</translation>
+    </message>
+    <message>
+        <source>Connection rejected</source>
+        <translation>Verbindung abgelehnt</translation>
+    </message>
+    <message>
+        <source>The other PC is no longer waiting</source>
+        <translation>Der andere PC wartet nicht mehr</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>✓ Connected to %1</source>
+        <translation>✓ Mit %1 verbunden</translation>
+    </message>
+    <message>
+        <source>✓ Connected successfully!</source>
+        <translation>✓ Erfolgreich verbunden!</translation>
+    </message>
+    <message>
+        <source>✗ Connection failed: %1</source>
+        <translation>✗ Verbindung fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Scanning direct connection... 0%</source>
+        <translation>Direktverbindung wird durchsucht... 0&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Scanning Direct Connection...</source>
+        <translation>Direktverbindung wird durchsucht...</translation>
+    </message>
+    <message>
+        <source>Scanning direct connection... %1% (%2/%3)</source>
+        <translation>Direktverbindung wird durchsucht... %1&#xa0;% (%2/%3)</translation>
+    </message>
+    <message>
+        <source>No device found. Please ensure the other PC has Zandrove running</source>
+        <translation>Kein Gerät gefunden. Stellen Sie sicher, dass Zandrove auf dem anderen PC läuft</translation>
+    </message>
+    <message>
+        <source>Looking for devices on your network...</source>
+        <translation>Geräte in Ihrem Netzwerk werden gesucht...</translation>
+    </message>
+    <message>
+        <source>🔄 Refresh</source>
+        <translation>🔄 Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Connect to Another PC</source>
+        <translation>Mit einem anderen PC verbinden</translation>
+    </message>
+    <message>
+        <source>Select a device or enter verification code</source>
+        <translation>Gerät auswählen oder Bestätigungscode eingeben</translation>
+    </message>
+    <message>
+        <source>💡 Both PCs must be on the same network with Zandrove running</source>
+        <translation>💡 Auf beiden PCs muss Zandrove laufen, und beide müssen im selben Netzwerk sein</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Scanned: 0 / 254</source>
+        <translation>Durchsucht: 0 / 254</translation>
+    </message>
+    <message>
+        <source>Please ensure the network cable is connected</source>
+        <translation>Stellen Sie sicher, dass das Netzwerkkabel angeschlossen ist</translation>
+    </message>
+    <message>
+        <source>Your Verification Code</source>
+        <translation>Ihr Bestätigungscode</translation>
+    </message>
+    <message>
+        <source>Show this code to the other PC</source>
+        <translation>Diesen Code am anderen PC eingeben</translation>
+    </message>
+    <message>
+        <source>Or Enter Their Code</source>
+        <translation>Oder dessen Code eingeben</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Their code, character %1</source>
+        <translation>Code des anderen PCs, Zeichen %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileBrowserWidget</name>
+    <message>
+        <source>Quick Access</source>
+        <translation>Schnellzugriff</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Auswahl aufheben</translation>
+    </message>
+    <message>
+        <source>Select folders to transfer</source>
+        <translation>Zu übertragende Ordner auswählen</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Desktop</translation>
+    </message>
+    <message>
+        <source>My Documents</source>
+        <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Videos</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Musik</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Downloads</translation>
+    </message>
+    <message>
+        <source>This PC</source>
+        <translation>Dieser PC</translation>
+    </message>
+    <message>
+        <source>Local Disk (%1)</source>
+        <translation>Lokaler Datenträger (%1)</translation>
+    </message>
+    <message>
+        <source> - %1 free of %2</source>
+        <translation> – %1 frei von %2</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileReceiverWorker</name>
+    <message>
+        <source>Write error</source>
+        <translation>Schreibfehler</translation>
+    </message>
+    <message>
+        <source>Received Files</source>
+        <translation>Empfangene Dateien</translation>
+    </message>
+    <message>
+        <source>Failed to create file</source>
+        <translation>Die Datei konnte nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>Checksum mismatch</source>
+        <translation>Die Prüfsumme stimmt nicht überein</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileScanner</name>
+    <message>
+        <source>Starting folder scan...</source>
+        <translation>Suche nach Ordnern wird gestartet...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileSenderWorker</name>
+    <message>
+        <source>File not found: %1</source>
+        <translation>Datei nicht gefunden: %1</translation>
+    </message>
+    <message>
+        <source>Cannot open file: %1</source>
+        <translation>Datei kann nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>keine gewöhnliche Datei</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FolderListItem</name>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>Dateien: %1, %2</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::LinkManager</name>
+    <message>
+        <source>配置错误</source>
+        <translation>Konfigurationsfehler</translation>
+    </message>
+    <message>
+        <source>无法加载页面链接。
+
+请联系技术支持或重新安装软件。</source>
+        <translation>Der Link zur Seite kann nicht geladen werden.
+
+Wenden Sie sich an den technischen Support, oder installieren Sie die App neu.</translation>
+    </message>
+    <message>
+        <source>无法打开浏览器</source>
+        <translation>Der Browser kann nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>无法打开默认浏览器。
+
+请手动复制链接访问：
+%1</source>
+        <translation>Der Standardbrowser kann nicht geöffnet werden.
+
+Kopieren Sie den Link, und öffnen Sie ihn selbst:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::MainWindow</name>
+    <message>
+        <source>Finish</source>
+        <translation>Fertig stellen</translation>
+    </message>
+    <message>
+        <source>Next →</source>
+        <translation>Weiter →</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>PC Migration Tool</source>
+        <translation>Programm für den PC-Umzug</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Transfer files, apps, and settings between PCs easily.</source>
+        <translation>Dateien, Apps und Einstellungen einfach von PC zu PC übertragen.</translation>
+    </message>
+    <message>
+        <source>Copyright © %1. All rights reserved.</source>
+        <translation>Copyright © %1. Alle Rechte vorbehalten.</translation>
+    </message>
+    <message>
+        <source>About Zandrove</source>
+        <translation>Info zu Zandrove</translation>
+    </message>
+    <message>
+        <source>Language Changed</source>
+        <translation>Sprache geändert</translation>
+    </message>
+    <message>
+        <source>Language has been changed.
+
+The application will restart now.</source>
+        <translation>Die Sprache wurde geändert.
+
+Die App wird jetzt neu gestartet.</translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation>Registrieren</translation>
+    </message>
+    <message>
+        <source>This copy of Zandrove is registered.</source>
+        <translation>Diese Kopie von Zandrove ist registriert.</translation>
+    </message>
+    <message>
+        <source>This copy of Zandrove is not registered.</source>
+        <translation>Diese Kopie von Zandrove ist nicht registriert.</translation>
+    </message>
+    <message>
+        <source>← Back</source>
+        <translation>← Zurück</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::MigrationManager</name>
+    <message>
+        <source>[App] %1</source>
+        <translation>[App] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[Einstellung] %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::NetworkManager</name>
+    <message>
+        <source>PC not found</source>
+        <translation>PC nicht gefunden</translation>
+    </message>
+    <message>
+        <source>No device found with verification code: %1</source>
+        <translation>Kein Gerät mit diesem Bestätigungscode gefunden: %1</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Unbekannter Fehler</translation>
+    </message>
+    <message>
+        <source>Connection timeout</source>
+        <translation>Zeitüberschreitung beim Verbinden</translation>
+    </message>
+    <message>
+        <source>Connection rejected</source>
+        <translation>Verbindung abgelehnt</translation>
+    </message>
+    <message>
+        <source>PC at %1</source>
+        <translation>PC unter %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::PCListItem</name>
+    <message>
+        <source>Online</source>
+        <translation>Online</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Offline</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ProgressCard</name>
+    <message>
+        <source>Speed</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>Verbleibend</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>von %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ProgressDots</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>Schritt %1 von %2</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RoleCard</name>
+    <message>
+        <source>Old PC</source>
+        <translation>Alter PC</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>Neuer PC</translation>
+    </message>
+    <message>
+        <source>Source / Sender</source>
+        <translation>Quelle / Sender</translation>
+    </message>
+    <message>
+        <source>Target / Receiver</source>
+        <translation>Ziel / Empfänger</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RolePage</name>
+    <message>
+        <source>Select This PC&apos;s Role</source>
+        <translation>Rolle dieses PCs auswählen</translation>
+    </message>
+    <message>
+        <source>Choose what role this computer plays in the transfer</source>
+        <translation>Wählen Sie aus, welche Rolle dieser PC bei der Übertragung hat</translation>
+    </message>
+    <message>
+        <source>Both computers need Zandrove installed and running</source>
+        <translation>Auf beiden PCs muss Zandrove installiert sein und laufen</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ScanningPage</name>
+    <message>
+        <source>Finding apps, files and settings to transfer...</source>
+        <translation>Apps, Dateien und Einstellungen zum Übertragen werden gesucht...</translation>
+    </message>
+    <message>
+        <source>Scanning system...</source>
+        <translation>System wird durchsucht...</translation>
+    </message>
+    <message>
+        <source>Scanning Your PC</source>
+        <translation>Ihr PC wird durchsucht</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Apps</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Konten</translation>
+    </message>
+    <message>
+        <source>Scan complete!</source>
+        <translation>Suche abgeschlossen!</translation>
+    </message>
+    <message>
+        <source>Found items ready to transfer</source>
+        <translation>Die gefundenen Elemente können übertragen werden</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::SelectionPage</name>
+    <message>
+        <source>Total: %1</source>
+        <translation>Gesamt: %1</translation>
+    </message>
+    <message>
+        <source>Applications (%1)</source>
+        <translation>Apps (%1)</translation>
+    </message>
+    <message>
+        <source>Files (%1)</source>
+        <translation>Dateien (%1)</translation>
+    </message>
+    <message>
+        <source>Settings (%1)</source>
+        <translation>Einstellungen (%1)</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Apps</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Accounts &amp; Settings</source>
+        <translation>Konten und Einstellungen</translation>
+    </message>
+    <message>
+        <source>Total: 0 GB</source>
+        <translation>Gesamt: 0 GB</translation>
+    </message>
+    <message>
+        <source>Select Content to Transfer</source>
+        <translation>Inhalte zum Übertragen auswählen</translation>
+    </message>
+    <message>
+        <source>Select All Applications</source>
+        <translation>Alle Apps auswählen</translation>
+    </message>
+    <message>
+        <source>User Accounts</source>
+        <translation>Benutzerkonten</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>System Settings</source>
+        <translation>Systemeinstellungen</translation>
+    </message>
+    <message>
+        <source>Same-name files:</source>
+        <translation>Gleichnamige Dateien:</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Überspringen</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Überschreiben</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Existing apps:</source>
+        <translation>Vorhandene Apps:</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::SettingMigrator</name>
+    <message>
+        <source>Export failed</source>
+        <translation>Der Export ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Failed to apply setting</source>
+        <translation>Die Einstellung konnte nicht angewendet werden</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::SettingScanner</name>
+    <message>
+        <source>Scanning system settings...</source>
+        <translation>Systemeinstellungen werden gesucht...</translation>
+    </message>
+    <message>
+        <source>Desktop Wallpaper</source>
+        <translation>Desktophintergrund</translation>
+    </message>
+    <message>
+        <source>Personalization</source>
+        <translation>Personalisierung</translation>
+    </message>
+    <message>
+        <source>Current desktop background image</source>
+        <translation>Aktuelles Bild des Desktophintergrunds</translation>
+    </message>
+    <message>
+        <source>Scanning taskbar settings...</source>
+        <translation>Taskleisteneinstellungen werden gesucht...</translation>
+    </message>
+    <message>
+        <source>Taskbar Settings</source>
+        <translation>Taskleisteneinstellungen</translation>
+    </message>
+    <message>
+        <source>Taskbar position, auto-hide, and icon settings</source>
+        <translation>Position, automatisches Ausblenden und Symbole der Taskleiste</translation>
+    </message>
+    <message>
+        <source>Scanning file explorer settings...</source>
+        <translation>Explorer-Einstellungen werden gesucht...</translation>
+    </message>
+    <message>
+        <source>File Explorer Settings</source>
+        <translation>Explorer-Einstellungen</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Show hidden files, file extensions, view options</source>
+        <translation>Ausgeblendete Dateien, Dateinamenerweiterungen, Ansichtsoptionen</translation>
+    </message>
+    <message>
+        <source>Scanning mouse settings...</source>
+        <translation>Mauseinstellungen werden gesucht...</translation>
+    </message>
+    <message>
+        <source>Mouse Settings</source>
+        <translation>Mauseinstellungen</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <source>Mouse speed, button configuration, scroll settings</source>
+        <translation>Zeigergeschwindigkeit, Tastenbelegung, Bildlauf</translation>
+    </message>
+    <message>
+        <source>Scanning keyboard settings...</source>
+        <translation>Tastatureinstellungen werden gesucht...</translation>
+    </message>
+    <message>
+        <source>Keyboard Settings</source>
+        <translation>Tastatureinstellungen</translation>
+    </message>
+    <message>
+        <source>Keyboard repeat rate and delay</source>
+        <translation>Wiederholrate und Verzögerung der Tastatur</translation>
+    </message>
+    <message>
+        <source>Scanning power settings...</source>
+        <translation>Energieeinstellungen werden gesucht...</translation>
+    </message>
+    <message>
+        <source>Power Settings</source>
+        <translation>Energieeinstellungen</translation>
+    </message>
+    <message>
+        <source>Current power plan settings</source>
+        <translation>Einstellungen des aktuellen Energiesparplans</translation>
+    </message>
+    <message>
+        <source>Scanning environment variables...</source>
+        <translation>Umgebungsvariablen werden gesucht...</translation>
+    </message>
+    <message>
+        <source>User Environment Variables</source>
+        <translation>Umgebungsvariablen des Benutzers</translation>
+    </message>
+    <message>
+        <source>User-defined environment variables (%1 variables)</source>
+        <translation>Vom Benutzer definierte Umgebungsvariablen (%1)</translation>
+    </message>
+    <message>
+        <source>Scanning display settings...</source>
+        <translation>Anzeigeeinstellungen werden gesucht...</translation>
+    </message>
+    <message>
+        <source>Theme &amp; Display Settings</source>
+        <translation>Design- und Anzeigeeinstellungen</translation>
+    </message>
+    <message>
+        <source>Dark/Light mode, transparency, color settings</source>
+        <translation>Dunkler/heller Modus, Transparenz, Farben</translation>
+    </message>
+    <message>
+        <source>Scanning sound settings...</source>
+        <translation>Soundeinstellungen werden gesucht...</translation>
+    </message>
+    <message>
+        <source>Sound Scheme</source>
+        <translation>Soundschema</translation>
+    </message>
+    <message>
+        <source>System sounds and notification settings</source>
+        <translation>Systemsounds und Benachrichtigungseinstellungen</translation>
+    </message>
+    <message>
+        <source>Scan complete</source>
+        <translation>Suche abgeschlossen</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::StageIndicator</name>
+    <message>
+        <source>Prepare</source>
+        <translation>Vorbereiten</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Apps</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>Prüfen</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::TitleBar</name>
+    <message>
+        <source>Activate</source>
+        <translation>Aktivieren</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimieren</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation>Registrieren</translation>
+    </message>
+    <message>
+        <source>Purchase</source>
+        <translation>Kaufen</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Support</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Wiederherstellen</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::TransferEngine</name>
+    <message>
+        <source>Network manager not initialized</source>
+        <translation>Das Netzwerk ist nicht initialisiert</translation>
+    </message>
+    <message>
+        <source>Discovery started. Verification code: %1</source>
+        <translation>Suche gestartet. Bestätigungscode: %1</translation>
+    </message>
+    <message>
+        <source>Broadcast restarted. Verification code: %1</source>
+        <translation>Broadcast neu gestartet. Bestätigungscode: %1</translation>
+    </message>
+    <message>
+        <source>No PC found with verification code: %1</source>
+        <translation>Kein PC mit diesem Bestätigungscode gefunden: %1</translation>
+    </message>
+    <message>
+        <source>Invalid verification code</source>
+        <translation>Ungültiger Bestätigungscode</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Mit %1 verbunden</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Getrennt</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>Verbindung fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Connection timeout</source>
+        <translation>Zeitüberschreitung beim Verbinden</translation>
+    </message>
+    <message>
+        <source>Transfer already in progress</source>
+        <translation>Es läuft bereits eine Übertragung</translation>
+    </message>
+    <message>
+        <source>Cannot start transfer. Check connection and selection.</source>
+        <translation>Die Übertragung kann nicht gestartet werden. Prüfen Sie die Verbindung und die Auswahl.</translation>
+    </message>
+    <message>
+        <source>Transfer started - %1 items selected</source>
+        <translation>Übertragung gestartet – ausgewählte Elemente: %1</translation>
+    </message>
+    <message>
+        <source>Waiting to receive files...</source>
+        <translation>Warten auf Dateien...</translation>
+    </message>
+    <message>
+        <source>Transfer paused</source>
+        <translation>Übertragung angehalten</translation>
+    </message>
+    <message>
+        <source>Transfer resumed</source>
+        <translation>Übertragung fortgesetzt</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled</source>
+        <translation>Übertragung abgebrochen</translation>
+    </message>
+    <message>
+        <source>Retrying failed items...</source>
+        <translation>Fehlgeschlagene Elemente werden erneut übertragen...</translation>
+    </message>
+    <message>
+        <source>Transfer completed - Success rate: %1%</source>
+        <translation>Übertragung abgeschlossen – Erfolgsquote: %1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Transfer failed: %1</source>
+        <translation>Übertragung fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Engine reset</source>
+        <translation>Zurückgesetzt</translation>
+    </message>
+    <message>
+        <source>Ready for new connection</source>
+        <translation>Bereit für eine neue Verbindung</translation>
+    </message>
+    <message>
+        <source>Scan already in progress</source>
+        <translation>Die Suche läuft bereits</translation>
+    </message>
+    <message>
+        <source>Not connected to source PC</source>
+        <translation>Nicht mit dem Quell-PC verbunden</translation>
+    </message>
+    <message>
+        <source>Starting system scan...</source>
+        <translation>Suche im System wird gestartet...</translation>
+    </message>
+    <message>
+        <source>Scan cancelled</source>
+        <translation>Suche abgebrochen</translation>
+    </message>
+    <message>
+        <source>Scan error: %1</source>
+        <translation>Fehler bei der Suche: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::TransferPage</name>
+    <message>
+        <source>Receiving Data</source>
+        <translation>Daten werden empfangen</translation>
+    </message>
+    <message>
+        <source>Sending Data</source>
+        <translation>Daten werden gesendet</translation>
+    </message>
+    <message>
+        <source>Waiting for Data...</source>
+        <translation>Warten auf Daten...</translation>
+    </message>
+    <message>
+        <source>Waiting...</source>
+        <translation>Warten...</translation>
+    </message>
+    <message>
+        <source>Receiving Data - %1%</source>
+        <translation>Daten werden empfangen – %1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Sending Data - %1%</source>
+        <translation>Daten werden gesendet – %1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Transfer Failed</source>
+        <translation>Übertragung fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Receiving Paused</source>
+        <translation>Empfang angehalten</translation>
+    </message>
+    <message>
+        <source>Sending Paused</source>
+        <translation>Senden angehalten</translation>
+    </message>
+    <message>
+        <source>Cancel Transfer</source>
+        <translation>Übertragung abbrechen</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the transfer?</source>
+        <translation>Möchten Sie die Übertragung wirklich abbrechen?</translation>
+    </message>
+    <message>
+        <source>All progress will be lost and incomplete files may remain on the destination.</source>
+        <translation>Der bisherige Fortschritt geht verloren, und auf dem Ziel-PC können unvollständige Dateien zurückbleiben.</translation>
+    </message>
+    <message>
+        <source>Yes, Cancel</source>
+        <translation>Ja, abbrechen</translation>
+    </message>
+    <message>
+        <source>Continue Transfer</source>
+        <translation>Weiter übertragen</translation>
+    </message>
+    <message>
+        <source>Sender cancelled. Waiting...</source>
+        <translation>Vom Sender abgebrochen. Warten...</translation>
+    </message>
+    <message>
+        <source>Transferring Data</source>
+        <translation>Daten werden übertragen</translation>
+    </message>
+    <message>
+        <source>Current Files</source>
+        <translation>Aktuelle Dateien</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>▶ Resume</source>
+        <translation>▶ Fortsetzen</translation>
+    </message>
+    <message>
+        <source>⏸ Pause</source>
+        <translation>⏸ Anhalten</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::VerifyCodeWidget</name>
+    <message>
+        <source>Verification Code</source>
+        <translation>Bestätigungscode</translation>
+    </message>
+    <message>
+        <source>Enter on the other PC</source>
+        <translation>Am anderen PC eingeben</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::WelcomePage</name>
+    <message>
+        <source>Transfer files, apps and settings to your new PC</source>
+        <translation>Dateien, Apps und Einstellungen auf&#xa0;Ihren&#xa0;neuen&#xa0;PC&#xa0;übertragen</translation>
+    </message>
+    <message>
+        <source>Network Mode</source>
+        <translation>Netzwerkmodus</translation>
+    </message>
+    <message>
+        <source>Wi-Fi / LAN (Same Network)</source>
+        <translation>WLAN / LAN (gleiches Netzwerk)</translation>
+    </message>
+    <message>
+        <source>Cable Mode</source>
+        <translation>Kabelmodus</translation>
+    </message>
+    <message>
+        <source>USB-C or Ethernet Cable</source>
+        <translation>USB-C- oder Ethernet-Kabel</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1784 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="en">
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>Connection refused</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>Connection timed out</translation>
+    </message>
+    <message>
+        <source>Host not found</source>
+        <translation>Host not found</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>Network unreachable</translation>
+    </message>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>Socket operation timed out</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>No such file or directory</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>No space left on device</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Permission denied</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>Too many open files</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Unknown error</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Undo</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Redo</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Select All</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>Connection refused</translation>
+    </message>
+    <message>
+        <source>Connection reset by peer</source>
+        <translation>Connection reset by peer</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>Connection timed out</translation>
+    </message>
+    <message>
+        <source>Host unreachable</source>
+        <translation>Host unreachable</translation>
+    </message>
+    <message>
+        <source>Network dropped connection on reset</source>
+        <translation>Network dropped connection on reset</translation>
+    </message>
+    <message>
+        <source>Network operation timed out</source>
+        <translation>Network operation timed out</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>Network unreachable</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>Permission denied</translation>
+    </message>
+    <message>
+        <source>The address is not available</source>
+        <translation>The address is not available</translation>
+    </message>
+    <message>
+        <source>The remote host closed the connection</source>
+        <translation>The remote host closed the connection</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Unknown error</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Yes</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>Scroll here</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>Left edge</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>Right edge</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>Bottom</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>Page left</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>Page right</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Page up</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Page down</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>Scroll left</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>Scroll right</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>Scroll up</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>Scroll down</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AccountScanner</name>
+    <message>
+        <source>Scanning user accounts...</source>
+        <translation>Scanning user accounts...</translation>
+    </message>
+    <message>
+        <source>Enumerating Windows accounts...</source>
+        <translation>Enumerating Windows accounts...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppInstaller</name>
+    <message>
+        <source>Copying install files...</source>
+        <translation>Copying install files...</translation>
+    </message>
+    <message>
+        <source>Copying AppData files...</source>
+        <translation>Copying AppData files...</translation>
+    </message>
+    <message>
+        <source>Importing registry...</source>
+        <translation>Importing registry...</translation>
+    </message>
+    <message>
+        <source>Creating shortcuts...</source>
+        <translation>Creating shortcuts...</translation>
+    </message>
+    <message>
+        <source>Installation complete</source>
+        <translation>Installation complete</translation>
+    </message>
+    <message>
+        <source>Failed to copy install files</source>
+        <translation>Failed to copy install files</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppListItem</name>
+    <message>
+        <source>System App</source>
+        <translation>System App</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppMigrator</name>
+    <message>
+        <source>Sending app info...</source>
+        <translation>Sending app info...</translation>
+    </message>
+    <message>
+        <source>Sending shortcuts...</source>
+        <translation>Sending shortcuts...</translation>
+    </message>
+    <message>
+        <source>Completing...</source>
+        <translation>Completing...</translation>
+    </message>
+    <message>
+        <source>Exporting registry...</source>
+        <translation>Exporting registry...</translation>
+    </message>
+    <message>
+        <source>Sending install files...</source>
+        <translation>Sending install files...</translation>
+    </message>
+    <message>
+        <source>Sending AppData Local...</source>
+        <translation>Sending AppData Local...</translation>
+    </message>
+    <message>
+        <source>Sending AppData Roaming...</source>
+        <translation>Sending AppData Roaming...</translation>
+    </message>
+    <message>
+        <source>Sending ProgramData...</source>
+        <translation>Sending ProgramData...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppScanner</name>
+    <message>
+        <source>Scanning installed applications...</source>
+        <translation>Scanning installed applications...</translation>
+    </message>
+    <message>
+        <source>Scanning user installed applications...</source>
+        <translation>Scanning user installed applications...</translation>
+    </message>
+    <message>
+        <source>Scanning Program Files...</source>
+        <translation>Scanning Program Files...</translation>
+    </message>
+    <message>
+        <source>Scanning user software registry...</source>
+        <translation>Scanning user software registry...</translation>
+    </message>
+    <message>
+        <source>Scan complete</source>
+        <translation>Scan complete</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::DiscoverSession</name>
+    <message>
+        <source>this PC is only looking around.</source>
+        <translation>this PC is only looking around.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::FolderCheck</name>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>There is no folder %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder.</source>
+        <translation>%1 is not a folder.</translation>
+    </message>
+    <message>
+        <source>The folder %1 can&apos;t be read.</source>
+        <translation>The folder %1 can&apos;t be read.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::ItemChoice</name>
+    <message>
+        <source>The application %1 cannot be moved.</source>
+        <translation>The application %1 cannot be moved.</translation>
+    </message>
+    <message>
+        <source>There is no application %1 on this PC. See zandrove-cli scan.</source>
+        <translation>There is no application %1 on this PC. See zandrove-cli scan.</translation>
+    </message>
+    <message>
+        <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
+        <translation>There is no setting %1 on this PC. See zandrove-cli scan.</translation>
+    </message>
+    <message>
+        <source>This PC has nothing of that to move. See zandrove-cli scan.</source>
+        <translation>This PC has nothing of that to move. See zandrove-cli scan.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Options</name>
+    <message>
+        <source>%1 is not a number of seconds from 1 to %2.</source>
+        <translation>%1 is not a number of seconds from 1 to %2.</translation>
+    </message>
+    <message>
+        <source>--mode is network or cable, not %1.</source>
+        <translation>--mode is network or cable, not %1.</translation>
+    </message>
+    <message>
+        <source>--role is old or new, not %1.</source>
+        <translation>--role is old or new, not %1.</translation>
+    </message>
+    <message>
+        <source>--to needs a code, a name or an address.</source>
+        <translation>--to needs a code, a name or an address.</translation>
+    </message>
+    <message>
+        <source>--folder needs a folder.</source>
+        <translation>--folder needs a folder.</translation>
+    </message>
+    <message>
+        <source>The New PC: the four digits on its screen, its name or its address.</source>
+        <translation>The New PC: the four digits on its screen, its name or its address.</translation>
+    </message>
+    <message>
+        <source>A folder to move; may be given several times.</source>
+        <translation>A folder to move; may be given several times.</translation>
+    </message>
+    <message>
+        <source>Let every PC in that asks, without a question.</source>
+        <translation>Let every PC in that asks, without a question.</translation>
+    </message>
+    <message>
+        <source>End after the first transfer.</source>
+        <translation>End after the first transfer.</translation>
+    </message>
+    <message>
+        <source>End with exit code 3 when nothing has begun to arrive within S seconds. Counted anew each time the program starts to wait; a running transfer is never cut.</source>
+        <translation>End with exit code 3 when nothing has begun to arrive within S seconds. Counted anew each time the program starts to wait; a running transfer is never cut.</translation>
+    </message>
+    <message>
+        <source>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</source>
+        <translation>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</translation>
+    </message>
+    <message>
+        <source>Look for N seconds; without it, until Ctrl-C.</source>
+        <translation>Look for N seconds; without it, until Ctrl-C.</translation>
+    </message>
+    <message>
+        <source>How PCs find each other: by broadcast (the default), or over a direct cable, where the addresses around this PC&apos;s own are tried as well.</source>
+        <translation>How PCs find each other: by broadcast (the default), or over a direct cable, where the addresses around this PC&apos;s own are tried as well.</translation>
+    </message>
+    <message>
+        <source>Obey commands on standard input, one a line: yes, no (answer a request), pause, resume, cancel, end.</source>
+        <translation>Obey commands on standard input, one a line: yes, no (answer a request), pause, resume, cancel, end.</translation>
+    </message>
+    <message>
+        <source>Obey commands on standard input, one a line: pause, resume, cancel, again [DIR] (a further transfer on the same link), end. The link then stays after a transfer until end, or until standard input ends.</source>
+        <translation>Obey commands on standard input, one a line: pause, resume, cancel, again [DIR] (a further transfer on the same link), end. The link then stays after a transfer until end, or until standard input ends.</translation>
+    </message>
+    <message>
+        <source>Print one JSON object a line, for scripts.</source>
+        <translation>Print one JSON object a line, for scripts.</translation>
+    </message>
+    <message>
+        <source>Print the program&apos;s log on standard error.</source>
+        <translation>Print the program&apos;s log on standard error.</translation>
+    </message>
+    <message>
+        <source>Be the New PC: show a code, wait for an Old PC, receive what it sends.</source>
+        <translation>Be the New PC: show a code, wait for an Old PC, receive what it sends.</translation>
+    </message>
+    <message>
+        <source>List the PCs on the network as they come and go.</source>
+        <translation>List the PCs on the network as they come and go.</translation>
+    </message>
+    <message>
+        <source>List what can be moved from this PC: applications, folders, accounts and settings.</source>
+        <translation>List what can be moved from this PC: applications, folders, accounts and settings.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</translation>
+    </message>
+    <message>
+        <source>This text; after a command, the help of that command.</source>
+        <translation>This text; after a command, the help of that command.</translation>
+    </message>
+    <message>
+        <source>The version of the program.</source>
+        <translation>The version of the program.</translation>
+    </message>
+    <message>
+        <source>Unknown option %1. See --help.</source>
+        <translation>Unknown option %1. See --help.</translation>
+    </message>
+    <message>
+        <source>%1 takes no value.</source>
+        <translation>%1 takes no value.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value.</source>
+        <translation>%1 needs a value.</translation>
+    </message>
+    <message>
+        <source>send needs --to with the New PC&apos;s code, name or address.</source>
+        <translation>send needs --to with the New PC&apos;s code, name or address.</translation>
+    </message>
+    <message>
+        <source>discover needs --role old or --role new.</source>
+        <translation>discover needs --role old or --role new.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument %1. See --help.</source>
+        <translation>Unexpected argument %1. See --help.</translation>
+    </message>
+    <message>
+        <source>Say receive, send, discover or scan. See --help.</source>
+        <translation>Say receive, send, discover or scan. See --help.</translation>
+    </message>
+    <message>
+        <source>Unknown command %1. See --help.</source>
+        <translation>Unknown command %1. See --help.</translation>
+    </message>
+    <message>
+        <source>An application to move, by the exact name that scan lists; may be given several times.</source>
+        <translation>An application to move, by the exact name that scan lists; may be given several times.</translation>
+    </message>
+    <message>
+        <source>Move every application that can be moved.</source>
+        <translation>Move every application that can be moved.</translation>
+    </message>
+    <message>
+        <source>A setting to move, by the id that scan lists; may be given several times.</source>
+        <translation>A setting to move, by the id that scan lists; may be given several times.</translation>
+    </message>
+    <message>
+        <source>Move every setting that this PC has.</source>
+        <translation>Move every setting that this PC has.</translation>
+    </message>
+    <message>
+        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</source>
+        <translation>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</translation>
+    </message>
+    <message>
+        <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
+        <translation>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</translation>
+    </message>
+    <message>
+        <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
+        <translation>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</translation>
+    </message>
+    <message>
+        <source>send needs something to move: a --folder, an --app or a --setting.</source>
+        <translation>send needs something to move: a --folder, an --app or a --setting.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Output</name>
+    <message>
+        <source>Allow %1 to connect? [y/N] </source>
+        <translation>Allow %1 to connect? [y/N] </translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::ReceiveSession</name>
+    <message>
+        <source>Nobody can be asked here: every request will be refused without --yes.</source>
+        <translation>Nobody can be asked here: every request will be refused without --yes.</translation>
+    </message>
+    <message>
+        <source>this PC is receiving from %1.</source>
+        <translation>this PC is receiving from %1.</translation>
+    </message>
+    <message>
+        <source>nobody can be asked here. Start with --yes to let every PC in.</source>
+        <translation>nobody can be asked here. Start with --yes to let every PC in.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 is not there any more.</translation>
+    </message>
+    <message>
+        <source>The link to %1 broke during a transfer.</source>
+        <translation>The link to %1 broke during a transfer.</translation>
+    </message>
+    <message>
+        <source>%1 ended the session during a transfer.</source>
+        <translation>%1 ended the session during a transfer.</translation>
+    </message>
+    <message>
+        <source>Nothing began to arrive within %1 seconds.</source>
+        <translation>Nothing began to arrive within %1 seconds.</translation>
+    </message>
+    <message>
+        <source>Some settings are still being applied; the report is without them.</source>
+        <translation>Some settings are still being applied; the report is without them.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::SendSession</name>
+    <message>
+        <source>this PC is sending to %1.</source>
+        <translation>this PC is sending to %1.</translation>
+    </message>
+    <message>
+        <source>The link to %1 broke.</source>
+        <translation>The link to %1 broke.</translation>
+    </message>
+    <message>
+        <source>%1 ended the session.</source>
+        <translation>%1 ended the session.</translation>
+    </message>
+    <message>
+        <source>There is no finished transfer to follow.</source>
+        <translation>There is no finished transfer to follow.</translation>
+    </message>
+    <message>
+        <source>%1 was not found within %2 seconds.</source>
+        <translation>%1 was not found within %2 seconds.</translation>
+    </message>
+    <message>
+        <source>%1 did not answer within %2 seconds.</source>
+        <translation>%1 did not answer within %2 seconds.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Session</name>
+    <message>
+        <source>Unknown command: %1</source>
+        <translation>Unknown command: %1</translation>
+    </message>
+    <message>
+        <source>The other PC did not end the session: not everything may have arrived.</source>
+        <translation>The other PC did not end the session: not everything may have arrived.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::TextOutput</name>
+    <message>
+        <source>The code of this PC is %1. Waiting for an Old PC.</source>
+        <translation>The code of this PC is %1. Waiting for an Old PC.</translation>
+    </message>
+    <message>
+        <source>code %1</source>
+        <translation>code %1</translation>
+    </message>
+    <message>
+        <source>Found %1. Waiting for it to let this PC in.</source>
+        <translation>Found %1. Waiting for it to let this PC in.</translation>
+    </message>
+    <message>
+        <source>%1 was refused.</source>
+        <translation>%1 was refused.</translation>
+    </message>
+    <message>
+        <source>%1 was refused: %2</source>
+        <translation>%1 was refused: %2</translation>
+    </message>
+    <message>
+        <source>Connected to %1.</source>
+        <translation>Connected to %1.</translation>
+    </message>
+    <message>
+        <source>Disconnected from %1.</source>
+        <translation>Disconnected from %1.</translation>
+    </message>
+    <message>
+        <source>Receiving</source>
+        <translation>Receiving</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>Sending</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>%1 left</translation>
+    </message>
+    <message>
+        <source>%1 was not moved: %2</source>
+        <translation>%1 was not moved: %2</translation>
+    </message>
+    <message>
+        <source>Paused.</source>
+        <translation>Paused.</translation>
+    </message>
+    <message>
+        <source>Paused by %1.</source>
+        <translation>Paused by %1.</translation>
+    </message>
+    <message>
+        <source>Resumed.</source>
+        <translation>Resumed.</translation>
+    </message>
+    <message>
+        <source>Resumed by %1.</source>
+        <translation>Resumed by %1.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Cancelled.</translation>
+    </message>
+    <message>
+        <source>Cancelled by %1.</source>
+        <translation>Cancelled by %1.</translation>
+    </message>
+    <message>
+        <source>Files: %1 received, %2 failed, %3 skipped.</source>
+        <translation>Files: %1 received, %2 failed, %3 skipped.</translation>
+    </message>
+    <message>
+        <source>Files: %1 sent, %2 failed, %3 skipped.</source>
+        <translation>Files: %1 sent, %2 failed, %3 skipped.</translation>
+    </message>
+    <message>
+        <source>Files saved:</source>
+        <translation>Files saved:</translation>
+    </message>
+    <message>
+        <source>Scanning %1%  %2 applications</source>
+        <translation>Scanning %1%  %2 applications</translation>
+    </message>
+    <message>
+        <source>(cannot be moved)</source>
+        <translation>(cannot be moved)</translation>
+    </message>
+    <message>
+        <source>Applications: %1</source>
+        <translation>Applications: %1</translation>
+    </message>
+    <message>
+        <source>files: %1</source>
+        <translation>files: %1</translation>
+    </message>
+    <message>
+        <source>Folders: %1</source>
+        <translation>Folders: %1</translation>
+    </message>
+    <message>
+        <source>Accounts: %1</source>
+        <translation>Accounts: %1</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>Settings: %1</translation>
+    </message>
+    <message>
+        <source>%1 in applications and folders.</source>
+        <translation>%1 in applications and folders.</translation>
+    </message>
+    <message>
+        <source>Done in %1: %2, %3 on average.</source>
+        <translation>Done in %1: %2, %3 on average.</translation>
+    </message>
+    <message>
+        <source>Done in %1: %2.</source>
+        <translation>Done in %1: %2.</translation>
+    </message>
+    <message>
+        <source>Applications:</source>
+        <translation>Applications:</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>installed</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>sent</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>Settings:</translation>
+    </message>
+    <message>
+        <source>applied</source>
+        <translation>applied</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>failed</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>failed: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::CompletePage</name>
+    <message>
+        <source>Transfer Complete!</source>
+        <translation>Transfer Complete!</translation>
+    </message>
+    <message>
+        <source>Your files, apps and settings have been successfully transferred</source>
+        <translation>Your files, apps and settings have been successfully transferred</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Apps</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Files saved to:</source>
+        <translation>Files saved to:</translation>
+    </message>
+    <message>
+        <source>Waiting for more files...</source>
+        <translation>Waiting for more files...</translation>
+    </message>
+    <message>
+        <source>✓ Finished</source>
+        <translation>✓ Finished</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Finished</translation>
+    </message>
+    <message>
+        <source>📂 Send More Files...</source>
+        <translation>📂 Send More Files...</translation>
+    </message>
+    <message>
+        <source>Send More Files...</source>
+        <translation>Send More Files...</translation>
+    </message>
+    <message>
+        <source>Received Files</source>
+        <translation>Received Files</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 files</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ConnectionPage</name>
+    <message>
+        <source>Available Devices</source>
+        <translation>Available Devices</translation>
+    </message>
+    <message>
+        <source>%1 device(s) found, %2 online</source>
+        <translation>%1 device(s) found, %2 online</translation>
+    </message>
+    <message>
+        <source>Connecting to %1...</source>
+        <translation>Connecting to %1...</translation>
+    </message>
+    <message>
+        <source>Verifying code...</source>
+        <translation>Verifying code...</translation>
+    </message>
+    <message>
+        <source>Connection request from %1...</source>
+        <translation>Connection request from %1...</translation>
+    </message>
+    <message>
+        <source>Connection Request</source>
+        <translation>Connection Request</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; wants to connect to this PC.
+
+Do you want to accept?</source>
+        <translation>&apos;%1&apos; wants to connect to this PC.
+
+Do you want to accept?</translation>
+    </message>
+    <message>
+        <source>Connection rejected</source>
+        <translation>Connection rejected</translation>
+    </message>
+    <message>
+        <source>The other PC is no longer waiting</source>
+        <translation>The other PC is no longer waiting</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>✓ Connected to %1</source>
+        <translation>✓ Connected to %1</translation>
+    </message>
+    <message>
+        <source>✓ Connected successfully!</source>
+        <translation>✓ Connected successfully!</translation>
+    </message>
+    <message>
+        <source>✗ Connection failed: %1</source>
+        <translation>✗ Connection failed: %1</translation>
+    </message>
+    <message>
+        <source>Scanning direct connection... 0%</source>
+        <translation>Scanning direct connection... 0%</translation>
+    </message>
+    <message>
+        <source>Scanning Direct Connection...</source>
+        <translation>Scanning Direct Connection...</translation>
+    </message>
+    <message>
+        <source>Scanning direct connection... %1% (%2/%3)</source>
+        <translation>Scanning direct connection... %1% (%2/%3)</translation>
+    </message>
+    <message>
+        <source>No device found. Please ensure the other PC has Zandrove running</source>
+        <translation>No device found. Please ensure the other PC has Zandrove running</translation>
+    </message>
+    <message>
+        <source>Looking for devices on your network...</source>
+        <translation>Looking for devices on your network...</translation>
+    </message>
+    <message>
+        <source>🔄 Refresh</source>
+        <translation>🔄 Refresh</translation>
+    </message>
+    <message>
+        <source>Connect to Another PC</source>
+        <translation>Connect to Another PC</translation>
+    </message>
+    <message>
+        <source>Select a device or enter verification code</source>
+        <translation>Select a device or enter verification code</translation>
+    </message>
+    <message>
+        <source>💡 Both PCs must be on the same network with Zandrove running</source>
+        <translation>💡 Both PCs must be on the same network with Zandrove running</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>Scanned: 0 / 254</source>
+        <translation>Scanned: 0 / 254</translation>
+    </message>
+    <message>
+        <source>Please ensure the network cable is connected</source>
+        <translation>Please ensure the network cable is connected</translation>
+    </message>
+    <message>
+        <source>Your Verification Code</source>
+        <translation>Your Verification Code</translation>
+    </message>
+    <message>
+        <source>Show this code to the other PC</source>
+        <translation>Show this code to the other PC</translation>
+    </message>
+    <message>
+        <source>Or Enter Their Code</source>
+        <translation>Or Enter Their Code</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>Their code, character %1</source>
+        <translation>Their code, character %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileBrowserWidget</name>
+    <message>
+        <source>Quick Access</source>
+        <translation>Quick Access</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Select All</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>Select folders to transfer</source>
+        <translation>Select folders to transfer</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>Desktop</translation>
+    </message>
+    <message>
+        <source>My Documents</source>
+        <translation>My Documents</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Pictures</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>Videos</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>Music</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>Downloads</translation>
+    </message>
+    <message>
+        <source>This PC</source>
+        <translation>This PC</translation>
+    </message>
+    <message>
+        <source>Local Disk (%1)</source>
+        <translation>Local Disk (%1)</translation>
+    </message>
+    <message>
+        <source> - %1 free of %2</source>
+        <translation> - %1 free of %2</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileReceiverWorker</name>
+    <message>
+        <source>Write error</source>
+        <translation>Write error</translation>
+    </message>
+    <message>
+        <source>Received Files</source>
+        <translation>Received Files</translation>
+    </message>
+    <message>
+        <source>Failed to create file</source>
+        <translation>Failed to create file</translation>
+    </message>
+    <message>
+        <source>Checksum mismatch</source>
+        <translation>Checksum mismatch</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileScanner</name>
+    <message>
+        <source>Starting folder scan...</source>
+        <translation>Starting folder scan...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileSenderWorker</name>
+    <message>
+        <source>File not found: %1</source>
+        <translation>File not found: %1</translation>
+    </message>
+    <message>
+        <source>Cannot open file: %1</source>
+        <translation>Cannot open file: %1</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>not a regular file</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FolderListItem</name>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>%1 files, %2</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::LinkManager</name>
+    <message>
+        <source>配置错误</source>
+        <translation>Configuration error</translation>
+    </message>
+    <message>
+        <source>无法加载页面链接。
+
+请联系技术支持或重新安装软件。</source>
+        <translation>The link to the page could not be loaded.
+
+Please contact technical support or install the program again.</translation>
+    </message>
+    <message>
+        <source>无法打开浏览器</source>
+        <translation>Cannot open the browser</translation>
+    </message>
+    <message>
+        <source>无法打开默认浏览器。
+
+请手动复制链接访问：
+%1</source>
+        <translation>The default browser could not be opened.
+
+Please copy the link and open it yourself:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::MainWindow</name>
+    <message>
+        <source>Finish</source>
+        <translation>Finish</translation>
+    </message>
+    <message>
+        <source>Next →</source>
+        <translation>Next →</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Next</translation>
+    </message>
+    <message>
+        <source>PC Migration Tool</source>
+        <translation>PC Migration Tool</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Transfer files, apps, and settings between PCs easily.</source>
+        <translation>Transfer files, apps, and settings between PCs easily.</translation>
+    </message>
+    <message>
+        <source>Copyright © %1. All rights reserved.</source>
+        <translation>Copyright © %1. All rights reserved.</translation>
+    </message>
+    <message>
+        <source>About Zandrove</source>
+        <translation>About Zandrove</translation>
+    </message>
+    <message>
+        <source>Language Changed</source>
+        <translation>Language Changed</translation>
+    </message>
+    <message>
+        <source>Language has been changed.
+
+The application will restart now.</source>
+        <translation>Language has been changed.
+
+The application will restart now.</translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation>Register</translation>
+    </message>
+    <message>
+        <source>This copy of Zandrove is registered.</source>
+        <translation>This copy of Zandrove is registered.</translation>
+    </message>
+    <message>
+        <source>This copy of Zandrove is not registered.</source>
+        <translation>This copy of Zandrove is not registered.</translation>
+    </message>
+    <message>
+        <source>← Back</source>
+        <translation>← Back</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Back</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::MigrationManager</name>
+    <message>
+        <source>[App] %1</source>
+        <translation>[App] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[Setting] %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::NetworkManager</name>
+    <message>
+        <source>PC not found</source>
+        <translation>PC not found</translation>
+    </message>
+    <message>
+        <source>No device found with verification code: %1</source>
+        <translation>No device found with verification code: %1</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>Unknown error</translation>
+    </message>
+    <message>
+        <source>Connection timeout</source>
+        <translation>Connection timeout</translation>
+    </message>
+    <message>
+        <source>Connection rejected</source>
+        <translation>Connection rejected</translation>
+    </message>
+    <message>
+        <source>PC at %1</source>
+        <translation>PC at %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::PCListItem</name>
+    <message>
+        <source>Online</source>
+        <translation>Online</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Offline</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ProgressCard</name>
+    <message>
+        <source>Speed</source>
+        <translation>Speed</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>Remaining</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>of %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ProgressDots</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>Step %1 of %2</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RoleCard</name>
+    <message>
+        <source>Old PC</source>
+        <translation>Old PC</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>New PC</translation>
+    </message>
+    <message>
+        <source>Source / Sender</source>
+        <translation>Source / Sender</translation>
+    </message>
+    <message>
+        <source>Target / Receiver</source>
+        <translation>Target / Receiver</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RolePage</name>
+    <message>
+        <source>Select This PC&apos;s Role</source>
+        <translation>Select This PC&apos;s Role</translation>
+    </message>
+    <message>
+        <source>Choose what role this computer plays in the transfer</source>
+        <translation>Choose what role this computer plays in the transfer</translation>
+    </message>
+    <message>
+        <source>Both computers need Zandrove installed and running</source>
+        <translation>Both computers need Zandrove installed and running</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ScanningPage</name>
+    <message>
+        <source>Finding apps, files and settings to transfer...</source>
+        <translation>Finding apps, files and settings to transfer...</translation>
+    </message>
+    <message>
+        <source>Scanning system...</source>
+        <translation>Scanning system...</translation>
+    </message>
+    <message>
+        <source>Scanning Your PC</source>
+        <translation>Scanning Your PC</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Applications</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>Accounts</translation>
+    </message>
+    <message>
+        <source>Scan complete!</source>
+        <translation>Scan complete!</translation>
+    </message>
+    <message>
+        <source>Found items ready to transfer</source>
+        <translation>Found items ready to transfer</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::SelectionPage</name>
+    <message>
+        <source>Total: %1</source>
+        <translation>Total: %1</translation>
+    </message>
+    <message>
+        <source>Applications (%1)</source>
+        <translation>Applications (%1)</translation>
+    </message>
+    <message>
+        <source>Files (%1)</source>
+        <translation>Files (%1)</translation>
+    </message>
+    <message>
+        <source>Settings (%1)</source>
+        <translation>Settings (%1)</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Applications</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Accounts &amp; Settings</source>
+        <translation>Accounts &amp; Settings</translation>
+    </message>
+    <message>
+        <source>Total: 0 GB</source>
+        <translation>Total: 0 GB</translation>
+    </message>
+    <message>
+        <source>Select Content to Transfer</source>
+        <translation>Select Content to Transfer</translation>
+    </message>
+    <message>
+        <source>Select All Applications</source>
+        <translation>Select All Applications</translation>
+    </message>
+    <message>
+        <source>User Accounts</source>
+        <translation>User Accounts</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Select All</translation>
+    </message>
+    <message>
+        <source>System Settings</source>
+        <translation>System Settings</translation>
+    </message>
+    <message>
+        <source>Same-name files:</source>
+        <translation>Same-name files:</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>Skip</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Overwrite</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Rename</translation>
+    </message>
+    <message>
+        <source>Existing apps:</source>
+        <translation>Existing apps:</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::SettingMigrator</name>
+    <message>
+        <source>Export failed</source>
+        <translation>Export failed</translation>
+    </message>
+    <message>
+        <source>Failed to apply setting</source>
+        <translation>Failed to apply setting</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::SettingScanner</name>
+    <message>
+        <source>Scanning system settings...</source>
+        <translation>Scanning system settings...</translation>
+    </message>
+    <message>
+        <source>Desktop Wallpaper</source>
+        <translation>Desktop Wallpaper</translation>
+    </message>
+    <message>
+        <source>Personalization</source>
+        <translation>Personalization</translation>
+    </message>
+    <message>
+        <source>Current desktop background image</source>
+        <translation>Current desktop background image</translation>
+    </message>
+    <message>
+        <source>Scanning taskbar settings...</source>
+        <translation>Scanning taskbar settings...</translation>
+    </message>
+    <message>
+        <source>Taskbar Settings</source>
+        <translation>Taskbar Settings</translation>
+    </message>
+    <message>
+        <source>Taskbar position, auto-hide, and icon settings</source>
+        <translation>Taskbar position, auto-hide, and icon settings</translation>
+    </message>
+    <message>
+        <source>Scanning file explorer settings...</source>
+        <translation>Scanning file explorer settings...</translation>
+    </message>
+    <message>
+        <source>File Explorer Settings</source>
+        <translation>File Explorer Settings</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message>
+        <source>Show hidden files, file extensions, view options</source>
+        <translation>Show hidden files, file extensions, view options</translation>
+    </message>
+    <message>
+        <source>Scanning mouse settings...</source>
+        <translation>Scanning mouse settings...</translation>
+    </message>
+    <message>
+        <source>Mouse Settings</source>
+        <translation>Mouse Settings</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>Hardware</translation>
+    </message>
+    <message>
+        <source>Mouse speed, button configuration, scroll settings</source>
+        <translation>Mouse speed, button configuration, scroll settings</translation>
+    </message>
+    <message>
+        <source>Scanning keyboard settings...</source>
+        <translation>Scanning keyboard settings...</translation>
+    </message>
+    <message>
+        <source>Keyboard Settings</source>
+        <translation>Keyboard Settings</translation>
+    </message>
+    <message>
+        <source>Keyboard repeat rate and delay</source>
+        <translation>Keyboard repeat rate and delay</translation>
+    </message>
+    <message>
+        <source>Scanning power settings...</source>
+        <translation>Scanning power settings...</translation>
+    </message>
+    <message>
+        <source>Power Settings</source>
+        <translation>Power Settings</translation>
+    </message>
+    <message>
+        <source>Current power plan settings</source>
+        <translation>Current power plan settings</translation>
+    </message>
+    <message>
+        <source>Scanning environment variables...</source>
+        <translation>Scanning environment variables...</translation>
+    </message>
+    <message>
+        <source>User Environment Variables</source>
+        <translation>User Environment Variables</translation>
+    </message>
+    <message>
+        <source>User-defined environment variables (%1 variables)</source>
+        <translation>User-defined environment variables (%1 variables)</translation>
+    </message>
+    <message>
+        <source>Scanning display settings...</source>
+        <translation>Scanning display settings...</translation>
+    </message>
+    <message>
+        <source>Theme &amp; Display Settings</source>
+        <translation>Theme &amp; Display Settings</translation>
+    </message>
+    <message>
+        <source>Dark/Light mode, transparency, color settings</source>
+        <translation>Dark/Light mode, transparency, color settings</translation>
+    </message>
+    <message>
+        <source>Scanning sound settings...</source>
+        <translation>Scanning sound settings...</translation>
+    </message>
+    <message>
+        <source>Sound Scheme</source>
+        <translation>Sound Scheme</translation>
+    </message>
+    <message>
+        <source>System sounds and notification settings</source>
+        <translation>System sounds and notification settings</translation>
+    </message>
+    <message>
+        <source>Scan complete</source>
+        <translation>Scan complete</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::StageIndicator</name>
+    <message>
+        <source>Prepare</source>
+        <translation>Prepare</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Apps</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>Verify</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::TitleBar</name>
+    <message>
+        <source>Activate</source>
+        <translation>Activate</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>Minimize</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>Maximize</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>About</translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation>Register</translation>
+    </message>
+    <message>
+        <source>Purchase</source>
+        <translation>Purchase</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>Support</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Language</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>Restore</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::TransferEngine</name>
+    <message>
+        <source>Network manager not initialized</source>
+        <translation>Network manager not initialized</translation>
+    </message>
+    <message>
+        <source>Discovery started. Verification code: %1</source>
+        <translation>Discovery started. Verification code: %1</translation>
+    </message>
+    <message>
+        <source>Broadcast restarted. Verification code: %1</source>
+        <translation>Broadcast restarted. Verification code: %1</translation>
+    </message>
+    <message>
+        <source>No PC found with verification code: %1</source>
+        <translation>No PC found with verification code: %1</translation>
+    </message>
+    <message>
+        <source>Invalid verification code</source>
+        <translation>Invalid verification code</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Connected to %1</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Disconnected</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>Connection failed: %1</translation>
+    </message>
+    <message>
+        <source>Connection timeout</source>
+        <translation>Connection timeout</translation>
+    </message>
+    <message>
+        <source>Transfer already in progress</source>
+        <translation>Transfer already in progress</translation>
+    </message>
+    <message>
+        <source>Cannot start transfer. Check connection and selection.</source>
+        <translation>Cannot start transfer. Check connection and selection.</translation>
+    </message>
+    <message>
+        <source>Transfer started - %1 items selected</source>
+        <translation>Transfer started - %1 items selected</translation>
+    </message>
+    <message>
+        <source>Waiting to receive files...</source>
+        <translation>Waiting to receive files...</translation>
+    </message>
+    <message>
+        <source>Transfer paused</source>
+        <translation>Transfer paused</translation>
+    </message>
+    <message>
+        <source>Transfer resumed</source>
+        <translation>Transfer resumed</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled</source>
+        <translation>Transfer cancelled</translation>
+    </message>
+    <message>
+        <source>Retrying failed items...</source>
+        <translation>Retrying failed items...</translation>
+    </message>
+    <message>
+        <source>Transfer completed - Success rate: %1%</source>
+        <translation>Transfer completed - Success rate: %1%</translation>
+    </message>
+    <message>
+        <source>Transfer failed: %1</source>
+        <translation>Transfer failed: %1</translation>
+    </message>
+    <message>
+        <source>Engine reset</source>
+        <translation>Engine reset</translation>
+    </message>
+    <message>
+        <source>Ready for new connection</source>
+        <translation>Ready for new connection</translation>
+    </message>
+    <message>
+        <source>Scan already in progress</source>
+        <translation>Scan already in progress</translation>
+    </message>
+    <message>
+        <source>Not connected to source PC</source>
+        <translation>Not connected to source PC</translation>
+    </message>
+    <message>
+        <source>Starting system scan...</source>
+        <translation>Starting system scan...</translation>
+    </message>
+    <message>
+        <source>Scan cancelled</source>
+        <translation>Scan cancelled</translation>
+    </message>
+    <message>
+        <source>Scan error: %1</source>
+        <translation>Scan error: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::TransferPage</name>
+    <message>
+        <source>Receiving Data</source>
+        <translation>Receiving Data</translation>
+    </message>
+    <message>
+        <source>Sending Data</source>
+        <translation>Sending Data</translation>
+    </message>
+    <message>
+        <source>Waiting for Data...</source>
+        <translation>Waiting for Data...</translation>
+    </message>
+    <message>
+        <source>Waiting...</source>
+        <translation>Waiting...</translation>
+    </message>
+    <message>
+        <source>Receiving Data - %1%</source>
+        <translation>Receiving Data - %1%</translation>
+    </message>
+    <message>
+        <source>Sending Data - %1%</source>
+        <translation>Sending Data - %1%</translation>
+    </message>
+    <message>
+        <source>Transfer Failed</source>
+        <translation>Transfer Failed</translation>
+    </message>
+    <message>
+        <source>Receiving Paused</source>
+        <translation>Receiving Paused</translation>
+    </message>
+    <message>
+        <source>Sending Paused</source>
+        <translation>Sending Paused</translation>
+    </message>
+    <message>
+        <source>Cancel Transfer</source>
+        <translation>Cancel Transfer</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the transfer?</source>
+        <translation>Are you sure you want to cancel the transfer?</translation>
+    </message>
+    <message>
+        <source>All progress will be lost and incomplete files may remain on the destination.</source>
+        <translation>All progress will be lost and incomplete files may remain on the destination.</translation>
+    </message>
+    <message>
+        <source>Yes, Cancel</source>
+        <translation>Yes, Cancel</translation>
+    </message>
+    <message>
+        <source>Continue Transfer</source>
+        <translation>Continue Transfer</translation>
+    </message>
+    <message>
+        <source>Sender cancelled. Waiting...</source>
+        <translation>Sender cancelled. Waiting...</translation>
+    </message>
+    <message>
+        <source>Transferring Data</source>
+        <translation>Transferring Data</translation>
+    </message>
+    <message>
+        <source>Current Files</source>
+        <translation>Current Files</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Retry</translation>
+    </message>
+    <message>
+        <source>▶ Resume</source>
+        <translation>▶ Resume</translation>
+    </message>
+    <message>
+        <source>⏸ Pause</source>
+        <translation>⏸ Pause</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>Resume</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 failed</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::VerifyCodeWidget</name>
+    <message>
+        <source>Verification Code</source>
+        <translation>Verification Code</translation>
+    </message>
+    <message>
+        <source>Enter on the other PC</source>
+        <translation>Enter on the other PC</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::WelcomePage</name>
+    <message>
+        <source>Transfer files, apps and settings to your new PC</source>
+        <translation>Transfer files, apps and settings to your new PC</translation>
+    </message>
+    <message>
+        <source>Network Mode</source>
+        <translation>Network Mode</translation>
+    </message>
+    <message>
+        <source>Wi-Fi / LAN (Same Network)</source>
+        <translation>Wi-Fi / LAN (Same Network)</translation>
+    </message>
+    <message>
+        <source>Cable Mode</source>
+        <translation>Cable Mode</translation>
+    </message>
+    <message>
+        <source>USB-C or Ethernet Cable</source>
+        <translation>USB-C or Ethernet Cable</translation>
+    </message>
+</context>
+</TS>

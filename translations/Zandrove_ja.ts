@@ -1,0 +1,1784 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>接続が拒否されました</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>接続がタイムアウトしました</translation>
+    </message>
+    <message>
+        <source>Host not found</source>
+        <translation>ホストが見つかりません</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>ネットワークに到達できません</translation>
+    </message>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>ソケット操作がタイムアウトしました</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>ファイルまたはディレクトリが見つかりません</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>デバイスに空き領域がありません</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>アクセスが拒否されました</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>開いているファイルが多すぎます</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>不明なエラー</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直し(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>貼り付け(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>接続が拒否されました</translation>
+    </message>
+    <message>
+        <source>Connection reset by peer</source>
+        <translation>相手側が接続をリセットしました</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>接続がタイムアウトしました</translation>
+    </message>
+    <message>
+        <source>Host unreachable</source>
+        <translation>ホストに到達できません</translation>
+    </message>
+    <message>
+        <source>Network dropped connection on reset</source>
+        <translation>ネットワークのリセットにより接続が切断されました</translation>
+    </message>
+    <message>
+        <source>Network operation timed out</source>
+        <translation>ネットワーク操作がタイムアウトしました</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>ネットワークに到達できません</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>アクセスが拒否されました</translation>
+    </message>
+    <message>
+        <source>The address is not available</source>
+        <translation>アドレスを使用できません</translation>
+    </message>
+    <message>
+        <source>The remote host closed the connection</source>
+        <translation>リモート ホストが接続を閉じました</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>不明なエラー</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>はい(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>いいえ(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>ここにスクロール</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>左端</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>右端</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>先頭</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>末尾</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>1 ページ左へ</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>1 ページ右へ</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>1 ページ上へ</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>1 ページ下へ</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>左へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>右へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>上へスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>下へスクロール</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AccountScanner</name>
+    <message>
+        <source>Scanning user accounts...</source>
+        <translation>ユーザー アカウントをスキャンしています...</translation>
+    </message>
+    <message>
+        <source>Enumerating Windows accounts...</source>
+        <translation>Windows のアカウントを列挙しています...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppInstaller</name>
+    <message>
+        <source>Copying install files...</source>
+        <translation>インストール ファイルをコピーしています...</translation>
+    </message>
+    <message>
+        <source>Copying AppData files...</source>
+        <translation>AppData のファイルをコピーしています...</translation>
+    </message>
+    <message>
+        <source>Importing registry...</source>
+        <translation>レジストリをインポートしています...</translation>
+    </message>
+    <message>
+        <source>Creating shortcuts...</source>
+        <translation>ショートカットを作成しています...</translation>
+    </message>
+    <message>
+        <source>Installation complete</source>
+        <translation>インストールが完了しました</translation>
+    </message>
+    <message>
+        <source>Failed to copy install files</source>
+        <translation>インストール ファイルをコピーできませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppListItem</name>
+    <message>
+        <source>System App</source>
+        <translation>システム アプリ</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppMigrator</name>
+    <message>
+        <source>Sending app info...</source>
+        <translation>アプリの情報を送信しています...</translation>
+    </message>
+    <message>
+        <source>Sending shortcuts...</source>
+        <translation>ショートカットを送信しています...</translation>
+    </message>
+    <message>
+        <source>Completing...</source>
+        <translation>完了処理をしています...</translation>
+    </message>
+    <message>
+        <source>Exporting registry...</source>
+        <translation>レジストリをエクスポートしています...</translation>
+    </message>
+    <message>
+        <source>Sending install files...</source>
+        <translation>インストール ファイルを送信しています...</translation>
+    </message>
+    <message>
+        <source>Sending AppData Local...</source>
+        <translation>AppData Local を送信しています...</translation>
+    </message>
+    <message>
+        <source>Sending AppData Roaming...</source>
+        <translation>AppData Roaming を送信しています...</translation>
+    </message>
+    <message>
+        <source>Sending ProgramData...</source>
+        <translation>ProgramData を送信しています...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppScanner</name>
+    <message>
+        <source>Scanning installed applications...</source>
+        <translation>インストール済みのアプリをスキャンしています...</translation>
+    </message>
+    <message>
+        <source>Scanning user installed applications...</source>
+        <translation>ユーザーがインストールしたアプリをスキャンしています...</translation>
+    </message>
+    <message>
+        <source>Scanning Program Files...</source>
+        <translation>Program Files をスキャンしています...</translation>
+    </message>
+    <message>
+        <source>Scanning user software registry...</source>
+        <translation>ユーザーのソフトウェア レジストリをスキャンしています...</translation>
+    </message>
+    <message>
+        <source>Scan complete</source>
+        <translation>スキャンが完了しました</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::DiscoverSession</name>
+    <message>
+        <source>this PC is only looking around.</source>
+        <translation>この PC は他の PC を探しているだけです。</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::FolderCheck</name>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>フォルダー %1 がありません。</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder.</source>
+        <translation>%1 はフォルダーではありません。</translation>
+    </message>
+    <message>
+        <source>The folder %1 can&apos;t be read.</source>
+        <translation>フォルダー %1 を読み取れません。</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::ItemChoice</name>
+    <message>
+        <source>The application %1 cannot be moved.</source>
+        <translation>アプリ %1 は移行できません。</translation>
+    </message>
+    <message>
+        <source>There is no application %1 on this PC. See zandrove-cli scan.</source>
+        <translation>この PC にアプリ %1 はありません。zandrove-cli scan を参照してください。</translation>
+    </message>
+    <message>
+        <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
+        <translation>この PC に設定 %1 はありません。zandrove-cli scan を参照してください。</translation>
+    </message>
+    <message>
+        <source>This PC has nothing of that to move. See zandrove-cli scan.</source>
+        <translation>この PC には該当する転送対象がありません。zandrove-cli scan を参照してください。</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Options</name>
+    <message>
+        <source>%1 is not a number of seconds from 1 to %2.</source>
+        <translation>%1 は 1 から %2 までの秒数ではありません。</translation>
+    </message>
+    <message>
+        <source>--mode is network or cable, not %1.</source>
+        <translation>--mode は network または cable です。%1 は使えません。</translation>
+    </message>
+    <message>
+        <source>--role is old or new, not %1.</source>
+        <translation>--role は old または new です。%1 は使えません。</translation>
+    </message>
+    <message>
+        <source>--to needs a code, a name or an address.</source>
+        <translation>--to には確認コード、名前、またはアドレスが必要です。</translation>
+    </message>
+    <message>
+        <source>--folder needs a folder.</source>
+        <translation>--folder にはフォルダーが必要です。</translation>
+    </message>
+    <message>
+        <source>The New PC: the four digits on its screen, its name or its address.</source>
+        <translation>新 PC。画面に表示された 4 桁の数字、名前、またはアドレスを指定します。</translation>
+    </message>
+    <message>
+        <source>A folder to move; may be given several times.</source>
+        <translation>移行するフォルダー。複数回指定できます。</translation>
+    </message>
+    <message>
+        <source>Let every PC in that asks, without a question.</source>
+        <translation>接続を求めるすべての PC を、確認せずに許可します。</translation>
+    </message>
+    <message>
+        <source>End after the first transfer.</source>
+        <translation>最初の転送の後で終了します。</translation>
+    </message>
+    <message>
+        <source>End with exit code 3 when nothing has begun to arrive within S seconds. Counted anew each time the program starts to wait; a running transfer is never cut.</source>
+        <translation>S 秒以内に何も届き始めなければ、終了コード 3 で終了します。待機を始めるたびに数え直します。実行中の転送が打ち切られることはありません。</translation>
+    </message>
+    <message>
+        <source>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</source>
+        <translation>この PC の役割。旧 PC には新 PC が、新 PC には旧 PC が見えます。</translation>
+    </message>
+    <message>
+        <source>Look for N seconds; without it, until Ctrl-C.</source>
+        <translation>N 秒間探します。指定しなければ Ctrl-C まで続けます。</translation>
+    </message>
+    <message>
+        <source>How PCs find each other: by broadcast (the default), or over a direct cable, where the addresses around this PC&apos;s own are tried as well.</source>
+        <translation>PC どうしが互いを見つける方法。ブロードキャスト (既定)、または直接つないだケーブルです。ケーブルの場合は、この PC の前後のアドレスも試します。</translation>
+    </message>
+    <message>
+        <source>Obey commands on standard input, one a line: yes, no (answer a request), pause, resume, cancel, end.</source>
+        <translation>標準入力のコマンドに従います (1 行に 1 つ): yes、no (要求への回答)、pause、resume、cancel、end。</translation>
+    </message>
+    <message>
+        <source>Obey commands on standard input, one a line: pause, resume, cancel, again [DIR] (a further transfer on the same link), end. The link then stays after a transfer until end, or until standard input ends.</source>
+        <translation>標準入力のコマンドに従います (1 行に 1 つ): pause、resume、cancel、again [DIR] (同じ接続でもう一度転送)、end。この場合、転送後も end または標準入力の終わりまで接続を保ちます。</translation>
+    </message>
+    <message>
+        <source>Print one JSON object a line, for scripts.</source>
+        <translation>スクリプト用に、1 行に 1 つの JSON オブジェクトを出力します。</translation>
+    </message>
+    <message>
+        <source>Print the program&apos;s log on standard error.</source>
+        <translation>プログラムのログを標準エラーに出力します。</translation>
+    </message>
+    <message>
+        <source>Be the New PC: show a code, wait for an Old PC, receive what it sends.</source>
+        <translation>新 PC になります。確認コードを表示し、旧 PC を待ち、送られたものを受信します。</translation>
+    </message>
+    <message>
+        <source>List the PCs on the network as they come and go.</source>
+        <translation>ネットワークに現れた PC と消えた PC を一覧表示します。</translation>
+    </message>
+    <message>
+        <source>List what can be moved from this PC: applications, folders, accounts and settings.</source>
+        <translation>この PC から移行できるもの (アプリ、フォルダー、アカウント、設定) を一覧表示します。</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>終了コード: 0 すべて移行または一覧表示した、1 接続または実行が失敗したか拒否された、2 使い方の誤り、3 タイムアウト、4 終了したが、失敗またはスキップしたものがある、130 Ctrl-C でキャンセルした (もう一方の PC に通知します。もう一度 Ctrl-C を押すとすぐに終了します)。</translation>
+    </message>
+    <message>
+        <source>This text; after a command, the help of that command.</source>
+        <translation>この説明を表示します。コマンドの後では、そのコマンドの説明を表示します。</translation>
+    </message>
+    <message>
+        <source>The version of the program.</source>
+        <translation>プログラムのバージョンを表示します。</translation>
+    </message>
+    <message>
+        <source>Unknown option %1. See --help.</source>
+        <translation>不明なオプション %1。--help を参照してください。</translation>
+    </message>
+    <message>
+        <source>%1 takes no value.</source>
+        <translation>%1 に値は指定できません。</translation>
+    </message>
+    <message>
+        <source>%1 needs a value.</source>
+        <translation>%1 には値が必要です。</translation>
+    </message>
+    <message>
+        <source>send needs --to with the New PC&apos;s code, name or address.</source>
+        <translation>send では、--to で新 PC の確認コード、名前、またはアドレスを指定してください。</translation>
+    </message>
+    <message>
+        <source>discover needs --role old or --role new.</source>
+        <translation>discover には --role old または --role new が必要です。</translation>
+    </message>
+    <message>
+        <source>Unexpected argument %1. See --help.</source>
+        <translation>余分な引数 %1。--help を参照してください。</translation>
+    </message>
+    <message>
+        <source>Say receive, send, discover or scan. See --help.</source>
+        <translation>receive、send、discover、scan のいずれかを指定してください。--help を参照してください。</translation>
+    </message>
+    <message>
+        <source>Unknown command %1. See --help.</source>
+        <translation>不明なコマンド %1。--help を参照してください。</translation>
+    </message>
+    <message>
+        <source>An application to move, by the exact name that scan lists; may be given several times.</source>
+        <translation>移行するアプリ。scan が表示する名前のとおりに指定します。複数回指定できます。</translation>
+    </message>
+    <message>
+        <source>Move every application that can be moved.</source>
+        <translation>移行できるすべてのアプリを移行します。</translation>
+    </message>
+    <message>
+        <source>A setting to move, by the id that scan lists; may be given several times.</source>
+        <translation>移行する設定。scan が表示する ID で指定します。複数回指定できます。</translation>
+    </message>
+    <message>
+        <source>Move every setting that this PC has.</source>
+        <translation>この PC のすべての設定を移行します。</translation>
+    </message>
+    <message>
+        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</source>
+        <translation>S 秒以内に新 PC が見つからないか、新 PC がこの PC を許可しなければ、終了コード 3 で終了します。探し始めてから数えます。転送そのものが打ち切られることはありません。</translation>
+    </message>
+    <message>
+        <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
+        <translation>旧 PC になります。新 PC を探し、許可を待ち、フォルダー、アプリ、設定を送信します。</translation>
+    </message>
+    <message>
+        <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
+        <translation>zandrove-cli は、同じネットワーク上の旧 PC から新 PC へフォルダー、アプリ、設定を移行します。</translation>
+    </message>
+    <message>
+        <source>send needs something to move: a --folder, an --app or a --setting.</source>
+        <translation>send には移行するもの (--folder、--app、--setting のいずれか) が必要です。</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Output</name>
+    <message>
+        <source>Allow %1 to connect? [y/N] </source>
+        <translation>%1 の接続を許可しますか？ [y/N] </translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::ReceiveSession</name>
+    <message>
+        <source>Nobody can be asked here: every request will be refused without --yes.</source>
+        <translation>ここでは確認に答えられる人がいません。--yes がなければ、すべての要求を拒否します。</translation>
+    </message>
+    <message>
+        <source>this PC is receiving from %1.</source>
+        <translation>この PC は %1 から受信中です。</translation>
+    </message>
+    <message>
+        <source>nobody can be asked here. Start with --yes to let every PC in.</source>
+        <translation>ここでは確認に答えられる人がいません。すべての PC を許可するには --yes を付けて起動してください。</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 はもう接続していません。</translation>
+    </message>
+    <message>
+        <source>The link to %1 broke during a transfer.</source>
+        <translation>転送中に %1 との接続が切れました。</translation>
+    </message>
+    <message>
+        <source>%1 ended the session during a transfer.</source>
+        <translation>転送中に %1 がセッションを終了しました。</translation>
+    </message>
+    <message>
+        <source>Nothing began to arrive within %1 seconds.</source>
+        <translation>%1 秒以内に何も届き始めませんでした。</translation>
+    </message>
+    <message>
+        <source>Some settings are still being applied; the report is without them.</source>
+        <translation>一部の設定はまだ適用中のため、レポートに含まれていません。</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::SendSession</name>
+    <message>
+        <source>this PC is sending to %1.</source>
+        <translation>この PC は %1 に送信中です。</translation>
+    </message>
+    <message>
+        <source>The link to %1 broke.</source>
+        <translation>%1 との接続が切れました。</translation>
+    </message>
+    <message>
+        <source>%1 ended the session.</source>
+        <translation>%1 がセッションを終了しました。</translation>
+    </message>
+    <message>
+        <source>There is no finished transfer to follow.</source>
+        <translation>続ける元になる完了済みの転送がありません。</translation>
+    </message>
+    <message>
+        <source>%1 was not found within %2 seconds.</source>
+        <translation>%2 秒以内に %1 が見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 did not answer within %2 seconds.</source>
+        <translation>%2 秒以内に %1 から応答がありませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Session</name>
+    <message>
+        <source>Unknown command: %1</source>
+        <translation>不明なコマンド: %1</translation>
+    </message>
+    <message>
+        <source>The other PC did not end the session: not everything may have arrived.</source>
+        <translation>もう一方の PC がセッションを終了しませんでした。一部が届いていない可能性があります。</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::TextOutput</name>
+    <message>
+        <source>The code of this PC is %1. Waiting for an Old PC.</source>
+        <translation>この PC の確認コードは %1 です。旧 PC を待っています。</translation>
+    </message>
+    <message>
+        <source>code %1</source>
+        <translation>確認コード %1</translation>
+    </message>
+    <message>
+        <source>Found %1. Waiting for it to let this PC in.</source>
+        <translation>%1 が見つかりました。接続の許可を待っています。</translation>
+    </message>
+    <message>
+        <source>%1 was refused.</source>
+        <translation>%1 を拒否しました。</translation>
+    </message>
+    <message>
+        <source>%1 was refused: %2</source>
+        <translation>%1 を拒否しました: %2</translation>
+    </message>
+    <message>
+        <source>Connected to %1.</source>
+        <translation>%1 に接続しました。</translation>
+    </message>
+    <message>
+        <source>Disconnected from %1.</source>
+        <translation>%1 から切断されました。</translation>
+    </message>
+    <message>
+        <source>Receiving</source>
+        <translation>受信中</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>送信中</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>残り %1</translation>
+    </message>
+    <message>
+        <source>%1 was not moved: %2</source>
+        <translation>%1 は移行できませんでした: %2</translation>
+    </message>
+    <message>
+        <source>Paused.</source>
+        <translation>一時停止しました。</translation>
+    </message>
+    <message>
+        <source>Paused by %1.</source>
+        <translation>%1 が一時停止しました。</translation>
+    </message>
+    <message>
+        <source>Resumed.</source>
+        <translation>再開しました。</translation>
+    </message>
+    <message>
+        <source>Resumed by %1.</source>
+        <translation>%1 が再開しました。</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>キャンセルしました。</translation>
+    </message>
+    <message>
+        <source>Cancelled by %1.</source>
+        <translation>%1 がキャンセルしました。</translation>
+    </message>
+    <message>
+        <source>Files: %1 received, %2 failed, %3 skipped.</source>
+        <translation>ファイル: 受信 %1、失敗 %2、スキップ %3。</translation>
+    </message>
+    <message>
+        <source>Files: %1 sent, %2 failed, %3 skipped.</source>
+        <translation>ファイル: 送信 %1、失敗 %2、スキップ %3。</translation>
+    </message>
+    <message>
+        <source>Files saved:</source>
+        <translation>ファイルの保存先:</translation>
+    </message>
+    <message>
+        <source>Scanning %1%  %2 applications</source>
+        <translation>スキャン中 %1%  アプリ %2 個</translation>
+    </message>
+    <message>
+        <source>(cannot be moved)</source>
+        <translation>(移行できません)</translation>
+    </message>
+    <message>
+        <source>Applications: %1</source>
+        <translation>アプリ: %1</translation>
+    </message>
+    <message>
+        <source>files: %1</source>
+        <translation>ファイル: %1</translation>
+    </message>
+    <message>
+        <source>Folders: %1</source>
+        <translation>フォルダー: %1</translation>
+    </message>
+    <message>
+        <source>Accounts: %1</source>
+        <translation>アカウント: %1</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>設定: %1</translation>
+    </message>
+    <message>
+        <source>%1 in applications and folders.</source>
+        <translation>アプリとフォルダーの合計は %1 です。</translation>
+    </message>
+    <message>
+        <source>Done in %1: %2, %3 on average.</source>
+        <translation>%1 で完了: %2、平均 %3。</translation>
+    </message>
+    <message>
+        <source>Done in %1: %2.</source>
+        <translation>%1 で完了: %2。</translation>
+    </message>
+    <message>
+        <source>Applications:</source>
+        <translation>アプリ:</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>インストール済み</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>送信済み</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>設定:</translation>
+    </message>
+    <message>
+        <source>applied</source>
+        <translation>適用済み</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>失敗: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::CompletePage</name>
+    <message>
+        <source>Transfer Complete!</source>
+        <translation>転送が完了しました</translation>
+    </message>
+    <message>
+        <source>Your files, apps and settings have been successfully transferred</source>
+        <translation>ファイル、アプリ、設定が正常に転送されました</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>アプリ</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Files saved to:</source>
+        <translation>ファイルの保存先:</translation>
+    </message>
+    <message>
+        <source>Waiting for more files...</source>
+        <translation>追加のファイルを待っています...</translation>
+    </message>
+    <message>
+        <source>✓ Finished</source>
+        <translation>✓ 完了</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>📂 Send More Files...</source>
+        <translation>📂 さらにファイルを送信...</translation>
+    </message>
+    <message>
+        <source>Send More Files...</source>
+        <translation>さらにファイルを送信...</translation>
+    </message>
+    <message>
+        <source>Received Files</source>
+        <translation>受信したファイル</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 個のファイル</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ConnectionPage</name>
+    <message>
+        <source>Available Devices</source>
+        <translation>利用できるデバイス</translation>
+    </message>
+    <message>
+        <source>%1 device(s) found, %2 online</source>
+        <translation>%1 台のデバイスが見つかりました (オンライン %2 台)</translation>
+    </message>
+    <message>
+        <source>Connecting to %1...</source>
+        <translation>%1 に接続しています...</translation>
+    </message>
+    <message>
+        <source>Verifying code...</source>
+        <translation>コードを確認しています...</translation>
+    </message>
+    <message>
+        <source>Connection request from %1...</source>
+        <translation>%1 からの接続要求...</translation>
+    </message>
+    <message>
+        <source>Connection Request</source>
+        <translation>接続要求</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; wants to connect to this PC.
+
+Do you want to accept?</source>
+        <translation>「%1」がこの PC への接続を求めています。
+
+許可しますか？</translation>
+    </message>
+    <message>
+        <source>Connection rejected</source>
+        <translation>接続が拒否されました</translation>
+    </message>
+    <message>
+        <source>The other PC is no longer waiting</source>
+        <translation>もう一方の PC は待機を終了しました</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>✓ Connected to %1</source>
+        <translation>✓ %1 に接続しました</translation>
+    </message>
+    <message>
+        <source>✓ Connected successfully!</source>
+        <translation>✓ 正常に接続しました</translation>
+    </message>
+    <message>
+        <source>✗ Connection failed: %1</source>
+        <translation>✗ 接続に失敗しました: %1</translation>
+    </message>
+    <message>
+        <source>Scanning direct connection... 0%</source>
+        <translation>直接接続をスキャンしています... 0%</translation>
+    </message>
+    <message>
+        <source>Scanning Direct Connection...</source>
+        <translation>直接接続をスキャンしています...</translation>
+    </message>
+    <message>
+        <source>Scanning direct connection... %1% (%2/%3)</source>
+        <translation>直接接続をスキャンしています... %1% (%2/%3)</translation>
+    </message>
+    <message>
+        <source>No device found. Please ensure the other PC has Zandrove running</source>
+        <translation>デバイスが見つかりません。もう一方の PC で Zandrove が実行されていることを確認してください</translation>
+    </message>
+    <message>
+        <source>Looking for devices on your network...</source>
+        <translation>ネットワーク上のデバイスを探しています...</translation>
+    </message>
+    <message>
+        <source>🔄 Refresh</source>
+        <translation>🔄 最新の情報に更新</translation>
+    </message>
+    <message>
+        <source>Connect to Another PC</source>
+        <translation>別の PC に接続</translation>
+    </message>
+    <message>
+        <source>Select a device or enter verification code</source>
+        <translation>デバイスを選択するか、確認コードを入力してください</translation>
+    </message>
+    <message>
+        <source>💡 Both PCs must be on the same network with Zandrove running</source>
+        <translation>💡 両方の PC を同じネットワークに接続し、Zandrove を実行してください</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>最新の情報に更新</translation>
+    </message>
+    <message>
+        <source>Scanned: 0 / 254</source>
+        <translation>スキャン済み: 0 / 254</translation>
+    </message>
+    <message>
+        <source>Please ensure the network cable is connected</source>
+        <translation>ネットワーク ケーブルが接続されていることを確認してください</translation>
+    </message>
+    <message>
+        <source>Your Verification Code</source>
+        <translation>この PC の確認コード</translation>
+    </message>
+    <message>
+        <source>Show this code to the other PC</source>
+        <translation>このコードをもう一方の PC で使います</translation>
+    </message>
+    <message>
+        <source>Or Enter Their Code</source>
+        <translation>または相手の確認コードを入力</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>Their code, character %1</source>
+        <translation>相手の確認コード、%1 文字目</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileBrowserWidget</name>
+    <message>
+        <source>Quick Access</source>
+        <translation>クイック アクセス</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>クリア</translation>
+    </message>
+    <message>
+        <source>Select folders to transfer</source>
+        <translation>転送するフォルダーを選択</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>デスクトップ</translation>
+    </message>
+    <message>
+        <source>My Documents</source>
+        <translation>マイ ドキュメント</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>ピクチャ</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>ビデオ</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>ミュージック</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>ダウンロード</translation>
+    </message>
+    <message>
+        <source>This PC</source>
+        <translation>PC</translation>
+    </message>
+    <message>
+        <source>Local Disk (%1)</source>
+        <translation>ローカル ディスク (%1)</translation>
+    </message>
+    <message>
+        <source> - %1 free of %2</source>
+        <translation> - 空き領域 %1/%2</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileReceiverWorker</name>
+    <message>
+        <source>Write error</source>
+        <translation>書き込みエラー</translation>
+    </message>
+    <message>
+        <source>Received Files</source>
+        <translation>受信したファイル</translation>
+    </message>
+    <message>
+        <source>Failed to create file</source>
+        <translation>ファイルを作成できませんでした</translation>
+    </message>
+    <message>
+        <source>Checksum mismatch</source>
+        <translation>チェックサムが一致しません</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileScanner</name>
+    <message>
+        <source>Starting folder scan...</source>
+        <translation>フォルダーのスキャンを開始しています...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileSenderWorker</name>
+    <message>
+        <source>File not found: %1</source>
+        <translation>ファイルが見つかりません: %1</translation>
+    </message>
+    <message>
+        <source>Cannot open file: %1</source>
+        <translation>ファイルを開けません: %1</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FolderListItem</name>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>%1 個のファイル、%2</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::LinkManager</name>
+    <message>
+        <source>配置错误</source>
+        <translation>構成エラー</translation>
+    </message>
+    <message>
+        <source>无法加载页面链接。
+
+请联系技术支持或重新安装软件。</source>
+        <translation>ページのリンクを読み込めませんでした。
+
+テクニカル サポートに問い合わせるか、ソフトウェアを再インストールしてください。</translation>
+    </message>
+    <message>
+        <source>无法打开浏览器</source>
+        <translation>ブラウザーを開けません</translation>
+    </message>
+    <message>
+        <source>无法打开默认浏览器。
+
+请手动复制链接访问：
+%1</source>
+        <translation>既定のブラウザーを開けませんでした。
+
+次のリンクをコピーして開いてください:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::MainWindow</name>
+    <message>
+        <source>Finish</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <source>Next →</source>
+        <translation>次へ →</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>PC Migration Tool</source>
+        <translation>PC 移行ツール</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>バージョン %1</translation>
+    </message>
+    <message>
+        <source>Transfer files, apps, and settings between PCs easily.</source>
+        <translation>ファイル、アプリ、設定を PC 間で簡単に転送できます。</translation>
+    </message>
+    <message>
+        <source>Copyright © %1. All rights reserved.</source>
+        <translation>Copyright © %1. All rights reserved.</translation>
+    </message>
+    <message>
+        <source>About Zandrove</source>
+        <translation>Zandrove について</translation>
+    </message>
+    <message>
+        <source>Language Changed</source>
+        <translation>言語の変更</translation>
+    </message>
+    <message>
+        <source>Language has been changed.
+
+The application will restart now.</source>
+        <translation>言語を変更しました。
+
+アプリを再起動します。</translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation>登録</translation>
+    </message>
+    <message>
+        <source>This copy of Zandrove is registered.</source>
+        <translation>この Zandrove は登録されています。</translation>
+    </message>
+    <message>
+        <source>This copy of Zandrove is not registered.</source>
+        <translation>この Zandrove は登録されていません。</translation>
+    </message>
+    <message>
+        <source>← Back</source>
+        <translation>← 戻る</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::MigrationManager</name>
+    <message>
+        <source>[App] %1</source>
+        <translation>[アプリ] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[設定] %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::NetworkManager</name>
+    <message>
+        <source>PC not found</source>
+        <translation>PC が見つかりません</translation>
+    </message>
+    <message>
+        <source>No device found with verification code: %1</source>
+        <translation>次の確認コードのデバイスが見つかりません: %1</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>不明なエラー</translation>
+    </message>
+    <message>
+        <source>Connection timeout</source>
+        <translation>接続がタイムアウトしました</translation>
+    </message>
+    <message>
+        <source>Connection rejected</source>
+        <translation>接続が拒否されました</translation>
+    </message>
+    <message>
+        <source>PC at %1</source>
+        <translation>%1 の PC</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::PCListItem</name>
+    <message>
+        <source>Online</source>
+        <translation>オンライン</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>オフライン</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ProgressCard</name>
+    <message>
+        <source>Speed</source>
+        <translation>速度</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>残り時間</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>/ %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ProgressDots</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>ステップ %1/%2</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RoleCard</name>
+    <message>
+        <source>Old PC</source>
+        <translation>旧 PC</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>新 PC</translation>
+    </message>
+    <message>
+        <source>Source / Sender</source>
+        <translation>転送元 / 送信側</translation>
+    </message>
+    <message>
+        <source>Target / Receiver</source>
+        <translation>転送先 / 受信側</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RolePage</name>
+    <message>
+        <source>Select This PC&apos;s Role</source>
+        <translation>この PC の役割を選択</translation>
+    </message>
+    <message>
+        <source>Choose what role this computer plays in the transfer</source>
+        <translation>転送におけるこのコンピューターの役割を選択してください</translation>
+    </message>
+    <message>
+        <source>Both computers need Zandrove installed and running</source>
+        <translation>どちらのコンピューターでも Zandrove をインストールして実行してください</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ScanningPage</name>
+    <message>
+        <source>Finding apps, files and settings to transfer...</source>
+        <translation>転送できるアプリ、ファイル、設定を探しています...</translation>
+    </message>
+    <message>
+        <source>Scanning system...</source>
+        <translation>システムをスキャンしています...</translation>
+    </message>
+    <message>
+        <source>Scanning Your PC</source>
+        <translation>PC をスキャンしています</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>アプリ</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>アカウント</translation>
+    </message>
+    <message>
+        <source>Scan complete!</source>
+        <translation>スキャンが完了しました</translation>
+    </message>
+    <message>
+        <source>Found items ready to transfer</source>
+        <translation>見つかった項目を転送できます</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::SelectionPage</name>
+    <message>
+        <source>Total: %1</source>
+        <translation>合計: %1</translation>
+    </message>
+    <message>
+        <source>Applications (%1)</source>
+        <translation>アプリ (%1)</translation>
+    </message>
+    <message>
+        <source>Files (%1)</source>
+        <translation>ファイル (%1)</translation>
+    </message>
+    <message>
+        <source>Settings (%1)</source>
+        <translation>設定 (%1)</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>アプリ</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Accounts &amp; Settings</source>
+        <translation>アカウントと設定</translation>
+    </message>
+    <message>
+        <source>Total: 0 GB</source>
+        <translation>合計: 0 GB</translation>
+    </message>
+    <message>
+        <source>Select Content to Transfer</source>
+        <translation>転送する内容を選択</translation>
+    </message>
+    <message>
+        <source>Select All Applications</source>
+        <translation>すべてのアプリを選択</translation>
+    </message>
+    <message>
+        <source>User Accounts</source>
+        <translation>ユーザー アカウント</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>System Settings</source>
+        <translation>システム設定</translation>
+    </message>
+    <message>
+        <source>Same-name files:</source>
+        <translation>同名のファイル:</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>スキップ</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>上書き</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>名前を変更</translation>
+    </message>
+    <message>
+        <source>Existing apps:</source>
+        <translation>既存のアプリ:</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::SettingMigrator</name>
+    <message>
+        <source>Export failed</source>
+        <translation>エクスポートに失敗しました</translation>
+    </message>
+    <message>
+        <source>Failed to apply setting</source>
+        <translation>設定を適用できませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::SettingScanner</name>
+    <message>
+        <source>Scanning system settings...</source>
+        <translation>システム設定をスキャンしています...</translation>
+    </message>
+    <message>
+        <source>Desktop Wallpaper</source>
+        <translation>デスクトップの背景</translation>
+    </message>
+    <message>
+        <source>Personalization</source>
+        <translation>個人用設定</translation>
+    </message>
+    <message>
+        <source>Current desktop background image</source>
+        <translation>現在のデスクトップの背景画像</translation>
+    </message>
+    <message>
+        <source>Scanning taskbar settings...</source>
+        <translation>タスク バーの設定をスキャンしています...</translation>
+    </message>
+    <message>
+        <source>Taskbar Settings</source>
+        <translation>タスク バーの設定</translation>
+    </message>
+    <message>
+        <source>Taskbar position, auto-hide, and icon settings</source>
+        <translation>タスク バーの位置、自動的に隠す設定、アイコンの設定</translation>
+    </message>
+    <message>
+        <source>Scanning file explorer settings...</source>
+        <translation>エクスプローラーの設定をスキャンしています...</translation>
+    </message>
+    <message>
+        <source>File Explorer Settings</source>
+        <translation>エクスプローラーの設定</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>システム</translation>
+    </message>
+    <message>
+        <source>Show hidden files, file extensions, view options</source>
+        <translation>隠しファイルと拡張子の表示、表示オプション</translation>
+    </message>
+    <message>
+        <source>Scanning mouse settings...</source>
+        <translation>マウスの設定をスキャンしています...</translation>
+    </message>
+    <message>
+        <source>Mouse Settings</source>
+        <translation>マウスの設定</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>ハードウェア</translation>
+    </message>
+    <message>
+        <source>Mouse speed, button configuration, scroll settings</source>
+        <translation>マウスの速度、ボタンの構成、スクロールの設定</translation>
+    </message>
+    <message>
+        <source>Scanning keyboard settings...</source>
+        <translation>キーボードの設定をスキャンしています...</translation>
+    </message>
+    <message>
+        <source>Keyboard Settings</source>
+        <translation>キーボードの設定</translation>
+    </message>
+    <message>
+        <source>Keyboard repeat rate and delay</source>
+        <translation>キーボードの表示の間隔と表示までの待ち時間</translation>
+    </message>
+    <message>
+        <source>Scanning power settings...</source>
+        <translation>電源の設定をスキャンしています...</translation>
+    </message>
+    <message>
+        <source>Power Settings</source>
+        <translation>電源の設定</translation>
+    </message>
+    <message>
+        <source>Current power plan settings</source>
+        <translation>現在の電源プランの設定</translation>
+    </message>
+    <message>
+        <source>Scanning environment variables...</source>
+        <translation>環境変数をスキャンしています...</translation>
+    </message>
+    <message>
+        <source>User Environment Variables</source>
+        <translation>ユーザー環境変数</translation>
+    </message>
+    <message>
+        <source>User-defined environment variables (%1 variables)</source>
+        <translation>ユーザー定義の環境変数 (%1 個)</translation>
+    </message>
+    <message>
+        <source>Scanning display settings...</source>
+        <translation>ディスプレイの設定をスキャンしています...</translation>
+    </message>
+    <message>
+        <source>Theme &amp; Display Settings</source>
+        <translation>テーマとディスプレイの設定</translation>
+    </message>
+    <message>
+        <source>Dark/Light mode, transparency, color settings</source>
+        <translation>ダーク/ライト モード、透明効果、色の設定</translation>
+    </message>
+    <message>
+        <source>Scanning sound settings...</source>
+        <translation>サウンドの設定をスキャンしています...</translation>
+    </message>
+    <message>
+        <source>Sound Scheme</source>
+        <translation>サウンド設定</translation>
+    </message>
+    <message>
+        <source>System sounds and notification settings</source>
+        <translation>システムのサウンドと通知の設定</translation>
+    </message>
+    <message>
+        <source>Scan complete</source>
+        <translation>スキャンが完了しました</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::StageIndicator</name>
+    <message>
+        <source>Prepare</source>
+        <translation>準備</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>アプリ</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>検証</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::TitleBar</name>
+    <message>
+        <source>Activate</source>
+        <translation>ライセンス認証</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>メニュー</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>バージョン情報</translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation>登録</translation>
+    </message>
+    <message>
+        <source>Purchase</source>
+        <translation>購入</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>サポート</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>元のサイズに戻す</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::TransferEngine</name>
+    <message>
+        <source>Network manager not initialized</source>
+        <translation>ネットワーク マネージャーが初期化されていません</translation>
+    </message>
+    <message>
+        <source>Discovery started. Verification code: %1</source>
+        <translation>デバイスの検索を開始しました。確認コード: %1</translation>
+    </message>
+    <message>
+        <source>Broadcast restarted. Verification code: %1</source>
+        <translation>ブロードキャストを再開しました。確認コード: %1</translation>
+    </message>
+    <message>
+        <source>No PC found with verification code: %1</source>
+        <translation>次の確認コードの PC が見つかりません: %1</translation>
+    </message>
+    <message>
+        <source>Invalid verification code</source>
+        <translation>確認コードが無効です</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>%1 に接続しました</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>切断されました</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>接続に失敗しました: %1</translation>
+    </message>
+    <message>
+        <source>Connection timeout</source>
+        <translation>接続がタイムアウトしました</translation>
+    </message>
+    <message>
+        <source>Transfer already in progress</source>
+        <translation>転送は既に実行中です</translation>
+    </message>
+    <message>
+        <source>Cannot start transfer. Check connection and selection.</source>
+        <translation>転送を開始できません。接続と選択内容を確認してください。</translation>
+    </message>
+    <message>
+        <source>Transfer started - %1 items selected</source>
+        <translation>転送を開始しました - %1 個の項目を選択</translation>
+    </message>
+    <message>
+        <source>Waiting to receive files...</source>
+        <translation>ファイルの受信を待っています...</translation>
+    </message>
+    <message>
+        <source>Transfer paused</source>
+        <translation>転送を一時停止しました</translation>
+    </message>
+    <message>
+        <source>Transfer resumed</source>
+        <translation>転送を再開しました</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled</source>
+        <translation>転送をキャンセルしました</translation>
+    </message>
+    <message>
+        <source>Retrying failed items...</source>
+        <translation>失敗した項目を再試行しています...</translation>
+    </message>
+    <message>
+        <source>Transfer completed - Success rate: %1%</source>
+        <translation>転送が完了しました - 成功率: %1%</translation>
+    </message>
+    <message>
+        <source>Transfer failed: %1</source>
+        <translation>転送に失敗しました: %1</translation>
+    </message>
+    <message>
+        <source>Engine reset</source>
+        <translation>エンジンをリセットしました</translation>
+    </message>
+    <message>
+        <source>Ready for new connection</source>
+        <translation>新しい接続の準備ができました</translation>
+    </message>
+    <message>
+        <source>Scan already in progress</source>
+        <translation>スキャンは既に実行中です</translation>
+    </message>
+    <message>
+        <source>Not connected to source PC</source>
+        <translation>転送元の PC に接続していません</translation>
+    </message>
+    <message>
+        <source>Starting system scan...</source>
+        <translation>システムのスキャンを開始しています...</translation>
+    </message>
+    <message>
+        <source>Scan cancelled</source>
+        <translation>スキャンをキャンセルしました</translation>
+    </message>
+    <message>
+        <source>Scan error: %1</source>
+        <translation>スキャン エラー: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::TransferPage</name>
+    <message>
+        <source>Receiving Data</source>
+        <translation>データを受信中</translation>
+    </message>
+    <message>
+        <source>Sending Data</source>
+        <translation>データを送信中</translation>
+    </message>
+    <message>
+        <source>Waiting for Data...</source>
+        <translation>データを待っています...</translation>
+    </message>
+    <message>
+        <source>Waiting...</source>
+        <translation>待機中...</translation>
+    </message>
+    <message>
+        <source>Receiving Data - %1%</source>
+        <translation>データを受信中 - %1%</translation>
+    </message>
+    <message>
+        <source>Sending Data - %1%</source>
+        <translation>データを送信中 - %1%</translation>
+    </message>
+    <message>
+        <source>Transfer Failed</source>
+        <translation>転送に失敗しました</translation>
+    </message>
+    <message>
+        <source>Receiving Paused</source>
+        <translation>受信を一時停止中</translation>
+    </message>
+    <message>
+        <source>Sending Paused</source>
+        <translation>送信を一時停止中</translation>
+    </message>
+    <message>
+        <source>Cancel Transfer</source>
+        <translation>転送のキャンセル</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the transfer?</source>
+        <translation>転送をキャンセルしますか？</translation>
+    </message>
+    <message>
+        <source>All progress will be lost and incomplete files may remain on the destination.</source>
+        <translation>これまでの進行状況は失われ、不完全なファイルが転送先に残ることがあります。</translation>
+    </message>
+    <message>
+        <source>Yes, Cancel</source>
+        <translation>はい、キャンセル</translation>
+    </message>
+    <message>
+        <source>Continue Transfer</source>
+        <translation>転送を続ける</translation>
+    </message>
+    <message>
+        <source>Sender cancelled. Waiting...</source>
+        <translation>送信側がキャンセルしました。待機中...</translation>
+    </message>
+    <message>
+        <source>Transferring Data</source>
+        <translation>データを転送中</translation>
+    </message>
+    <message>
+        <source>Current Files</source>
+        <translation>現在のファイル</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
+        <source>▶ Resume</source>
+        <translation>▶ 再開</translation>
+    </message>
+    <message>
+        <source>⏸ Pause</source>
+        <translation>⏸ 一時停止</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1 件失敗</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::VerifyCodeWidget</name>
+    <message>
+        <source>Verification Code</source>
+        <translation>確認コード</translation>
+    </message>
+    <message>
+        <source>Enter on the other PC</source>
+        <translation>もう一方の PC で入力してください</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::WelcomePage</name>
+    <message>
+        <source>Transfer files, apps and settings to your new PC</source>
+        <translation>ファイル、アプリ、設定を新しい PC に転送します</translation>
+    </message>
+    <message>
+        <source>Network Mode</source>
+        <translation>ネットワーク モード</translation>
+    </message>
+    <message>
+        <source>Wi-Fi / LAN (Same Network)</source>
+        <translation>Wi-Fi / LAN (同じネットワーク)</translation>
+    </message>
+    <message>
+        <source>Cable Mode</source>
+        <translation>ケーブル モード</translation>
+    </message>
+    <message>
+        <source>USB-C or Ethernet Cable</source>
+        <translation>USB-C またはイーサネット ケーブル</translation>
+    </message>
+</context>
+</TS>

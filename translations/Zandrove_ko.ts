@@ -1,0 +1,1784 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko" sourcelanguage="en">
+<context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>연결이 거부되었습니다</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>연결 시간이 초과되었습니다</translation>
+    </message>
+    <message>
+        <source>Host not found</source>
+        <translation>호스트를 찾을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>네트워크에 연결할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>소켓 작업 시간이 초과되었습니다</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>No such file or directory</source>
+        <translation>파일 또는 디렉터리가 없습니다</translation>
+    </message>
+    <message>
+        <source>No space left on device</source>
+        <translation>장치에 남은 공간이 없습니다</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>액세스가 거부되었습니다</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>열려 있는 파일이 너무 많습니다</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>알 수 없는 오류</translation>
+    </message>
+</context>
+<context>
+    <name>QLineEdit</name>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>실행 취소(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>다시 실행(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>잘라내기(&amp;T)</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>복사(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>붙여넣기(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>모두 선택</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>연결이 거부되었습니다</translation>
+    </message>
+    <message>
+        <source>Connection reset by peer</source>
+        <translation>상대방이 연결을 다시 설정했습니다</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>연결 시간이 초과되었습니다</translation>
+    </message>
+    <message>
+        <source>Host unreachable</source>
+        <translation>호스트에 연결할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Network dropped connection on reset</source>
+        <translation>네트워크가 다시 설정되어 연결이 끊어졌습니다</translation>
+    </message>
+    <message>
+        <source>Network operation timed out</source>
+        <translation>네트워크 작업 시간이 초과되었습니다</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>네트워크에 연결할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>액세스가 거부되었습니다</translation>
+    </message>
+    <message>
+        <source>The address is not available</source>
+        <translation>주소를 사용할 수 없습니다</translation>
+    </message>
+    <message>
+        <source>The remote host closed the connection</source>
+        <translation>원격 호스트가 연결을 닫았습니다</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>알 수 없는 오류</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>예(&amp;Y)</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>아니요(&amp;N)</translation>
+    </message>
+</context>
+<context>
+    <name>QScrollBar</name>
+    <message>
+        <source>Scroll here</source>
+        <translation>여기로 스크롤</translation>
+    </message>
+    <message>
+        <source>Left edge</source>
+        <translation>왼쪽 끝</translation>
+    </message>
+    <message>
+        <source>Right edge</source>
+        <translation>오른쪽 끝</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>맨 위</translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation>맨 아래</translation>
+    </message>
+    <message>
+        <source>Page left</source>
+        <translation>한 페이지 왼쪽으로</translation>
+    </message>
+    <message>
+        <source>Page right</source>
+        <translation>한 페이지 오른쪽으로</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>한 페이지 위로</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>한 페이지 아래로</translation>
+    </message>
+    <message>
+        <source>Scroll left</source>
+        <translation>왼쪽으로 스크롤</translation>
+    </message>
+    <message>
+        <source>Scroll right</source>
+        <translation>오른쪽으로 스크롤</translation>
+    </message>
+    <message>
+        <source>Scroll up</source>
+        <translation>위로 스크롤</translation>
+    </message>
+    <message>
+        <source>Scroll down</source>
+        <translation>아래로 스크롤</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AccountScanner</name>
+    <message>
+        <source>Scanning user accounts...</source>
+        <translation>사용자 계정을 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>Enumerating Windows accounts...</source>
+        <translation>Windows 계정을 열거하는 중...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppInstaller</name>
+    <message>
+        <source>Copying install files...</source>
+        <translation>설치 파일을 복사하는 중...</translation>
+    </message>
+    <message>
+        <source>Copying AppData files...</source>
+        <translation>AppData 파일을 복사하는 중...</translation>
+    </message>
+    <message>
+        <source>Importing registry...</source>
+        <translation>레지스트리를 가져오는 중...</translation>
+    </message>
+    <message>
+        <source>Creating shortcuts...</source>
+        <translation>바로 가기를 만드는 중...</translation>
+    </message>
+    <message>
+        <source>Installation complete</source>
+        <translation>설치 완료</translation>
+    </message>
+    <message>
+        <source>Failed to copy install files</source>
+        <translation>설치 파일을 복사하지 못했습니다</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppListItem</name>
+    <message>
+        <source>System App</source>
+        <translation>시스템 앱</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppMigrator</name>
+    <message>
+        <source>Sending app info...</source>
+        <translation>앱 정보를 보내는 중...</translation>
+    </message>
+    <message>
+        <source>Sending shortcuts...</source>
+        <translation>바로 가기를 보내는 중...</translation>
+    </message>
+    <message>
+        <source>Completing...</source>
+        <translation>완료하는 중...</translation>
+    </message>
+    <message>
+        <source>Exporting registry...</source>
+        <translation>레지스트리를 내보내는 중...</translation>
+    </message>
+    <message>
+        <source>Sending install files...</source>
+        <translation>설치 파일을 보내는 중...</translation>
+    </message>
+    <message>
+        <source>Sending AppData Local...</source>
+        <translation>AppData Local을 보내는 중...</translation>
+    </message>
+    <message>
+        <source>Sending AppData Roaming...</source>
+        <translation>AppData Roaming을 보내는 중...</translation>
+    </message>
+    <message>
+        <source>Sending ProgramData...</source>
+        <translation>ProgramData를 보내는 중...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::AppScanner</name>
+    <message>
+        <source>Scanning installed applications...</source>
+        <translation>설치된 앱을 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>Scanning user installed applications...</source>
+        <translation>사용자가 설치한 앱을 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>Scanning Program Files...</source>
+        <translation>Program Files를 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>Scanning user software registry...</source>
+        <translation>사용자 소프트웨어 레지스트리를 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>Scan complete</source>
+        <translation>검색 완료</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::DiscoverSession</name>
+    <message>
+        <source>this PC is only looking around.</source>
+        <translation>이 PC는 다른 PC를 찾고 있을 뿐입니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::FolderCheck</name>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>%1 폴더가 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is not a folder.</source>
+        <translation>%1은(는) 폴더가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>The folder %1 can&apos;t be read.</source>
+        <translation>%1 폴더를 읽을 수 없습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::ItemChoice</name>
+    <message>
+        <source>The application %1 cannot be moved.</source>
+        <translation>%1 앱은 옮길 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>There is no application %1 on this PC. See zandrove-cli scan.</source>
+        <translation>이 PC에 %1 앱이 없습니다. zandrove-cli scan을 참조하십시오.</translation>
+    </message>
+    <message>
+        <source>There is no setting %1 on this PC. See zandrove-cli scan.</source>
+        <translation>이 PC에 %1 설정이 없습니다. zandrove-cli scan을 참조하십시오.</translation>
+    </message>
+    <message>
+        <source>This PC has nothing of that to move. See zandrove-cli scan.</source>
+        <translation>이 PC에는 그중 전송할 것이 없습니다. zandrove-cli scan을 참조하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Options</name>
+    <message>
+        <source>%1 is not a number of seconds from 1 to %2.</source>
+        <translation>초는 1에서 %2 사이의 숫자여야 합니다. 잘못된 값: %1.</translation>
+    </message>
+    <message>
+        <source>--mode is network or cable, not %1.</source>
+        <translation>--mode에는 network 또는 cable만 쓸 수 있습니다. 잘못된 값: %1.</translation>
+    </message>
+    <message>
+        <source>--role is old or new, not %1.</source>
+        <translation>--role에는 old 또는 new만 쓸 수 있습니다. 잘못된 값: %1.</translation>
+    </message>
+    <message>
+        <source>--to needs a code, a name or an address.</source>
+        <translation>--to에는 확인 코드, 이름 또는 주소가 필요합니다.</translation>
+    </message>
+    <message>
+        <source>--folder needs a folder.</source>
+        <translation>--folder에는 폴더가 필요합니다.</translation>
+    </message>
+    <message>
+        <source>The New PC: the four digits on its screen, its name or its address.</source>
+        <translation>새 PC. 화면에 표시된 네 자리 숫자, 이름 또는 주소를 지정합니다.</translation>
+    </message>
+    <message>
+        <source>A folder to move; may be given several times.</source>
+        <translation>옮길 폴더. 여러 번 지정할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Let every PC in that asks, without a question.</source>
+        <translation>연결을 요청하는 모든 PC를 묻지 않고 허용합니다.</translation>
+    </message>
+    <message>
+        <source>End after the first transfer.</source>
+        <translation>첫 번째 전송 후 종료합니다.</translation>
+    </message>
+    <message>
+        <source>End with exit code 3 when nothing has begun to arrive within S seconds. Counted anew each time the program starts to wait; a running transfer is never cut.</source>
+        <translation>S초 안에 아무것도 도착하기 시작하지 않으면 종료 코드 3으로 종료합니다. 대기를 시작할 때마다 다시 셉니다. 진행 중인 전송은 중단되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>What this PC is. An Old PC sees the New PCs, a New PC the Old PCs.</source>
+        <translation>이 PC의 역할. 이전 PC에는 새 PC가 보이고, 새 PC에는 이전 PC가 보입니다.</translation>
+    </message>
+    <message>
+        <source>Look for N seconds; without it, until Ctrl-C.</source>
+        <translation>N초 동안 찾습니다. 지정하지 않으면 Ctrl-C를 누를 때까지 찾습니다.</translation>
+    </message>
+    <message>
+        <source>How PCs find each other: by broadcast (the default), or over a direct cable, where the addresses around this PC&apos;s own are tried as well.</source>
+        <translation>PC가 서로를 찾는 방법. 브로드캐스트(기본값) 또는 직접 연결한 케이블입니다. 케이블에서는 이 PC의 주소 앞뒤에 있는 주소도 시도합니다.</translation>
+    </message>
+    <message>
+        <source>Obey commands on standard input, one a line: yes, no (answer a request), pause, resume, cancel, end.</source>
+        <translation>표준 입력의 명령을 한 줄에 하나씩 따릅니다. yes, no(요청에 응답), pause, resume, cancel, end.</translation>
+    </message>
+    <message>
+        <source>Obey commands on standard input, one a line: pause, resume, cancel, again [DIR] (a further transfer on the same link), end. The link then stays after a transfer until end, or until standard input ends.</source>
+        <translation>표준 입력의 명령을 한 줄에 하나씩 따릅니다. pause, resume, cancel, again [DIR](같은 연결로 다시 전송), end. 이때 연결은 전송 후에도 end 명령이나 표준 입력이 끝날 때까지 유지됩니다.</translation>
+    </message>
+    <message>
+        <source>Print one JSON object a line, for scripts.</source>
+        <translation>스크립트에서 쓸 수 있도록 한 줄에 JSON 개체를 하나씩 출력합니다.</translation>
+    </message>
+    <message>
+        <source>Print the program&apos;s log on standard error.</source>
+        <translation>프로그램의 로그를 표준 오류로 출력합니다.</translation>
+    </message>
+    <message>
+        <source>Be the New PC: show a code, wait for an Old PC, receive what it sends.</source>
+        <translation>새 PC가 됩니다. 확인 코드를 표시하고, 이전 PC를 기다리고, 보내는 것을 받습니다.</translation>
+    </message>
+    <message>
+        <source>List the PCs on the network as they come and go.</source>
+        <translation>네트워크에 나타나고 사라지는 PC를 나열합니다.</translation>
+    </message>
+    <message>
+        <source>List what can be moved from this PC: applications, folders, accounts and settings.</source>
+        <translation>이 PC에서 옮길 수 있는 앱, 폴더, 계정, 설정을 나열합니다.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>종료 코드: 0 모두 옮겼거나 나열함, 1 연결 또는 실행이 실패했거나 거부됨, 2 잘못된 사용법, 3 시간 초과, 4 끝났으나 실패하거나 건너뛴 항목이 있음, 130 Ctrl-C로 취소됨(다른 PC에 알립니다. Ctrl-C를 한 번 더 누르면 바로 종료합니다).</translation>
+    </message>
+    <message>
+        <source>This text; after a command, the help of that command.</source>
+        <translation>이 도움말을 표시합니다. 명령 뒤에 쓰면 그 명령의 도움말을 표시합니다.</translation>
+    </message>
+    <message>
+        <source>The version of the program.</source>
+        <translation>프로그램의 버전을 표시합니다.</translation>
+    </message>
+    <message>
+        <source>Unknown option %1. See --help.</source>
+        <translation>알 수 없는 옵션 %1. --help를 참조하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 takes no value.</source>
+        <translation>%1에는 값을 지정할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 needs a value.</source>
+        <translation>%1에는 값이 필요합니다.</translation>
+    </message>
+    <message>
+        <source>send needs --to with the New PC&apos;s code, name or address.</source>
+        <translation>send에는 새 PC의 확인 코드, 이름 또는 주소를 지정하는 --to가 필요합니다.</translation>
+    </message>
+    <message>
+        <source>discover needs --role old or --role new.</source>
+        <translation>discover에는 --role old 또는 --role new가 필요합니다.</translation>
+    </message>
+    <message>
+        <source>Unexpected argument %1. See --help.</source>
+        <translation>예기치 않은 인수 %1. --help를 참조하십시오.</translation>
+    </message>
+    <message>
+        <source>Say receive, send, discover or scan. See --help.</source>
+        <translation>receive, send, discover, scan 중 하나를 지정하십시오. --help를 참조하십시오.</translation>
+    </message>
+    <message>
+        <source>Unknown command %1. See --help.</source>
+        <translation>알 수 없는 명령 %1. --help를 참조하십시오.</translation>
+    </message>
+    <message>
+        <source>An application to move, by the exact name that scan lists; may be given several times.</source>
+        <translation>옮길 앱. scan에 표시되는 이름 그대로 지정합니다. 여러 번 지정할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Move every application that can be moved.</source>
+        <translation>옮길 수 있는 모든 앱을 옮깁니다.</translation>
+    </message>
+    <message>
+        <source>A setting to move, by the id that scan lists; may be given several times.</source>
+        <translation>옮길 설정. scan에 표시되는 ID로 지정합니다. 여러 번 지정할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Move every setting that this PC has.</source>
+        <translation>이 PC의 모든 설정을 옮깁니다.</translation>
+    </message>
+    <message>
+        <source>End with exit code 3 when the New PC was not found and has not let this PC in within S seconds. Counted from when it is looked for; the transfer itself is never cut.</source>
+        <translation>S초 안에 새 PC를 찾지 못하거나 새 PC가 이 PC를 허용하지 않으면 종료 코드 3으로 종료합니다. 찾기 시작한 때부터 셉니다. 전송 자체는 중단되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Be the Old PC: find the New PC, wait for its yes, send folders, applications and settings.</source>
+        <translation>이전 PC가 됩니다. 새 PC를 찾고, 허용을 기다리고, 폴더, 앱, 설정을 보냅니다.</translation>
+    </message>
+    <message>
+        <source>zandrove-cli moves folders, applications and settings from an Old PC to a New PC on the same network.</source>
+        <translation>zandrove-cli는 같은 네트워크에 있는 이전 PC에서 새 PC로 폴더, 앱, 설정을 옮깁니다.</translation>
+    </message>
+    <message>
+        <source>send needs something to move: a --folder, an --app or a --setting.</source>
+        <translation>send에는 옮길 것(--folder, --app 또는 --setting)이 필요합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Output</name>
+    <message>
+        <source>Allow %1 to connect? [y/N] </source>
+        <translation>연결을 허용하시겠습니까? %1 [y/N] </translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::ReceiveSession</name>
+    <message>
+        <source>Nobody can be asked here: every request will be refused without --yes.</source>
+        <translation>여기서는 물어볼 사람이 없습니다. --yes가 없으면 모든 요청을 거부합니다.</translation>
+    </message>
+    <message>
+        <source>this PC is receiving from %1.</source>
+        <translation>이 PC는 %1에서 받는 중입니다.</translation>
+    </message>
+    <message>
+        <source>nobody can be asked here. Start with --yes to let every PC in.</source>
+        <translation>여기서는 물어볼 사람이 없습니다. 모든 PC를 허용하려면 --yes로 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>연결을 요청한 PC가 더 이상 없습니다: %1.</translation>
+    </message>
+    <message>
+        <source>The link to %1 broke during a transfer.</source>
+        <translation>전송 중에 연결이 끊어졌습니다: %1.</translation>
+    </message>
+    <message>
+        <source>%1 ended the session during a transfer.</source>
+        <translation>전송 중에 상대 PC가 세션을 끝냈습니다: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing began to arrive within %1 seconds.</source>
+        <translation>%1초 안에 아무것도 도착하기 시작하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Some settings are still being applied; the report is without them.</source>
+        <translation>일부 설정이 아직 적용 중이며 보고서에는 빠져 있습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::SendSession</name>
+    <message>
+        <source>this PC is sending to %1.</source>
+        <translation>이 PC는 %1(으)로 보내는 중입니다.</translation>
+    </message>
+    <message>
+        <source>The link to %1 broke.</source>
+        <translation>연결이 끊어졌습니다: %1.</translation>
+    </message>
+    <message>
+        <source>%1 ended the session.</source>
+        <translation>상대 PC가 세션을 끝냈습니다: %1.</translation>
+    </message>
+    <message>
+        <source>There is no finished transfer to follow.</source>
+        <translation>이어서 할 완료된 전송이 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 was not found within %2 seconds.</source>
+        <translation>%2초 안에 찾지 못했습니다: %1.</translation>
+    </message>
+    <message>
+        <source>%1 did not answer within %2 seconds.</source>
+        <translation>%2초 안에 응답이 없었습니다: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Session</name>
+    <message>
+        <source>Unknown command: %1</source>
+        <translation>알 수 없는 명령: %1</translation>
+    </message>
+    <message>
+        <source>The other PC did not end the session: not everything may have arrived.</source>
+        <translation>다른 PC가 세션을 끝내지 않았습니다. 일부가 도착하지 않았을 수 있습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::TextOutput</name>
+    <message>
+        <source>The code of this PC is %1. Waiting for an Old PC.</source>
+        <translation>이 PC의 확인 코드는 %1입니다. 이전 PC를 기다리는 중입니다.</translation>
+    </message>
+    <message>
+        <source>code %1</source>
+        <translation>확인 코드 %1</translation>
+    </message>
+    <message>
+        <source>Found %1. Waiting for it to let this PC in.</source>
+        <translation>찾았습니다: %1. 연결 허용을 기다리는 중입니다.</translation>
+    </message>
+    <message>
+        <source>%1 was refused.</source>
+        <translation>거부했습니다: %1.</translation>
+    </message>
+    <message>
+        <source>%1 was refused: %2</source>
+        <translation>거부했습니다: %1: %2</translation>
+    </message>
+    <message>
+        <source>Connected to %1.</source>
+        <translation>연결되었습니다: %1.</translation>
+    </message>
+    <message>
+        <source>Disconnected from %1.</source>
+        <translation>연결이 끊어졌습니다: %1.</translation>
+    </message>
+    <message>
+        <source>Receiving</source>
+        <translation>받는 중</translation>
+    </message>
+    <message>
+        <source>Sending</source>
+        <translation>보내는 중</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>%1 남음</translation>
+    </message>
+    <message>
+        <source>%1 was not moved: %2</source>
+        <translation>옮기지 못함: %1: %2</translation>
+    </message>
+    <message>
+        <source>Paused.</source>
+        <translation>일시 중지했습니다.</translation>
+    </message>
+    <message>
+        <source>Paused by %1.</source>
+        <translation>상대 PC가 일시 중지했습니다: %1.</translation>
+    </message>
+    <message>
+        <source>Resumed.</source>
+        <translation>다시 시작했습니다.</translation>
+    </message>
+    <message>
+        <source>Resumed by %1.</source>
+        <translation>상대 PC가 다시 시작했습니다: %1.</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>취소했습니다.</translation>
+    </message>
+    <message>
+        <source>Cancelled by %1.</source>
+        <translation>상대 PC가 취소했습니다: %1.</translation>
+    </message>
+    <message>
+        <source>Files: %1 received, %2 failed, %3 skipped.</source>
+        <translation>파일: 받음 %1, 실패 %2, 건너뜀 %3.</translation>
+    </message>
+    <message>
+        <source>Files: %1 sent, %2 failed, %3 skipped.</source>
+        <translation>파일: 보냄 %1, 실패 %2, 건너뜀 %3.</translation>
+    </message>
+    <message>
+        <source>Files saved:</source>
+        <translation>파일 저장 위치:</translation>
+    </message>
+    <message>
+        <source>Scanning %1%  %2 applications</source>
+        <translation>검색 중 %1%  앱 %2개</translation>
+    </message>
+    <message>
+        <source>(cannot be moved)</source>
+        <translation>(옮길 수 없음)</translation>
+    </message>
+    <message>
+        <source>Applications: %1</source>
+        <translation>앱: %1</translation>
+    </message>
+    <message>
+        <source>files: %1</source>
+        <translation>파일: %1</translation>
+    </message>
+    <message>
+        <source>Folders: %1</source>
+        <translation>폴더: %1</translation>
+    </message>
+    <message>
+        <source>Accounts: %1</source>
+        <translation>계정: %1</translation>
+    </message>
+    <message>
+        <source>Settings: %1</source>
+        <translation>설정: %1</translation>
+    </message>
+    <message>
+        <source>%1 in applications and folders.</source>
+        <translation>앱과 폴더를 합해 %1입니다.</translation>
+    </message>
+    <message>
+        <source>Done in %1: %2, %3 on average.</source>
+        <translation>%1 만에 완료: %2, 평균 %3.</translation>
+    </message>
+    <message>
+        <source>Done in %1: %2.</source>
+        <translation>%1 만에 완료: %2.</translation>
+    </message>
+    <message>
+        <source>Applications:</source>
+        <translation>앱:</translation>
+    </message>
+    <message>
+        <source>installed</source>
+        <translation>설치됨</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>보냄</translation>
+    </message>
+    <message>
+        <source>Settings:</source>
+        <translation>설정:</translation>
+    </message>
+    <message>
+        <source>applied</source>
+        <translation>적용됨</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>실패</translation>
+    </message>
+    <message>
+        <source>failed: %1</source>
+        <translation>실패: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::CompletePage</name>
+    <message>
+        <source>Transfer Complete!</source>
+        <translation>전송 완료!</translation>
+    </message>
+    <message>
+        <source>Your files, apps and settings have been successfully transferred</source>
+        <translation>파일, 앱, 설정을 모두 전송했습니다</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>앱</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>Files saved to:</source>
+        <translation>파일 저장 위치:</translation>
+    </message>
+    <message>
+        <source>Waiting for more files...</source>
+        <translation>추가 파일을 기다리는 중...</translation>
+    </message>
+    <message>
+        <source>✓ Finished</source>
+        <translation>✓ 완료</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>완료</translation>
+    </message>
+    <message>
+        <source>📂 Send More Files...</source>
+        <translation>📂 파일 더 보내기...</translation>
+    </message>
+    <message>
+        <source>Send More Files...</source>
+        <translation>파일 더 보내기...</translation>
+    </message>
+    <message>
+        <source>Received Files</source>
+        <translation>받은 파일</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>파일 %1개</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>열기</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ConnectionPage</name>
+    <message>
+        <source>Available Devices</source>
+        <translation>사용 가능한 장치</translation>
+    </message>
+    <message>
+        <source>%1 device(s) found, %2 online</source>
+        <translation>장치 %1대 찾음, %2대 온라인</translation>
+    </message>
+    <message>
+        <source>Connecting to %1...</source>
+        <translation>%1에 연결하는 중...</translation>
+    </message>
+    <message>
+        <source>Verifying code...</source>
+        <translation>코드를 확인하는 중...</translation>
+    </message>
+    <message>
+        <source>Connection request from %1...</source>
+        <translation>%1의 연결 요청...</translation>
+    </message>
+    <message>
+        <source>Connection Request</source>
+        <translation>연결 요청</translation>
+    </message>
+    <message>
+        <source>&apos;%1&apos; wants to connect to this PC.
+
+Do you want to accept?</source>
+        <translation>&apos;%1&apos;에서 이 PC에 연결하려고 합니다.
+
+수락하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Connection rejected</source>
+        <translation>연결이 거부되었습니다</translation>
+    </message>
+    <message>
+        <source>The other PC is no longer waiting</source>
+        <translation>다른 PC가 더 이상 기다리지 않습니다</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>연결됨</translation>
+    </message>
+    <message>
+        <source>✓ Connected to %1</source>
+        <translation>✓ %1에 연결됨</translation>
+    </message>
+    <message>
+        <source>✓ Connected successfully!</source>
+        <translation>✓ 연결되었습니다!</translation>
+    </message>
+    <message>
+        <source>✗ Connection failed: %1</source>
+        <translation>✗ 연결 실패: %1</translation>
+    </message>
+    <message>
+        <source>Scanning direct connection... 0%</source>
+        <translation>직접 연결을 검색하는 중... 0%</translation>
+    </message>
+    <message>
+        <source>Scanning Direct Connection...</source>
+        <translation>직접 연결을 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>Scanning direct connection... %1% (%2/%3)</source>
+        <translation>직접 연결을 검색하는 중... %1% (%2/%3)</translation>
+    </message>
+    <message>
+        <source>No device found. Please ensure the other PC has Zandrove running</source>
+        <translation>장치를 찾을 수 없습니다. 다른 PC에서 Zandrove가 실행 중인지 확인하십시오</translation>
+    </message>
+    <message>
+        <source>Looking for devices on your network...</source>
+        <translation>네트워크에서 장치를 찾는 중...</translation>
+    </message>
+    <message>
+        <source>🔄 Refresh</source>
+        <translation>🔄 새로 고침</translation>
+    </message>
+    <message>
+        <source>Connect to Another PC</source>
+        <translation>다른 PC에 연결</translation>
+    </message>
+    <message>
+        <source>Select a device or enter verification code</source>
+        <translation>장치를 선택하거나 확인 코드를 입력하십시오</translation>
+    </message>
+    <message>
+        <source>💡 Both PCs must be on the same network with Zandrove running</source>
+        <translation>💡 두 PC가 같은 네트워크에 있고 Zandrove가 실행 중이어야 합니다</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>새로 고침</translation>
+    </message>
+    <message>
+        <source>Scanned: 0 / 254</source>
+        <translation>검색됨: 0 / 254</translation>
+    </message>
+    <message>
+        <source>Please ensure the network cable is connected</source>
+        <translation>네트워크 케이블이 연결되어 있는지 확인하십시오</translation>
+    </message>
+    <message>
+        <source>Your Verification Code</source>
+        <translation>내 확인 코드</translation>
+    </message>
+    <message>
+        <source>Show this code to the other PC</source>
+        <translation>다른 PC에서 이 코드를 사용하십시오</translation>
+    </message>
+    <message>
+        <source>Or Enter Their Code</source>
+        <translation>또는 상대방 코드 입력</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>연결</translation>
+    </message>
+    <message>
+        <source>Their code, character %1</source>
+        <translation>상대방 코드, %1번째 문자</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileBrowserWidget</name>
+    <message>
+        <source>Quick Access</source>
+        <translation>바로 가기</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>모두 선택</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>지우기</translation>
+    </message>
+    <message>
+        <source>Select folders to transfer</source>
+        <translation>전송할 폴더 선택</translation>
+    </message>
+    <message>
+        <source>Desktop</source>
+        <translation>바탕 화면</translation>
+    </message>
+    <message>
+        <source>My Documents</source>
+        <translation>내 문서</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>사진</translation>
+    </message>
+    <message>
+        <source>Videos</source>
+        <translation>동영상</translation>
+    </message>
+    <message>
+        <source>Music</source>
+        <translation>음악</translation>
+    </message>
+    <message>
+        <source>Downloads</source>
+        <translation>다운로드</translation>
+    </message>
+    <message>
+        <source>This PC</source>
+        <translation>내 PC</translation>
+    </message>
+    <message>
+        <source>Local Disk (%1)</source>
+        <translation>로컬 디스크 (%1)</translation>
+    </message>
+    <message>
+        <source> - %1 free of %2</source>
+        <translation> - %2 중 %1 사용 가능</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileReceiverWorker</name>
+    <message>
+        <source>Write error</source>
+        <translation>쓰기 오류</translation>
+    </message>
+    <message>
+        <source>Received Files</source>
+        <translation>받은 파일</translation>
+    </message>
+    <message>
+        <source>Failed to create file</source>
+        <translation>파일을 만들지 못했습니다</translation>
+    </message>
+    <message>
+        <source>Checksum mismatch</source>
+        <translation>체크섬이 일치하지 않습니다</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileScanner</name>
+    <message>
+        <source>Starting folder scan...</source>
+        <translation>폴더 검색을 시작하는 중...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FileSenderWorker</name>
+    <message>
+        <source>File not found: %1</source>
+        <translation>파일을 찾을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Cannot open file: %1</source>
+        <translation>파일을 열 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>not a regular file</source>
+        <translation>일반 파일이 아닙니다</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FolderListItem</name>
+    <message>
+        <source>%1 files, %2</source>
+        <translation>파일 %1개, %2</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::LinkManager</name>
+    <message>
+        <source>配置错误</source>
+        <translation>구성 오류</translation>
+    </message>
+    <message>
+        <source>无法加载页面链接。
+
+请联系技术支持或重新安装软件。</source>
+        <translation>페이지 링크를 불러올 수 없습니다.
+
+기술 지원에 문의하거나 소프트웨어를 다시 설치하십시오.</translation>
+    </message>
+    <message>
+        <source>无法打开浏览器</source>
+        <translation>브라우저를 열 수 없음</translation>
+    </message>
+    <message>
+        <source>无法打开默认浏览器。
+
+请手动复制链接访问：
+%1</source>
+        <translation>기본 브라우저를 열 수 없습니다.
+
+다음 링크를 복사하여 직접 여십시오:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::MainWindow</name>
+    <message>
+        <source>Finish</source>
+        <translation>마침</translation>
+    </message>
+    <message>
+        <source>Next →</source>
+        <translation>다음 →</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>다음</translation>
+    </message>
+    <message>
+        <source>PC Migration Tool</source>
+        <translation>PC 마이그레이션 도구</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>버전 %1</translation>
+    </message>
+    <message>
+        <source>Transfer files, apps, and settings between PCs easily.</source>
+        <translation>PC 사이에서 파일, 앱, 설정을 쉽게 전송합니다.</translation>
+    </message>
+    <message>
+        <source>Copyright © %1. All rights reserved.</source>
+        <translation>Copyright © %1. 모든 권리 보유.</translation>
+    </message>
+    <message>
+        <source>About Zandrove</source>
+        <translation>Zandrove 정보</translation>
+    </message>
+    <message>
+        <source>Language Changed</source>
+        <translation>언어 변경됨</translation>
+    </message>
+    <message>
+        <source>Language has been changed.
+
+The application will restart now.</source>
+        <translation>언어가 변경되었습니다.
+
+지금 앱을 다시 시작합니다.</translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation>등록</translation>
+    </message>
+    <message>
+        <source>This copy of Zandrove is registered.</source>
+        <translation>이 Zandrove는 등록되어 있습니다.</translation>
+    </message>
+    <message>
+        <source>This copy of Zandrove is not registered.</source>
+        <translation>이 Zandrove는 등록되어 있지 않습니다.</translation>
+    </message>
+    <message>
+        <source>← Back</source>
+        <translation>← 뒤로</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::MigrationManager</name>
+    <message>
+        <source>[App] %1</source>
+        <translation>[앱] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[설정] %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::NetworkManager</name>
+    <message>
+        <source>PC not found</source>
+        <translation>PC를 찾을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>No device found with verification code: %1</source>
+        <translation>다음 확인 코드의 장치를 찾을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>알 수 없는 오류</translation>
+    </message>
+    <message>
+        <source>Connection timeout</source>
+        <translation>연결 시간이 초과되었습니다</translation>
+    </message>
+    <message>
+        <source>Connection rejected</source>
+        <translation>연결이 거부되었습니다</translation>
+    </message>
+    <message>
+        <source>PC at %1</source>
+        <translation>%1의 PC</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::PCListItem</name>
+    <message>
+        <source>Online</source>
+        <translation>온라인</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>오프라인</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ProgressCard</name>
+    <message>
+        <source>Speed</source>
+        <translation>속도</translation>
+    </message>
+    <message>
+        <source>Remaining</source>
+        <translation>남은 시간</translation>
+    </message>
+    <message>
+        <source>of %1</source>
+        <translation>/ %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ProgressDots</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>%2단계 중 %1단계</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RoleCard</name>
+    <message>
+        <source>Old PC</source>
+        <translation>이전 PC</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>새 PC</translation>
+    </message>
+    <message>
+        <source>Source / Sender</source>
+        <translation>원본 / 보내는 쪽</translation>
+    </message>
+    <message>
+        <source>Target / Receiver</source>
+        <translation>대상 / 받는 쪽</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RolePage</name>
+    <message>
+        <source>Select This PC&apos;s Role</source>
+        <translation>이 PC의 역할 선택</translation>
+    </message>
+    <message>
+        <source>Choose what role this computer plays in the transfer</source>
+        <translation>전송에서 이 컴퓨터가 맡을 역할을 선택하십시오</translation>
+    </message>
+    <message>
+        <source>Both computers need Zandrove installed and running</source>
+        <translation>두 컴퓨터 모두에 Zandrove가 설치되어 실행 중이어야 합니다</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ScanningPage</name>
+    <message>
+        <source>Finding apps, files and settings to transfer...</source>
+        <translation>전송할 앱, 파일, 설정을 찾는 중...</translation>
+    </message>
+    <message>
+        <source>Scanning system...</source>
+        <translation>시스템을 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>Scanning Your PC</source>
+        <translation>PC 검색 중</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>앱</translation>
+    </message>
+    <message>
+        <source>Accounts</source>
+        <translation>계정</translation>
+    </message>
+    <message>
+        <source>Scan complete!</source>
+        <translation>검색 완료!</translation>
+    </message>
+    <message>
+        <source>Found items ready to transfer</source>
+        <translation>찾은 항목을 전송할 수 있습니다</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::SelectionPage</name>
+    <message>
+        <source>Total: %1</source>
+        <translation>합계: %1</translation>
+    </message>
+    <message>
+        <source>Applications (%1)</source>
+        <translation>앱 (%1)</translation>
+    </message>
+    <message>
+        <source>Files (%1)</source>
+        <translation>파일 (%1)</translation>
+    </message>
+    <message>
+        <source>Settings (%1)</source>
+        <translation>설정 (%1)</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>앱</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Accounts &amp; Settings</source>
+        <translation>계정 및 설정</translation>
+    </message>
+    <message>
+        <source>Total: 0 GB</source>
+        <translation>합계: 0 GB</translation>
+    </message>
+    <message>
+        <source>Select Content to Transfer</source>
+        <translation>전송할 내용 선택</translation>
+    </message>
+    <message>
+        <source>Select All Applications</source>
+        <translation>모든 앱 선택</translation>
+    </message>
+    <message>
+        <source>User Accounts</source>
+        <translation>사용자 계정</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>모두 선택</translation>
+    </message>
+    <message>
+        <source>System Settings</source>
+        <translation>시스템 설정</translation>
+    </message>
+    <message>
+        <source>Same-name files:</source>
+        <translation>이름이 같은 파일:</translation>
+    </message>
+    <message>
+        <source>Skip</source>
+        <translation>건너뛰기</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>덮어쓰기</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>이름 바꾸기</translation>
+    </message>
+    <message>
+        <source>Existing apps:</source>
+        <translation>기존 앱:</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::SettingMigrator</name>
+    <message>
+        <source>Export failed</source>
+        <translation>내보내지 못했습니다</translation>
+    </message>
+    <message>
+        <source>Failed to apply setting</source>
+        <translation>설정을 적용하지 못했습니다</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::SettingScanner</name>
+    <message>
+        <source>Scanning system settings...</source>
+        <translation>시스템 설정을 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>Desktop Wallpaper</source>
+        <translation>바탕 화면 배경</translation>
+    </message>
+    <message>
+        <source>Personalization</source>
+        <translation>개인 설정</translation>
+    </message>
+    <message>
+        <source>Current desktop background image</source>
+        <translation>현재 바탕 화면 배경 이미지</translation>
+    </message>
+    <message>
+        <source>Scanning taskbar settings...</source>
+        <translation>작업 표시줄 설정을 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>Taskbar Settings</source>
+        <translation>작업 표시줄 설정</translation>
+    </message>
+    <message>
+        <source>Taskbar position, auto-hide, and icon settings</source>
+        <translation>작업 표시줄 위치, 자동 숨기기 및 아이콘 설정</translation>
+    </message>
+    <message>
+        <source>Scanning file explorer settings...</source>
+        <translation>파일 탐색기 설정을 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>File Explorer Settings</source>
+        <translation>파일 탐색기 설정</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>시스템</translation>
+    </message>
+    <message>
+        <source>Show hidden files, file extensions, view options</source>
+        <translation>숨김 파일 표시, 파일 확장명, 보기 옵션</translation>
+    </message>
+    <message>
+        <source>Scanning mouse settings...</source>
+        <translation>마우스 설정을 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>Mouse Settings</source>
+        <translation>마우스 설정</translation>
+    </message>
+    <message>
+        <source>Hardware</source>
+        <translation>하드웨어</translation>
+    </message>
+    <message>
+        <source>Mouse speed, button configuration, scroll settings</source>
+        <translation>마우스 속도, 단추 구성, 스크롤 설정</translation>
+    </message>
+    <message>
+        <source>Scanning keyboard settings...</source>
+        <translation>키보드 설정을 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>Keyboard Settings</source>
+        <translation>키보드 설정</translation>
+    </message>
+    <message>
+        <source>Keyboard repeat rate and delay</source>
+        <translation>키보드 반복 속도 및 재입력 시간</translation>
+    </message>
+    <message>
+        <source>Scanning power settings...</source>
+        <translation>전원 설정을 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>Power Settings</source>
+        <translation>전원 설정</translation>
+    </message>
+    <message>
+        <source>Current power plan settings</source>
+        <translation>현재 전원 관리 옵션 설정</translation>
+    </message>
+    <message>
+        <source>Scanning environment variables...</source>
+        <translation>환경 변수를 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>User Environment Variables</source>
+        <translation>사용자 환경 변수</translation>
+    </message>
+    <message>
+        <source>User-defined environment variables (%1 variables)</source>
+        <translation>사용자 정의 환경 변수 (%1개)</translation>
+    </message>
+    <message>
+        <source>Scanning display settings...</source>
+        <translation>디스플레이 설정을 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>Theme &amp; Display Settings</source>
+        <translation>테마 및 디스플레이 설정</translation>
+    </message>
+    <message>
+        <source>Dark/Light mode, transparency, color settings</source>
+        <translation>어두운/밝은 모드, 투명도, 색 설정</translation>
+    </message>
+    <message>
+        <source>Scanning sound settings...</source>
+        <translation>소리 설정을 검색하는 중...</translation>
+    </message>
+    <message>
+        <source>Sound Scheme</source>
+        <translation>소리 구성표</translation>
+    </message>
+    <message>
+        <source>System sounds and notification settings</source>
+        <translation>시스템 소리 및 알림 설정</translation>
+    </message>
+    <message>
+        <source>Scan complete</source>
+        <translation>검색 완료</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::StageIndicator</name>
+    <message>
+        <source>Prepare</source>
+        <translation>준비</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>앱</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation>검증</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::TitleBar</name>
+    <message>
+        <source>Activate</source>
+        <translation>정품 인증</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>메뉴</translation>
+    </message>
+    <message>
+        <source>Minimize</source>
+        <translation>최소화</translation>
+    </message>
+    <message>
+        <source>Maximize</source>
+        <translation>최대화</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>정보</translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation>등록</translation>
+    </message>
+    <message>
+        <source>Purchase</source>
+        <translation>구매</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>도움말</translation>
+    </message>
+    <message>
+        <source>Support</source>
+        <translation>지원</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>언어</translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation>이전 크기로 복원</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::TransferEngine</name>
+    <message>
+        <source>Network manager not initialized</source>
+        <translation>네트워크 관리자가 초기화되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>Discovery started. Verification code: %1</source>
+        <translation>장치 검색을 시작했습니다. 확인 코드: %1</translation>
+    </message>
+    <message>
+        <source>Broadcast restarted. Verification code: %1</source>
+        <translation>브로드캐스트를 다시 시작했습니다. 확인 코드: %1</translation>
+    </message>
+    <message>
+        <source>No PC found with verification code: %1</source>
+        <translation>다음 확인 코드의 PC를 찾을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Invalid verification code</source>
+        <translation>확인 코드가 잘못되었습니다</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>%1에 연결됨</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>연결 끊김</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>연결 실패: %1</translation>
+    </message>
+    <message>
+        <source>Connection timeout</source>
+        <translation>연결 시간이 초과되었습니다</translation>
+    </message>
+    <message>
+        <source>Transfer already in progress</source>
+        <translation>전송이 이미 진행 중입니다</translation>
+    </message>
+    <message>
+        <source>Cannot start transfer. Check connection and selection.</source>
+        <translation>전송을 시작할 수 없습니다. 연결과 선택 항목을 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Transfer started - %1 items selected</source>
+        <translation>전송 시작 - 항목 %1개 선택</translation>
+    </message>
+    <message>
+        <source>Waiting to receive files...</source>
+        <translation>파일 받기를 기다리는 중...</translation>
+    </message>
+    <message>
+        <source>Transfer paused</source>
+        <translation>전송 일시 중지됨</translation>
+    </message>
+    <message>
+        <source>Transfer resumed</source>
+        <translation>전송 다시 시작됨</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled</source>
+        <translation>전송 취소됨</translation>
+    </message>
+    <message>
+        <source>Retrying failed items...</source>
+        <translation>실패한 항목을 다시 시도하는 중...</translation>
+    </message>
+    <message>
+        <source>Transfer completed - Success rate: %1%</source>
+        <translation>전송 완료 - 성공률: %1%</translation>
+    </message>
+    <message>
+        <source>Transfer failed: %1</source>
+        <translation>전송 실패: %1</translation>
+    </message>
+    <message>
+        <source>Engine reset</source>
+        <translation>엔진을 초기화했습니다</translation>
+    </message>
+    <message>
+        <source>Ready for new connection</source>
+        <translation>새로 연결할 준비가 되었습니다</translation>
+    </message>
+    <message>
+        <source>Scan already in progress</source>
+        <translation>검색이 이미 진행 중입니다</translation>
+    </message>
+    <message>
+        <source>Not connected to source PC</source>
+        <translation>원본 PC에 연결되어 있지 않습니다</translation>
+    </message>
+    <message>
+        <source>Starting system scan...</source>
+        <translation>시스템 검색을 시작하는 중...</translation>
+    </message>
+    <message>
+        <source>Scan cancelled</source>
+        <translation>검색 취소됨</translation>
+    </message>
+    <message>
+        <source>Scan error: %1</source>
+        <translation>검색 오류: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::TransferPage</name>
+    <message>
+        <source>Receiving Data</source>
+        <translation>데이터 받는 중</translation>
+    </message>
+    <message>
+        <source>Sending Data</source>
+        <translation>데이터 보내는 중</translation>
+    </message>
+    <message>
+        <source>Waiting for Data...</source>
+        <translation>데이터를 기다리는 중...</translation>
+    </message>
+    <message>
+        <source>Waiting...</source>
+        <translation>기다리는 중...</translation>
+    </message>
+    <message>
+        <source>Receiving Data - %1%</source>
+        <translation>데이터 받는 중 - %1%</translation>
+    </message>
+    <message>
+        <source>Sending Data - %1%</source>
+        <translation>데이터 보내는 중 - %1%</translation>
+    </message>
+    <message>
+        <source>Transfer Failed</source>
+        <translation>전송 실패</translation>
+    </message>
+    <message>
+        <source>Receiving Paused</source>
+        <translation>받기 일시 중지됨</translation>
+    </message>
+    <message>
+        <source>Sending Paused</source>
+        <translation>보내기 일시 중지됨</translation>
+    </message>
+    <message>
+        <source>Cancel Transfer</source>
+        <translation>전송 취소</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to cancel the transfer?</source>
+        <translation>전송을 취소하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>All progress will be lost and incomplete files may remain on the destination.</source>
+        <translation>지금까지의 진행 내용이 사라지며, 완전하지 않은 파일이 대상 PC에 남을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Yes, Cancel</source>
+        <translation>예, 취소합니다</translation>
+    </message>
+    <message>
+        <source>Continue Transfer</source>
+        <translation>전송 계속</translation>
+    </message>
+    <message>
+        <source>Sender cancelled. Waiting...</source>
+        <translation>보내는 쪽에서 취소했습니다. 기다리는 중...</translation>
+    </message>
+    <message>
+        <source>Transferring Data</source>
+        <translation>데이터 전송 중</translation>
+    </message>
+    <message>
+        <source>Current Files</source>
+        <translation>현재 파일</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>다시 시도</translation>
+    </message>
+    <message>
+        <source>▶ Resume</source>
+        <translation>▶ 다시 시작</translation>
+    </message>
+    <message>
+        <source>⏸ Pause</source>
+        <translation>⏸ 일시 중지</translation>
+    </message>
+    <message>
+        <source>Resume</source>
+        <translation>다시 시작</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>일시 중지</translation>
+    </message>
+    <message>
+        <source>%1 failed</source>
+        <translation>%1개 실패</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::VerifyCodeWidget</name>
+    <message>
+        <source>Verification Code</source>
+        <translation>확인 코드</translation>
+    </message>
+    <message>
+        <source>Enter on the other PC</source>
+        <translation>다른 PC에 입력하십시오</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::WelcomePage</name>
+    <message>
+        <source>Transfer files, apps and settings to your new PC</source>
+        <translation>파일, 앱, 설정을 새 PC로 전송합니다</translation>
+    </message>
+    <message>
+        <source>Network Mode</source>
+        <translation>네트워크 모드</translation>
+    </message>
+    <message>
+        <source>Wi-Fi / LAN (Same Network)</source>
+        <translation>Wi-Fi / LAN(같은 네트워크)</translation>
+    </message>
+    <message>
+        <source>Cable Mode</source>
+        <translation>케이블 모드</translation>
+    </message>
+    <message>
+        <source>USB-C or Ethernet Cable</source>
+        <translation>USB-C 또는 이더넷 케이블</translation>
+    </message>
+</context>
+</TS>
