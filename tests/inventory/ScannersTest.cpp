@@ -1,6 +1,5 @@
-#include "InventoryTests.h"
-
 #include "SimulatedPc.h"
+#include "TestMain.h"
 
 #include "inventory/AccountScanner.h"
 #include "inventory/FileScanner.h"
@@ -8,30 +7,22 @@
 #include "inventory/SettingScanner.h"
 #include "platform/Registry.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QSignalSpy>
-#include <QTest>
 
 #include <algorithm>
-#include <memory>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
 
 namespace {
 
-/// Runs a scanner that ends within start(). Returns what `finished` carried, if it came exactly once.
+/// Runs a scanner that ends within start(). Returns what `finished` carried, which has come exactly once.
 template <typename Record, typename Scanner>
-std::optional<QList<Record>> scan(Scanner &scanner)
+QList<Record> scan(Scanner &scanner)
 {
     QSignalSpy finished(&scanner, &Scanner::finished);
     scanner.start();
-    if (finished.size() != 1)
-        return std::nullopt;
-    return finished.first().first().template value<QList<Record>>();
+    return finished.size() == 1 ? finished.first().first().template value<QList<Record>>() : QList<Record>();
 }
 
 /// What a cancel in mid-scan, and a restart in mid-scan, must come to.
@@ -70,157 +61,134 @@ class ScannersTest : public QObject
 {
     Q_OBJECT
 
+    std::unique_ptr<SimulatedPc> m_pc;
+
+    void showWallpaper(QString path)
+    {
+        m_pc->addRegistry(u"[HKEY_CURRENT_USER\\Control Panel\\Desktop]\n\"Wallpaper\"=\"%1\"\n"_s.arg(
+            path.replace(u'\\', u"\\\\"_s)));
+    }
+
 private Q_SLOTS:
     void init() { m_pc = std::make_unique<SimulatedPc>(); }
     void cleanup() { m_pc.reset(); }
 
-    void foldersAreMeasured();
-    void accountsAreListed();
-    void settingsAreTheCatalogue();
-    void cancelledScansSayNothingMore();
-    void folderSizeHasItsLimits();
-    void folderSizeSurvivesOddFolders();
+    void foldersAreMeasured()
+    {
+        if (!SimulatedPc::isMadeUp())
+            QSKIP("The folders of the PC at hand are left alone.");
+        for (const QString &file : {u"a.txt"_s, u"deep/er/b.txt"_s, u".hidden/c.txt"_s, u".c.txt"_s})
+            m_pc->writeFile(u"C:/Users/alice/Documents/"_s + file, "1234");
+        QFile::link(m_pc->homePath(u"Documents"_s), m_pc->homePath(u"Documents/deep/loop"_s));
+        QDir(m_pc->homePath(u"Music"_s)).removeRecursively();
 
-private:
-    std::unique_ptr<SimulatedPc> m_pc;
+        FileScanner scanner;
+        QSignalSpy progress(&scanner, &FileScanner::progress);
+        QStringList found;
+        for (const FolderInfo &folder : scan<FolderInfo>(scanner)) {
+            QCOMPARE(folder.path, m_pc->homePath(folder.name));
+            found.append(u"%1 %2 %3"_s.arg(folder.name).arg(folder.fileCount).arg(folder.totalSize));
+        }
+        QCOMPARE(found, QStringList({u"Documents 2 8"_s, u"Pictures 0 0"_s, u"Videos 0 0"_s,
+                                     u"Downloads 0 0"_s, u"Desktop 0 0"_s}));
+        QCOMPARE(progress.last(), QVariantList({100, u"Desktop"_s}));
+        QCOMPARE(progress.at(3), QVariantList({50, u"Music"_s}));
+    }
+
+    void accountsAreListed()
+    {
+        for (const QString &name : {u"Default User"_s, u"defaultuser0"_s, u"public"_s})
+            m_pc->writeFile(u"C:/Users/%1/ntuser.dat"_s.arg(name), "x");
+        AccountScanner scanner;
+        QSignalSpy progress(&scanner, &AccountScanner::progress);
+        QStringList names;
+        for (const AccountInfo &account : scan<AccountInfo>(scanner)) {
+            QCOMPARE(account.profilePath, QDir(u"C:/Users"_s).absoluteFilePath(account.userName));
+            QCOMPARE(account.accountType, u"Local User"_s);
+            names.append(account.userName);
+        }
+        QVERIFY(names.contains(u"defaultuser0"_s) && !names.contains(u"Default User"_s));
+        QVERIFY(names.contains(QFileInfo(m_pc->homePath()).fileName()));
+        QCOMPARE(progress.at(1).first().toInt(), 50);
+        const auto profiles = QDir(u"C:/Users"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
+        QCOMPARE(progress.last().first().toInt(), int(names.size() * 100 / profiles));
+    }
+
+    void settingsAreTheCatalogue()
+    {
+        const QString picture = m_pc->writeFile(u"picture.jpg"_s, "12345");
+        const QStringList ids{u"wallpaper"_s, u"taskbar"_s,     u"explorer"_s, u"mouse"_s, u"keyboard"_s,
+                              u"power"_s,     u"environment"_s, u"display"_s,  u"sound"_s};
+        const auto idsOf = [](const QList<SettingInfo> &settings) {
+            QStringList names;
+            for (const SettingInfo &setting : settings)
+                names.append(setting.id);
+            return names;
+        };
+        SettingScanner scanner;
+        if (SimulatedPc::isMadeUp()) {
+            showWallpaper(picture);
+            m_pc->addRegistry(u"[HKEY_CURRENT_USER\\Environment]\n\"A\"=\"1\"\n\"B\"=\"2\"\n"_s);
+            const auto settings = scan<SettingInfo>(scanner);
+            QCOMPARE(idsOf(settings), ids);
+            QCOMPARE(settings[0].value, picture);
+            QCOMPARE(settings[0].size, 5);
+            QCOMPARE(settings[6].description, u"User-defined environment variables (2 variables)"_s);
+            showWallpaper(picture + u".gone"_s);
+        }
+        QSignalSpy progress(&scanner, &SettingScanner::progress);
+        const auto settings = scan<SettingInfo>(scanner);
+        QCOMPARE(idsOf(settings), ids.mid(1)); // no picture, no row
+        const auto variables = Platform::RegistryKey(u"HKEY_CURRENT_USER\\Environment"_s).valueNames();
+        QCOMPARE(settings[5].size, variables.size() * 256);
+        QVERIFY(settings[4].registryPath.isEmpty() && settings[4].available && !settings[4].selected);
+        QList<int> percents;
+        for (const QVariantList &report : std::as_const(progress))
+            percents.append(report.first().toInt());
+        QCOMPARE(percents, QList<int>({0, 15, 30, 45, 55, 65, 75, 85, 92, 100}));
+    }
+
+    void cancelledScansSayNothingMore()
+    {
+        checkCancel<FileScanner>(1);
+        checkCancel<AccountScanner>(2);
+        checkCancel<SettingScanner>(10); // its announcements go on
+    }
+
+    void folderSizeHasItsLimits()
+    {
+        const QString folder = m_pc->path(u"many"_s);
+        QDir().mkpath(folder);
+        const int files =
+            SimulatedPc::isMadeUp() ? MostFilesMeasured + 500 : 500; // each takes long under Wine
+        for (int i = 0; i < files; ++i) {
+            QFile file(folder + u'/' + QString::number(i));
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write("xx") == 2);
+        }
+        QCOMPARE(calculateDirSize(folder), 2 * std::min(files, MostFilesMeasured));
+        QCOMPARE(calculateDirSize(folder, 7), 14);
+        int asked = 0;
+        QCOMPARE(calculateDirSize(folder, 100, [&asked] { return ++asked > 3; }), 6);
+        QCOMPARE(calculateDirSize(folder + u"/1"_s), 0);
+        QCOMPARE(calculateDirSize(folder + u"gone"_s), 0);
+        QCOMPARE(calculateDirSize({}), 0);
+    }
+
+    void folderSizeSurvivesOddFolders()
+    {
+        if (!SimulatedPc::isMadeUp())
+            QSKIP("Links to folders and permissions are another matter there.");
+        m_pc->writeFile(u"odd/.hidden/a"_s, "12345");
+        m_pc->writeFile(u"odd/closed/b"_s, "123");
+        QFile::link(m_pc->path(u"odd"_s), m_pc->path(u"odd/.hidden/loop"_s));
+        QFile::link(m_pc->path(u"odd/.hidden/a"_s), m_pc->path(u"odd/link"_s));
+        const QString closed = m_pc->path(u"odd/closed"_s);
+        QFile::setPermissions(closed, {});
+        const bool isReadAllTheSame = QFileInfo(closed).isReadable(); // by root
+        QCOMPARE(calculateDirSize(u"odd\\"_s), isReadAllTheSame ? 8 : 5);
+        QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
 };
 
-void ScannersTest::foldersAreMeasured()
-{
-    if (!SimulatedPc::isMadeUp())
-        QSKIP("The folders of the PC at hand are left alone.");
-    m_pc->writeFile(u"C:/Users/alice/Documents/a.txt"_s, "12345");
-    m_pc->writeFile(u"C:/Users/alice/Documents/deep/er/b.txt"_s, "123");
-    m_pc->writeFile(u"C:/Users/alice/Documents/.hidden/c.txt"_s, "1");
-    m_pc->writeFile(u"C:/Users/alice/Documents/.c.txt"_s, "1");
-    QFile::link(m_pc->homePath(u"Documents"_s), m_pc->homePath(u"Documents/deep/loop"_s));
-    QDir(m_pc->homePath(u"Music"_s)).removeRecursively();
-
-    FileScanner scanner;
-    QSignalSpy progress(&scanner, &FileScanner::progress);
-    const auto folders = scan<FolderInfo>(scanner);
-    QVERIFY(folders);
-    QStringList found;
-    for (const FolderInfo &folder : *folders) {
-        QCOMPARE(folder.path, m_pc->homePath(folder.name));
-        found.append(u"%1 %2 %3"_s.arg(folder.name).arg(folder.fileCount).arg(folder.totalSize));
-    }
-    QCOMPARE(found, QStringList({u"Documents 2 8"_s, u"Pictures 0 0"_s, u"Videos 0 0"_s, u"Downloads 0 0"_s,
-                                 u"Desktop 0 0"_s}));
-    QCOMPARE(progress.last(), QVariantList({100, u"Desktop"_s}));
-    QCOMPARE(progress.at(3), QVariantList({50, u"Music"_s}));
-}
-
-void ScannersTest::accountsAreListed()
-{
-    for (const QString &name : {u"Default User"_s, u"defaultuser0"_s, u"public"_s})
-        m_pc->writeFile(u"C:/Users/%1/ntuser.dat"_s.arg(name), "x");
-    AccountScanner scanner;
-    QSignalSpy progress(&scanner, &AccountScanner::progress);
-    const auto accounts = scan<AccountInfo>(scanner);
-    QVERIFY(accounts);
-    QStringList names;
-    for (const AccountInfo &account : *accounts) {
-        QCOMPARE(account.profilePath, QDir(u"C:/Users"_s).absoluteFilePath(account.userName));
-        QCOMPARE(account.accountType, u"Local User"_s);
-        names.append(account.userName);
-    }
-    QVERIFY(names.contains(u"defaultuser0"_s));
-    QVERIFY(names.contains(QFileInfo(m_pc->homePath()).fileName()));
-    QVERIFY(!names.contains(u"Default User"_s));
-    QCOMPARE(progress.at(1).first().toInt(), 50);
-    const auto profiles = QDir(u"C:/Users"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
-    QCOMPARE(progress.last().first().toInt(), int(names.size() * 100 / profiles));
-}
-
-void ScannersTest::settingsAreTheCatalogue()
-{
-    const QString picture = m_pc->writeFile(u"picture.jpg"_s, "12345");
-    const auto showWallpaper = [this](QString path) {
-        m_pc->addRegistry(u"[HKEY_CURRENT_USER\\Control Panel\\Desktop]\n\"Wallpaper\"=\"%1\"\n"_s.arg(
-            path.replace(u'\\', u"\\\\"_s)));
-    };
-    const QStringList ids{u"wallpaper"_s, u"taskbar"_s,     u"explorer"_s, u"mouse"_s, u"keyboard"_s,
-                          u"power"_s,     u"environment"_s, u"display"_s,  u"sound"_s};
-    const auto idsOf = [](const QList<SettingInfo> &settings) {
-        QStringList names;
-        for (const SettingInfo &setting : settings)
-            names.append(setting.id);
-        return names;
-    };
-
-    SettingScanner scanner;
-    QSignalSpy progress(&scanner, &SettingScanner::progress);
-    if (SimulatedPc::isMadeUp()) {
-        showWallpaper(picture);
-        m_pc->addRegistry(u"[HKEY_CURRENT_USER\\Environment]\n\"A\"=\"1\"\n\"B\"=\"2\"\n"_s);
-        const auto settings = scan<SettingInfo>(scanner);
-        QVERIFY(settings);
-        QCOMPARE(idsOf(*settings), ids);
-        QCOMPARE(settings->at(0).value, picture);
-        QCOMPARE(settings->at(0).size, 5);
-        QCOMPARE(settings->at(6).description, u"User-defined environment variables (2 variables)"_s);
-        QCOMPARE(settings->at(6).size, 512);
-        showWallpaper(picture + u".gone"_s);
-    }
-    progress.clear();
-    const auto settings = scan<SettingInfo>(scanner);
-    QVERIFY(settings);
-    QCOMPARE(idsOf(*settings), ids.mid(1)); // no picture, no row
-    const qsizetype variables =
-        Platform::RegistryKey(u"HKEY_CURRENT_USER\\Environment"_s).valueNames().size();
-    QCOMPARE(settings->at(5).size, variables * 256);
-    QVERIFY(settings->at(4).registryPath.isEmpty());
-    QVERIFY(settings->at(4).available && !settings->at(4).selected);
-    QList<int> percents;
-    for (const QVariantList &report : std::as_const(progress))
-        percents.append(report.first().toInt());
-    QCOMPARE(percents, QList<int>({0, 15, 30, 45, 55, 65, 75, 85, 92, 100}));
-}
-
-void ScannersTest::cancelledScansSayNothingMore()
-{
-    checkCancel<FileScanner>(1);
-    checkCancel<AccountScanner>(2);
-    checkCancel<SettingScanner>(10); // its announcements go on
-}
-
-void ScannersTest::folderSizeHasItsLimits()
-{
-    const QString folder = m_pc->path(u"many"_s);
-    QDir().mkpath(folder);
-    const int files = SimulatedPc::isMadeUp() ? MostFilesMeasured + 500 : 500; // each takes long under Wine
-    for (int i = 0; i < files; ++i) {
-        QFile file(folder + u'/' + QString::number(i));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("xx") == 2);
-    }
-    QCOMPARE(calculateDirSize(folder), 2 * std::min(files, MostFilesMeasured));
-    QCOMPARE(calculateDirSize(folder, 7), 14);
-    int asked = 0;
-    QCOMPARE(calculateDirSize(folder, 100, [&asked] { return ++asked > 3; }), 6);
-    QCOMPARE(calculateDirSize(folder + u"/1"_s), 0);
-    QCOMPARE(calculateDirSize(folder + u"gone"_s), 0);
-    QCOMPARE(calculateDirSize({}), 0);
-}
-
-void ScannersTest::folderSizeSurvivesOddFolders()
-{
-    if (!SimulatedPc::isMadeUp())
-        QSKIP("Links to folders and permissions are another matter there.");
-    m_pc->writeFile(u"odd/.hidden/a"_s, "12345");
-    m_pc->writeFile(u"odd/closed/b"_s, "123");
-    QFile::link(m_pc->path(u"odd"_s), m_pc->path(u"odd/.hidden/loop"_s));
-    QFile::link(m_pc->path(u"odd/.hidden/a"_s), m_pc->path(u"odd/link"_s));
-    const QString closed = m_pc->path(u"odd/closed"_s);
-    QFile::setPermissions(closed, {});
-    const bool isReadAllTheSame = QFileInfo(closed).isReadable(); // by root
-    QCOMPARE(calculateDirSize(u"odd\\"_s), isReadAllTheSame ? 8 : 5);
-    QFile::setPermissions(closed, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
-
-QObject *makeScannersTest()
-{
-    return new ScannersTest;
-}
-
+ZANDROVE_TEST(ScannersTest)
 #include "ScannersTest.moc"

@@ -1,58 +1,70 @@
 #include "PeerTest.h"
 
 #include <QEventLoop>
-#include <QSignalSpy>
 #include <QTcpServer>
-#include <QTest>
-
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
+#include <QTcpSocket>
 
 namespace {
 
 constexpr int ChunkBytes = 524288 + 16;
+using Signals = QList<QVariantList>;
 
 /// One copy of the program, with what its signals said.
 class Copy
 {
 public:
-    std::shared_ptr<QList<QByteArray>> sent = std::make_shared<QList<QByteArray>>();
-    NetworkManager manager{nullptr, testEnvironment(sent)};
+    QByteArrayList sent; ///< to everybody
+    NetworkManager manager{nullptr,
+                           silentEnvironment([this](const QByteArray &bytes) { sent.append(bytes); })};
     QSignalSpy requested{&manager, &NetworkManager::connectionRequested};
     QSignalSpy connected{&manager, &NetworkManager::connected};
     QSignalSpy disconnected{&manager, &NetworkManager::disconnected};
     QSignalSpy failed{&manager, &NetworkManager::connectionFailed};
     QSignalSpy commands{&manager, &NetworkManager::commandReceived};
 
-    explicit Copy(int role, const QString &code = u"0427"_s)
+    explicit Copy(int role)
     {
         manager.setRole(role);
-        manager.setVerifyCode(code);
+        manager.setVerifyCode(u"0427"_s);
     }
 
-    /// Puts a peer that listens at `port` of the other machine into the table.
-    void know(const QString &id, quint16 port)
+    /// Dials what listens at `port` of the other machine.
+    void dial(quint16 port)
     {
-        manager.handleDatagram(discoveryFrame(id, {}, port, id), OtherMachine);
+        const QString id = QString::number(port);
+        manager.handleDatagram(discoveryFrame(id, {}, port), OtherMachine);
+        manager.connectToPC(id);
     }
 
     /// Dials `other` and returns whether its user was asked.
-    bool dial(Copy &other)
+    bool asks(Copy &other)
     {
-        know(u"peer"_s, other.manager.serverPort());
-        manager.connectToPC(u"peer"_s);
+        dial(other.manager.serverPort());
         return other.requested.wait();
     }
 
     bool pairWith(Copy &other)
     {
-        if (!dial(other))
+        if (!asks(other))
             return false;
         other.manager.acceptConnection();
         return connected.wait();
     }
 
+    void sendChunks(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            manager.sendCommand(MessageType::FileData, QByteArray(ChunkBytes, char(i)));
+    }
+
+    [[nodiscard]] MessageType type(qsizetype i) const { return commands.at(i).at(0).value<MessageType>(); }
     [[nodiscard]] QByteArray payload(qsizetype i) const { return commands.at(i).at(1).toByteArray(); }
+    /// Neither half of a pair.
+    [[nodiscard]] bool isAlone() const { return !manager.isConnected() && !manager.isAccepted(); }
+    [[nodiscard]] qsizetype sockets() const
+    {
+        return manager.findChildren<QTcpSocket *>(Qt::FindDirectChildrenOnly).size();
+    }
 };
 
 /// A peer that keeps to no rule.
@@ -75,8 +87,9 @@ public:
     }
     void ask(const QString &name = u"Stranger"_s)
     {
-        say(frame(MessageType::ConnectRequest, json({{u"name"_s, name}, {u"os"_s, u"Other OS"_s}})));
+        say(jsonFrame(MessageType::ConnectRequest, {{u"name"_s, name}, {u"os"_s, u"Other OS"_s}}));
     }
+    [[nodiscard]] bool isCutOff() const { return socket.state() == QAbstractSocket::UnconnectedState; }
 };
 
 } // namespace
@@ -85,85 +98,72 @@ class ConnectionTest : public QObject
 {
     Q_OBJECT
 
+    std::unique_ptr<Copy> m_newPC;
+    std::unique_ptr<Copy> m_oldPC;
+
+    /// Makes the Old PC's link to the New PC.
+    bool pair() { return m_oldPC->pairWith(*m_newPC); }
+
 private Q_SLOTS:
-    void pairsAndCarriesMessagesBothWays()
+    void init()
     {
-        Copy newPC(NewPC);
-        Copy oldPC(OldPC);
-        newPC.manager.startDiscovery();
-        oldPC.manager.handleDatagram(newPC.sent->first(), OtherMachine);
-        oldPC.manager.connectByVerifyCode(u"0427"_s);
-        QVERIFY(newPC.requested.wait());
-        QCOMPARE(newPC.requested.first().at(1).toString(), u"0427"_s);
-        QVERIFY(!newPC.manager.isAccepted() && !oldPC.manager.isAccepted());
-
-        newPC.manager.acceptConnection();
-        QCOMPARE(newPC.connected.size(), 1);
-        QVERIFY(oldPC.connected.wait());
-        QVERIFY(newPC.manager.isAccepted() && oldPC.manager.isAccepted());
-        QVERIFY(newPC.manager.isConnected() && oldPC.manager.isConnected());
-        QCOMPARE(oldPC.manager.connectedPC().senderIp, OtherMachine.toString());
-        QCOMPARE(newPC.manager.connectedPC().id, newPC.requested.first().at(0).toString());
-
-        oldPC.manager.sendCommand(MessageType::Heartbeat);
-        oldPC.manager.sendCommand(MessageType::FileData, QByteArray(ChunkBytes, 'd'));
-        newPC.manager.sendCommand(MessageType::TransferPause);
-        QTRY_COMPARE(newPC.commands.size(), 1);
-        QCOMPARE(newPC.payload(0), QByteArray(ChunkBytes, 'd'));
-        QTRY_COMPARE(oldPC.commands.size(), 1);
-        QCOMPARE(oldPC.commands.first().first().value<MessageType>(), MessageType::TransferPause);
+        m_newPC = std::make_unique<Copy>(NewPC);
+        m_oldPC = std::make_unique<Copy>(OldPC);
     }
 
-    void refusalReachesTheOneThatDialled()
+    void pairsAfterARefusalAndCarriesMessagesBothWays()
     {
-        Copy newPC(NewPC);
-        Copy oldPC(OldPC);
-        QVERIFY(oldPC.dial(newPC));
-        newPC.manager.rejectConnection();
-        QTRY_COMPARE(oldPC.disconnected.size(), 1);
-        QCOMPARE(oldPC.failed, (QList<QVariantList>{{u"Connection rejected"_s}}));
-        QVERIFY(!oldPC.manager.isConnected() && !oldPC.manager.isAccepted());
-        QVERIFY(oldPC.pairWith(newPC));
+        QVERIFY(m_oldPC->asks(*m_newPC));
+        m_newPC->manager.rejectConnection();
+        QTRY_COMPARE(m_oldPC->disconnected.size(), 1);
+        QCOMPARE(m_oldPC->failed, (Signals{{u"Connection rejected"_s}}));
+        QVERIFY(m_newPC->isAlone() && m_oldPC->isAlone());
+
+        m_newPC->manager.startDiscovery();
+        m_oldPC->manager.handleDatagram(m_newPC->sent.first(), OtherMachine);
+        m_oldPC->manager.connectByVerifyCode(u"0427"_s);
+        QVERIFY(m_newPC->requested.wait());
+        QCOMPARE(m_newPC->requested.last().at(1).toString(), u"0427"_s);
+        m_newPC->manager.acceptConnection();
+        QCOMPARE(m_newPC->connected.size(), 1);
+        QVERIFY(m_oldPC->connected.wait());
+        QVERIFY(m_newPC->manager.isAccepted() && m_oldPC->manager.isAccepted());
+        QCOMPARE(m_oldPC->manager.connectedPC().senderIp, OtherMachine.toString());
+        QCOMPARE(m_newPC->manager.connectedPC().id, m_newPC->requested.last().at(0).toString());
+
+        m_oldPC->manager.sendCommand(MessageType::Heartbeat);
+        m_oldPC->sendChunks(1);
+        m_newPC->manager.sendCommand(MessageType::TransferPause);
+        QTRY_COMPARE(m_newPC->commands.size(), 1);
+        QCOMPARE(m_newPC->payload(0), QByteArray(ChunkBytes, '\0'));
+        QTRY_COMPARE(m_oldPC->commands.size(), 1);
+        QCOMPARE(m_oldPC->type(0), MessageType::TransferPause);
+
+        m_oldPC->manager.connectToPC(u"nobody"_s);
+        m_oldPC->manager.connectByVerifyCode(u"9999"_s);
+        m_oldPC->failed.pop_front();
+        QCOMPARE(m_oldPC->failed,
+                 (Signals{{u"PC not found"_s}, {u"No device found with verification code: 9999"_s}}));
+        QVERIFY(m_oldPC->manager.isAccepted());
     }
 
-    void dialThatCannotSucceedFails_data()
-    {
-        QTest::addColumn<QString>("target");
-        QTest::newRow("closed port") << u"closed"_s;
-        QTest::newRow("hangs up instead of answering") << u"silent"_s;
-        QTest::newRow("port 0") << u"zero"_s;
-    }
     void dialThatCannotSucceedFails()
     {
-        QFETCH(QString, target);
-        QTcpServer silent;
+        QTcpServer silent; // hangs up instead of answering
         QVERIFY(silent.listen());
         connect(&silent, &QTcpServer::newConnection, &silent,
                 [&silent] { silent.nextPendingConnection()->close(); });
         QTcpServer closed;
         QVERIFY(closed.listen());
-        Copy oldPC(OldPC);
-        oldPC.know(u"silent"_s, silent.serverPort());
-        oldPC.know(u"closed"_s, closed.serverPort());
-        oldPC.know(u"zero"_s, 0);
+        const quint16 closedPort = closed.serverPort();
         closed.close();
-        const QSignalSpy timeout(&oldPC.manager, &NetworkManager::connectionTimeout);
-        oldPC.manager.connectToPC(target);
-        QTRY_COMPARE(oldPC.failed.size(), 1);
-        QCOMPARE(timeout.size(), 0);
-        QVERIFY(!oldPC.manager.isConnected());
-    }
-
-    void unknownPeersAreNotDialled()
-    {
-        Copy newPC(NewPC);
-        Copy oldPC(OldPC);
-        QVERIFY(oldPC.pairWith(newPC));
-        oldPC.manager.connectToPC(u"nobody"_s);
-        oldPC.manager.connectByVerifyCode(u"9999"_s);
-        QCOMPARE(oldPC.failed, (QList<QVariantList>{{u"PC not found"_s},
-                                                    {u"No device found with verification code: 9999"_s}}));
-        QVERIFY(oldPC.manager.isAccepted());
+        const QSignalSpy timeout(&m_oldPC->manager, &NetworkManager::connectionTimeout);
+        for (const quint16 port : {closedPort, silent.serverPort(), quint16(0)}) {
+            m_oldPC->failed.clear();
+            m_oldPC->dial(port);
+            QTRY_COMPARE(m_oldPC->failed.size(), 1);
+            QVERIFY(timeout.isEmpty() && m_oldPC->isAlone());
+        }
     }
 
     void blackHoleTimesOut()
@@ -179,120 +179,82 @@ private Q_SLOTS:
         } while (crowd.back()->waitForConnected(500) && crowd.size() < 20);
         if (crowd.size() == 20)
             QSKIP("no black hole here: a full backlog still takes connections");
-        Copy oldPC(OldPC);
-        oldPC.know(u"hole"_s, full.serverPort());
-        QSignalSpy timeout(&oldPC.manager, &NetworkManager::connectionTimeout);
-        oldPC.manager.connectToPC(u"hole"_s);
+        QSignalSpy timeout(&m_oldPC->manager, &NetworkManager::connectionTimeout);
+        m_oldPC->dial(full.serverPort());
         QVERIFY(timeout.wait(7000));
-        QCOMPARE(oldPC.failed, (QList<QVariantList>{{u"Connection timeout"_s}}));
-    }
-
-    void newestConnectionWins()
-    {
-        Copy newPC(NewPC);
-        Copy first(OldPC);
-        Copy second(OldPC);
-        QVERIFY(first.pairWith(newPC));
-        second.know(u"peer"_s, newPC.manager.serverPort());
-        second.manager.connectToPC(u"peer"_s);
-        QVERIFY(newPC.requested.wait());
-        QTRY_VERIFY(first.disconnected.size() + first.failed.size() > 0);
-        QVERIFY(newPC.manager.isConnected());
-        QVERIFY(!newPC.manager.isAccepted());
-        newPC.manager.acceptConnection();
-        QVERIFY(second.connected.wait());
-        QVERIFY(newPC.manager.isAccepted());
+        QCOMPARE(m_oldPC->failed, (Signals{{u"Connection timeout"_s}}));
     }
 
     void strangerCannotAnswerForTheUser()
     {
-        Copy newPC(NewPC);
-        Stranger stranger(newPC);
+        Stranger stranger(*m_newPC);
         stranger.ask();
         stranger.say(frame(MessageType::ConnectAccept) + frame(MessageType::ConnectReject) +
                      frame(MessageType::TransferStart, "{}"));
-        QVERIFY(newPC.commands.wait()); // the link layer hands on what it does not consume, accepted or not
-        QCOMPARE(newPC.requested, (QList<QVariantList>{{u"Stranger"_s, u"0427"_s}}));
-        QCOMPARE(newPC.connected.size() + newPC.failed.size(), 0);
-        QVERIFY(!newPC.manager.isConnected() && !newPC.manager.isAccepted());
+        QVERIFY(
+            m_newPC->commands.wait()); // the link layer hands on what it does not consume, accepted or not
+        QCOMPARE(m_newPC->requested, (Signals{{u"Stranger"_s, u"0427"_s}}));
+        QCOMPARE(m_newPC->connected.size() + m_newPC->failed.size(), 0);
+        QVERIFY(m_newPC->isAlone());
     }
 
     void yesIsForTheOneThatAsked()
     {
-        Copy newPC(NewPC);
-        Stranger asking(newPC);
+        Stranger asking(*m_newPC);
         asking.ask();
-        QVERIFY(newPC.requested.wait());
-        Stranger quiet(newPC);
-        QTRY_COMPARE(asking.socket.state(), QAbstractSocket::UnconnectedState);
-        newPC.manager.acceptConnection();
-        newPC.manager.rejectConnection();
-        QVERIFY(!newPC.manager.isConnected());
+        asking.say(header(Protocol::Magic, 50, 1000)); // the rest never comes, and hurts nobody
+        QVERIFY(m_newPC->requested.wait());
+        Stranger quiet(*m_newPC);
+        QTRY_VERIFY(asking.isCutOff());
+        m_newPC->manager.acceptConnection();
+        m_newPC->manager.rejectConnection();
+        QVERIFY(m_newPC->isAlone());
 
         quiet.ask(u"Quiet"_s);
-        QVERIFY(newPC.requested.wait());
-        newPC.manager.acceptConnection();
-        QVERIFY(newPC.manager.isAccepted());
-        QCOMPARE(newPC.manager.connectedPC().name, u"Quiet"_s);
+        QVERIFY(m_newPC->requested.wait());
+        m_newPC->manager.acceptConnection();
+        QCOMPARE(m_newPC->manager.connectedPC().name, u"Quiet"_s);
     }
 
-    void yesAfterThePeerHungUpConnectsNobody()
+    void yesNeedsASocketButNoQuestion()
     {
-        Copy newPC(NewPC);
-        Stranger stranger(newPC);
-        stranger.ask();
-        QVERIFY(newPC.requested.wait());
-        stranger.socket.close();
-        QVERIFY(newPC.disconnected.wait());
-        newPC.manager.acceptConnection();
-        QCOMPARE(newPC.connected.size(), 0);
-        QVERIFY(!newPC.manager.isConnected());
-    }
+        Stranger quiet(*m_newPC);
+        quiet.say(frame(MessageType::SessionEnd));
+        QVERIFY(m_newPC->commands.wait());
+        m_newPC->manager.acceptConnection();
+        QVERIFY(m_newPC->manager.isAccepted());
 
-    void yesWithoutAQuestionTakesTheCurrentSocket()
-    {
-        Copy newPC(NewPC);
-        Stranger stranger(newPC);
-        stranger.say(frame(MessageType::SessionEnd));
-        QVERIFY(newPC.commands.wait());
-        newPC.manager.acceptConnection();
-        QVERIFY(newPC.manager.isAccepted());
+        Stranger asking(*m_newPC);
+        asking.ask();
+        QVERIFY(m_newPC->requested.wait());
+        m_newPC->disconnected.clear();
+        asking.socket.close();
+        QTRY_VERIFY(!m_newPC->disconnected.isEmpty());
+        m_newPC->manager.acceptConnection();
+        QCOMPARE(m_newPC->connected.size(), 1);
+        QVERIFY(m_newPC->isAlone());
     }
 
     void unfinishedFrameOfAStrangerIsBounded()
     {
-        Copy newPC(NewPC);
-        Stranger stranger(newPC);
+        Stranger stranger(*m_newPC);
         stranger.say(header(Protocol::Magic, 50, 64 << 20) + QByteArray(17 << 20, '\0'));
         QTRY_COMPARE_WITH_TIMEOUT(stranger.socket.bytesToWrite(), 0, 10'000);
         // What is still in flight is dropped with the rest, so ask until it gets through.
-        for (int i = 0; i < 100 && newPC.requested.isEmpty(); ++i) {
+        for (int i = 0; i < 100 && m_newPC->requested.isEmpty(); ++i) {
             stranger.ask();
-            newPC.requested.wait(50);
+            m_newPC->requested.wait(50);
         }
-        QVERIFY(!newPC.requested.isEmpty());
-        newPC.manager.acceptConnection();
+        QVERIFY(!m_newPC->requested.isEmpty());
+        m_newPC->manager.acceptConnection();
         stranger.say(frame(MessageType::FileData, QByteArray(40 << 20, 'x')));
-        QVERIFY(newPC.commands.wait(10'000));
-        QCOMPARE(newPC.payload(0).size(), 40 << 20);
-    }
-
-    void halfAFrameOfADeadSocketHurtsNobody()
-    {
-        Copy newPC(NewPC);
-        Stranger first(newPC);
-        first.say(frame(MessageType::SessionEnd) + header(Protocol::Magic, 50, 1000));
-        QVERIFY(newPC.commands.wait());
-        Stranger second(newPC);
-        second.ask();
-        QVERIFY(newPC.requested.wait());
+        QVERIFY(m_newPC->commands.wait(10'000));
+        QCOMPARE(m_newPC->payload(0).size(), 40 << 20);
     }
 
     void lastFramesLeaveBeforeTheSocketCloses_data()
     {
-        QTest::addColumn<int>("chunks");
-        QTest::addColumn<bool>("byDestructor");
-        QTest::newRow("nothing waiting") << 0 << false;
+        addColumns<int, bool>("chunks", "byDestructor");
         QTest::newRow("20 MB waiting") << 40 << false;
         QTest::newRow("end of the program") << 2 << true;
     }
@@ -300,133 +262,119 @@ private Q_SLOTS:
     {
         QFETCH(int, chunks);
         QFETCH(bool, byDestructor);
-        Copy newPC(NewPC);
-        auto oldPC = std::make_unique<Copy>(OldPC);
-        QVERIFY(oldPC->pairWith(newPC));
-        for (int i = 0; i < chunks; ++i)
-            oldPC->manager.sendCommand(MessageType::FileData, QByteArray(ChunkBytes, char(i)));
-        oldPC->manager.sendSessionEnd();
+        QVERIFY(pair());
+        m_oldPC->sendChunks(chunks);
+        m_oldPC->manager.sendSessionEnd();
         if (byDestructor) {
-            oldPC.reset();
+            m_oldPC.reset();
         } else {
-            oldPC->manager.disconnect();
-            QVERIFY(!oldPC->manager.isConnected() && !oldPC->manager.isAccepted());
-            QCOMPARE(oldPC->manager.connectedPC(), PCInfo());
+            m_oldPC->manager.disconnect();
+            QVERIFY(m_oldPC->isAlone());
+            QCOMPARE(m_oldPC->manager.connectedPC(), PCInfo());
         }
-        QTRY_VERIFY_WITH_TIMEOUT(!newPC.disconnected.isEmpty(), 10'000);
-        QCOMPARE(newPC.commands.size(), chunks + 1);
-        QCOMPARE(newPC.commands.last().first().value<MessageType>(), MessageType::SessionEnd);
-        QVERIFY(!newPC.manager.isConnected() && !newPC.manager.isAccepted());
-        if (oldPC)
-            QTRY_COMPARE(oldPC->disconnected.size(), 1);
+        QTRY_VERIFY_WITH_TIMEOUT(!m_newPC->disconnected.isEmpty(), 10'000);
+        QCOMPARE(m_newPC->commands.size(), chunks + 1);
+        QCOMPARE(m_newPC->type(chunks), MessageType::SessionEnd);
+        QVERIFY(m_newPC->isAlone());
+        if (m_oldPC)
+            QTRY_COMPARE(m_oldPC->disconnected.size(), 1);
     }
 
     void endOfAForgottenSocketLeavesTheNextOneAlone()
     {
-        Copy newPC(NewPC);
-        Copy oldPC(OldPC);
-        QVERIFY(oldPC.pairWith(newPC));
-        for (int i = 0; i < 40; ++i)
-            oldPC.manager.sendCommand(MessageType::FileData, QByteArray(ChunkBytes, 'x'));
-        oldPC.manager.disconnect(); // goes on delivering while the next link is made
+        QVERIFY(pair());
+        m_oldPC->sendChunks(40);
+        m_oldPC->manager.disconnect(); // goes on delivering while the next link is made
         Copy other(NewPC);
-        QVERIFY(oldPC.pairWith(other));
-        QTRY_VERIFY_WITH_TIMEOUT(!newPC.disconnected.isEmpty(), 10'000);
-        QVERIFY(oldPC.manager.isAccepted());
-        QCOMPARE(oldPC.disconnected.size(), 0);
+        QVERIFY(m_oldPC->pairWith(other));
+        QTRY_VERIFY_WITH_TIMEOUT(!m_newPC->disconnected.isEmpty(), 10'000);
+        QVERIFY(m_oldPC->manager.isAccepted());
+        QCOMPARE(m_oldPC->disconnected.size(), 0);
     }
 
     void closedGateHoldsBytesBackUntilResumedOrTheEnd()
     {
-        Copy newPC(NewPC);
-        Copy oldPC(OldPC);
-        QVERIFY(oldPC.pairWith(newPC));
+        QVERIFY(pair());
         bool mayRead = true;
-        newPC.manager.setReadGate([&] { return mayRead; });
-        connect(&newPC.manager, &NetworkManager::commandReceived, &newPC.manager, [&] { mayRead = false; });
-        for (int i = 0; i < 40; ++i)
-            oldPC.manager.sendCommand(MessageType::FileData, QByteArray(ChunkBytes, char(i)));
-        QVERIFY(newPC.commands.wait());
-        QVERIFY(!newPC.commands.wait(100));
-        QCOMPARE(newPC.commands.size(), 1);
+        m_newPC->manager.setReadGate([&] { return mayRead; });
+        connect(&m_newPC->manager, &NetworkManager::commandReceived, &m_newPC->manager,
+                [&] { mayRead = false; });
+        m_oldPC->sendChunks(40);
+        QVERIFY(m_newPC->commands.wait());
+        QVERIFY(!m_newPC->commands.wait(100));
+        QCOMPARE(m_newPC->commands.size(), 1);
         mayRead = true;
-        newPC.manager.resumeReading();
-        newPC.manager.resumeReading();
-        QVERIFY(newPC.commands.wait());
-        QCOMPARE(newPC.commands.size(), 2);
+        m_newPC->manager.resumeReading();
+        m_newPC->manager.resumeReading();
+        QVERIFY(m_newPC->commands.wait());
+        QCOMPARE(m_newPC->commands.size(), 2);
 
-        oldPC.manager.disconnect();
-        while (newPC.commands.size() < 25) { // the last 16 and more fit the socket's buffer
+        m_oldPC->manager.disconnect();
+        while (m_newPC->commands.size() < 25) { // the last 16 and more fit the socket's buffer
             mayRead = true;
-            newPC.manager.resumeReading();
-            QVERIFY(newPC.commands.wait());
+            m_newPC->manager.resumeReading();
+            QVERIFY(m_newPC->commands.wait());
         }
-        QTRY_VERIFY_WITH_TIMEOUT(mayRead || !newPC.disconnected.isEmpty(), 5000);
-        QCOMPARE(newPC.commands.size(), 40);
-        QCOMPARE(newPC.payload(39), QByteArray(ChunkBytes, char(39)));
+        QTRY_COMPARE(m_newPC->commands.size(), 40);
+        QCOMPARE(m_newPC->payload(39), QByteArray(ChunkBytes, char(39)));
     }
 
     void slotMayDisconnectBetweenTwoFrames()
     {
-        Copy newPC(NewPC);
-        connect(&newPC.manager, &NetworkManager::commandReceived, &newPC.manager,
+        connect(&m_newPC->manager, &NetworkManager::commandReceived, &m_newPC->manager,
                 &NetworkManager::disconnect);
-        Stranger stranger(newPC);
+        Stranger stranger(*m_newPC);
         stranger.say(frame(MessageType::SessionEnd) + frame(MessageType::SessionEnd));
-        QVERIFY(newPC.commands.wait());
-        QTRY_COMPARE(newPC.disconnected.size(), 1);
-        QCOMPARE(newPC.commands.size(), 1);
+        QTRY_COMPARE(m_newPC->disconnected.size(), 1);
+        QCOMPARE(m_newPC->commands.size(), 1);
     }
 
     void questionMayStayOpenWhileItsSocketIsReplaced()
     {
-        Copy newPC(NewPC);
-        Stranger first(newPC);
+        Stranger first(*m_newPC);
         std::unique_ptr<Stranger> second;
-        connect(&newPC.manager, &NetworkManager::connectionRequested, &newPC.manager,
+        connect(&m_newPC->manager, &NetworkManager::connectionRequested, &m_newPC->manager,
                 [&](const QString &name) {
                     if (name == "second"_L1)
                         return;
-                    second = std::make_unique<Stranger>(newPC);
+                    second = std::make_unique<Stranger>(*m_newPC);
                     second->ask(u"second"_s);
-                    QVERIFY(newPC.requested.wait()); // an event loop of its own, as a dialog has
+                    QVERIFY(m_newPC->requested.wait()); // an event loop of its own, as a dialog has
                     // The code that emits for the first socket still stands below, so the socket must as
                     // well.
                     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-                    QCOMPARE(newPC.manager.findChildren<QTcpSocket *>(Qt::FindDirectChildrenOnly).size(), 2);
+                    QCOMPARE(m_newPC->sockets(), 2);
                 });
         first.ask(u"first"_s);
-        QTRY_COMPARE(newPC.requested.size(), 2);
-        QTRY_COMPARE(first.socket.state(), QAbstractSocket::UnconnectedState);
-        QCOMPARE(newPC.manager.findChildren<QTcpSocket *>(Qt::FindDirectChildrenOnly).size(), 1);
-        newPC.manager.acceptConnection();
-        QCOMPARE(newPC.manager.connectedPC().name, u"second"_s);
+        QTRY_COMPARE(m_newPC->requested.size(), 2);
+        QTRY_VERIFY(first.isCutOff());
+        QCOMPARE(m_newPC->sockets(), 1);
+        m_newPC->manager.acceptConnection();
+        QCOMPARE(m_newPC->manager.connectedPC().name, u"second"_s);
     }
 
     void countsWhatWaitsInTheSocket()
     {
-        Copy newPC(NewPC);
-        const auto pending = newPC.manager.pendingBytes();
-        Stranger stranger(newPC);
+        const auto pending = m_newPC->manager.pendingBytes();
+        Stranger stranger(*m_newPC);
         stranger.socket.setReadBufferSize(1000);
         stranger.ask();
-        QVERIFY(newPC.requested.wait());
-        newPC.manager.acceptConnection();
-        for (int i = 0; i < 64; ++i)
-            newPC.manager.sendCommand(MessageType::FileData, QByteArray(ChunkBytes, 'x'));
+        QVERIFY(m_newPC->requested.wait());
+        m_newPC->manager.acceptConnection();
+        m_newPC->sendChunks(64);
         QVERIFY(*pending > 16 << 20);
         stranger.socket.setReadBufferSize(0);
         QTRY_COMPARE_WITH_TIMEOUT(pending->load(), 0, 10'000);
-        newPC.manager.sendCommand(MessageType::FileData, QByteArray(ChunkBytes, 'x'));
+        m_newPC->sendChunks(1);
         QVERIFY(*pending > 0);
-        newPC.manager.disconnect();
+        m_newPC->manager.disconnect();
         QCOMPARE(pending->load(), 0);
     }
 
     void listensAgainOnceThePortIsFree()
     {
         auto first = std::make_unique<Copy>(NewPC);
-        auto environment = testEnvironment();
+        auto environment = silentEnvironment();
         environment.tcpPort = first->manager.serverPort();
         NetworkManager second(nullptr, environment);
         QCOMPARE(second.serverPort(), 0);
@@ -436,9 +384,5 @@ private Q_SLOTS:
     }
 };
 
-std::unique_ptr<QObject> makeConnectionTest()
-{
-    return std::make_unique<ConnectionTest>();
-}
-
+ZANDROVE_TEST(ConnectionTest)
 #include "ConnectionTest.moc"

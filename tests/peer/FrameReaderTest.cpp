@@ -1,23 +1,8 @@
 #include "PeerTest.h"
 
 #include <QBuffer>
-#include <QTest>
-
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 
 namespace {
-
-/// Gives `bytes` to the reader as one read of a socket and appends what comes out.
-void feed(FrameReader &reader, const QByteArray &bytes, QList<QByteArray> &payloads,
-          qsizetype limit = FrameReader::NoLimit)
-{
-    QBuffer source;
-    source.setData(bytes);
-    source.open(QIODevice::ReadOnly);
-    while (const auto next = reader.read(source, limit))
-        payloads.append(next->payload);
-}
 
 QByteArray pattern(qsizetype size)
 {
@@ -33,20 +18,36 @@ class FrameReaderTest : public QObject
 {
     Q_OBJECT
 
+    FrameReader m_reader;
+    QByteArrayList m_payloads; ///< what has come out
+
+    /// Gives `bytes` to the reader as one read of a socket.
+    void feed(const QByteArray &bytes, qsizetype limit = FrameReader::NoLimit)
+    {
+        QBuffer source;
+        source.setData(bytes);
+        source.open(QIODevice::ReadOnly);
+        while (const auto next = m_reader.read(source, limit))
+            m_payloads.append(next->payload);
+    }
+
 private Q_SLOTS:
+    void init()
+    {
+        m_reader = FrameReader();
+        m_payloads.clear();
+    }
+
     void buildsTheStatedBytes()
     {
-        QCOMPARE(Protocol::buildFrame(MessageType::SessionEnd, {}, 258).toHex(),
-                 "5a44525600010016000000000000010200000000"_ba);
-        QCOMPARE(Protocol::buildFrame(MessageType::FileData, "\x01\x02"_ba, 0xFFFFFFFF).toHex(),
-                 "5a4452560001003200000002ffffffff000000080102"_ba);
+        QCOMPARE(Protocol::buildFrame(MessageType::FileData, "\x01\x02"_ba, 0xFFFFFF02).toHex(),
+                 "5a4452560001003200000002ffffff02000000080102"_ba);
     }
 
     void cutsFramesHoweverTheStreamIsSplit_data()
     {
-        QTest::addColumn<qsizetype>("piece");
-        QTest::addColumn<qsizetype>("largest");
-        for (const qsizetype piece : {1, 7, 17, 19, 20, 21, 41})
+        addColumns<qsizetype, qsizetype>("piece", "largest");
+        for (const qsizetype piece : {1, 19, 20, 21})
             QTest::addRow("pieces of %d", int(piece)) << piece << qsizetype(700);
         QTest::newRow("pieces of 4099, payload grown in steps") << qsizetype(4099) << qsizetype(5'000'001);
         QTest::newRow("one piece") << qsizetype(100'000'000) << qsizetype(5'000'001);
@@ -55,23 +56,19 @@ private Q_SLOTS:
     {
         QFETCH(qsizetype, piece);
         QFETCH(qsizetype, largest);
-        const QList<QByteArray> expected = {{}, "x"_ba,      pattern(largest),
-                                            {}, pattern(20), pattern(1'048'576)};
+        const QByteArrayList expected = {{}, "x", pattern(largest), {}, pattern(20), pattern(1'048'576)};
         QByteArray stream;
         for (const QByteArray &payload : expected)
             stream += frame(MessageType(999), payload);
-
-        FrameReader reader;
-        QList<QByteArray> payloads;
         for (qsizetype at = 0; at < stream.size(); at += piece)
-            feed(reader, stream.mid(at, piece), payloads);
-        QVERIFY(payloads == expected);
-        QCOMPARE(reader.waiting(), 0);
+            feed(stream.mid(at, piece));
+        QVERIFY(m_payloads == expected);
+        QCOMPARE(m_reader.waiting(), 0);
     }
 
     void badHeaderCostsAllThatIsReadable_data()
     {
-        QTest::addColumn<QByteArray>("bad");
+        addColumns<QByteArray>("bad");
         QTest::newRow("wrong magic") << header(0x5A445257, 50, 0);
         QTest::newRow("total 0") << header(Protocol::Magic, 50, 0xFFFFFFEC);
         QTest::newRow("total 19") << header(Protocol::Magic, 50, 0xFFFFFFFF);
@@ -81,33 +78,24 @@ private Q_SLOTS:
     void badHeaderCostsAllThatIsReadable()
     {
         QFETCH(QByteArray, bad);
-        FrameReader reader;
-        QList<QByteArray> payloads;
-        feed(reader, frame(MessageType::FileData, "before") + bad.first(17), payloads);
-        QCOMPARE(reader.waiting(), 17);
-        feed(reader, bad.mid(17) + frame(MessageType::FileData, "lost"), payloads);
-        QCOMPARE(reader.waiting(), 0);
-        feed(reader, frame(MessageType::FileData, "after"), payloads);
-        QCOMPARE(payloads, (QList<QByteArray>{"before", "after"}));
+        feed(frame(MessageType::FileData, "before"_ba) + bad.first(17));
+        QCOMPARE(m_reader.waiting(), 17);
+        feed(bad.mid(17) + frame(MessageType::FileData, "lost"_ba));
+        QCOMPARE(m_reader.waiting(), 0);
+        feed(frame(MessageType::FileData, "after"_ba));
+        QCOMPARE(m_payloads, (QByteArrayList{"before", "after"}));
     }
 
     void unfinishedFrameIsDroppedAboveTheLimitOnly()
     {
-        FrameReader reader;
-        QList<QByteArray> payloads;
-        const QByteArray start = header(Protocol::Magic, 50, 0x7FFFFFEB);
-        feed(reader, start + QByteArray(80, 'x'), payloads, 100);
-        QCOMPARE(reader.waiting(), 100);
-        feed(reader, "y", payloads, 100);
-        QCOMPARE(reader.waiting(), 0);
-        feed(reader, frame(MessageType::FileData, QByteArray(500, 'z')), payloads, 100);
-        QCOMPARE(payloads, QList<QByteArray>{QByteArray(500, 'z')});
+        feed(header(Protocol::Magic, 50, 0x7FFFFFEB) + QByteArray(80, 'x'), 100);
+        QCOMPARE(m_reader.waiting(), 100);
+        feed("y", 100);
+        QCOMPARE(m_reader.waiting(), 0);
+        feed(frame(MessageType::FileData, QByteArray(500, 'z')), 100);
+        QCOMPARE(m_payloads, QByteArrayList{QByteArray(500, 'z')});
     }
 };
 
-std::unique_ptr<QObject> makeFrameReaderTest()
-{
-    return std::make_unique<FrameReaderTest>();
-}
-
+ZANDROVE_TEST(FrameReaderTest)
 #include "FrameReaderTest.moc"

@@ -1,355 +1,264 @@
 #include "PipelineTests.h"
 
-#include "peer/Protocol.h"
-#include "pipeline/FileChecksum.h"
 #include "pipeline/FileReceiverWorker.h"
 
-#include <QDir>
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
-#include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 #include <QThread>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
 
-namespace {
-
-QByteArray chunk(int taskId, qint64 offset, const QByteArray &bytes, qint32 announced = -2)
-{
-    QByteArray payload(TransferMessages::ChunkHeader::Size, Qt::Uninitialized);
-    TransferMessages::ChunkHeader{offset, announced == -2 ? qint32(bytes.size()) : announced, taskId}.writeTo(
-        payload.data());
-    return payload + bytes;
-}
-
-quint32 checksum(const QByteArray &bytes)
-{
-    FileChecksum sum;
-    sum.update(bytes);
-    return sum.value();
-}
-
-QByteArray contentOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<no file>");
-}
-
-void write(const QString &path, const QByteArray &content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
-} // namespace
-
 class FileReceiverTest : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init();
-    void filesArriveWhole();
-    void wrongChecksumRemovesTheFile();
-    void skippedFileStaysUntouched();
-    void strayEndSparesTheFileBefore();
-    void repeatedHeaderChangesNothing();
-    void displacedFileLeaksNothingIntoTheNext();
-    void badChunksAreDropped_data();
-    void badChunksAreDropped();
-    void pathsThatLeadOutAreFailures_data();
-    void pathsThatLeadOutAreFailures();
-    void unwritableFolderCostsThatFile();
-    void writeErrorCostsThatFile();
-    void cancelRemovesTheOpenFileFromAnyThread();
-    void answersCoverWhatCameSince();
-    void totalsAddUp();
-    void inflowIsCountedDown();
-
-private:
-    QString path(const QString &name) const { return m_root->filePath(u"Photos/"_s + name); }
-    void header(const QString &name, qint64 size = 3, int taskId = 1);
-    void end(const QString &name, quint32 sum, int taskId = 1);
-    QJsonObject ack();
-    QVariantList complete();
-
     std::unique_ptr<QTemporaryDir> m_root;
     std::unique_ptr<FileReceiverWorker> m_receiver;
-};
 
-void FileReceiverTest::init()
-{
-    m_receiver.reset();
-    m_root = std::make_unique<QTemporaryDir>();
-    m_receiver = std::make_unique<FileReceiverWorker>();
-    m_receiver->setDestinationRoot(m_root->path());
-    m_receiver->startReceiving();
-}
-
-void FileReceiverTest::header(const QString &name, qint64 size, int taskId)
-{
-    m_receiver->onFileHeader(u"Photos/"_s + name, size, 0, taskId);
-}
-
-void FileReceiverTest::end(const QString &name, quint32 sum, int taskId)
-{
-    m_receiver->onFileEnd(u"Photos/"_s + name, sum, taskId);
-}
-
-QJsonObject FileReceiverTest::ack()
-{
-    QSignalSpy sent(m_receiver.get(), &FileReceiverWorker::requestSendCommand);
-    m_receiver->onBatchAckRequest(7, 0, 0);
-    return QJsonDocument::fromJson(sent.takeFirst().at(1).toByteArray()).object();
-}
-
-/// success, failed, skipped, bytes
-QVariantList FileReceiverTest::complete()
-{
-    QSignalSpy completed(m_receiver.get(), &FileReceiverWorker::allCompleted);
-    m_receiver->onTransferComplete();
-    return completed.takeFirst();
-}
-
-void FileReceiverTest::filesArriveWhole()
-{
-    const QByteArray big = someBytes(4194304 + 1000);
-    header(u"empty"_s, 0, 1);
-    end(u"empty"_s, 0, 1);
-    header(u"deep/er/big"_s, big.size(), 2);
-    qint64 offset = 0;
-    while (offset < big.size()) {
-        const QByteArray part = big.mid(offset, 524288);
-        m_receiver->onFileData(chunk(2, offset, part));
-        offset += part.size();
+    [[nodiscard]] QString path(const QString &name) const { return m_root->filePath(u"Photos/"_s + name); }
+    void header(const QString &name, qint64 size = 3, int taskId = 1)
+    {
+        m_receiver->onFileHeader(u"Photos/"_s + name, size, 0, taskId);
     }
-    end(u"deep/er/big"_s, checksum(big), 2);
-    QVERIFY(QFile::exists(path(u"empty"_s)));
-    QVERIFY(contentOf(path(u"deep/er/big"_s)) == big);
-    QCOMPARE(m_receiver->receivedFolders().counts.value(u"Received Files"_s), 2);
-    QCOMPARE(complete(), (QVariantList{2, 0, 0, qlonglong(big.size())}));
-}
+    void data(const QByteArray &bytes, int taskId = 1)
+    {
+        m_receiver->onFileData(chunkPayload(taskId, bytes));
+    }
+    void end(const QString &name, quint32 sum, int taskId = 1)
+    {
+        m_receiver->onFileEnd(u"Photos/"_s + name, sum, taskId);
+    }
+    void file(const QString &name, const QByteArray &content, int taskId = 1)
+    {
+        header(name, content.size(), taskId);
+        if (!content.isEmpty())
+            data(content, taskId);
+        end(name, checksumOf(content), taskId);
+    }
+    QJsonObject ack()
+    {
+        QSignalSpy sent(m_receiver.get(), &FileReceiverWorker::requestSendCommand);
+        m_receiver->onBatchAckRequest(7, 0, 0);
+        return QJsonDocument::fromJson(sent.takeFirst().at(1).toByteArray()).object();
+    }
+    /// success, failed, skipped, bytes
+    QVariantList complete()
+    {
+        QSignalSpy completed(m_receiver.get(), &FileReceiverWorker::allCompleted);
+        m_receiver->onTransferComplete();
+        return completed.takeFirst();
+    }
 
-void FileReceiverTest::wrongChecksumRemovesTheFile()
-{
-    header(u"a"_s);
-    m_receiver->onFileData(chunk(1, 0, "abc"));
-    QSignalSpy failed(m_receiver.get(), &FileReceiverWorker::fileFailed);
-    end(u"a"_s, checksum("abd"));
-    QCOMPARE(failed.takeFirst(), (QVariantList{u"a"_s, u"Checksum mismatch"_s}));
-    QVERIFY(!QFile::exists(path(u"a"_s)));
-    QCOMPARE(complete(), (QVariantList{0, 1, 0, 3ll}));
-}
+private Q_SLOTS:
+    void init()
+    {
+        m_receiver.reset();
+        m_root = std::make_unique<QTemporaryDir>();
+        m_receiver = std::make_unique<FileReceiverWorker>();
+        m_receiver->setDestinationRoot(m_root->path());
+        m_receiver->startReceiving();
+    }
 
-void FileReceiverTest::skippedFileStaysUntouched()
-{
-    write(path(u"mine"_s), "my own words");
-    write(path(u"empty"_s), {});
-    header(u"mine"_s);
-    m_receiver->onFileData(chunk(1, 0, "abc"));
-    end(u"mine"_s, checksum("abc"));
-    QCOMPARE(contentOf(path(u"mine"_s)), "my own words");
-    header(u"empty"_s, 0, 2);
-    end(u"empty"_s, 0, 2);
-    // Skipped and failed; the empty one skipped and good.
-    QCOMPARE(complete(), (QVariantList{1, 1, 2, 0ll}));
-    QCOMPARE(contentOf(path(u"mine"_s)), "my own words");
-}
+    void filesArriveWhole()
+    {
+        const QByteArray big = someBytes(4194304 + 1000);
+        file(u"empty"_s, {});
+        header(u"deep/er/big"_s, big.size(), 2);
+        for (qint64 offset = 0; offset < big.size(); offset += 524288)
+            m_receiver->onFileData(chunkPayload(2, big.mid(offset, 524288), offset));
+        end(u"deep/er/big"_s, checksumOf(big), 2);
+        QCOMPARE(contentOf(path(u"empty"_s)), QByteArray());
+        QVERIFY(contentOf(path(u"deep/er/big"_s)) == big);
+        QCOMPARE(m_receiver->receivedFolders().counts.value(u"Received Files"_s), 2);
+        QCOMPARE(complete(), (QVariantList{2, 0, 0, qlonglong(big.size())}));
+    }
 
-void FileReceiverTest::strayEndSparesTheFileBefore()
-{
-    header(u"good"_s);
-    m_receiver->onFileData(chunk(1, 0, "abc"));
-    end(u"good"_s, checksum("abc"));
-    end(u"good"_s, 12345);
-    end(u"other"_s, 12345, 9);
-    QCOMPARE(contentOf(path(u"good"_s)), "abc");
-    QCOMPARE(complete(), (QVariantList{1, 2, 0, 3ll}));
-}
+    void wrongChecksumRemovesTheFile()
+    {
+        QSignalSpy failed(m_receiver.get(), &FileReceiverWorker::fileFailed);
+        header(u"a"_s);
+        data("abc");
+        end(u"a"_s, checksumOf("abd"));
+        QCOMPARE(failed.takeFirst(), (QVariantList{u"a"_s, u"Checksum mismatch"_s}));
+        QVERIFY(!QFile::exists(path(u"a"_s)));
+        QCOMPARE(complete(), (QVariantList{0, 1, 0, 3ll}));
+    }
 
-void FileReceiverTest::repeatedHeaderChangesNothing()
-{
-    header(u"a"_s);
-    m_receiver->onFileData(chunk(1, 0, "ab"));
-    header(u"a"_s);
-    m_receiver->onFileData(chunk(1, 2, "c"));
-    end(u"a"_s, checksum("abc"));
-    QCOMPARE(contentOf(path(u"a"_s)), "abc");
-}
+    void skippedFileStaysUntouched()
+    {
+        writeFile(path(u"mine"_s), "my own words");
+        writeFile(path(u"empty"_s), {});
+        file(u"mine"_s, "abc");
+        file(u"empty"_s, {}, 2);
+        // Skipped and failed; the empty one skipped and good.
+        QCOMPARE(complete(), (QVariantList{1, 1, 2, 0ll}));
+        QCOMPARE(contentOf(path(u"mine"_s)), "my own words");
+    }
 
-void FileReceiverTest::displacedFileLeaksNothingIntoTheNext()
-{
-    header(u"half"_s, 6, 1);
-    m_receiver->onFileData(chunk(1, 0, "abc"));
-    header(u"next"_s, 3, 2);
-    m_receiver->onFileData(chunk(2, 0, "xyz"));
-    end(u"next"_s, checksum("xyz"), 2);
-    QCOMPARE(contentOf(path(u"next"_s)), "xyz");
-    QVERIFY(QFile::exists(path(u"half"_s)));
-}
+    void strayEndSparesTheFileBefore()
+    {
+        file(u"good"_s, "abc");
+        end(u"good"_s, 12345);
+        end(u"other"_s, 12345, 9);
+        QCOMPARE(contentOf(path(u"good"_s)), "abc");
+        QCOMPARE(complete(), (QVariantList{1, 2, 0, 3ll}));
+    }
 
-void FileReceiverTest::badChunksAreDropped_data()
-{
-    constexpr int Limit = 10485760;
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<qint64>("taken");
-    QTest::newRow("no header") << QByteArray(15, 'x') << 0ll;
-    QTest::newRow("negative size") << chunk(1, 0, "abc", -1) << 0ll;
-    QTest::newRow("more than there is") << chunk(1, 0, "abc", 4) << 0ll;
-    QTest::newRow("empty") << chunk(1, 0, {}) << 0ll;
-    QTest::newRow("largest") << chunk(1, 0, QByteArray(Limit, 'x')) << qint64(Limit);
-    QTest::newRow("too large") << chunk(1, 0, QByteArray(Limit + 1, 'x')) << 0ll;
-    QTest::newRow("another file's") << chunk(2, 0, "abc") << 0ll;
-    QTest::newRow("wrong offset, taken as it comes") << chunk(1, 99, "abc") << 3ll;
-    QTest::newRow("bytes behind the chunk") << chunk(1, 0, "abcdef", 3) << 3ll;
-}
+    void repeatedHeaderChangesNothing()
+    {
+        header(u"a"_s);
+        data("ab");
+        header(u"a"_s);
+        data("c");
+        end(u"a"_s, checksumOf("abc"));
+        QCOMPARE(contentOf(path(u"a"_s)), "abc");
+    }
 
-void FileReceiverTest::badChunksAreDropped()
-{
-    QFETCH(QByteArray, data);
-    header(u"a"_s, 100);
-    m_receiver->onFileData(data);
-    QTEST(complete().at(3).toLongLong(), "taken");
-}
+    void displacedFileLeaksNothingIntoTheNext()
+    {
+        header(u"half"_s, 6, 1);
+        data("abc");
+        file(u"next"_s, "xyz", 2);
+        QCOMPARE(contentOf(path(u"next"_s)), "xyz");
+        QVERIFY(QFile::exists(path(u"half"_s)));
+    }
 
-void FileReceiverTest::pathsThatLeadOutAreFailures_data()
-{
-    QTest::addColumn<QString>("relativePath");
-    QTest::newRow("up") << u"../out.txt"_s;
-    QTest::newRow("up, from inside") << u"Photos/../../out.txt"_s;
-    QTest::newRow("up, backslashes") << u"Photos\\..\\..\\out.txt"_s;
-    QTest::newRow("up, from a standard folder") << u"Documents/../../out.txt"_s;
-    QTest::newRow("up, from an application") << u"Apps/../../out.txt"_s;
-    QTest::newRow("nul") << u"Photos/out.txt"_s + QChar(0) + u"x"_s;
-}
+    void badChunksAreDropped_data()
+    {
+        constexpr int Limit = 10485760;
+        addColumns<QByteArray, qint64>("payload", "taken");
+        const auto row = [](const char *name, const QByteArray &payload, qint64 taken) {
+            QTest::newRow(name) << payload << taken;
+        };
+        row("no header", QByteArray(15, 'x'), 0);
+        row("negative size", chunkPayload(1, "abc", 0, -1), 0);
+        row("more than there is", chunkPayload(1, "abc", 0, 4), 0);
+        row("empty", chunkPayload(1, {}), 0);
+        row("largest", chunkPayload(1, QByteArray(Limit, 'x')), Limit);
+        row("too large", chunkPayload(1, QByteArray(Limit + 1, 'x')), 0);
+        row("another file's", chunkPayload(2, "abc"), 0);
+        row("wrong offset, taken as it comes", chunkPayload(1, "abc", 99), 3);
+        row("bytes behind the chunk", chunkPayload(1, "abcdef", 0, 3), 3);
+    }
+    void badChunksAreDropped()
+    {
+        QFETCH(QByteArray, payload);
+        header(u"a"_s, 100);
+        m_receiver->onFileData(payload);
+        QTEST(complete().at(3).toLongLong(), "taken");
+    }
 
-void FileReceiverTest::pathsThatLeadOutAreFailures()
-{
-    QFETCH(QString, relativePath);
-    m_receiver->setConflictPolicy(int(ConflictPolicy::Overwrite));
-    const QString bystander = QDir::cleanPath(m_receiver->destinationPath(relativePath));
-    if (!relativePath.contains(QChar(0)))
-        write(bystander, "bystander");
-    QSignalSpy failed(m_receiver.get(), &FileReceiverWorker::fileFailed);
-    m_receiver->onFileHeader(relativePath, 3, 0, 1);
-    QCOMPARE(failed.takeFirst().at(1).toString(), u"Failed to create file"_s);
-    m_receiver->onFileData(chunk(1, 0, "abc"));
-    m_receiver->onFileEnd(relativePath, checksum("abc"), 1);
-    QCOMPARE(complete(), (QVariantList{0, 2, 0, 0ll}));
-    if (!relativePath.contains(QChar(0))) {
+    void pathsThatLeadOutAreFailures_data()
+    {
+        addColumns<QString>("relativePath");
+        QTest::newRow("up") << u"../out.txt"_s;
+        QTest::newRow("up, from inside") << u"Photos/../../out.txt"_s;
+        QTest::newRow("up, backslashes") << u"Photos\\..\\..\\out.txt"_s;
+        QTest::newRow("up, from a standard folder") << u"Documents/../../out.txt"_s;
+        QTest::newRow("up, from an application") << u"Apps/../../out.txt"_s;
+        QTest::newRow("nul") << u"Photos/out.txt"_s + QChar(0) + u"x"_s;
+    }
+    void pathsThatLeadOutAreFailures()
+    {
+        QFETCH(QString, relativePath);
+        m_receiver->setConflictPolicy(int(ConflictPolicy::Overwrite));
+        const QString target = m_receiver->destinationPath(relativePath).section(QChar(0), 0, 0);
+        const QString bystander = writeFile(QDir::cleanPath(target), "bystander");
+        QSignalSpy failed(m_receiver.get(), &FileReceiverWorker::fileFailed);
+        m_receiver->onFileHeader(relativePath, 3, 0, 1);
+        QCOMPARE(failed.takeFirst().at(1).toString(), u"Failed to create file"_s);
+        data("abc");
+        m_receiver->onFileEnd(relativePath, checksumOf("abc"), 1);
+        QCOMPARE(complete(), (QVariantList{0, 2, 0, 0ll}));
         QCOMPARE(contentOf(bystander), "bystander");
         QFile::remove(bystander);
     }
-}
 
-void FileReceiverTest::unwritableFolderCostsThatFile()
-{
-    write(m_root->filePath(u"Photos/block"_s), "a file where a folder should be");
-    header(u"block/a"_s);
-    m_receiver->onFileData(chunk(1, 0, "abc"));
-    end(u"block/a"_s, checksum("abc"));
-    header(u"good"_s, 3, 2);
-    m_receiver->onFileData(chunk(2, 0, "abc"));
-    end(u"good"_s, checksum("abc"), 2);
-    const QJsonObject answer = ack();
-    QCOMPARE(answer.value(u"failedCount"_s).toInt(), 2); // at the header and at the end
-    QCOMPARE(answer.value(u"success"_s).toBool(), false);
-    QCOMPARE(complete(), (QVariantList{1, 2, 0, 3ll}));
-}
+    void unwritableFolderCostsThatFile()
+    {
+        writeFile(path(u"block"_s), "a file where a folder should be");
+        file(u"block/a"_s, "abc");
+        file(u"good"_s, "abc", 2);
+        const QJsonObject answer = ack();
+        QCOMPARE(answer.value(u"failedCount"_s).toInt(), 2); // at the header and at the end
+        QCOMPARE(answer.value(u"success"_s).toBool(), false);
+        QCOMPARE(complete(), (QVariantList{1, 2, 0, 3ll}));
+    }
 
-void FileReceiverTest::writeErrorCostsThatFile()
-{
-    if (!QFile::exists(u"/dev/full"_s))
-        QSKIP("no device here that is always full");
-    QVERIFY(QDir(m_root->path()).mkpath(u"Photos"_s));
-    QVERIFY(QFile::link(u"/dev/full"_s, path(u"full"_s)));
-    m_receiver->setConflictPolicy(-1); // opens what is there
-    header(u"full"_s);
-    m_receiver->onFileData(chunk(1, 0, "abc"));
-    end(u"full"_s, checksum("abc"));
-    QCOMPARE(complete(), (QVariantList{0, 1, 0, 3ll}));
-}
+    void writeErrorCostsThatFile()
+    {
+        if (!QFile::exists(u"/dev/full"_s))
+            QSKIP("no device here that is always full");
+        QVERIFY(QDir(m_root->path()).mkpath(u"Photos"_s));
+        QVERIFY(QFile::link(u"/dev/full"_s, path(u"full"_s)));
+        m_receiver->setConflictPolicy(-1); // opens what is there
+        file(u"full"_s, "abc");
+        QCOMPARE(complete(), (QVariantList{0, 1, 0, 3ll}));
+    }
 
-void FileReceiverTest::cancelRemovesTheOpenFileFromAnyThread()
-{
-    header(u"good"_s, 3, 1);
-    m_receiver->onFileData(chunk(1, 0, "abc"));
-    end(u"good"_s, checksum("abc"), 1);
-    header(u"half"_s, 6, 2);
-    m_receiver->onFileData(chunk(2, 0, "abc"));
-    m_receiver->cancel();
-    QVERIFY(!QFile::exists(path(u"half"_s)));
-    QVERIFY(QFile::exists(path(u"good"_s)));
+    void cancelRemovesTheOpenFileFromAnyThread()
+    {
+        file(u"good"_s, "abc");
+        header(u"half"_s, 6, 2);
+        data("abc", 2);
+        m_receiver->cancel();
+        QVERIFY(!QFile::exists(path(u"half"_s)));
 
-    m_receiver->startReceiving();
-    header(u"half"_s, 6, 3);
-    QThread thread;
-    m_receiver->moveToThread(&thread);
-    m_receiver->cancel(); // from outside: left to the worker
-    QVERIFY(QFile::exists(path(u"half"_s)));
-    thread.start();
-    thread.quit();
-    QVERIFY(thread.wait(2000));
-    m_receiver.reset(); // whatever the worker did not get to goes with it
-    QVERIFY(!QFile::exists(path(u"half"_s)));
-    QVERIFY(QFile::exists(path(u"good"_s)));
-}
+        m_receiver->startReceiving();
+        header(u"half"_s, 6, 3);
+        QThread thread;
+        m_receiver->moveToThread(&thread);
+        m_receiver->cancel(); // from outside: left to the worker
+        QVERIFY(QFile::exists(path(u"half"_s)));
+        thread.start();
+        thread.quit();
+        QVERIFY(thread.wait(2000));
+        m_receiver.reset(); // whatever the worker did not get to goes with it
+        QVERIFY(!QFile::exists(path(u"half"_s)));
+        QVERIFY(QFile::exists(path(u"good"_s)));
+    }
 
-void FileReceiverTest::answersCoverWhatCameSince()
-{
-    QCOMPARE(ack(), (QJsonObject{{u"batchId"_s, 7},
-                                 {u"isRequest"_s, false},
-                                 {u"success"_s, true},
-                                 {u"successCount"_s, 0},
-                                 {u"failedCount"_s, 0},
-                                 {u"failedFiles"_s, QJsonArray()}}));
-    header(u"a"_s);
-    end(u"a"_s, 5);
-    const QJsonArray failed = ack().value(u"failedFiles"_s).toArray();
-    QCOMPARE(failed, (QJsonArray{QJsonObject{{u"taskId"_s, 1},
-                                             {u"relativePath"_s, u"Photos/a"_s},
-                                             {u"error"_s, u"Checksum mismatch"_s}}}));
-    QCOMPARE(ack().value(u"success"_s).toBool(), true);
-}
+    void answersCoverWhatCameSince()
+    {
+        const QJsonObject allGood{{u"batchId"_s, 7},     {u"isRequest"_s, false},
+                                  {u"success"_s, true},  {u"successCount"_s, 0},
+                                  {u"failedCount"_s, 0}, {u"failedFiles"_s, QJsonArray()}};
+        QCOMPARE(ack(), allGood);
+        header(u"a"_s);
+        end(u"a"_s, 5);
+        QCOMPARE(ack().value(u"failedFiles"_s).toArray(),
+                 (QJsonArray{QJsonObject{{u"taskId"_s, 1},
+                                         {u"relativePath"_s, u"Photos/a"_s},
+                                         {u"error"_s, u"Checksum mismatch"_s}}}));
+        QCOMPARE(ack(), allGood);
+    }
 
-void FileReceiverTest::totalsAddUp()
-{
-    QSignalSpy progress(m_receiver.get(), &FileReceiverWorker::overallProgress);
-    m_receiver->setTotalInfo(2, 40);
-    m_receiver->setTotalInfo(1, 60);
-    header(u"a"_s, 50);
-    m_receiver->onFileData(chunk(1, 0, QByteArray(50, 'x')));
-    end(u"a"_s, checksum(QByteArray(50, 'x')));
-    const auto record = progress.takeLast().first().value<TransferProgress>();
-    QCOMPARE(record.totalItems, 3);
-    QCOMPARE(record.totalBytes, 100);
-    QCOMPARE(record.overallPercent, 50);
-    QCOMPARE(record.completedItems, 1);
-    QCOMPARE(record.currentFile, u"a"_s);
-}
+    void totalsAddUp()
+    {
+        QSignalSpy progress(m_receiver.get(), &FileReceiverWorker::overallProgress);
+        m_receiver->setTotalInfo(2, 40);
+        m_receiver->setTotalInfo(1, 60);
+        file(u"a"_s, QByteArray(50, 'x'));
+        const auto record = progress.takeLast().first().value<TransferProgress>();
+        QCOMPARE((QList<qint64>{record.totalItems, record.totalBytes, record.overallPercent,
+                                record.completedItems}),
+                 (QList<qint64>{3, 100, 50, 1}));
+        QCOMPARE(record.currentFile, u"a"_s);
+    }
 
-void FileReceiverTest::inflowIsCountedDown()
-{
-    QSignalSpy below(m_receiver.get(), &FileReceiverWorker::inflowBelowMark);
-    const QByteArray data(1024, 'x');
-    m_receiver->addInflow(FileReceiverWorker::InflowMark + data.size());
-    m_receiver->onFileData(data);
-    QCOMPARE(below.size(), 1);
-    m_receiver->onFileData(data);
-    QCOMPARE(below.size(), 1);
-    QCOMPARE(m_receiver->inflow(), FileReceiverWorker::InflowMark - data.size());
-}
+    void inflowIsCountedDown()
+    {
+        QSignalSpy below(m_receiver.get(), &FileReceiverWorker::inflowBelowMark);
+        const QByteArray bytes(1024, 'x');
+        m_receiver->addInflow(FileReceiverWorker::InflowMark + bytes.size());
+        m_receiver->onFileData(bytes);
+        QCOMPARE(below.size(), 1);
+        m_receiver->onFileData(bytes);
+        QCOMPARE(below.size(), 1);
+        QCOMPARE(m_receiver->inflow(), FileReceiverWorker::InflowMark - bytes.size());
+    }
+};
 
-QObject *makeFileReceiverTest()
-{
-    return new FileReceiverTest;
-}
-
+ZANDROVE_TEST(FileReceiverTest)
 #include "FileReceiverTest.moc"

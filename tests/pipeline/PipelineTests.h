@@ -1,21 +1,41 @@
 #pragma once
 
-#include <QByteArray>
-#include <QObject>
+#include "TestFiles.h"
+#include "TestMain.h"
 
-QObject *makePipelineRulesTest();
-QObject *makeFileSenderTest();
-QObject *makeFileReceiverTest();
-QObject *makeMigrationManagerTest();
-QObject *makeRunLanesTest();
+#include "pipeline/FileChecksum.h"
+#include "pipeline/TransferMessages.h"
+
+#include <QSignalSpy>
 
 /// `size` bytes without a pattern that a chunk size could hide.
-inline QByteArray someBytes(qsizetype size, quint32 seed = 1)
+inline QByteArray someBytes(qsizetype size)
 {
+    quint32 seed = 1;
     QByteArray bytes(size, Qt::Uninitialized);
     for (char &byte : bytes) {
         seed = seed * 1664525u + 1013904223u;
         byte = char(seed >> 24);
     }
     return bytes;
+}
+
+inline quint32 checksumOf(const QByteArray &bytes)
+{
+    Zandrove::FileChecksum sum;
+    sum.update(bytes);
+    return sum.value();
+}
+
+/// The payload of a `FileData` with `bytes` behind a header that may announce another number of them.
+inline QByteArray chunkPayload(int taskId, const QByteArray &bytes, qint64 offset, qint32 announced)
+{
+    QByteArray payload(Zandrove::TransferMessages::ChunkHeader::Size, Qt::Uninitialized);
+    Zandrove::TransferMessages::ChunkHeader{offset, announced, taskId}.writeTo(payload.data());
+    return payload + bytes;
+}
+
+inline QByteArray chunkPayload(int taskId, const QByteArray &bytes, qint64 offset = 0)
+{
+    return chunkPayload(taskId, bytes, offset, qint32(bytes.size()));
 }

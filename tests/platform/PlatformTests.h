@@ -1,16 +1,18 @@
 #pragma once
 
-#include <QCoreApplication>
-#include <QObject>
-#include <QString>
+#include "SimulatedPc.h"
+#include "TestFiles.h"
+#include "TestMain.h"
 
-QObject *makeFilesTest();
-QObject *makeProgramTest();
-QObject *makeRegistryTest();
-QObject *makeTerminalTest();
+#include "platform/ExternalProgram.h"
+#include "platform/FileAttributes.h"
+#include "platform/Registry.h"
+#include "platform/ShellLink.h"
 
-/// What only one of the systems has: the simulated PC's own ways, or the calls of Windows.
-QObject *makeSystemTest();
+using namespace Qt::StringLiterals;
+using namespace Zandrove;
+using Platform::RegistryKey;
+using Platform::ShellLink;
 
 /// The program that the tests start; what it can do stands in Helper.cpp.
 inline QString helperProgram()

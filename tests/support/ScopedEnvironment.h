@@ -15,28 +15,23 @@ public:
     ~ScopedEnvironment()
     {
         for (const auto &[name, value] : m_before)
-            value ? qputenv(name.constData(), *value) : qunsetenv(name.constData());
+            assign(name, value);
     }
     ScopedEnvironment(const ScopedEnvironment &) = delete;
     ScopedEnvironment &operator=(const ScopedEnvironment &) = delete;
 
-    void set(const QByteArray &name, const QByteArray &value)
-    {
-        keep(name);
-        qputenv(name.constData(), value);
-    }
-
-    void unset(const QByteArray &name)
-    {
-        keep(name);
-        qunsetenv(name.constData());
-    }
-
-private:
-    void keep(const QByteArray &name)
+    void set(const QByteArray &name, const std::optional<QByteArray> &value)
     {
         const bool wasSet = qEnvironmentVariableIsSet(name.constData());
         m_before.try_emplace(name, wasSet ? std::optional(qgetenv(name.constData())) : std::nullopt);
+        assign(name, value);
+    }
+    void unset(const QByteArray &name) { set(name, std::nullopt); }
+
+private:
+    static void assign(const QByteArray &name, const std::optional<QByteArray> &value)
+    {
+        value ? qputenv(name.constData(), *value) : qunsetenv(name.constData());
     }
 
     std::map<QByteArray, std::optional<QByteArray>> m_before;

@@ -70,6 +70,8 @@ public:
 private:
     class State;
 
+    [[nodiscard]] static std::unique_ptr<QTemporaryDir> makeScratchFolder(const PathRule &isUnsuitable);
+
     ScopedEnvironment m_environment;
     std::unique_ptr<QTemporaryDir> m_folder;
     std::unique_ptr<State> m_state; ///< what the system gets back in the end

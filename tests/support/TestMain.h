@@ -7,10 +7,32 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <functional>
 #include <memory>
 
-/// What the main functions of the test programs share.
+namespace Zandrove {
+
+/// Declares the columns of a test's table, in their order: addColumns<int, QString>("seconds", "text").
+template <typename... Types, typename... Names>
+void addColumns(Names... names)
+{
+    (QTest::addColumn<Types>(names), ...);
+}
+
+} // namespace Zandrove
+
+/// What the test programs share: their main function, which a program without one of its own gets, and the
+/// test classes that it runs.
 namespace Zandrove::TestMain {
+
+using Makers = QList<std::function<std::unique_ptr<QObject>()>>;
+
+/// What makes the test objects of this program; ZANDROVE_TEST adds to it.
+inline Makers &makers()
+{
+    static Makers all;
+    return all;
+}
 
 /// A home of the test program's own for as long as it lives: the standard folders and the temporary folder of
 /// whoever runs the tests stay untouched. Make it before the application object.
@@ -33,31 +55,35 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// Runs the test objects that `makers` make, one after the other; one alone, with QtTest's own arguments
-/// after it, when its class name is the first argument. Returns the number of failures.
-template <typename... Makers>
-[[nodiscard]] int runTests(Makers... makers)
+/// Runs the test objects one after the other; one alone, with QtTest's own arguments after it, when its class
+/// name is the first argument. Returns the number of failures.
+[[nodiscard]] inline int runTests(const Makers &all = makers())
 {
     // Else the log goes to the debugger on Windows.
     qputenv("QT_ASSUME_STDERR_HAS_CONSOLE", "1");
     QStringList arguments = QCoreApplication::arguments();
     const QString only = arguments.value(1).endsWith(QLatin1String("Test")) ? arguments.takeAt(1) : QString();
     int failures = 0;
-    const auto run = [&](const std::unique_ptr<QObject> &test) {
+    for (const auto &maker : all) {
+        const std::unique_ptr<QObject> test = maker();
         if (only.isEmpty() || only == QLatin1String(test->metaObject()->className()))
             failures += QTest::qExec(test.get(), arguments);
-    };
-    (run(std::unique_ptr<QObject>(makers())), ...);
+    }
     return failures;
+}
+
+template <typename... Functions>
+[[nodiscard]] int runTests(Functions... functions)
+{
+    return runTests(Makers{[functions] { return std::unique_ptr<QObject>(functions()); }...});
 }
 
 } // namespace Zandrove::TestMain
 
-/// The main function of a program with one test class.
-#define ZANDROVE_TEST_MAIN(TestClass)                                                                        \
-    int main(int argc, char *argv[])                                                                         \
-    {                                                                                                        \
-        const QCoreApplication app(argc, argv);                                                              \
-        return Zandrove::Platform::endProcess(                                                               \
-            Zandrove::TestMain::runTests([] { return std::make_unique<TestClass>(); }));                     \
-    }
+/// Has this program run a test class.
+#define ZANDROVE_TEST(TestClass)                                                                             \
+    [[maybe_unused]] static const auto &added##TestClass =                                                   \
+        Zandrove::TestMain::makers().emplaceBack([] { return std::make_unique<TestClass>(); });
+
+/// The same, where it is the only one.
+#define ZANDROVE_TEST_MAIN(TestClass) ZANDROVE_TEST(TestClass)

@@ -1,14 +1,11 @@
+#include "SimulatedPc.h"
+#include "TestMain.h"
+
 #include "core/engine/TransferEngine.h"
 #include "inventory/AppScanner.h"
 #include "inventory/FileScanner.h"
 
-#include "SimulatedPc.h"
-#include "TestMain.h"
-
 #include <QSignalSpy>
-#include <QTest>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
@@ -28,142 +25,126 @@ class ScanTest : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init();
-    void cleanup();
-    void joinsTheFourScanners();
-    void refusesWhatCannotBegin();
-    void cancelledScanGivesNoResult_data();
-    void cancelledScanGivesNoResult();
-    void totalsCountWhatIsDropped();
-
-private:
     std::unique_ptr<SimulatedPc> m_pc;
     std::unique_ptr<TransferEngine> m_engine;
+    std::unique_ptr<QSignalSpy> m_completed;
+
+private Q_SLOTS:
+    void init()
+    {
+        m_pc = std::make_unique<SimulatedPc>();
+        m_pc->addRegistry(
+            u"[%1Lonely Sketch]\n\"DisplayName\"=\"Lonely Sketch\"\n\"EstimatedSize\"=dword:1\n"_s.arg(
+                UninstallKey));
+        m_engine = std::make_unique<TransferEngine>();
+        m_completed = std::make_unique<QSignalSpy>(m_engine.get(), &TransferEngine::scanCompleted);
+    }
+
+    void cleanup()
+    {
+        m_engine.reset();
+        m_pc.reset();
+    }
+
+    void joinsTheFourScanners()
+    {
+        QStringList events;
+        connect(m_engine.get(), &TransferEngine::scanStarted, this, [&] { events.append(u"started"_s); });
+        connect(m_engine.get(), &TransferEngine::info, this,
+                [&](const QString &text) { events.append(text); });
+        const QSignalSpy progress(m_engine.get(), &TransferEngine::scanProgress);
+        const QSignalSpy failed(m_engine.get(), &TransferEngine::transferFailed);
+
+        m_engine->startScan();
+        m_engine->setSelectedPaths({m_pc->homePath()});
+        m_engine->startTransfer();
+        QCOMPARE(failed.size(), 1);
+        QVERIFY(m_completed->wait(LongestScan));
+        QCOMPARE(events, QStringList({u"started"_s, u"Starting system scan..."_s}));
+
+        const auto result = m_completed->first().first().value<ScanResult>();
+        QStringList names;
+        qint64 size = 0;
+        for (const AppInfo &app : result.apps) {
+            names.append(app.name);
+            size += app.size;
+        }
+        QVERIFY(names.contains(u"Lonely Sketch"_s));
+        for (const FolderInfo &folder : result.folders)
+            size += folder.totalSize;
+        QCOMPARE(result.totalSize, size);
+        QVERIFY(!result.settings.isEmpty() && !result.accounts.isEmpty() && result.scanTime.isValid());
+        QCOMPARE(progress.last().mid(2, 2), (QVariantList{int(result.apps.size()), 0}));
+
+        m_engine->setSelectedApps({int(names.indexOf(u"Lonely Sketch"_s)), 99, -1});
+        QCOMPARE(m_engine->selectedCount(), 2);
+    }
+
+    void refusesWhatCannotBegin()
+    {
+        const QSignalSpy failed(m_engine.get(), &TransferEngine::scanFailed);
+        const QSignalSpy warnings(m_engine.get(), &TransferEngine::warning);
+        const QSignalSpy started(m_engine.get(), &TransferEngine::scanStarted);
+        m_engine->setRole(NewPC);
+        m_engine->startScan();
+        QCOMPARE(failed, (QList<QVariantList>{{u"Not connected to source PC"_s}}));
+        m_engine->setRole(OldPC);
+        m_engine->startScan();
+        m_engine->startScan();
+        QCOMPARE(warnings, (QList<QVariantList>{{u"Scan already in progress"_s}}));
+        QCOMPARE(started.size(), 1);
+    }
+
+    void cancelledScanGivesNoResult_data()
+    {
+        addColumns<QString>("end");
+        for (const char *end :
+             {"cancel", "reset", "cancel from a scanner's progress", "reset behind the join"})
+            QTest::newRow(end) << QString::fromLatin1(end);
+    }
+    void cancelledScanGivesNoResult()
+    {
+        QFETCH(QString, end);
+        QSignalSpy cancelled(m_engine.get(), &TransferEngine::scanCancelled);
+        QSignalSpy applications(m_engine->findChild<AppScanner *>(), &AppScanner::finished);
+        if (end == "cancel from a scanner's progress"_L1)
+            connect(m_engine->findChild<FileScanner *>(), &FileScanner::progress, m_engine.get(),
+                    &TransferEngine::cancelScan);
+        m_engine->startScan();
+        if (end == "cancel"_L1)
+            m_engine->cancelScan();
+        if (end == "reset behind the join"_L1)
+            QVERIFY(applications.wait(LongestScan));
+        if (end.startsWith("reset"_L1))
+            m_engine->reset();
+        m_engine->cancelScan(); // nothing is running any more
+        QTest::qWait(SilenceAfterIt);
+        QCOMPARE(m_completed->size(), 0);
+        QCOMPARE(cancelled.size(), end == "reset behind the join"_L1 ? 0 : 1);
+
+        QObject::disconnect(m_engine->findChild<FileScanner *>(), &FileScanner::progress, m_engine.get(),
+                            &TransferEngine::cancelScan);
+        m_engine->startScan();
+        QVERIFY(m_completed->wait(LongestScan));
+        QVERIFY(!m_engine->scanResult().apps.isEmpty());
+    }
+
+    void totalsCountWhatIsDropped()
+    {
+        auto *const scanner = m_engine->findChild<FileScanner *>();
+        // The second result of the folders takes the place of the first, and stands for the fourth scanner.
+        m_engine->startScan();
+        m_engine->findChild<AppScanner *>()->cancel();
+        FolderInfo nameless;
+        nameless.totalSize = 100;
+        nameless.fileCount = 3;
+        Q_EMIT scanner->finished({nameless});
+        QVERIFY(m_completed->wait(LongestScan));
+        QVERIFY(m_engine->scanResult().folders.isEmpty());
+        QCOMPARE(m_engine->scanResult().totalSize, 100);
+        QCOMPARE(m_engine->scanResult().totalFiles, 3);
+    }
 };
 
-void ScanTest::init()
-{
-    m_pc = std::make_unique<SimulatedPc>();
-    m_pc->addRegistry(
-        u"[%1Lonely Sketch]\n\"DisplayName\"=\"Lonely Sketch\"\n\"EstimatedSize\"=dword:1\n"_s.arg(
-            UninstallKey));
-    m_engine = std::make_unique<TransferEngine>();
-}
-
-void ScanTest::cleanup()
-{
-    m_engine.reset();
-    m_pc.reset();
-}
-
-void ScanTest::joinsTheFourScanners()
-{
-    QStringList events;
-    const auto note = [&events](const QString &event) { return [&events, event] { events.append(event); }; };
-    connect(m_engine.get(), &TransferEngine::scanStarted, this, note(u"started"_s));
-    connect(m_engine.get(), &TransferEngine::info, this,
-            [&events](const QString &message) { events.append(message); });
-    connect(m_engine.get(), &TransferEngine::scanCompleted, this, note(u"completed"_s));
-    QSignalSpy progress(m_engine.get(), &TransferEngine::scanProgress);
-    QSignalSpy completed(m_engine.get(), &TransferEngine::scanCompleted);
-    QSignalSpy failed(m_engine.get(), &TransferEngine::transferFailed);
-
-    m_engine->startScan();
-    m_engine->setSelectedPaths({m_pc->homePath()});
-    m_engine->startTransfer();
-    QCOMPARE(failed.size(), 1);
-    QVERIFY(completed.wait(LongestScan));
-    QCOMPARE(events, QStringList({u"started"_s, u"Starting system scan..."_s, u"completed"_s}));
-
-    const auto result = completed.first().first().value<ScanResult>();
-    QStringList names;
-    qint64 size = 0;
-    for (const AppInfo &app : result.apps) {
-        names.append(app.name);
-        size += app.size;
-    }
-    QVERIFY(names.contains(u"Lonely Sketch"_s));
-    for (const FolderInfo &folder : result.folders)
-        size += folder.totalSize;
-    QCOMPARE(result.totalSize, size);
-    QVERIFY(!result.settings.isEmpty() && !result.accounts.isEmpty());
-    QVERIFY(result.scanTime.isValid());
-    QCOMPARE(progress.last().at(2).toInt(), int(result.apps.size()));
-    QCOMPARE(progress.last().at(3).toInt(), 0);
-    QCOMPARE(m_engine->scanResult().apps.size(), result.apps.size());
-
-    m_engine->setSelectedApps({int(names.indexOf(u"Lonely Sketch"_s)), 99, -1});
-    QCOMPARE(m_engine->selectedCount(), 2);
-}
-
-void ScanTest::refusesWhatCannotBegin()
-{
-    QSignalSpy failed(m_engine.get(), &TransferEngine::scanFailed);
-    QSignalSpy warnings(m_engine.get(), &TransferEngine::warning);
-    QSignalSpy started(m_engine.get(), &TransferEngine::scanStarted);
-    m_engine->setRole(NewPC);
-    m_engine->startScan();
-    QCOMPARE(failed.first().first().toString(), u"Not connected to source PC"_s);
-    m_engine->setRole(OldPC);
-    m_engine->startScan();
-    m_engine->startScan();
-    QCOMPARE(warnings.first().first().toString(), u"Scan already in progress"_s);
-    QCOMPARE(started.size(), 1);
-}
-
-void ScanTest::cancelledScanGivesNoResult_data()
-{
-    QTest::addColumn<QString>("end");
-    for (const char *end : {"cancel", "reset", "cancel from a scanner's progress", "reset behind the join"})
-        QTest::newRow(end) << QString::fromLatin1(end);
-}
-
-void ScanTest::cancelledScanGivesNoResult()
-{
-    QFETCH(QString, end);
-    QSignalSpy completed(m_engine.get(), &TransferEngine::scanCompleted);
-    QSignalSpy cancelled(m_engine.get(), &TransferEngine::scanCancelled);
-    QSignalSpy applications(m_engine->findChild<AppScanner *>(), &AppScanner::finished);
-    if (end == "cancel from a scanner's progress"_L1)
-        connect(m_engine->findChild<FileScanner *>(), &FileScanner::progress, m_engine.get(),
-                &TransferEngine::cancelScan);
-    m_engine->startScan();
-    if (end == "cancel"_L1)
-        m_engine->cancelScan();
-    if (end == "reset behind the join"_L1)
-        QVERIFY(applications.wait(LongestScan));
-    if (end.startsWith("reset"_L1))
-        m_engine->reset();
-    m_engine->cancelScan(); // nothing is running any more
-    QTest::qWait(SilenceAfterIt);
-    QCOMPARE(completed.size(), 0);
-    QCOMPARE(cancelled.size(), end == "reset behind the join"_L1 ? 0 : 1);
-
-    QObject::disconnect(m_engine->findChild<FileScanner *>(), &FileScanner::progress, m_engine.get(),
-                        &TransferEngine::cancelScan);
-    m_engine->startScan();
-    QVERIFY(completed.wait(LongestScan));
-    QVERIFY(!m_engine->scanResult().apps.isEmpty());
-}
-
-void ScanTest::totalsCountWhatIsDropped()
-{
-    QSignalSpy completed(m_engine.get(), &TransferEngine::scanCompleted);
-    auto *const scanner = m_engine->findChild<FileScanner *>();
-    // The second result of the folders takes the place of the first, and stands for the fourth scanner.
-    m_engine->startScan();
-    m_engine->findChild<AppScanner *>()->cancel();
-    FolderInfo nameless;
-    nameless.totalSize = 100;
-    nameless.fileCount = 3;
-    Q_EMIT scanner->finished({nameless});
-    QVERIFY(completed.wait(LongestScan));
-    QVERIFY(m_engine->scanResult().folders.isEmpty());
-    QCOMPARE(m_engine->scanResult().totalSize, 100);
-    QCOMPARE(m_engine->scanResult().totalFiles, 3);
-}
-
-ZANDROVE_TEST_MAIN(ScanTest)
-
+ZANDROVE_TEST(ScanTest)
 #include "ScanTest.moc"

@@ -1,12 +1,8 @@
 #include "SimulatedPc.h"
-#include "ScratchFolder.h"
+#include "TestFiles.h"
 
 #include "platform/generic/RegistryFile.h"
 #include "platform/generic/RegistryText.h"
-
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -17,13 +13,6 @@ namespace {
 const QString Home = u"C:/Users/alice"_s;
 const QStringList StandardFolders = {u"Documents"_s, u"Pictures"_s,  u"Music"_s,
                                      u"Videos"_s,    u"Downloads"_s, u"Desktop"_s};
-
-void writeTo(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("%s can't be written.", qPrintable(path));
-}
 
 void makeFolders(const SimulatedPc &pc)
 {
@@ -69,7 +58,7 @@ void setEnvironment(SimulatedPc &pc)
         const QString key = name == "Downloads"_L1 ? u"DOWNLOAD"_s : name.toUpper();
         folders += "XDG_" + key.toLatin1() + "_DIR=\"$HOME/" + name.toLatin1() + "\"\n";
     }
-    writeTo(pc.homePath(u".config/user-dirs.dirs"_s), folders);
+    pc.writeFile(pc.homePath(u".config/user-dirs.dirs"_s), folders);
 }
 
 void installPrograms(const SimulatedPc &pc)
@@ -94,7 +83,8 @@ SimulatedPc::SimulatedPc(const PathRule &isUnsuitable)
     makeFolders(*this);
     setEnvironment(*this);
     installPrograms(*this);
-    writeTo(path(u"registry.reg"_s), Platform::encodeRegistryFile(Platform::registryText({})));
+    writeFile(u"calls"_s, {});
+    writeFile(u"registry.reg"_s, Platform::encodeRegistryFile(Platform::registryText({})));
 }
 
 SimulatedPc::~SimulatedPc()
@@ -107,11 +97,6 @@ bool SimulatedPc::isMadeUp()
     return true;
 }
 
-QString SimulatedPc::path(const QString &place) const
-{
-    return QFileInfo(place).isAbsolute() ? place : m_folder->filePath(place);
-}
-
 QString SimulatedPc::homePath(const QString &place) const
 {
     return path(place.isEmpty() ? Home : Home + u'/' + place);
@@ -119,10 +104,7 @@ QString SimulatedPc::homePath(const QString &place) const
 
 QString SimulatedPc::writeFile(const QString &place, const QByteArray &content)
 {
-    const QString file = path(place);
-    QDir().mkpath(QFileInfo(file).path());
-    writeTo(file, content);
-    return file;
+    return Zandrove::writeFile(path(place), content);
 }
 
 void SimulatedPc::addRegistry(const QString &text)
@@ -147,8 +129,7 @@ void SimulatedPc::removeRegistry()
 void SimulatedPc::replaceProgram(const QString &name, const QByteArray &script)
 {
     removeProgram(name);
-    const QString program = path(u"bin/"_s + name);
-    writeTo(program, "#!/bin/sh\n" + script + '\n');
+    const QString program = writeFile(u"bin/"_s + name, "#!/bin/sh\n" + script + '\n');
     QFile::setPermissions(program, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
@@ -159,10 +140,7 @@ void SimulatedPc::removeProgram(const QString &name)
 
 QStringList SimulatedPc::programCalls() const
 {
-    QFile file(path(u"calls"_s));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    return QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    return QString::fromUtf8(contentOf(path(u"calls"_s))).split(u'\n', Qt::SkipEmptyParts);
 }
 
 } // namespace Zandrove

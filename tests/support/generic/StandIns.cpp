@@ -1,27 +1,38 @@
-#include "StandIn.h"
-
+#include "platform/RegistryPath.h"
 #include "platform/generic/RegistryFile.h"
+#include "platform/generic/RegistryText.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QUuid>
 
 #include <cstdio>
+#include <cstdlib>
 
 using namespace Qt::StringLiterals;
+using namespace Zandrove::Platform;
 
-namespace Zandrove::StandIn {
-
+/// What stands in for the programs of Windows that Zandrove starts: in the forms in which it calls them. Each
+/// works on the registry file of the simulated PC, prints what a caller looks for, and ends with the exit
+/// code that the real one gives.
 namespace {
 
 const QString SchemesKey =
     u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Control\\Power\\User\\PowerSchemes"_s;
 const QString ActiveScheme = u"ActivePowerScheme"_s;
 const QString BalancedScheme = u"381b4222-f694-41f0-9685-ff5bb260df2e"_s;
-const QString RulesKey =
-    u"HKEY_LOCAL_MACHINE\\SYSTEM\\CurrentControlSet\\Services\\SharedAccess\\Parameters\\"
-    "FirewallPolicy\\FirewallRules"_s;
 const QByteArray SchemeFileBegin = "power scheme ";
+
+int fail(const char *line)
+{
+    std::fprintf(stderr, "%s\n", line);
+    return EXIT_FAILURE;
+}
+
+int finish(bool done)
+{
+    return done ? EXIT_SUCCESS : fail("ERROR: Access is denied.");
+}
 
 /// Keeps what the programs were called with where the simulated PC finds it.
 void recordCall(const QStringList &call)
@@ -31,129 +42,84 @@ void recordCall(const QStringList &call)
         file.write(call.join(u'|').toUtf8() + '\n');
 }
 
-QString activeScheme()
+int exportKey(const QString &key, QFile &file)
 {
-    const auto registry = Platform::readRegistryFile();
-    const Platform::RegistryNode *const schemes = registry->find(SchemesKey);
-    if (schemes == nullptr || !schemes->values.contains(ActiveScheme))
-        return BalancedScheme;
-    return Platform::textOf(schemes->values.at(ActiveScheme).data);
+    const auto parts = splitRegistryPath(key);
+    const QString path = !parts                   ? QString()
+                         : parts->below.isEmpty() ? parts->root
+                                                  : parts->root + u'\\' + parts->below;
+    const auto registry = readRegistryFile();
+    if (path.isEmpty() || registry->find(path) == nullptr)
+        return fail("ERROR: The system was unable to find the specified registry key or value.");
+    return finish(file.open(QIODevice::WriteOnly) &&
+                  file.write(encodeRegistryFile(registryText(*registry, path))) > 0);
 }
 
-int exportScheme(const QString &path, const QString &scheme)
+int importKeys(QFile &file)
 {
-    QFile file(path);
-    const QString guid = scheme == "SCHEME_CURRENT"_L1 ? activeScheme() : scheme;
-    if (!file.open(QIODevice::WriteOnly))
-        return fail(u"Unable to perform operation."_s);
-    file.write(SchemeFileBegin + guid.toUtf8() + '\n');
-    return Succeeded;
+    if (!file.open(QIODevice::ReadOnly))
+        return fail("ERROR: Error opening the file. There may be a disk or file system error.");
+    const QString text = decodeRegistryFile(file.readAll());
+    return finish(
+        changeRegistryFile([&text](RegistryNode &registry) { return mergeRegistryText(registry, text); }));
 }
 
-int importScheme(const QString &path)
+int exportScheme(QFile &file)
 {
-    QFile file(path);
+    const auto registry = readRegistryFile();
+    const RegistryNode *const schemes = registry->find(SchemesKey);
+    const bool hasOwn = schemes != nullptr && schemes->values.contains(ActiveScheme);
+    const QString guid = hasOwn ? textOf(schemes->values.at(ActiveScheme).data) : BalancedScheme;
+    return finish(file.open(QIODevice::WriteOnly) && file.write(SchemeFileBegin + guid.toUtf8() + '\n') > 0);
+}
+
+int importScheme(QFile &file)
+{
     if (!file.open(QIODevice::ReadOnly) || !file.readAll().startsWith(SchemeFileBegin))
-        return fail(u"Unable to perform operation. The file is no power scheme."_s);
+        return fail("Unable to perform operation. The file is no power scheme.");
     const QString guid = QUuid::createUuid().toString(QUuid::WithoutBraces);
-    const bool added = Platform::changeRegistryFile([&guid](Platform::RegistryNode &registry) {
+    std::printf("Imported Power Scheme Successfully. GUID: %s\n", qPrintable(guid));
+    return finish(changeRegistryFile([&guid](RegistryNode &registry) {
         registry.make(SchemesKey + u'\\' + guid);
         return true;
-    });
-    if (!added)
-        return fail(u"Unable to perform operation."_s);
-    print(u"Imported Power Scheme Successfully. GUID: "_s + guid);
-    return Succeeded;
+    }));
 }
 
 int activateScheme(const QString &guid)
 {
-    const bool activated = Platform::changeRegistryFile([&guid](Platform::RegistryNode &registry) {
+    return finish(changeRegistryFile([&guid](RegistryNode &registry) {
         if (registry.find(SchemesKey + u'\\' + guid) == nullptr)
             return false;
-        registry.make(SchemesKey).values[ActiveScheme] = Platform::textValue(guid);
+        registry.make(SchemesKey).values[ActiveScheme] = textValue(guid);
         return true;
-    });
-    return activated ? Succeeded : fail(u"The power scheme does not exist."_s);
+    }));
 }
 
-int showRule(const QString &name)
+int run(const QString &call, const QStringList &arguments)
 {
-    const auto registry = Platform::readRegistryFile();
-    const Platform::RegistryNode *const rules = registry->find(RulesKey);
-    if (rules == nullptr || !rules->values.contains(name)) {
-        print(u"No rules match the specified criteria."_s);
-        return Failed;
-    }
-    print(u"Rule Name:                            "_s + name);
-    return Succeeded;
-}
-
-int addRule(const QString &name, const QStringList &conditions)
-{
-    const bool added = Platform::changeRegistryFile([&](Platform::RegistryNode &registry) {
-        registry.make(RulesKey).values[name] = Platform::textValue(conditions.join(u'|'));
-        return true;
-    });
-    if (!added)
-        return fail(u"The requested operation requires elevation (Run as administrator)."_s);
-    print(u"Ok."_s);
-    return Succeeded;
+    QFile second(arguments.value(1));
+    QFile third(arguments.value(2));
+    if (call == "reg export"_L1)
+        return exportKey(arguments.value(1), third);
+    if (call == "reg import"_L1)
+        return importKeys(second);
+    if (call == "powercfg /export"_L1)
+        return exportScheme(second);
+    if (call == "powercfg /import"_L1)
+        return importScheme(second);
+    if (call == "powercfg /setactive"_L1)
+        return activateScheme(arguments.value(1));
+    return fail("No rules match the specified criteria."); // netsh, to which no rule is known
 }
 
 } // namespace
 
-void print(const QString &line)
-{
-    std::puts(line.toLocal8Bit().constData());
-}
-
-int fail(const QString &line)
-{
-    std::fputs((line + u'\n').toLocal8Bit().constData(), stderr);
-    return Failed;
-}
-
-int runPowercfg(const QStringList &arguments)
-{
-    const QString action = arguments.value(0).toLower();
-    if (action == "/export"_L1 && arguments.size() == 3)
-        return exportScheme(arguments[1], arguments[2]);
-    if (action == "/import"_L1 && arguments.size() == 2)
-        return importScheme(arguments[1]);
-    if (action == "/setactive"_L1 && arguments.size() == 2)
-        return activateScheme(arguments[1]);
-    return fail(u"Invalid Parameters -- try \"/?\" for help"_s);
-}
-
-int runNetsh(const QStringList &arguments)
-{
-    const QStringList command = arguments.first(std::min<qsizetype>(arguments.size(), 4));
-    const QString name = arguments.value(4);
-    const QString tag = u"name="_s;
-    if (name.startsWith(tag) && command == QStringList{u"advfirewall"_s, u"firewall"_s, u"show"_s, u"rule"_s})
-        return showRule(name.mid(tag.size()));
-    if (name.startsWith(tag) && command == QStringList{u"advfirewall"_s, u"firewall"_s, u"add"_s, u"rule"_s})
-        return addRule(name.mid(tag.size()), arguments.mid(5));
-    return fail(u"The following command was not found: "_s + arguments.join(u' '));
-}
-
-} // namespace Zandrove::StandIn
-
 int main(int argc, char *argv[])
 {
-    using namespace Zandrove;
-
     QStringList call;
     for (int i = 0; i < argc; ++i)
         call.append(QString::fromLocal8Bit(argv[i]));
     const QString program = QFileInfo(call.takeFirst()).baseName();
-    StandIn::recordCall(QStringList(program) + call);
-    if (program == "reg"_L1)
-        return StandIn::runReg(call);
-    if (program == "powercfg"_L1)
-        return StandIn::runPowercfg(call);
-    if (program == "netsh"_L1)
-        return StandIn::runNetsh(call);
-    return StandIn::fail(program + u" stands in for nothing"_s);
+    recordCall(QStringList(program) + call);
+    return run(program + u' ' + call.value(0), call);
 }

@@ -1,13 +1,10 @@
 #include "SimulatedPc.h"
 
-#include "ScratchFolder.h"
+#include "TestFiles.h"
 
 #include "platform/ExternalProgram.h"
 #include "platform/Registry.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QRegularExpression>
 #include <QStringDecoder>
 #include <QStringEncoder>
@@ -64,11 +61,6 @@ QString topmostMissing(QString path, QChar separator, Exists exists)
     return path;
 }
 
-bool placeExists(const QString &path)
-{
-    return QFileInfo::exists(path);
-}
-
 bool keyExists(const QString &key)
 {
     return Platform::RegistryKey(key).exists();
@@ -111,11 +103,6 @@ bool SimulatedPc::isMadeUp()
     return false;
 }
 
-QString SimulatedPc::path(const QString &place) const
-{
-    return QFileInfo(place).isAbsolute() ? place : m_folder->filePath(place);
-}
-
 QString SimulatedPc::homePath(const QString &place) const
 {
     return place.isEmpty() ? QDir::homePath() : QDir::homePath() + u'/' + place;
@@ -127,13 +114,10 @@ QString SimulatedPc::writeFile(const QString &place, const QByteArray &content)
     if (QFileInfo(place).isAbsolute()) {
         if (!isScratchPc() || QFileInfo::exists(target))
             refuse(target);
-        m_state->addedFiles.append(topmostMissing(target, u'/', placeExists));
+        m_state->addedFiles.append(
+            topmostMissing(target, u'/', qOverload<const QString &>(&QFileInfo::exists)));
     }
-    QDir().mkpath(QFileInfo(target).path());
-    QFile file(target);
-    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-        qFatal("%s can't be written.", qPrintable(target));
-    return target;
+    return Zandrove::writeFile(target, content);
 }
 
 void SimulatedPc::addRegistry(const QString &text)
@@ -160,10 +144,7 @@ QString SimulatedPc::registryText(const QString &key) const
 {
     const QString exported = path(u"exported.reg"_s);
     reg({u"export"_s, key, exported, u"/y"_s});
-    QFile file(exported);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("%s can't be read.", qPrintable(exported));
-    return QStringDecoder(QStringConverter::Utf16LE)(file.readAll());
+    return QStringDecoder(QStringConverter::Utf16LE)(contentOf(exported));
 }
 
 void SimulatedPc::removeRegistry()

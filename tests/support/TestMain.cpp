@@ -1,14 +1,12 @@
-#include "InventoryTests.h"
-
 #include "TestMain.h"
 
 namespace {
 
 int runAll(int argc, char *argv[])
 {
+    const Zandrove::TestMain::OwnHome home;
     const QCoreApplication app(argc, argv);
-    return Zandrove::TestMain::runTests(makeAppRulesTest, makeSearchTest, makeScannersTest,
-                                        makeAppScannerTest);
+    return Zandrove::TestMain::runTests();
 }
 
 } // namespace

@@ -1,8 +1,0 @@
-#pragma once
-
-#include <QObject>
-
-QObject *makeAppRulesTest();
-QObject *makeSearchTest();
-QObject *makeScannersTest();
-QObject *makeAppScannerTest();
