@@ -1,5 +1,6 @@
 #include "appmigration/AppAnalyzer.h"
 
+#include "appmigration/Log.h"
 #include "inventory/PathExclusion.h"
 #include "platform/FileAttributes.h"
 #include "platform/Identity.h"
@@ -8,7 +9,6 @@
 #include "platform/SpecialFolders.h"
 #include "support/Paths.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
@@ -129,7 +129,8 @@ std::optional<QString> claimingKeyword(const QStringList &keywords, const QStrin
 /// The one place where a user can see why something of another application goes along.
 void logFound(const QString &kind, const QString &path, const QString &keyword)
 {
-    qDebug() << qPrintable(u"  Found %1:"_s.arg(kind)) << path << "matched by keyword:" << keyword;
+    qCDebug(logAppMigration) << qPrintable(u"  Found %1:"_s.arg(kind)) << path
+                             << "matched by keyword:" << keyword;
 }
 
 /// Adds to `found` the folders directly below `root` that a keyword claims.
@@ -157,7 +158,7 @@ QStringList knownInstallDirs(const AppInfo &app)
         if (folder.isEmpty() || !QDir(withSlashes(folder)).exists())
             return;
         addUnlessPresent(found, cleanPath(folder));
-        qDebug() << "  Install dir:" << folder << "named by:" << source;
+        qCDebug(logAppMigration) << "  Install dir:" << folder << "named by:" << source;
     };
     addExisting(app.installPath, u"scan"_s);
     for (const QString &root : UninstallRoots) {
@@ -172,7 +173,7 @@ bool isTooLargeForShortcut(const QString &path)
     const std::optional<qint64> size = Platform::realFileSize(path);
     if (!size || *size <= LargestShortcut)
         return false;
-    qDebug() << "  Skipping oversized .lnk file:" << path << "real size:" << *size;
+    qCDebug(logAppMigration) << "  Skipping oversized .lnk file:" << path << "real size:" << *size;
     return true;
 }
 
@@ -184,14 +185,14 @@ bool leadsTo(const QString &target, const QString &installLocation)
 
 void logPackage(const AppPackage &package)
 {
-    qDebug() << "  Install dirs:" << package.installDirs.size();
-    qDebug() << "  AppData Local:" << package.appDataLocal.size();
-    qDebug() << "  AppData Roaming:" << package.appDataRoaming.size();
-    qDebug() << "  ProgramData:" << package.programData.size();
-    qDebug() << "  Registry keys:" << package.registryKeys.size();
-    qDebug() << "  Shortcuts:" << package.shortcuts.size();
-    qDebug() << "  Total size:" << package.totalSize;
-    qDebug() << "  File count:" << package.fileCount;
+    qCDebug(logAppMigration) << "  Install dirs:" << package.installDirs.size();
+    qCDebug(logAppMigration) << "  AppData Local:" << package.appDataLocal.size();
+    qCDebug(logAppMigration) << "  AppData Roaming:" << package.appDataRoaming.size();
+    qCDebug(logAppMigration) << "  ProgramData:" << package.programData.size();
+    qCDebug(logAppMigration) << "  Registry keys:" << package.registryKeys.size();
+    qCDebug(logAppMigration) << "  Shortcuts:" << package.shortcuts.size();
+    qCDebug(logAppMigration) << "  Total size:" << package.totalSize;
+    qCDebug(logAppMigration) << "  File count:" << package.fileCount;
 }
 
 } // namespace
@@ -203,7 +204,7 @@ AppPackage analyzeApp(const AppInfo &app, const StopCheck &stop)
     package.version = app.version;
     package.installLocation = app.installPath;
     package.sourceUser = Platform::userName();
-    qDebug() << "Analyzing app:" << app.name;
+    qCDebug(logAppMigration) << "Analyzing app:" << app.name;
 
     package.installDirs = findInstallDirs(app);
     package.appDataLocal = findAppData(app, package.publisher, true);
@@ -228,7 +229,7 @@ QStringList findInstallDirs(const AppInfo &app)
 {
     QStringList found = knownInstallDirs(app);
     const QStringList keywords = installKeywords(app.name);
-    qDebug() << "  Search keywords for" << app.name << ":" << keywords;
+    qCDebug(logAppMigration) << "  Search keywords for" << app.name << ":" << keywords;
     for (const QString &root : {u"C:/Program Files"_s, u"C:/Program Files (x86)"_s})
         addMatchingFolders(found, root, keywords, u"install dir"_s);
     return found;
@@ -259,7 +260,7 @@ QStringList findRegistryKeys(const AppInfo &app)
     QStringList keys;
     if (!app.hkcuRegPath.isEmpty()) {
         keys.append(app.hkcuRegPath);
-        qDebug() << "  Added HKCU registry path from scan:" << app.hkcuRegPath;
+        qCDebug(logAppMigration) << "  Added HKCU registry path from scan:" << app.hkcuRegPath;
     }
     const QStringList keywords = shortKeywords(app.name);
     for (const QString &root : UninstallRoots + SoftwareRoots) {
@@ -316,7 +317,7 @@ FilteredFiles measureFilteredFiles(const QString &folder, const StopCheck &stop)
     while (files.hasNext() && !(stop && stop())) {
         const QString path = files.next();
         if (isExcludedFile(path)) {
-            qDebug() << "  [EXCLUDED]" << path;
+            qCDebug(logAppMigration) << "  [EXCLUDED]" << path;
             continue;
         }
         measured.size += files.fileInfo().size();

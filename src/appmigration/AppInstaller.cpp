@@ -1,13 +1,13 @@
 #include "appmigration/AppInstaller.h"
 
 #include "appmigration/FileCopy.h"
+#include "appmigration/Log.h"
 #include "appmigration/RegistryText.h"
 #include "platform/Identity.h"
 #include "platform/ShellLink.h"
 #include "platform/SpecialFolders.h"
 #include "support/Paths.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -62,9 +62,9 @@ void keepCopyOnDesktop(const QString &file, const QString &appName)
     if (safe)
         QFile::remove(copy);
     if (safe && QFile::copy(file, copy))
-        qDebug() << "  DEBUG: Copied registry to:" << copy;
+        qCDebug(logAppMigration) << "  DEBUG: Copied registry to:" << copy;
     else
-        qDebug() << "  DEBUG: Failed to copy registry file to desktop";
+        qCDebug(logAppMigration) << "  DEBUG: Failed to copy registry file to desktop";
 }
 
 } // namespace
@@ -77,10 +77,10 @@ AppInstaller::AppInstaller(QObject *parent)
 
 bool AppInstaller::install(AppPackageInfo &package)
 {
-    qDebug() << "AppInstaller: Installing" << package.name;
+    qCDebug(logAppMigration) << "AppInstaller: Installing" << package.name;
     package.status = AppPackageInfo::Installing;
     package.targetInstallLocation = getTargetInstallPath(package);
-    qDebug() << "  Target install location:" << package.targetInstallLocation;
+    qCDebug(logAppMigration) << "  Target install location:" << package.targetInstallLocation;
 
     Q_EMIT progress(package.name, 10, tr("Copying install files..."));
     if (!copyInstallFiles(package)) {
@@ -90,49 +90,49 @@ bool AppInstaller::install(AppPackageInfo &package)
     }
     Q_EMIT progress(package.name, 40, tr("Copying AppData files..."));
     if (!copyAppData(package))
-        qDebug() << "  Warning: AppData copy failed, continuing...";
+        qCDebug(logAppMigration) << "  Warning: AppData copy failed, continuing...";
     Q_EMIT progress(package.name, 60, tr("Importing registry..."));
     if (!importRegistry(package))
-        qDebug() << "  Warning: Registry import failed, continuing...";
+        qCDebug(logAppMigration) << "  Warning: Registry import failed, continuing...";
     Q_EMIT progress(package.name, 80, tr("Creating shortcuts..."));
     if (!createShortcuts(package))
-        qDebug() << "  Warning: Shortcut creation failed, continuing...";
+        qCDebug(logAppMigration) << "  Warning: Shortcut creation failed, continuing...";
 
     Q_EMIT progress(package.name, 100, tr("Installation complete"));
     package.status = AppPackageInfo::Installed;
     Q_EMIT finished(package.name, true, QString());
-    qDebug() << "AppInstaller: Successfully installed" << package.name;
+    qCDebug(logAppMigration) << "AppInstaller: Successfully installed" << package.name;
     return true;
 }
 
 QString AppInstaller::getTargetInstallPath(const AppPackageInfo &package) const
 {
-    qDebug() << "AppInstaller::getTargetInstallPath()";
-    qDebug() << "  appName:" << package.name;
-    qDebug() << "  originalInstallLocation:" << package.originalInstallLocation;
-    qDebug() << "  sourceUser:" << package.sourceUser;
+    qCDebug(logAppMigration) << "AppInstaller::getTargetInstallPath()";
+    qCDebug(logAppMigration) << "  appName:" << package.name;
+    qCDebug(logAppMigration) << "  originalInstallLocation:" << package.originalInstallLocation;
+    qCDebug(logAppMigration) << "  sourceUser:" << package.sourceUser;
     const QString cleaned = cleanedLocation(package.originalInstallLocation);
-    qDebug() << "  Cleaned original path:" << cleaned;
+    qCDebug(logAppMigration) << "  Cleaned original path:" << cleaned;
 
     if (cleaned.isEmpty()) {
         const QString target =
             specialFolder(SpecialFolder::ProgramFiles) + u'/' + fallbackFolderName(package.name);
-        qDebug() << "  Default target install location:" << target;
+        qCDebug(logAppMigration) << "  Default target install location:" << target;
         return target;
     }
     if (cleaned.contains("Program Files"_L1, Qt::CaseInsensitive)) {
         const QString folder = QFileInfo(cleaned).fileName();
-        qDebug() << "  Extracted app dir name:" << folder;
+        qCDebug(logAppMigration) << "  Extracted app dir name:" << folder;
         const bool is32Bit = cleaned.contains("(x86)"_L1, Qt::CaseInsensitive);
         const QString target =
             specialFolder(is32Bit ? SpecialFolder::ProgramFilesX86 : SpecialFolder::ProgramFiles) + u'/' +
             folder;
-        qDebug() << "  Target install location:" << target;
+        qCDebug(logAppMigration) << "  Target install location:" << target;
         return target;
     }
     if (cleaned.contains("/Users/"_L1, Qt::CaseInsensitive)) {
         const QString target = cleanPath(withUserFolders(cleaned, package.sourceUser, m_currentUser));
-        qDebug() << "  User path remapped:" << target;
+        qCDebug(logAppMigration) << "  User path remapped:" << target;
         return target;
     }
     return cleaned;
@@ -142,18 +142,18 @@ bool AppInstaller::copyInstallFiles(AppPackageInfo &package) const
 {
     const QString base = package.receivedBasePath + u"/Install"_s;
     if (!QDir(base).exists()) {
-        qDebug() << "  No install directory found:" << base;
+        qCDebug(logAppMigration) << "  No install directory found:" << base;
         return true;
     }
     const QStringList folders = subfolders(base);
     if (folders.isEmpty()) {
-        qDebug() << "  No subdirectories in Install folder";
+        qCDebug(logAppMigration) << "  No subdirectories in Install folder";
         return true;
     }
     const QString &target = package.targetInstallLocation;
     for (const QString &folder : folders) {
         const QString source = base + u'/' + folder;
-        qDebug() << "  Copying:" << source << "->" << target;
+        qCDebug(logAppMigration) << "  Copying:" << source << "->" << target;
         if (isTransitFolder(target) || !copyDirectory(source, target)) {
             package.errorMessage = tr("Failed to copy install files");
             return false;
@@ -171,7 +171,8 @@ bool AppInstaller::copyAppData(const AppPackageInfo &package) const
         for (const QString &folder : folders) {
             const QString source = base + u'/' + folder;
             const QString destination = specialFolder(target) + u'/' + folder;
-            qDebug() << qPrintable(u"  Copying %1:"_s.arg(area)) << source << "->" << destination;
+            qCDebug(logAppMigration) << qPrintable(u"  Copying %1:"_s.arg(area)) << source << "->"
+                                     << destination;
             allCopied = copyDirectory(source, destination) && allCopied;
         }
     };
@@ -185,7 +186,7 @@ bool AppInstaller::importRegistry(const AppPackageInfo &package) const
 {
     const QString file = package.receivedBasePath + u"/registry.reg"_s;
     if (!QFileInfo::exists(file)) {
-        qDebug() << "  No registry file found";
+        qCDebug(logAppMigration) << "  No registry file found";
         return true;
     }
     keepCopyOnDesktop(file, package.name);
@@ -214,15 +215,15 @@ bool AppInstaller::recreateShortcut(const QString &source, const QString &target
 {
     Platform::ShellLink link = Platform::readShellLink(source).value_or(Platform::ShellLink{});
     if (link.path.isEmpty()) {
-        qDebug() << "  Failed to parse shortcut:" << source;
+        qCDebug(logAppMigration) << "  Failed to parse shortcut:" << source;
         return false;
     }
     for (QString *path : {&link.path, &link.workingDirectory, &link.iconPath})
         *path = remapPath(*path, package);
-    qDebug() << "  Creating shortcut:" << target;
-    qDebug() << "    Target:" << link.path;
+    qCDebug(logAppMigration) << "  Creating shortcut:" << target;
+    qCDebug(logAppMigration) << "    Target:" << link.path;
     const bool created = Platform::writeShellLink(target, link);
-    qDebug() << "    Shortcut created:" << (created ? "success" : "failed");
+    qCDebug(logAppMigration) << "    Shortcut created:" << (created ? "success" : "failed");
     return created;
 }
 

@@ -2,10 +2,10 @@
 
 #include "appmigration/AppInstaller.h"
 
+#include "appmigration/Log.h"
 #include "appmigration/RegistryText.h"
 #include "platform/ExternalProgram.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QFile>
 
@@ -29,26 +29,26 @@ std::optional<QString> readRegistryText(const QString &path)
 {
     QFile file(path);
     if (!file.exists()) {
-        qDebug() << "  ERROR: Registry file not found!";
+        qCDebug(logAppMigration) << "  ERROR: Registry file not found!";
         return std::nullopt;
     }
     if (!file.open(QIODevice::ReadOnly)) {
-        qDebug() << "  Failed to open registry file:" << file.errorString();
+        qCDebug(logAppMigration) << "  Failed to open registry file:" << file.errorString();
         return std::nullopt;
     }
     const QByteArray bytes = file.readAll();
-    qDebug() << "  Registry file size:" << bytes.size() << "bytes";
+    qCDebug(logAppMigration) << "  Registry file size:" << bytes.size() << "bytes";
     if (bytes.isEmpty()) {
-        qDebug() << "  ERROR: Empty registry file";
+        qCDebug(logAppMigration) << "  ERROR: Empty registry file";
         return std::nullopt;
     }
     const QString text = decodeRegistryText(bytes);
     if (text.isEmpty()) {
-        qDebug() << "  ERROR: Failed to read registry file content";
+        qCDebug(logAppMigration) << "  ERROR: Failed to read registry file content";
         return std::nullopt;
     }
-    qDebug() << "  Registry content length:" << text.size() << "chars";
-    qDebug() << "  First 50 chars:" << text.left(ShownCharacters);
+    qCDebug(logAppMigration) << "  Registry content length:" << text.size() << "chars";
+    qCDebug(logAppMigration) << "  First 50 chars:" << text.left(ShownCharacters);
     return text;
 }
 
@@ -58,15 +58,15 @@ bool writeImportFile(const QString &path, const QByteArray &content)
     QFile::remove(path);
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        qDebug() << "  Failed to create temp registry file:" << file.errorString();
+        qCDebug(logAppMigration) << "  Failed to create temp registry file:" << file.errorString();
         return false;
     }
     if (file.write(content) != content.size() || !file.flush()) {
-        qDebug() << "  Failed to create temp registry file:" << file.errorString();
+        qCDebug(logAppMigration) << "  Failed to create temp registry file:" << file.errorString();
         file.remove();
         return false;
     }
-    qDebug() << "  Wrote temp registry file:" << content.size() << "bytes";
+    qCDebug(logAppMigration) << "  Wrote temp registry file:" << content.size() << "bytes";
     return true;
 }
 
@@ -74,17 +74,17 @@ bool runImport(const QString &path)
 {
     const auto result = Platform::runProgram(u"reg.exe"_s, {u"import"_s, path}, ImportTimeout);
     if (!result.finished) {
-        qDebug() << "  Registry import timeout";
+        qCDebug(logAppMigration) << "  Registry import timeout";
         return false;
     }
-    qDebug() << "  reg.exe exit code:" << result.exitCode;
+    qCDebug(logAppMigration) << "  reg.exe exit code:" << result.exitCode;
     const QString output = QString::fromLocal8Bit(result.standardOutput).trimmed();
     const QString complaints = QString::fromLocal8Bit(result.standardError).trimmed();
     if (!output.isEmpty())
-        qDebug() << "  reg.exe stdout:" << output;
+        qCDebug(logAppMigration) << "  reg.exe stdout:" << output;
     if (!complaints.isEmpty())
-        qDebug() << "  reg.exe stderr:" << complaints;
-    qDebug() << "  Registry import result:" << (result.exitCode == 0 ? "success" : "failed");
+        qCDebug(logAppMigration) << "  reg.exe stderr:" << complaints;
+    qCDebug(logAppMigration) << "  Registry import result:" << (result.exitCode == 0 ? "success" : "failed");
     return result.exitCode == 0;
 }
 
@@ -92,13 +92,13 @@ bool runImport(const QString &path)
 
 bool AppInstaller::importRegistryFile(const QString &path, const QString &sourceUser) const
 {
-    qDebug() << "  Importing registry:" << path;
+    qCDebug(logAppMigration) << "  Importing registry:" << path;
     std::optional<QString> text = readRegistryText(path);
     if (!text)
         return false;
     if (!sourceUser.isEmpty() && !m_currentUser.isEmpty() && sourceUser != m_currentUser) {
         text = withUserFolders(*std::move(text), sourceUser, m_currentUser);
-        qDebug() << "  Remapped user paths:" << sourceUser << "->" << m_currentUser;
+        qCDebug(logAppMigration) << "  Remapped user paths:" << sourceUser << "->" << m_currentUser;
     }
     const QString file = QDir::temp().filePath(u"zandrove_import.reg"_s);
     if (!writeImportFile(file, encodeRegistryText(*text)))

@@ -3,12 +3,12 @@
 #include "appmigration/AppAnalyzer.h"
 #include "appmigration/AppInstaller.h"
 #include "appmigration/AppMessages.h"
+#include "appmigration/Log.h"
 #include "appmigration/RegistryExport.h"
 #include "inventory/PathExclusion.h"
 #include "peer/Protocol.h"
 #include "platform/FileAttributes.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
@@ -36,7 +36,8 @@ void logSharedNames(const QList<AppPackage> &packages)
     for (const AppPackage &package : packages) {
         const QString safe = makeSafeName(package.name).toLower();
         if (names.contains(safe))
-            qDebug() << "  [WARN] Another application travels under the same name:" << package.name;
+            qCDebug(logAppMigration) << "  [WARN] Another application travels under the same name:"
+                                     << package.name;
         names.insert(safe);
     }
 }
@@ -67,7 +68,7 @@ void AppMigrator::start(const QList<AppInfo> &apps)
     if (m_stopped)
         m_cancelled = true;
     clearCounts();
-    qDebug() << "AppMigrator: Starting migration for" << apps.size() << "apps";
+    qCDebug(logAppMigration) << "AppMigrator: Starting migration for" << apps.size() << "apps";
 
     analyzeAll();
     if (!m_cancelled)
@@ -118,7 +119,7 @@ bool AppMigrator::sendApp(const AppPackage &package)
 {
     const QString safe = makeSafeName(package.name);
     const QString base = u"Apps/"_s + safe;
-    qDebug() << "Sending app:" << package.name << "-> safeName:" << safe;
+    qCDebug(logAppMigration) << "Sending app:" << package.name << "-> safeName:" << safe;
     m_filesQueued = 0;
     m_filesSkipped = 0;
     m_skippedPaths.clear();
@@ -147,7 +148,7 @@ void AppMigrator::sendRegistry(const AppPackage &package, const QString &base)
         queueFile(file, base + u"/registry.reg"_s);
         return;
     }
-    qDebug() << "  [WARN] Failed to export registry for:" << package.name;
+    qCDebug(logAppMigration) << "  [WARN] Failed to export registry for:" << package.name;
     ++m_filesSkipped;
 }
 
@@ -186,17 +187,17 @@ bool AppMigrator::sendDirectory(const QString &folder, const QString &relativeBa
 {
     const QDir directory(folder);
     if (!directory.exists()) {
-        qDebug() << "  [WARN] Directory not exists:" << folder;
+        qCDebug(logAppMigration) << "  [WARN] Directory not exists:" << folder;
         return false;
     }
     QDirIterator files(folder, QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
     while (files.hasNext() && !m_cancelled) {
         const QString path = files.next();
         if (isExcludedFile(path)) {
-            qDebug() << "  [SKIP-FILTER]" << path;
+            qCDebug(logAppMigration) << "  [SKIP-FILTER]" << path;
             ++m_filesSkipped;
         } else if (!files.fileInfo().isReadable()) {
-            qDebug() << "  [SKIP-UNREADABLE]" << path;
+            qCDebug(logAppMigration) << "  [SKIP-UNREADABLE]" << path;
             ++m_filesSkipped;
             m_skippedPaths.append(path);
         } else {
@@ -213,10 +214,10 @@ void AppMigrator::sendShortcuts(const AppPackage &package, const QString &base)
         const QString &path = shortcut.shortcutPath;
         const std::optional<qint64> size = Platform::realFileSize(path);
         if (!size) {
-            qDebug() << "  [SKIP] Shortcut not found:" << path;
+            qCDebug(logAppMigration) << "  [SKIP] Shortcut not found:" << path;
             ++m_filesSkipped;
         } else if (*size > LargestShortcut) {
-            qDebug() << "  [SKIP] Oversized shortcut:" << path << "size:" << *size;
+            qCDebug(logAppMigration) << "  [SKIP] Oversized shortcut:" << path << "size:" << *size;
             ++m_filesSkipped;
         } else {
             const bool onDesktop = path.contains("Desktop"_L1, Qt::CaseInsensitive);
@@ -235,13 +236,13 @@ void AppMigrator::queueFile(const QString &filePath, const QString &relativePath
 
 void AppMigrator::logQueued(const QString &name) const
 {
-    qDebug() << "App" << name << "send stats:"
-             << "queued:" << m_filesQueued << "skipped:" << m_filesSkipped;
+    qCDebug(logAppMigration) << "App" << name << "send stats:"
+                             << "queued:" << m_filesQueued << "skipped:" << m_filesSkipped;
     if (m_skippedPaths.isEmpty())
         return;
-    qDebug() << "  Skipped paths:";
+    qCDebug(logAppMigration) << "  Skipped paths:";
     for (const QString &path : m_skippedPaths)
-        qDebug() << "    -" << path;
+        qCDebug(logAppMigration) << "    -" << path;
 }
 
 void AppMigrator::startReceiving()
@@ -253,7 +254,7 @@ void AppMigrator::startReceiving()
     clearCounts();
     m_receivePath = QStandardPaths::writableLocation(QStandardPaths::TempLocation) + u"/Zandrove_Apps"_s;
     QDir().mkpath(m_receivePath);
-    qDebug() << "AppMigrator: Ready to receive apps at" << m_receivePath;
+    qCDebug(logAppMigration) << "AppMigrator: Ready to receive apps at" << m_receivePath;
     m_running = true; // last: the messages come on another thread
     if (m_stopped)
         cancel();
@@ -267,7 +268,7 @@ void AppMigrator::onAppPackageReceived(const QByteArray &data)
     m_currentApp = package.value_or(AppPackage{});
     if (!package)
         return;
-    qDebug() << "Receiving app:" << m_currentApp.name;
+    qCDebug(logAppMigration) << "Receiving app:" << m_currentApp.name;
     Q_EMIT appStarted(m_currentApp.name);
 }
 
@@ -275,7 +276,7 @@ void AppMigrator::onAppEndReceived(const QString &appName)
 {
     if (!m_running || appName.isEmpty() || appName != m_currentApp.name)
         return;
-    qDebug() << "App transfer complete, installing:" << appName;
+    qCDebug(logAppMigration) << "App transfer complete, installing:" << appName;
     const bool installed = installApp(m_currentApp);
     ++(installed ? m_successCount : m_failedCount);
     Q_EMIT appFinished(m_currentApp.name, installed, installed ? QString() : m_currentApp.errorMessage);

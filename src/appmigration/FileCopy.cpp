@@ -1,8 +1,8 @@
 #include "appmigration/FileCopy.h"
 
+#include "appmigration/Log.h"
 #include "support/Paths.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -84,7 +84,7 @@ bool copyDirectory(const QString &source, const QString &target)
     if (!sourceFolder.exists() || isWithin(target, source))
         return false;
     if (!QDir().mkpath(target)) {
-        qDebug() << "  Failed to create directory:" << target;
+        qCDebug(logAppMigration) << "  Failed to create directory:" << target;
         return false;
     }
     int copied = 0;
@@ -96,10 +96,10 @@ bool copyDirectory(const QString &source, const QString &target)
             ++copied;
         } else {
             ++failed;
-            qDebug() << "    Failed to copy:" << file << "->" << destination;
+            qCDebug(logAppMigration) << "    Failed to copy:" << file << "->" << destination;
         }
     }
-    qDebug() << "  copyDirectory result: success=" << copied << "failed=" << failed;
+    qCDebug(logAppMigration) << "  copyDirectory result: success=" << copied << "failed=" << failed;
     return copied > 0;
 }
 

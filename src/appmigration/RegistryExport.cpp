@@ -1,10 +1,10 @@
 #include "appmigration/RegistryExport.h"
 
+#include "appmigration/Log.h"
 #include "appmigration/RegistryText.h"
 #include "platform/ExternalProgram.h"
 
 #include <QDateTime>
-#include <QDebug>
 #include <QFile>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -29,16 +29,16 @@ bool exportKey(const QString &key, const QString &file)
 {
     const auto result = Platform::runProgram(u"reg.exe"_s, {u"export"_s, key, file, u"/y"_s}, ExportTimeout);
     if (!result.finished) {
-        qDebug() << "    TIMEOUT";
+        qCDebug(logAppMigration) << "    TIMEOUT";
         return false;
     }
     if (result.exitCode != 0) {
-        qDebug() << "    FAILED, exit code:" << result.exitCode;
-        qDebug() << "    stderr:" << QString::fromLocal8Bit(result.standardError);
+        qCDebug(logAppMigration) << "    FAILED, exit code:" << result.exitCode;
+        qCDebug(logAppMigration) << "    stderr:" << QString::fromLocal8Bit(result.standardError);
         return false;
     }
     if (QFileInfo(file).size() == 0) {
-        qDebug() << "    ERROR: Temp file empty or not created";
+        qCDebug(logAppMigration) << "    ERROR: Temp file empty or not created";
         return false;
     }
     return true;
@@ -65,13 +65,13 @@ std::optional<QString> contentOfKey(const QString &path)
 
 std::optional<QString> exportedKey(const QString &key)
 {
-    qDebug() << "  Exporting key:" << key;
+    qCDebug(logAppMigration) << "  Exporting key:" << key;
     const QString file = QStandardPaths::writableLocation(QStandardPaths::TempLocation) +
                          u"/zandrove_reg_%1.reg"_s.arg(QDateTime::currentMSecsSinceEpoch());
     QFile::remove(file);
     std::optional<QString> text;
     if (exportKey(key, file)) {
-        qDebug() << "    Temp file size:" << QFileInfo(file).size() << "bytes";
+        qCDebug(logAppMigration) << "    Temp file size:" << QFileInfo(file).size() << "bytes";
         text = contentOfKey(file);
     }
     QFile::remove(file);
@@ -82,10 +82,10 @@ std::optional<QString> exportedKey(const QString &key)
 
 bool exportRegistryKeys(const QStringList &keys, const QString &outputPath)
 {
-    qDebug() << "exportRegistryKeys: exporting" << keys.size() << "keys to" << outputPath;
+    qCDebug(logAppMigration) << "exportRegistryKeys: exporting" << keys.size() << "keys to" << outputPath;
     QFile output(outputPath);
     if (!output.open(QIODevice::WriteOnly)) {
-        qDebug() << "  ERROR: Cannot open output file:" << outputPath;
+        qCDebug(logAppMigration) << "  ERROR: Cannot open output file:" << outputPath;
         return false;
     }
     QStringEncoder encoder(QStringConverter::Utf16LE);
@@ -99,15 +99,15 @@ bool exportRegistryKeys(const QStringList &keys, const QString &outputPath)
         if (!text)
             continue;
         write(encoder(*text));
-        qDebug() << "    Successfully exported, content length:" << text->size();
+        qCDebug(logAppMigration) << "    Successfully exported, content length:" << text->size();
     }
     complete = output.flush() && complete;
     const qint64 size = output.size();
     output.close();
-    qDebug() << "  Final registry.reg size:" << size << "bytes";
+    qCDebug(logAppMigration) << "  Final registry.reg size:" << size << "bytes";
     // Half a value would be imported as if it were the whole.
     if (!complete)
-        qDebug() << "  ERROR: Cannot write output file:" << output.errorString();
+        qCDebug(logAppMigration) << "  ERROR: Cannot write output file:" << output.errorString();
     return complete && size > LargestEmptyFile;
 }
 

@@ -1,6 +1,7 @@
 #include "appmigration/RegistryText.h"
 
-#include <QDebug>
+#include "appmigration/Log.h"
+
 #include <QStringConverter>
 #include <QStringMatcher>
 
@@ -34,15 +35,15 @@ QByteArray marked(const char *hex)
 std::optional<DetectedEncoding> encodingByMark(const QByteArray &bytes)
 {
     if (bytes.startsWith(marked("fffe"))) {
-        qDebug() << "  Detected encoding: UTF-16 LE with BOM";
+        qCDebug(logAppMigration) << "  Detected encoding: UTF-16 LE with BOM";
         return DetectedEncoding{RegistryEncoding::Utf16LittleEndian, 2};
     }
     if (bytes.startsWith(marked("feff"))) {
-        qDebug() << "  Detected encoding: UTF-16 BE with BOM";
+        qCDebug(logAppMigration) << "  Detected encoding: UTF-16 BE with BOM";
         return DetectedEncoding{RegistryEncoding::Utf16BigEndian, 2};
     }
     if (bytes.startsWith(marked("efbbbf"))) {
-        qDebug() << "  Detected encoding: UTF-8 with BOM";
+        qCDebug(logAppMigration) << "  Detected encoding: UTF-8 with BOM";
         return DetectedEncoding{RegistryEncoding::Utf8, 3};
     }
     return std::nullopt;
@@ -52,11 +53,11 @@ std::optional<DetectedEncoding> encodingByMark(const QByteArray &bytes)
 std::optional<DetectedEncoding> encodingByHeader(const QByteArray &bytes)
 {
     if (bytes.startsWith(marked("57006900")) || bytes.startsWith(marked("52004500"))) {
-        qDebug() << "  Detected encoding: UTF-16 LE without BOM (fast path)";
+        qCDebug(logAppMigration) << "  Detected encoding: UTF-16 LE without BOM (fast path)";
         return DetectedEncoding{RegistryEncoding::Utf16LittleEndian, 0};
     }
     if (bytes.startsWith(marked("00570069")) || bytes.startsWith(marked("00520045"))) {
-        qDebug() << "  Detected encoding: UTF-16 BE without BOM (fast path)";
+        qCDebug(logAppMigration) << "  Detected encoding: UTF-16 BE without BOM (fast path)";
         return DetectedEncoding{RegistryEncoding::Utf16BigEndian, 0};
     }
     return std::nullopt;
@@ -75,15 +76,15 @@ std::optional<DetectedEncoding> encodingByZeros(const QByteArray &bytes)
     const auto half = double(sample / 2);
     const double oddRatio = oddZeros / half;
     const double evenRatio = evenZeros / half;
-    qDebug() << "  Heuristic: oddZeros=" << oddZeros << "evenZeros=" << evenZeros
-             << "oddRatio=" << QString::number(oddRatio, 'f', 2)
-             << "evenRatio=" << QString::number(evenRatio, 'f', 2);
+    qCDebug(logAppMigration) << "  Heuristic: oddZeros=" << oddZeros << "evenZeros=" << evenZeros
+                             << "oddRatio=" << QString::number(oddRatio, 'f', 2)
+                             << "evenRatio=" << QString::number(evenRatio, 'f', 2);
     if (oddRatio > ZerosOfUtf16 && oddRatio > evenRatio) {
-        qDebug() << "  Detected encoding: UTF-16 LE without BOM (heuristic)";
+        qCDebug(logAppMigration) << "  Detected encoding: UTF-16 LE without BOM (heuristic)";
         return DetectedEncoding{RegistryEncoding::Utf16LittleEndian, 0};
     }
     if (evenRatio > ZerosOfUtf16 && evenRatio > oddRatio) {
-        qDebug() << "  Detected encoding: UTF-16 BE without BOM (heuristic)";
+        qCDebug(logAppMigration) << "  Detected encoding: UTF-16 BE without BOM (heuristic)";
         return DetectedEncoding{RegistryEncoding::Utf16BigEndian, 0};
     }
     return std::nullopt;
@@ -119,7 +120,7 @@ DetectedEncoding detectEncoding(const QByteArray &bytes)
             detected = encodingByZeros(bytes);
     }
     if (!detected)
-        qDebug() << "  Detected encoding: UTF-8 or ANSI (fallback)";
+        qCDebug(logAppMigration) << "  Detected encoding: UTF-8 or ANSI (fallback)";
     return detected.value_or(DetectedEncoding{});
 }
 

@@ -12,11 +12,14 @@
 #include "support/PrintableText.h"
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace Zandrove::Cli {
 
@@ -30,9 +33,11 @@ void write(std::FILE *stream, const QByteArray &bytes)
     std::fflush(stream);
 }
 
-void onLogMessage(QtMsgType type, const QMessageLogContext &, const QString &message)
+/// A line of the program's own that gets here was asked for, by --verbose or by QT_LOGGING_RULES.
+void onLogMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
-    if (logIsShown || type == QtCriticalMsg || type == QtFatalMsg)
+    const bool ours = QLatin1StringView(context.category).startsWith("zandrove."_L1);
+    if (logIsShown || ours || type == QtCriticalMsg || type == QtFatalMsg)
         write(stderr, printable(message).toUtf8() + '\n');
     if (type == QtFatalMsg)
         std::abort();
@@ -89,6 +94,8 @@ QString prepareFolders(Options &options)
 void installLog(bool shown)
 {
     logIsShown = shown;
+    if (!shown)
+        QLoggingCategory::setFilterRules(u"zandrove.*.debug=false\nzandrove.*.warning=false"_s);
     qInstallMessageHandler(onLogMessage);
 }
 

@@ -1,6 +1,7 @@
 #include "inventory/AccountScanner.h"
 
-#include <QDebug>
+#include "inventory/Log.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -34,7 +35,7 @@ void AccountScanner::start()
     const QList<AccountInfo> accounts = scanAccounts(run);
     if (m_runs.end(run))
         Q_EMIT finished(accounts);
-    qDebug() << "Found" << accounts.size() << "user accounts";
+    qCDebug(logInventory) << "Found" << accounts.size() << "user accounts";
 }
 
 void AccountScanner::cancel()

@@ -1,8 +1,7 @@
 #include "inventory/AppList.h"
 
+#include "inventory/Log.h"
 #include "support/Paths.h"
-
-#include <QDebug>
 
 namespace Zandrove {
 
@@ -27,12 +26,12 @@ bool AppList::shouldAddApp(const QString &name, const QString &location, const F
             const AppInfo &existing = m_apps.at(i);
             const qint64 size = folderSize(location);
             if (size <= existing.size) {
-                qDebug() << "[AppScanner] Skipping duplicate:" << name << "(existing:" << existing.name
-                         << ")";
+                qCDebug(logInventory)
+                    << "[AppScanner] Skipping duplicate:" << name << "(existing:" << existing.name << ")";
                 return false;
             }
-            qDebug() << "[AppScanner] Replacing" << existing.name << "with" << name
-                     << "(size:" << existing.size << "->" << size << ")";
+            qCDebug(logInventory) << "[AppScanner] Replacing" << existing.name << "with" << name
+                                  << "(size:" << existing.size << "->" << size << ")";
             m_apps.removeAt(i);
             m_keys.removeAt(i);
             return true;

@@ -4,8 +4,7 @@
 
 #include "inventory/AppScanner.h"
 #include "inventory/InstallPathSearch.h"
-
-#include <QDebug>
+#include "inventory/Log.h"
 
 #include <algorithm>
 #include <utility>
@@ -49,7 +48,7 @@ QList<AppInfo> AppScan::scanInstalledApps()
     m_hooks.announce(85, AppScanner::tr("Scanning user software registry..."));
     scanUserSoftware();
     m_hooks.announce(100, AppScanner::tr("Scan complete"));
-    qDebug() << "Found" << m_apps.apps().size() << "applications";
+    qCDebug(logInventory) << "Found" << m_apps.apps().size() << "applications";
     return m_apps.apps();
 }
 

@@ -4,10 +4,10 @@
 #include "inventory/AppScan.h"
 
 #include "inventory/InstallPathSearch.h"
+#include "inventory/Log.h"
 #include "inventory/WordLists.h"
 #include "support/Paths.h"
 
-#include <QDebug>
 #include <QFileInfo>
 #include <QLatin1StringView>
 
@@ -208,10 +208,11 @@ Evidence evidenceIn(const RegistryKey &key, bool pathExists, const QString &vers
 
 void logFind(const AppInfo &app, const QString &publisher)
 {
-    qDebug() << "[AppScanner] Found from HKCU\\Software:" << app.name
-             << "publisher:" << (publisher.isEmpty() ? u"(none)"_s : publisher) << "version:" << app.version
-             << "path:" << app.installPath << "pathExists:" << app.canTransfer << "size:" << app.size
-             << "hkcuRegPath:" << app.hkcuRegPath << "canTransfer:" << app.canTransfer;
+    qCDebug(logInventory) << "[AppScanner] Found from HKCU\\Software:" << app.name
+                          << "publisher:" << (publisher.isEmpty() ? u"(none)"_s : publisher)
+                          << "version:" << app.version << "path:" << app.installPath
+                          << "pathExists:" << app.canTransfer << "size:" << app.size
+                          << "hkcuRegPath:" << app.hkcuRegPath << "canTransfer:" << app.canTransfer;
 }
 
 } // namespace
@@ -221,7 +222,7 @@ void AppScan::scanProgramFiles()
     QStringList roots = programFilesFolders();
     const QStringList onOtherDrives = programFoldersOnOtherDrives();
     for (const QString &folder : onOtherDrives) {
-        qDebug() << "[AppScanner] Added scan path:" << folder;
+        qCDebug(logInventory) << "[AppScanner] Added scan path:" << folder;
         roots.append(folder);
     }
     QSet<QString> knownPaths;
@@ -256,7 +257,7 @@ void AppScan::scanProgramFolder(const QString &root, const QString &folder, cons
     app.size = folderSize(path);
     app.iconPath = path + u'/' + program;
     append(app);
-    qDebug() << "  Found unregistered app:" << folder << "at" << path;
+    qCDebug(logInventory) << "  Found unregistered app:" << folder << "at" << path;
 }
 
 void AppScan::scanUserSoftware()
@@ -264,7 +265,7 @@ void AppScan::scanUserSoftware()
     for (const AppInfo &app : m_apps.apps())
         rememberName(app.name);
     const QStringList groups = RegistryKey(UserSoftware).subkeyNames();
-    qDebug() << "[AppScanner] Scanning HKCU\\Software, found" << groups.size() << "groups";
+    qCDebug(logInventory) << "[AppScanner] Scanning HKCU\\Software, found" << groups.size() << "groups";
     const int total = std::max(1, int(groups.size()));
     int counter = 0;
     for (const QString &group : groups) {
@@ -276,7 +277,8 @@ void AppScan::scanUserSoftware()
         counter += 15;
         m_hooks.announce(85 + counter / total, group);
     }
-    qDebug() << "[AppScanner] HKCU\\Software scan complete, total apps now:" << m_apps.apps().size();
+    qCDebug(logInventory) << "[AppScanner] HKCU\\Software scan complete, total apps now:"
+                          << m_apps.apps().size();
 }
 
 void AppScan::scanUserSoftwareGroup(const QString &group)
@@ -287,7 +289,8 @@ void AppScan::scanUserSoftwareGroup(const QString &group)
         return;
     }
     const QStringList children = key.subkeyNames();
-    qDebug() << "[AppScanner] Detected publisher directory:" << group << "with" << children.size() << "apps";
+    qCDebug(logInventory) << "[AppScanner] Detected publisher directory:" << group << "with"
+                          << children.size() << "apps";
     for (const QString &child : children) {
         if (isStopped())
             return;
@@ -313,11 +316,12 @@ void AppScan::processUserSoftwareEntry(const QString &publisher, const QString &
             app.installPath = searchFolder(app.name, publisher);
     }
     if (isKnownName(app.name, keyName)) {
-        qDebug() << "[processUserSoftwareEntry] Skip duplicate:" << app.name;
+        qCDebug(logInventory) << "[processUserSoftwareEntry] Skip duplicate:" << app.name;
         return;
     }
     if (const AppInfo *const same = m_apps.findSameApp(identityOf(app.name))) {
-        qDebug() << "[processUserSoftwareEntry] Skip same app:" << app.name << "==" << same->name;
+        qCDebug(logInventory) << "[processUserSoftwareEntry] Skip same app:" << app.name
+                              << "==" << same->name;
         return;
     }
 
@@ -327,10 +331,12 @@ void AppScan::processUserSoftwareEntry(const QString &publisher, const QString &
     if (evidence.values == 0 && evidence.subkeys == 0)
         return;
     if (!evidence.suffices()) {
-        qDebug() << "[processUserSoftwareEntry] Skip" << app.name << "- pathExists:" << evidence.pathExists
-                 << "hasSubstantialData:" << evidence.hasSubstantialData
-                 << "hasVersionInfo:" << evidence.hasVersionInfo
-                 << "hasLicenseData:" << evidence.hasLicenseData << "childKeys:" << evidence.values;
+        qCDebug(logInventory) << "[processUserSoftwareEntry] Skip" << app.name
+                              << "- pathExists:" << evidence.pathExists
+                              << "hasSubstantialData:" << evidence.hasSubstantialData
+                              << "hasVersionInfo:" << evidence.hasVersionInfo
+                              << "hasLicenseData:" << evidence.hasLicenseData
+                              << "childKeys:" << evidence.values;
         return;
     }
     app.size = app.canTransfer ? folderSize(app.installPath) : 0;

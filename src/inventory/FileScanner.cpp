@@ -1,6 +1,7 @@
 #include "inventory/FileScanner.h"
 
-#include <QDebug>
+#include "inventory/Log.h"
+
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -28,7 +29,7 @@ void FileScanner::start()
     int counter = 0;
     for (const QString &path : std::as_const(m_folderPaths)) {
         if (!m_runs.isCurrent(run)) {
-            qDebug() << "Folder scan cancelled";
+            qCDebug(logInventory) << "Folder scan cancelled";
             break;
         }
         const QFileInfo info(path);
@@ -39,7 +40,7 @@ void FileScanner::start()
     }
     if (m_runs.end(run))
         Q_EMIT finished(folders);
-    qDebug() << "Found" << folders.size() << "folders to transfer";
+    qCDebug(logInventory) << "Found" << folders.size() << "folders to transfer";
 }
 
 void FileScanner::cancel()

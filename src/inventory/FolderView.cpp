@@ -1,9 +1,9 @@
 #include "inventory/FolderView.h"
 
+#include "inventory/Log.h"
 #include "platform/Drives.h"
 #include "support/Paths.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QFileInfo>
 
@@ -31,7 +31,7 @@ const FolderView &diskFolders()
 QStringList otherFixedDrives()
 {
     QStringList drives = Platform::fixedDrives();
-    qDebug() << "[AppScanner] Available fixed drives:" << drives;
+    qCDebug(logInventory) << "[AppScanner] Available fixed drives:" << drives;
     drives.removeAll(qEnvironmentVariable("SystemDrive", u"C:"_s).toUpper());
     return drives;
 }

@@ -1,10 +1,10 @@
 #include "inventory/InstallPathSearch.h"
 
 #include "inventory/AppIdentity.h"
+#include "inventory/Log.h"
 #include "inventory/WordLists.h"
 #include "support/Paths.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -50,20 +50,20 @@ public:
             return exact;
         const QStringList subfolders = m_folders.subfolders(root);
         if (const auto sameLetters = firstMatch(root, subfolders, &Search::equalsIgnoringCase)) {
-            qDebug() << "[findInstallPath] Case-insensitive match:" << *sameLetters;
+            qCDebug(logInventory) << "[findInstallPath] Case-insensitive match:" << *sameLetters;
             return sameLetters;
         }
         if (m_normName.size() >= ShortestNormalizedName) {
             if (const auto normalized = firstMatch(root, subfolders, &Search::equalsNormalized)) {
                 const QString form = lettersAndDigits(normalized->mid(root.size() + 1).toLower());
-                qDebug() << "[findInstallPath] Normalized match:" << *normalized << "(" << form
-                         << "==" << (form == m_normName ? m_normName : m_normDisplay) << ")";
+                qCDebug(logInventory) << "[findInstallPath] Normalized match:" << *normalized << "(" << form
+                                      << "==" << (form == m_normName ? m_normName : m_normDisplay) << ")";
                 return normalized;
             }
         }
         const auto alike = firstMatch(root, subfolders, &Search::isAlike);
         if (alike)
-            qDebug() << "[findInstallPath] Fuzzy match:" << *alike;
+            qCDebug(logInventory) << "[findInstallPath] Fuzzy match:" << *alike;
         return alike;
     }
 
@@ -80,7 +80,7 @@ private:
         for (const QString &candidate : m_candidates) {
             const QString path = root + u'/' + candidate;
             if (m_folders.isFolder(path) && holdsProgram(path)) {
-                qDebug() << "[findInstallPath] Exact match:" << path;
+                qCDebug(logInventory) << "[findInstallPath] Exact match:" << path;
                 return path;
             }
         }
@@ -247,8 +247,8 @@ QStringList candidateFolderNames(const AppNames &names)
 QString findInstallPath(const AppNames &names, const QStringList &roots, const FolderView &folders,
                         const StopCheck &stop)
 {
-    qDebug() << "[findInstallPath] Searching for:" << names.appName << "displayName:" << names.displayName
-             << "publisher:" << names.publisher;
+    qCDebug(logInventory) << "[findInstallPath] Searching for:" << names.appName
+                          << "displayName:" << names.displayName << "publisher:" << names.publisher;
     const Search search(names, folders, stop);
     for (const QString &root : roots) {
         if (stop && stop())
@@ -258,7 +258,7 @@ QString findInstallPath(const AppNames &names, const QStringList &roots, const F
         if (const std::optional<QString> path = search.below(root))
             return *path;
     }
-    qDebug() << "[findInstallPath] Not found for:" << names.appName;
+    qCDebug(logInventory) << "[findInstallPath] Not found for:" << names.appName;
     return {};
 }
 

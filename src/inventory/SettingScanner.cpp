@@ -1,10 +1,10 @@
 #include "inventory/SettingScanner.h"
 
+#include "inventory/Log.h"
 #include "platform/Registry.h"
 #include "platform/SystemParameters.h"
 #include "support/Paths.h"
 
-#include <QDebug>
 #include <QFileInfo>
 #include <QLatin1StringView>
 
@@ -35,7 +35,7 @@ bool describeWallpaper(SettingInfo &setting)
     const QFileInfo file(withSlashes(picture));
     if (picture.isEmpty() || !file.exists())
         return false;
-    qDebug() << "[SettingScanner] Found wallpaper:" << picture;
+    qCDebug(logInventory) << "[SettingScanner] Found wallpaper:" << picture;
     setting.value = picture;
     setting.size = file.size();
     return true;
@@ -160,7 +160,7 @@ QList<SettingInfo> SettingScanner::scanSettings(quint64 run)
             settings.append(*setting);
     }
     Q_EMIT progress(100, tr("Scan complete"));
-    qDebug() << "[SettingScanner] Found" << settings.size() << "settings";
+    qCDebug(logInventory) << "[SettingScanner] Found" << settings.size() << "settings";
     return settings;
 }
 

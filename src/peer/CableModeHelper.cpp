@@ -1,7 +1,8 @@
 #include "peer/CableModeHelper.h"
 
+#include "peer/Log.h"
+
 #include <QDateTime>
-#include <QDebug>
 #include <QNetworkProxy>
 #include <QTcpSocket>
 #include <QTimer>
@@ -79,12 +80,13 @@ void addTargetsAround(const QString &ip, const QString &adapterName, int layer, 
     if (octets.size() != 4)
         return;
     if (ip.startsWith(LinkLocalPrefix)) {
-        qDebug() << "[CableModeHelper] Found APIPA:" << ip << "on" << adapterName << "layer:" << layer;
+        qCDebug(logPeer) << "[CableModeHelper] Found APIPA:" << ip << "on" << adapterName
+                         << "layer:" << layer;
         const int own = octets.at(2).toInt();
         for (int third = std::max(own - layer, 0); third <= std::min(own + layer, HighestOctet); ++third)
             list.addSubnet(LinkLocalPrefix + QString::number(third) + u'.');
     } else if (CableModeHelper::isPrivateIP(ip)) {
-        qDebug() << "[CableModeHelper] Found private network:" << ip;
+        qCDebug(logPeer) << "[CableModeHelper] Found private network:" << ip;
         list.addSubnet(octets.first(3).join(u'.') + u'.');
     }
 }
@@ -109,7 +111,7 @@ bool CableModeHelper::enableCableMode()
 {
     if (m_cableModeInitialized)
         return true;
-    qDebug() << "[CableModeHelper] Cable mode: Using automatic addressing";
+    qCDebug(logPeer) << "[CableModeHelper] Cable mode: Using automatic addressing";
     refreshLocalIPs();
     return false;
 }
@@ -186,13 +188,13 @@ QStringList CableModeHelper::scanTargets(const QList<NetworkAdapter> &adapters,
 
 QString CableModeHelper::chooseBestIP(const QString &payloadIP, const QString &senderIP)
 {
-    qDebug() << "[CableModeHelper] chooseBestIP: payload=" << payloadIP << "sender=" << senderIP;
+    qCDebug(logPeer) << "[CableModeHelper] chooseBestIP: payload=" << payloadIP << "sender=" << senderIP;
     if (const QString local = localIPInSubnetOf(senderIP); !local.isEmpty()) {
-        qDebug() << "  -> Using senderIP (same subnet with" << local << "):" << senderIP;
+        qCDebug(logPeer) << "  -> Using senderIP (same subnet with" << local << "):" << senderIP;
         return senderIP;
     }
     if (const QString local = localIPInSubnetOf(payloadIP); !local.isEmpty()) {
-        qDebug() << "  -> Using payloadIP (same subnet with" << local << "):" << payloadIP;
+        qCDebug(logPeer) << "  -> Using payloadIP (same subnet with" << local << "):" << payloadIP;
         return payloadIP;
     }
     if (senderIP.startsWith(LinkLocalPrefix) || payloadIP.startsWith(LinkLocalPrefix)) {
@@ -200,10 +202,10 @@ QString CableModeHelper::chooseBestIP(const QString &payloadIP, const QString &s
             return reachable;
     }
     if (!senderIP.isEmpty()) {
-        qDebug() << "  -> Fallback to senderIP:" << senderIP;
+        qCDebug(logPeer) << "  -> Fallback to senderIP:" << senderIP;
         return senderIP;
     }
-    qDebug() << "  -> Fallback to payloadIP:" << payloadIP;
+    qCDebug(logPeer) << "  -> Fallback to payloadIP:" << payloadIP;
     return payloadIP;
 }
 
@@ -225,7 +227,7 @@ void CableModeHelper::setHandshakeOpen(bool open)
 void CableModeHelper::startDirectScan()
 {
     if (m_scanning) {
-        qDebug() << "[CableModeHelper] Scan already in progress";
+        qCDebug(logPeer) << "[CableModeHelper] Scan already in progress";
         return;
     }
     m_currentLayer = 0;
@@ -233,15 +235,15 @@ void CableModeHelper::startDirectScan()
     refreshLocalIPs();
     collectScanTargets();
     if (m_scanTargets.isEmpty()) {
-        qDebug() << "[CableModeHelper] No scan targets collected";
+        qCDebug(logPeer) << "[CableModeHelper] No scan targets collected";
         Q_EMIT scanFinished(false);
         return;
     }
     m_scanning = true;
     m_currentIndex = 0;
     m_scannedCount = 0;
-    qDebug() << "[CableModeHelper] Starting scan, targets:" << m_scanTargets.size()
-             << "layer:" << m_currentLayer;
+    qCDebug(logPeer) << "[CableModeHelper] Starting scan, targets:" << m_scanTargets.size()
+                     << "layer:" << m_currentLayer;
     Q_EMIT scanStarted();
     scanNextBatch();
 }
@@ -254,7 +256,7 @@ void CableModeHelper::stopDirectScan()
     m_batchTimer->stop();
     abortPending();
     m_scanTargets.clear();
-    qDebug() << "[CableModeHelper] Scan stopped";
+    qCDebug(logPeer) << "[CableModeHelper] Scan stopped";
 }
 
 bool CableModeHelper::isReachable(const QString &ip, int timeoutMs)
@@ -286,11 +288,11 @@ QString CableModeHelper::localIPInSubnetOf(const QString &ip) const
 QString CableModeHelper::firstReachable(const QString &payloadIP, const QString &senderIP)
 {
     if (!senderIP.isEmpty() && isReachable(senderIP, ReachabilityTimeoutMs)) {
-        qDebug() << "  -> Using senderIP (reachable):" << senderIP;
+        qCDebug(logPeer) << "  -> Using senderIP (reachable):" << senderIP;
         return senderIP;
     }
     if (!payloadIP.isEmpty() && isReachable(payloadIP, ReachabilityTimeoutMs)) {
-        qDebug() << "  -> Using payloadIP (reachable):" << payloadIP;
+        qCDebug(logPeer) << "  -> Using payloadIP (reachable):" << payloadIP;
         return payloadIP;
     }
     return {};
@@ -320,14 +322,14 @@ void CableModeHelper::refreshLocalIPs()
             m_localIPs.insert(normalizeIP(entry.ip.toString()));
     }
     m_localIPsValid = true;
-    qDebug() << "[CableModeHelper] Local IPs:" << m_localIPs;
+    qCDebug(logPeer) << "[CableModeHelper] Local IPs:" << m_localIPs;
 }
 
 void CableModeHelper::collectScanTargets()
 {
     m_scanTargets = scanTargets(m_adapters(), m_localIPs, m_currentLayer);
-    qDebug() << "[CableModeHelper] Collected" << m_scanTargets.size()
-             << "scan targets (APIPA layer:" << m_currentLayer << ")";
+    qCDebug(logPeer) << "[CableModeHelper] Collected" << m_scanTargets.size()
+                     << "scan targets (APIPA layer:" << m_currentLayer << ")";
 }
 
 void CableModeHelper::scanNextBatch()
@@ -351,21 +353,21 @@ void CableModeHelper::scanNextBatch()
 bool CableModeHelper::startNextLayer()
 {
     if (m_foundDevice || m_currentLayer >= HighestLayer) {
-        qDebug() << "[CableModeHelper] Scan completed, scanned:" << m_scannedCount
-                 << "found:" << m_foundDevice << "finalLayer:" << m_currentLayer;
+        qCDebug(logPeer) << "[CableModeHelper] Scan completed, scanned:" << m_scannedCount
+                         << "found:" << m_foundDevice << "finalLayer:" << m_currentLayer;
         m_scanning = false;
         Q_EMIT scanFinished(m_foundDevice);
         return false;
     }
     ++m_currentLayer;
-    qDebug() << "[CableModeHelper] No device found, expanding to APIPA layer:" << m_currentLayer;
+    qCDebug(logPeer) << "[CableModeHelper] No device found, expanding to APIPA layer:" << m_currentLayer;
     refreshLocalIPs();
     collectScanTargets();
     m_currentIndex = 0;
     if (!m_scanTargets.isEmpty())
         return true;
     m_scanning = false;
-    qDebug() << "[CableModeHelper] No more scan targets";
+    qCDebug(logPeer) << "[CableModeHelper] No more scan targets";
     Q_EMIT scanFinished(false);
     return false;
 }
@@ -392,7 +394,7 @@ void CableModeHelper::launchProbe(const QString &ip)
 void CableModeHelper::onProbeConnected(QTcpSocket *probe)
 {
     const QString ip = probe->property(TargetProperty).toString();
-    qDebug() << "[CableModeHelper] ★ Found device at:" << ip;
+    qCDebug(logPeer) << "[CableModeHelper] ★ Found device at:" << ip;
     m_pendingSockets.removeOne(probe);
     QObject::disconnect(probe, nullptr, this, nullptr);
     probe->abort();

@@ -1,8 +1,8 @@
 #include "peer/NetworkManager.h"
 
 #include "peer/CableModeHelper.h"
+#include "peer/Log.h"
 
-#include <QDebug>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
@@ -110,7 +110,7 @@ void NetworkManager::setReadGate(std::function<bool()> mayRead)
 
 void NetworkManager::sendSessionEnd()
 {
-    qDebug() << "Sending SessionEnd to peer";
+    qCDebug(logPeer) << "Sending SessionEnd to peer";
     sendCommand(Protocol::MessageType::SessionEnd);
 }
 
@@ -131,7 +131,7 @@ void NetworkManager::sendCommand(Protocol::MessageType type, const QByteArray &p
         return;
     const qint64 waiting = m_tcpSocket->bytesToWrite();
     if (waiting > HighBufferBytes)
-        qDebug() << "[NetworkManager] High buffer:" << waiting << "bytes";
+        qCDebug(logPeer) << "[NetworkManager] High buffer:" << waiting << "bytes";
     write(buildPacket(type, payload));
 }
 

@@ -1,3 +1,4 @@
+#include "peer/Log.h"
 #include "peer/NetworkManager.h"
 
 #include "peer/CableModeHelper.h"
@@ -7,7 +8,6 @@
 #include "support/Utilities.h"
 
 #include <QDeadlineTimer>
-#include <QDebug>
 #include <QJsonObject>
 #include <QNetworkProxy>
 #include <QTcpServer>
@@ -74,24 +74,24 @@ void NetworkManager::setupConnection()
 void NetworkManager::setupServer()
 {
     const bool listening = m_tcpServer->isListening();
-    qDebug() << "setupServer() called, currently listening:" << listening;
+    qCDebug(logPeer) << "setupServer() called, currently listening:" << listening;
     if (listening)
         return;
     bool result = m_tcpServer->listen(QHostAddress::Any, m_environment.tcpPort);
-    qDebug() << "TCP Server listen result:" << result << "Port:" << m_environment.tcpPort;
+    qCDebug(logPeer) << "TCP Server listen result:" << result << "Port:" << m_environment.tcpPort;
     if (result)
         return;
-    qDebug() << "ERROR:" << m_tcpServer->errorString();
+    qCDebug(logPeer) << "ERROR:" << m_tcpServer->errorString();
     m_tcpServer->close();
     QThread::msleep(ListenRetryMs);
     result = m_tcpServer->listen(QHostAddress::Any, m_environment.tcpPort);
-    qDebug() << "Retry result:" << result;
+    qCDebug(logPeer) << "Retry result:" << result;
 }
 
 void NetworkManager::connectToPC(const QString &pcId)
 {
-    qDebug() << "=== connectToPC() ===";
-    qDebug() << "Target:" << pcId;
+    qCDebug(logPeer) << "=== connectToPC() ===";
+    qCDebug(logPeer) << "Target:" << pcId;
     const auto target = std::find_if(m_discoveredPCs.cbegin(), m_discoveredPCs.cend(),
                                      [&pcId](const PCInfo &pc) { return pc.id == pcId; });
     m_pendingPC = target != m_discoveredPCs.cend() ? *target : PCInfo();
@@ -100,9 +100,9 @@ void NetworkManager::connectToPC(const QString &pcId)
         return;
     }
     const QString ip = m_cableHelper->chooseBestIP(m_pendingPC.ip, m_pendingPC.senderIp);
-    qDebug() << "Payload IP:" << m_pendingPC.ip;
-    qDebug() << "Sender IP:" << m_pendingPC.senderIp;
-    qDebug() << "Chosen IP:" << ip;
+    qCDebug(logPeer) << "Payload IP:" << m_pendingPC.ip;
+    qCDebug(logPeer) << "Sender IP:" << m_pendingPC.senderIp;
+    qCDebug(logPeer) << "Chosen IP:" << ip;
     if (m_accepted)
         resetPairing(); // a live link is given up for the new one
     dropSocket();
@@ -137,7 +137,7 @@ void NetworkManager::disconnect()
 
 void NetworkManager::acceptConnection(quint64 question)
 {
-    qDebug() << "acceptConnection() called";
+    qCDebug(logPeer) << "acceptConnection() called";
     if (!m_tcpSocket || m_tcpSocket->state() != QAbstractSocket::ConnectedState || !mayAnswer(question))
         return;
     sendCommand(Protocol::MessageType::ConnectAccept);
@@ -163,7 +163,7 @@ void NetworkManager::onNewConnection()
         socket->setParent(this);
         setBufferSizes(socket, AcceptedBufferBytes);
         adopt(socket, false);
-        qDebug() << "New TCP connection from:" << socket->peerAddress();
+        qCDebug(logPeer) << "New TCP connection from:" << socket->peerAddress();
     }
 }
 
@@ -341,7 +341,7 @@ void NetworkManager::onSocketError(QTcpSocket *socket, QAbstractSocket::SocketEr
 
 void NetworkManager::onConnectionTimeout()
 {
-    qDebug() << "Connection timeout";
+    qCDebug(logPeer) << "Connection timeout";
     if (m_tcpSocket && isConnecting(m_tcpSocket))
         m_tcpSocket->abort();
     notePendingBytes();
@@ -359,7 +359,7 @@ void NetworkManager::onConnectRequest(const QByteArray &payload)
     m_pendingPC.id = m_pendingPC.name;
     ++m_questionSerial;
     setHandshake(m_dialOpen, true);
-    qDebug() << "Received ConnectRequest from:" << m_pendingPC.name;
+    qCDebug(logPeer) << "Received ConnectRequest from:" << m_pendingPC.name;
     Q_EMIT connectionRequested(m_pendingPC.name, m_verifyCode);
 }
 

@@ -1,3 +1,4 @@
+#include "peer/Log.h"
 #include "peer/NetworkManager.h"
 
 #include "peer/CableModeHelper.h"
@@ -5,7 +6,6 @@
 #include "support/Json.h"
 #include "support/Utilities.h"
 
-#include <QDebug>
 #include <QJsonObject>
 #include <QNetworkDatagram>
 #include <QNetworkProxy>
@@ -106,12 +106,12 @@ void NetworkManager::setupDiscovery()
 void NetworkManager::startDiscovery()
 {
     if (m_mode == CableMode) {
-        qDebug() << "Cable mode detected";
+        qCDebug(logPeer) << "Cable mode detected";
         m_cableHelper->enableCableMode();
     }
     setupServer();
     if (m_broadcastTimer->isActive()) {
-        qDebug() << "Broadcast already active, skipping restart";
+        qCDebug(logPeer) << "Broadcast already active, skipping restart";
         return;
     }
     clearTable();
@@ -124,10 +124,10 @@ void NetworkManager::startDiscovery()
 
 void NetworkManager::restartBroadcast()
 {
-    qDebug() << "Restarting broadcast with code:" << m_verifyCode;
+    qCDebug(logPeer) << "Restarting broadcast with code:" << m_verifyCode;
     clearTable();
     if (m_mode == CableMode) {
-        qDebug() << "Cable mode detected";
+        qCDebug(logPeer) << "Cable mode detected";
         m_cableHelper->enableCableMode();
     }
     setupServer();
@@ -174,7 +174,7 @@ void NetworkManager::sendBurst()
 
 void NetworkManager::sendBroadcast()
 {
-    qDebug() << "Sending broadcast... Role:" << m_role;
+    qCDebug(logPeer) << "Sending broadcast... Role:" << m_role;
     const QByteArray frame = buildPacket(Protocol::MessageType::Discovery, discoveryPayload());
     sendDatagram(frame, QHostAddress(QHostAddress::Broadcast));
     const QList<NetworkAdapter> adapters = m_environment.adapters();
@@ -231,8 +231,8 @@ void NetworkManager::handleDatagram(const QByteArray &datagram, const QHostAddre
     const auto pc = peerFrom(*payload, senderIP);
     if (!pc)
         return;
-    qDebug() << "Discovered PC:" << pc->name << "IP:" << pc->ip << "SenderIP:" << pc->senderIp
-             << "Code:" << pc->verifyCode;
+    qCDebug(logPeer) << "Discovered PC:" << pc->name << "IP:" << pc->ip << "SenderIP:" << pc->senderIp
+                     << "Code:" << pc->verifyCode;
     addOrUpdate(*pc);
 }
 
@@ -279,7 +279,7 @@ void NetworkManager::update(qsizetype index, const PCInfo &pc)
     m_missedChecks[pc.id] = 0;
     if (!isScanDiscovered(former))
         return;
-    qDebug() << "Updated scan-discovered device:" << upgraded.name;
+    qCDebug(logPeer) << "Updated scan-discovered device:" << upgraded.name;
     Q_EMIT pcDiscovered(upgraded);
 }
 
@@ -323,7 +323,7 @@ void NetworkManager::checkPCTimeouts()
         if (seen->msecsTo(now) <= SilenceAllowedMs) {
             m_missedChecks[id] = 0;
         } else if (++m_missedChecks[id] >= MissedChecksToLose) {
-            qDebug() << "Removing PC:" << id;
+            qCDebug(logPeer) << "Removing PC:" << id;
             const int generation = m_tableGeneration;
             Q_EMIT pcLost(id);
             if (generation == m_tableGeneration)
@@ -341,11 +341,11 @@ void NetworkManager::removeLost(const QString &id)
 
 void NetworkManager::onDirectScanDeviceFound(const QString &ip)
 {
-    qDebug() << "[NetworkManager] Direct scan found device:" << ip;
+    qCDebug(logPeer) << "[NetworkManager] Direct scan found device:" << ip;
     const auto known = std::find_if(m_discoveredPCs.cbegin(), m_discoveredPCs.cend(),
                                     [&ip](const PCInfo &pc) { return pc.ip == ip || pc.senderIp == ip; });
     if (known != m_discoveredPCs.cend()) {
-        qDebug() << "  Device already in list:" << known->name;
+        qCDebug(logPeer) << "  Device already in list:" << known->name;
         return;
     }
     PCInfo pc;
@@ -358,7 +358,7 @@ void NetworkManager::onDirectScanDeviceFound(const QString &ip)
     pc.lastSeen = m_environment.now();
     if (!append(pc))
         return;
-    qDebug() << "  Added device from scan:" << ip;
+    qCDebug(logPeer) << "  Added device from scan:" << ip;
     Q_EMIT pcDiscovered(pc);
 }
 

@@ -2,8 +2,8 @@
 
 #include "pipeline/FileProgress.h"
 #include "pipeline/FileReceiverWorker.h"
+#include "pipeline/Log.h"
 
-#include <QDebug>
 #include <QElapsedTimer>
 #include <QScopeGuard>
 #include <QThread>
@@ -57,18 +57,18 @@ void FileReceiverWorker::onFileData(const QByteArray &data)
 bool FileReceiverWorker::acceptsChunk(const QByteArray &data, const ChunkHeader &chunk)
 {
     if (quint32(chunk.chunkSize) > quint64(data.size() - ChunkHeader::Size)) {
-        qDebug() << "[FileData] Invalid chunkSize:" << chunk.chunkSize
-                 << "available:" << data.size() - ChunkHeader::Size << "taskId:" << chunk.taskId
-                 << "path:" << m_currentPath;
+        qCDebug(logPipeline) << "[FileData] Invalid chunkSize:" << chunk.chunkSize
+                             << "available:" << data.size() - ChunkHeader::Size << "taskId:" << chunk.taskId
+                             << "path:" << m_currentPath;
         return false;
     }
     if (chunk.chunkSize == 0) {
-        qDebug() << "[FileData] Empty chunk, taskId:" << chunk.taskId;
+        qCDebug(logPipeline) << "[FileData] Empty chunk, taskId:" << chunk.taskId;
         return false;
     }
     if (chunk.chunkSize > MaxChunkBytes) {
-        qDebug() << "[FileData] Chunk too large:" << chunk.chunkSize << "taskId:" << chunk.taskId
-                 << "path:" << m_currentPath;
+        qCDebug(logPipeline) << "[FileData] Chunk too large:" << chunk.chunkSize << "taskId:" << chunk.taskId
+                             << "path:" << m_currentPath;
         return false;
     }
     if (chunk.taskId != m_currentTaskId) {
@@ -81,7 +81,8 @@ bool FileReceiverWorker::acceptsChunk(const QByteArray &data, const ChunkHeader 
 void FileReceiverWorker::receiveChunk(const QByteArray &data)
 {
     if (data.size() < ChunkHeader::Size) {
-        qDebug() << "[FileData] Invalid packet: size" << data.size() << "< header" << ChunkHeader::Size;
+        qCDebug(logPipeline) << "[FileData] Invalid packet: size" << data.size() << "< header"
+                             << ChunkHeader::Size;
         return;
     }
     const ChunkHeader chunk = ChunkHeader::readFrom(data.constData());
@@ -95,8 +96,8 @@ void FileReceiverWorker::receiveChunk(const QByteArray &data)
     if (m_writeBuffer.size() >= WriteBufferBytes) {
         const qsizetype bufferSize = m_writeBuffer.size();
         if (!flushWriteBuffer()) {
-            qDebug() << "[FileData] flushWriteBuffer failed! path:" << m_currentPath
-                     << "bufferSize:" << bufferSize;
+            qCDebug(logPipeline) << "[FileData] flushWriteBuffer failed! path:" << m_currentPath
+                                 << "bufferSize:" << bufferSize;
             Q_EMIT fileFailed(bareName(), tr("Write error"));
             return;
         }
@@ -124,9 +125,10 @@ void FileReceiverWorker::logForeignChunk(const ChunkHeader &chunk)
                      chunk.taskId != log.lastDroppedTaskId || log.sinceLastDrop.elapsed() > DropLogIntervalMs;
     if (!due)
         return;
-    qDebug() << "[FileData] taskId mismatch - expected:" << m_currentTaskId << "got:" << chunk.taskId
-             << "totalDropped:" << log.dropped << "offset:" << chunk.offset << "chunkSize:" << chunk.chunkSize
-             << "currentPath:" << m_currentPath;
+    qCDebug(logPipeline) << "[FileData] taskId mismatch - expected:" << m_currentTaskId
+                         << "got:" << chunk.taskId << "totalDropped:" << log.dropped
+                         << "offset:" << chunk.offset << "chunkSize:" << chunk.chunkSize
+                         << "currentPath:" << m_currentPath;
     log.lastDroppedTaskId = chunk.taskId;
     log.sinceLastDrop.start();
 }
@@ -136,10 +138,10 @@ void FileReceiverWorker::logOffsetMismatch(const ChunkHeader &chunk)
     const int count = ++badChunks().offsetMismatches;
     if (count > OffsetMismatchesLoggedFirst && count % LogEvery != 0)
         return;
-    qDebug() << "[FileData] Offset mismatch #" << count << "- expected:" << m_currentReceived
-             << "got:" << chunk.offset
-             << "diff:" << qint64(quint64(chunk.offset) - quint64(m_currentReceived))
-             << "taskId:" << chunk.taskId << "path:" << m_currentPath;
+    qCDebug(logPipeline) << "[FileData] Offset mismatch #" << count << "- expected:" << m_currentReceived
+                         << "got:" << chunk.offset
+                         << "diff:" << qint64(quint64(chunk.offset) - quint64(m_currentReceived))
+                         << "taskId:" << chunk.taskId << "path:" << m_currentPath;
 }
 
 bool FileReceiverWorker::flushWriteBuffer()
@@ -149,7 +151,7 @@ bool FileReceiverWorker::flushWriteBuffer()
     if (m_writeBuffer.isEmpty())
         return true;
     if (!m_currentFile || !m_currentFile->isOpen()) {
-        qDebug() << "[flushWriteBuffer] File not open!";
+        qCDebug(logPipeline) << "[flushWriteBuffer] File not open!";
         return false;
     }
     const qint64 total = m_writeBuffer.size();
@@ -157,8 +159,8 @@ bool FileReceiverWorker::flushWriteBuffer()
     while (position < total) {
         const qint64 written = m_currentFile->write(m_writeBuffer.constData() + position, total - position);
         if (written < 1) {
-            qDebug() << "[flushWriteBuffer] Write failed at" << position << "/" << total
-                     << "error:" << m_currentFile->errorString() << "path:" << m_currentPath;
+            qCDebug(logPipeline) << "[flushWriteBuffer] Write failed at" << position << "/" << total
+                                 << "error:" << m_currentFile->errorString() << "path:" << m_currentPath;
             return false;
         }
         position += written;

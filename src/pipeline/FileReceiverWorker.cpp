@@ -3,8 +3,8 @@
 #include "peer/Protocol.h"
 #include "pipeline/DestinationGuard.h"
 #include "pipeline/FileProgress.h"
+#include "pipeline/Log.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QFileInfo>
 #include <QThread>
@@ -54,9 +54,9 @@ void FileReceiverWorker::recordReceivedFile(const QString &relativePath, const Q
 
 void FileReceiverWorker::startReceiving()
 {
-    qDebug() << "FileReceiverWorker::startReceiving() called";
-    qDebug() << "  destRoot:" << m_destRoot;
-    qDebug() << "  already running:" << m_running.load();
+    qCDebug(logPipeline) << "FileReceiverWorker::startReceiving() called";
+    qCDebug(logPipeline) << "  destRoot:" << m_destRoot;
+    qCDebug(logPipeline) << "  already running:" << m_running.load();
     removeOpenFileIfCancelled();
     if (m_running || m_stopped)
         return;
@@ -72,7 +72,7 @@ void FileReceiverWorker::startReceiving()
     m_lastHeaderPath.clear();
     m_batchResults.clear();
     m_speed.start();
-    qDebug() << "FileReceiverWorker: Ready to receive files, m_running:" << m_running.load();
+    qCDebug(logPipeline) << "FileReceiverWorker: Ready to receive files, m_running:" << m_running.load();
 }
 
 void FileReceiverWorker::cancel()
@@ -119,22 +119,23 @@ void FileReceiverWorker::setTotalInfo(int fileCount, qlonglong totalBytes)
 {
     m_totalFiles = int(std::min<qint64>(qint64(m_totalFiles) + fileCount, std::numeric_limits<int>::max()));
     m_totalBytes = saturatingAdd(m_totalBytes, totalBytes);
-    qDebug() << "setTotalInfo: +" << fileCount << totalBytes << "| Total:" << m_totalFiles << m_totalBytes;
+    qCDebug(logPipeline) << "setTotalInfo: +" << fileCount << totalBytes << "| Total:" << m_totalFiles
+                         << m_totalBytes;
 }
 
 void FileReceiverWorker::onFileHeader(const QString &relativePath, qlonglong size, uint checksum, int taskId)
 {
     removeOpenFileIfCancelled();
     if (taskId == m_lastHeaderTaskId && relativePath == m_lastHeaderPath) {
-        qDebug() << "FileReceiverWorker::onFileHeader - DUPLICATE IGNORED:" << relativePath
-                 << "taskId:" << taskId;
+        qCDebug(logPipeline) << "FileReceiverWorker::onFileHeader - DUPLICATE IGNORED:" << relativePath
+                             << "taskId:" << taskId;
         return;
     }
     m_lastHeaderTaskId = taskId;
     m_lastHeaderPath = relativePath;
     if (!m_running || m_cancelled) {
-        qDebug() << "  WARNING: Ignoring because running=" << m_running.load()
-                 << "cancelled=" << m_cancelled.load();
+        qCDebug(logPipeline) << "  WARNING: Ignoring because running=" << m_running.load()
+                             << "cancelled=" << m_cancelled.load();
         return;
     }
     m_currentPath = relativePath;
@@ -154,12 +155,12 @@ void FileReceiverWorker::onFileHeader(const QString &relativePath, qlonglong siz
         Q_EMIT fileStarted(bareName(), size);
         break;
     case OpenOutcome::Skipped:
-        qDebug() << "  File skipped:" << relativePath;
+        qCDebug(logPipeline) << "  File skipped:" << relativePath;
         break;
     case OpenOutcome::Failed:
         m_batchResults.append({taskId, relativePath, false, tr("Failed to create file")});
         ++m_failedCount;
-        qDebug() << "  FAILED to open file for writing:" << relativePath;
+        qCDebug(logPipeline) << "  FAILED to open file for writing:" << relativePath;
         Q_EMIT fileFailed(bareName(), tr("Failed to create file"));
         break;
     }
@@ -171,7 +172,7 @@ FileReceiverWorker::OpenOutcome FileReceiverWorker::openDestination(const QStrin
     m_currentDestPath.clear();
     const QString destination = destinationPath(relativePath);
     if (!isSafeDestination(relativePath, destination)) {
-        qDebug() << "  Refused, the path leads out of its folder:" << relativePath;
+        qCDebug(logPipeline) << "  Refused, the path leads out of its folder:" << relativePath;
         return OpenOutcome::Failed;
     }
     m_currentDestPath = destination;
@@ -179,7 +180,7 @@ FileReceiverWorker::OpenOutcome FileReceiverWorker::openDestination(const QStrin
         m_currentDestPath = resolveConflict(m_currentDestPath, m_conflictPolicy);
         if (m_currentDestPath.isEmpty()) {
             ++m_skippedCount;
-            qDebug() << "  Skipped due to conflict";
+            qCDebug(logPipeline) << "  Skipped due to conflict";
             return OpenOutcome::Skipped;
         }
     }
@@ -189,12 +190,12 @@ FileReceiverWorker::OpenOutcome FileReceiverWorker::openDestination(const QStrin
 FileReceiverWorker::OpenOutcome FileReceiverWorker::createFile()
 {
     const QString directory = QFileInfo(m_currentDestPath).absolutePath();
-    qDebug() << "  Target directory:" << directory;
+    qCDebug(logPipeline) << "  Target directory:" << directory;
     if (!QDir().mkpath(directory)) {
-        qDebug() << "  ERROR: Failed to create directory:" << directory;
+        qCDebug(logPipeline) << "  ERROR: Failed to create directory:" << directory;
         return OpenOutcome::Failed;
     }
-    qDebug() << "  Directory ready:" << directory;
+    qCDebug(logPipeline) << "  Directory ready:" << directory;
     // What was not there at the first look may have been put there by somebody else since.
     if (!isSafeDestination(m_currentPath, m_currentDestPath))
         return OpenOutcome::Failed;
@@ -202,10 +203,10 @@ FileReceiverWorker::OpenOutcome FileReceiverWorker::createFile()
     // Unbuffered: the write buffer is this worker's own, and a full disk must show at the write that meets
     // it.
     if (!file->open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        qDebug() << "  ERROR: Failed to open file:" << file->errorString();
+        qCDebug(logPipeline) << "  ERROR: Failed to open file:" << file->errorString();
         return OpenOutcome::Failed;
     }
-    qDebug() << "  File opened successfully";
+    qCDebug(logPipeline) << "  File opened successfully";
     m_currentFile = std::move(file);
     return OpenOutcome::Opened;
 }
@@ -220,7 +221,7 @@ void FileReceiverWorker::displaceOpenFile()
 bool FileReceiverWorker::finalizeFile(quint32 expected)
 {
     if (!flushWriteBuffer()) {
-        qDebug() << "[finalizeFile] flushWriteBuffer failed for:" << m_currentPath;
+        qCDebug(logPipeline) << "[finalizeFile] flushWriteBuffer failed for:" << m_currentPath;
         return false;
     }
     bool written = true;
@@ -234,9 +235,9 @@ bool FileReceiverWorker::finalizeFile(quint32 expected)
     const quint32 calculated = m_currentCrc.value();
     if (calculated == expected && written)
         return true;
-    qDebug() << "[finalizeFile] Checksum mismatch! expected:" << QString::number(expected, 16)
-             << "calculated:" << QString::number(calculated, 16) << "fileSize:" << m_currentSize
-             << "received:" << m_currentReceived << "path:" << m_currentPath;
+    qCDebug(logPipeline) << "[finalizeFile] Checksum mismatch! expected:" << QString::number(expected, 16)
+                         << "calculated:" << QString::number(calculated, 16) << "fileSize:" << m_currentSize
+                         << "received:" << m_currentReceived << "path:" << m_currentPath;
     // Only what this header itself wrote: never a file that was there before or that an earlier FileEnd
     // closed.
     if (m_openedHere)
@@ -274,7 +275,7 @@ void FileReceiverWorker::onBatchAckRequest(int batchId, int startTaskId, int end
 
 void FileReceiverWorker::sendBatchAck(int batchId)
 {
-    qDebug() << ">>> FileReceiverWorker::sendBatchAck called! batchId:" << batchId;
+    qCDebug(logPipeline) << ">>> FileReceiverWorker::sendBatchAck called! batchId:" << batchId;
     Q_EMIT requestSendCommand(int(Protocol::MessageType::FileAck),
                               TransferMessages::ackPayload(batchId, m_batchResults));
     m_batchResults.clear();
@@ -283,9 +284,9 @@ void FileReceiverWorker::sendBatchAck(int batchId)
 void FileReceiverWorker::onTransferComplete()
 {
     removeOpenFileIfCancelled();
-    qDebug() << "FileReceiverWorker::onTransferComplete() called";
-    qDebug() << "  Success:" << m_successCount << "Failed:" << m_failedCount << "Skipped:" << m_skippedCount
-             << "Bytes:" << m_receivedBytes;
+    qCDebug(logPipeline) << "FileReceiverWorker::onTransferComplete() called";
+    qCDebug(logPipeline) << "  Success:" << m_successCount << "Failed:" << m_failedCount
+                         << "Skipped:" << m_skippedCount << "Bytes:" << m_receivedBytes;
     m_running = false;
     Q_EMIT allCompleted(m_successCount, m_failedCount, m_skippedCount, m_receivedBytes);
 }

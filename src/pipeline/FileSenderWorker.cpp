@@ -3,13 +3,13 @@
 #include "peer/Protocol.h"
 #include "pipeline/FileChecksum.h"
 #include "pipeline/FileProgress.h"
+#include "pipeline/Log.h"
 #include "pipeline/TransferMessages.h"
 #include "platform/FileAttributes.h"
 #include "support/Utilities.h"
 
 #include <QDateTime>
 #include <QDeadlineTimer>
-#include <QDebug>
 #include <QFile>
 #include <QFileInfo>
 #include <QMutexLocker>
@@ -63,8 +63,8 @@ void FileSenderWorker::startSending(QList<FileTransferTask> tasks)
     m_running = false;
     if (!isCancelled())
         Q_EMIT allCompleted(m_successCount, m_failedCount, m_skippedCount, m_sentBytes);
-    qDebug() << "FileSenderWorker: Finished. Success:" << m_successCount << "Failed:" << m_failedCount
-             << "Skipped:" << m_skippedCount;
+    qCDebug(logPipeline) << "FileSenderWorker: Finished. Success:" << m_successCount
+                         << "Failed:" << m_failedCount << "Skipped:" << m_skippedCount;
 }
 
 void FileSenderWorker::beginList(QList<FileTransferTask> tasks)
@@ -84,8 +84,8 @@ void FileSenderWorker::beginList(QList<FileTransferTask> tasks)
         m_totalBytes += task.fileSize;
     }
     m_speed.start();
-    qDebug() << "FileSenderWorker: Starting to send" << m_tasks.size()
-             << "files, total:" << formatSize(m_totalBytes);
+    qCDebug(logPipeline) << "FileSenderWorker: Starting to send" << m_tasks.size()
+                         << "files, total:" << formatSize(m_totalBytes);
 }
 
 void FileSenderWorker::sendTask(int index)
@@ -232,7 +232,7 @@ void FileSenderWorker::requestAndAwaitAck(const BatchRequest &request)
             deadline.setRemainingTime(timeout);
     }
     if (!(m_ackReceived && m_ackSuccess))
-        qDebug() << "Batch ACK timeout for batch" << request.batchId;
+        qCDebug(logPipeline) << "Batch ACK timeout for batch" << request.batchId;
 }
 
 void FileSenderWorker::cancel()
@@ -274,17 +274,18 @@ void FileSenderWorker::waitForSocket() const
     qint64 level = m_bufferProbe();
     if (level <= SocketFillMark)
         return;
-    qDebug() << "[Sender] Backpressure - buffer:" << level;
+    qCDebug(logPipeline) << "[Sender] Backpressure - buffer:" << level;
     int passes = 0;
     while (level > SocketFillMark && !isCancelled()) {
         QThread::msleep(BackpressurePoll.count());
         if (++passes > MaxBackpressurePasses) {
-            qDebug() << "[Sender] Backpressure timeout!";
+            qCDebug(logPipeline) << "[Sender] Backpressure timeout!";
             break;
         }
         level = m_bufferProbe();
     }
-    qDebug() << "[Sender] Backpressure released after" << passes * BackpressurePoll.count() << "ms";
+    qCDebug(logPipeline) << "[Sender] Backpressure released after" << passes * BackpressurePoll.count()
+                         << "ms";
 }
 
 void FileSenderWorker::reportOverallProgress()

@@ -4,12 +4,12 @@
 #include "peer/NetworkManager.h"
 #include "pipeline/FileReceiverWorker.h"
 #include "pipeline/FileSenderWorker.h"
+#include "pipeline/Log.h"
 #include "pipeline/ReceivedApps.h"
 #include "pipeline/TaskList.h"
 #include "pipeline/TransferMessages.h"
 #include "support/Json.h"
 
-#include <QDebug>
 #include <QThread>
 
 #include <algorithm>
@@ -97,10 +97,10 @@ void MigrationManager::startSending()
     if (settings.isEmpty())
         settingPhaseDone = true;
     QList<FileTransferTask> tasks = buildTaskList(m_folders);
-    qDebug() << "Starting migration:";
-    qDebug() << "  - Folder files:" << tasks.size();
-    qDebug() << "  - Apps:" << apps.size();
-    qDebug() << "  - Settings:" << settings.size();
+    qCDebug(logPipeline) << "Starting migration:";
+    qCDebug(logPipeline) << "  - Folder files:" << tasks.size();
+    qCDebug(logPipeline) << "  - Apps:" << apps.size();
+    qCDebug(logPipeline) << "  - Settings:" << settings.size();
     QMetaObject::invokeMethod(
         m_senderWorker,
         [sender = m_senderWorker, tasks = std::move(tasks)]() mutable {
@@ -177,7 +177,7 @@ void MigrationManager::pause()
 {
     if (!m_migrating || m_paused)
         return;
-    qDebug() << "MigrationManager::pause() - local request";
+    qCDebug(logPipeline) << "MigrationManager::pause() - local request";
     m_pausedByPeer = false;
     setWorkersPaused(true);
     sendToPeer(MessageType::TransferPause);
@@ -188,7 +188,7 @@ void MigrationManager::resume()
 {
     if (!m_migrating || !m_paused)
         return;
-    qDebug() << "MigrationManager::resume() - local request";
+    qCDebug(logPipeline) << "MigrationManager::resume() - local request";
     setWorkersPaused(false);
     sendToPeer(MessageType::TransferResume);
     Q_EMIT resumed();
@@ -198,7 +198,7 @@ void MigrationManager::cancel()
 {
     if (!m_migrating)
         return;
-    qDebug() << "MigrationManager::cancel()";
+    qCDebug(logPipeline) << "MigrationManager::cancel()";
     m_settingsOwed = false;
     cancelWorkersQueued();
     // A paused receiver waits inside a slot: a queued call would wait with it.
@@ -233,7 +233,7 @@ void MigrationManager::resetAndListen()
 
 void MigrationManager::resetRun()
 {
-    qDebug() << "MigrationManager::resetAndListen()";
+    qCDebug(logPipeline) << "MigrationManager::resetAndListen()";
     ++m_run;
     if (m_migrating)
         m_settingsOwed = false; // of a run that never came to its end
@@ -257,13 +257,13 @@ void MigrationManager::resetRun()
 
 void MigrationManager::restartReceiving()
 {
-    qDebug() << "MigrationManager::restartReceiving()";
+    qCDebug(logPipeline) << "MigrationManager::restartReceiving()";
     m_migrating = true;
     clearReportCounters();
     stopWorkers();
     setupConnections();
     startEverythingReceiving();
-    qDebug() << "Receiver restarted, waiting for new transfer";
+    qCDebug(logPipeline) << "Receiver restarted, waiting for new transfer";
 }
 
 QList<FileTransferTask> MigrationManager::buildTaskList(const QList<FolderInfo> &folders)
@@ -273,8 +273,9 @@ QList<FileTransferTask> MigrationManager::buildTaskList(const QList<FolderInfo> 
 
 void MigrationManager::onWorkerAllCompleted(int success, int failed, int skipped, qlonglong totalBytes)
 {
-    qDebug() << "[Serial] MigrationManager::onWorkerAllCompleted - success:" << success << "failed:" << failed
-             << "skipped:" << skipped << "bytes:" << totalBytes << "sendingAppPhase:" << sendingAppPhase;
+    qCDebug(logPipeline) << "[Serial] MigrationManager::onWorkerAllCompleted - success:" << success
+                         << "failed:" << failed << "skipped:" << skipped << "bytes:" << totalBytes
+                         << "sendingAppPhase:" << sendingAppPhase;
     m_accumulated.success += success;
     m_accumulated.failed += failed;
     m_accumulated.skipped += skipped;
@@ -290,8 +291,8 @@ void MigrationManager::onWorkerAllCompleted(int success, int failed, int skipped
     } else {
         storeCounts(m_accumulated);
         fileTransferDone = m_foldersPhaseDone && m_appFilePhaseDone;
-        qDebug() << "[Serial] fileTransferDone=" << fileTransferDone
-                 << "appMigrationDone=" << appMigrationDone;
+        qCDebug(logPipeline) << "[Serial] fileTransferDone=" << fileTransferDone
+                             << "appMigrationDone=" << appMigrationDone;
     }
     checkAllCompleted();
 }
@@ -303,15 +304,16 @@ bool MigrationManager::finishFileList()
         m_appFilePhaseDone = true;
         sendingAppPhase = false;
         appMigrationDone = true;
-        qDebug() << "[Serial] App file phase done.";
+        qCDebug(logPipeline) << "[Serial] App file phase done.";
         sendDelayedAppEnds();
         return true;
     }
     m_foldersPhaseDone = true;
-    qDebug() << "[Serial] Folders phase done. appFilesAllQueued=" << appFilesAllQueued
-             << "pendingAppTasks=" << m_pendingAppTasks.size() << "hasAppsToMigrate=" << hasAppsToMigrate;
+    qCDebug(logPipeline) << "[Serial] Folders phase done. appFilesAllQueued=" << appFilesAllQueued
+                         << "pendingAppTasks=" << m_pendingAppTasks.size()
+                         << "hasAppsToMigrate=" << hasAppsToMigrate;
     if (hasAppsToMigrate && !appFilesAllQueued) {
-        qDebug() << "[Serial] Waiting AppMigrator to finish queueing...";
+        qCDebug(logPipeline) << "[Serial] Waiting AppMigrator to finish queueing...";
         return false;
     }
     if (hasAppsToMigrate && !m_pendingAppTasks.isEmpty()) {
@@ -320,15 +322,15 @@ bool MigrationManager::finishFileList()
     }
     m_appFilePhaseDone = true;
     appMigrationDone = true;
-    qDebug() << "[Serial] No app files to send, marking app file phase done.";
+    qCDebug(logPipeline) << "[Serial] No app files to send, marking app file phase done.";
     return true;
 }
 
 void MigrationManager::checkAllCompleted()
 {
-    qDebug() << "checkAllCompleted() -"
-             << "fileTransferDone:" << fileTransferDone << "appMigrationDone:" << appMigrationDone
-             << "settingPhaseDone:" << settingPhaseDone << "role:" << m_role;
+    qCDebug(logPipeline) << "checkAllCompleted() -"
+                         << "fileTransferDone:" << fileTransferDone << "appMigrationDone:" << appMigrationDone
+                         << "settingPhaseDone:" << settingPhaseDone << "role:" << m_role;
     if (!m_migrating || !fileTransferDone || !appMigrationDone || !settingPhaseDone)
         return;
     // The three flags may still stand from a run before; these two are of this run.
@@ -337,14 +339,14 @@ void MigrationManager::checkAllCompleted()
 
     const MigrationReport report = buildReport();
     if (m_role == OldPC && m_networkManager) {
-        qDebug() << "Sending final TransferComplete to receiver";
+        qCDebug(logPipeline) << "Sending final TransferComplete to receiver";
         sendToPeer(MessageType::TransferComplete, TransferMessages::completePayload(report));
     }
     m_migrating = false;
     m_completing = false;
     resumeReadingLink();
     Q_EMIT completed(report);
-    qDebug() << "All migration completed!";
+    qCDebug(logPipeline) << "All migration completed!";
     processDeferred();
 }
 
@@ -400,7 +402,8 @@ void MigrationManager::sendToPeer(MessageType type, const QByteArray &payload)
         return;
     if (!isLinkOfRun()) {
         if (!m_refusalLogged)
-            qDebug() << "Not sent, the link is not accepted or not that of the run, type:" << int(type);
+            qCDebug(logPipeline) << "Not sent, the link is not accepted or not that of the run, type:"
+                                 << int(type);
         m_refusalLogged = true;
         return;
     }
@@ -410,14 +413,15 @@ void MigrationManager::sendToPeer(MessageType type, const QByteArray &payload)
 void MigrationManager::onWorkerRequestSendCommand(int type, const QByteArray &payload)
 {
     if (type != int(MessageType::FileData))
-        qDebug() << ">>> onWorkerRequestSendCommand called! type:" << type << "size:" << payload.size();
+        qCDebug(logPipeline) << ">>> onWorkerRequestSendCommand called! type:" << type
+                             << "size:" << payload.size();
     if (!m_networkManager) {
-        qDebug() << ">>> ERROR: m_networkManager is NULL!";
+        qCDebug(logPipeline) << ">>> ERROR: m_networkManager is NULL!";
         return;
     }
     if (type == int(MessageType::AppEnd)) {
         m_delayedAppEnds.append(readAppEnd(payload));
-        qDebug() << "[Serial] AppEnd queued for later:" << m_delayedAppEnds.constLast();
+        qCDebug(logPipeline) << "[Serial] AppEnd queued for later:" << m_delayedAppEnds.constLast();
         return;
     }
     // Packing and exporting run beside the sender and may be quicker. A peer that waits for a further run
@@ -436,10 +440,10 @@ void MigrationManager::sendForWorker(MessageType type, const QByteArray &payload
 {
     const bool traced = type != MessageType::FileData;
     if (traced)
-        qDebug() << ">>> Sending command via NetworkManager, type:" << int(type);
+        qCDebug(logPipeline) << ">>> Sending command via NetworkManager, type:" << int(type);
     sendToPeer(type, payload);
     if (traced)
-        qDebug() << ">>> Command sent!";
+        qCDebug(logPipeline) << ">>> Command sent!";
 }
 
 void MigrationManager::onWorkerFileStarted(const QString &fileName, qlonglong size)

@@ -5,11 +5,11 @@
 #include "appmigration/AppMigrator.h"
 #include "pipeline/FileReceiverWorker.h"
 #include "pipeline/FileSenderWorker.h"
+#include "pipeline/Log.h"
 #include "pipeline/MigrationManager.h"
 #include "pipeline/ReceivedApps.h"
 #include "platform/FileAttributes.h"
 
-#include <QDebug>
 #include <QFileInfo>
 #include <QThread>
 #include <QTimer>
@@ -55,7 +55,7 @@ void MigrationManager::startAppMigration(const QList<AppInfo> &apps)
 {
     if (apps.isEmpty())
         return;
-    qDebug() << "Starting app migration for" << apps.size() << "apps";
+    qCDebug(logPipeline) << "Starting app migration for" << apps.size() << "apps";
     QMetaObject::invokeMethod(
         m_appMigrator, [migrator = m_appMigrator, apps] { migrator->start(apps); }, Qt::QueuedConnection);
 }
@@ -65,7 +65,7 @@ void MigrationManager::onAppRequestSendFile(const QString &filePath, const QStri
     ++appFilesQueued;
     const std::optional<qint64> size = sizeToSend(filePath);
     if (!size) {
-        qDebug() << "[AppQueue] missing:" << filePath;
+        qCDebug(logPipeline) << "[AppQueue] missing:" << filePath;
         ++m_appFilesMissing;
         checkAppQueue();
         return;
@@ -76,7 +76,8 @@ void MigrationManager::onAppRequestSendFile(const QString &filePath, const QStri
     task.relativePath = relativePath;
     task.fileSize = *size;
     m_pendingAppTasks.append(task);
-    qDebug() << "[AppQueue] queued:" << relativePath << "size:" << *size << "taskId:" << task.taskId;
+    qCDebug(logPipeline) << "[AppQueue] queued:" << relativePath << "size:" << *size
+                         << "taskId:" << task.taskId;
 }
 
 void MigrationManager::onAppMigrationFinished(int success, int failed, int skipped)
@@ -85,9 +86,10 @@ void MigrationManager::onAppMigrationFinished(int success, int failed, int skipp
     m_appsFailed = failed;
     m_appsSkipped = skipped;
     appFilesAllQueued = true;
-    qDebug() << "[Serial] App migration finished (queue done) - appsSuccess:" << success
-             << "appsFailed:" << failed << "appsSkipped:" << skipped << "appFilesQueued:" << appFilesQueued
-             << "pendingAppTasks:" << m_pendingAppTasks.size();
+    qCDebug(logPipeline) << "[Serial] App migration finished (queue done) - appsSuccess:" << success
+                         << "appsFailed:" << failed << "appsSkipped:" << skipped
+                         << "appFilesQueued:" << appFilesQueued
+                         << "pendingAppTasks:" << m_pendingAppTasks.size();
     if (appFilesQueued != 0) {
         checkAppQueue();
         return;
@@ -104,12 +106,12 @@ void MigrationManager::checkAppQueue()
 {
     if (!appFilesAllQueued)
         return;
-    qDebug() << "[Serial] All app files queued. queued=" << appFilesQueued
-             << "pendingTasks=" << m_pendingAppTasks.size();
+    qCDebug(logPipeline) << "[Serial] All app files queued. queued=" << appFilesQueued
+                         << "pendingTasks=" << m_pendingAppTasks.size();
     if (m_pendingAppTasks.isEmpty()) {
         appMigrationDone = true;
         m_appFilePhaseDone = true;
-        qDebug() << "[Serial] No app files to send, app migration done";
+        qCDebug(logPipeline) << "[Serial] No app files to send, app migration done";
         if (m_foldersPhaseDone) {
             storeCounts(m_accumulated);
             fileTransferDone = true;
@@ -125,7 +127,7 @@ void MigrationManager::startAppFilePhase()
     if (!m_senderWorker || sendingAppPhase)
         return;
     sendingAppPhase = true;
-    qDebug() << "[Serial] Starting APP FILE phase. tasks=" << m_pendingAppTasks.size();
+    qCDebug(logPipeline) << "[Serial] Starting APP FILE phase. tasks=" << m_pendingAppTasks.size();
     QMetaObject::invokeMethod(
         m_senderWorker,
         [sender = m_senderWorker, tasks = m_pendingAppTasks]() mutable {
@@ -138,7 +140,7 @@ void MigrationManager::startAppFilePhase()
 void MigrationManager::sendDelayedAppEnds()
 {
     for (const QString &name : std::exchange(m_delayedAppEnds, {})) {
-        qDebug() << "[Serial] Sending delayed AppEnd for:" << name;
+        qCDebug(logPipeline) << "[Serial] Sending delayed AppEnd for:" << name;
         sendToPeer(MessageType::AppEnd, heldAppEndPayload(name));
     }
 }
@@ -154,7 +156,7 @@ void MigrationManager::onAppEnd(const QByteArray &payload)
     if (m_role != NewPC)
         return;
     const QString name = readAppEnd(payload);
-    qDebug() << "Received AppEnd for:" << name;
+    qCDebug(logPipeline) << "Received AppEnd for:" << name;
     afterAppEndDelay([this, name] { processAppEnd(name); });
 }
 
@@ -164,11 +166,11 @@ void MigrationManager::processAppEnd(const QString &appName)
         afterAppEndDelay([this, appName] { processAppEnd(appName); });
         return;
     }
-    qDebug() << "Processing AppEnd for:" << appName << "(queue flushed)";
+    qCDebug(logPipeline) << "Processing AppEnd for:" << appName << "(queue flushed)";
     const int open = m_receivedApps->end(appName);
-    qDebug() << "AppEnd processed, open file count:" << open;
+    qCDebug(logPipeline) << "AppEnd processed, open file count:" << open;
     if (open > 0)
-        qDebug() << "Waiting for" << open << "files to complete before installing" << appName;
+        qCDebug(logPipeline) << "Waiting for" << open << "files to complete before installing" << appName;
     else
         m_receivedApps->tryInstallApp(appName);
     if (m_appMigrator)

@@ -3,12 +3,12 @@
 #include "peer/NetworkManager.h"
 #include "pipeline/FileReceiverWorker.h"
 #include "pipeline/FileSenderWorker.h"
+#include "pipeline/Log.h"
 #include "pipeline/MigrationManager.h"
 #include "pipeline/ReceivedApps.h"
 #include "pipeline/TransferMessages.h"
 #include "settings/SettingMigrator.h"
 
-#include <QDebug>
 #include <QTimer>
 
 #include <algorithm>
@@ -35,8 +35,8 @@ void traceMessage(MessageType type, qsizetype size)
     ++count;
     if (type == MessageType::FileData || (count > TracedMessages && type != MessageType::FileHeader))
         return;
-    qDebug() << "MSG#" << count << "type:" << Qt::showbase << Qt::hex << int(type) << Qt::dec << int(type)
-             << "size:" << size;
+    qCDebug(logPipeline) << "MSG#" << count << "type:" << Qt::showbase << Qt::hex << int(type) << Qt::dec
+                         << int(type) << "size:" << size;
 }
 
 bool beginsOrResets(MessageType type)
@@ -53,8 +53,9 @@ void MigrationManager::onLinkCommandReceived(MessageType type, const QByteArray 
     // else.
     if (!accepted || (type != MessageType::SessionEnd && !isLinkOfRun())) {
         if (!m_strangerLogged)
-            qDebug() << "Ignoring messages on a link that is not accepted or not that of the run, type:"
-                     << int(type);
+            qCDebug(logPipeline)
+                << "Ignoring messages on a link that is not accepted or not that of the run, type:"
+                << int(type);
         m_strangerLogged = true;
         return;
     }
@@ -128,7 +129,7 @@ void MigrationManager::dropDeferred()
 void MigrationManager::process(MessageType type, const QByteArray &payload)
 {
     if (type == MessageType::SessionEnd) {
-        qDebug() << "Received SessionEnd from peer";
+        qCDebug(logPipeline) << "Received SessionEnd from peer";
         endSession();
         Q_EMIT sessionEndReceived();
         return;
@@ -144,17 +145,17 @@ void MigrationManager::process(MessageType type, const QByteArray &payload)
 bool MigrationManager::admitWhileIdle(MessageType type)
 {
     if (type == MessageType::TransferStart && m_role == NewPC) {
-        qDebug() << "Received TransferStart while not migrating - restarting receiver";
+        qCDebug(logPipeline) << "Received TransferStart while not migrating - restarting receiver";
         restartForNewTransfer();
         return true;
     }
     if (type == MessageType::TransferReset) {
-        qDebug() << "Received TransferReset while not migrating";
+        qCDebug(logPipeline) << "Received TransferReset while not migrating";
         resetRun();
         Q_EMIT transferReset();
         return false;
     }
-    qDebug() << "WARNING: Ignoring command because m_migrating is false!";
+    qCDebug(logPipeline) << "WARNING: Ignoring command because m_migrating is false!";
     return false;
 }
 
@@ -174,7 +175,7 @@ void MigrationManager::dispatch(MessageType type, const QByteArray &payload)
 {
     switch (type) {
     case MessageType::SessionEnd:
-        qDebug() << "Received SessionEnd from peer (in switch - should not reach here)";
+        qCDebug(logPipeline) << "Received SessionEnd from peer (in switch - should not reach here)";
         Q_EMIT sessionEndReceived();
         break;
     case MessageType::TransferStart:
@@ -224,7 +225,7 @@ void MigrationManager::dispatchSetting(MessageType type, const QByteArray &paylo
     const bool isReceiver = m_role == NewPC && m_settingMigrator;
     switch (type) {
     case MessageType::SettingStart:
-        qDebug() << ">>> SettingStart received";
+        qCDebug(logPipeline) << ">>> SettingStart received";
         if (isReceiver)
             onSettingStart(payload);
         break;
@@ -233,12 +234,12 @@ void MigrationManager::dispatchSetting(MessageType type, const QByteArray &paylo
             tellSettingMigrator(&SettingMigrator::onSettingData, payload);
         break;
     case MessageType::SettingEnd:
-        qDebug() << ">>> SettingEnd received";
+        qCDebug(logPipeline) << ">>> SettingEnd received";
         if (isReceiver)
             tellSettingMigrator(&SettingMigrator::onSettingEnd, payload);
         break;
     case MessageType::SettingComplete:
-        qDebug() << ">>> SettingComplete received";
+        qCDebug(logPipeline) << ">>> SettingComplete received";
         if (isReceiver)
             onSettingComplete(payload);
         break;
@@ -250,7 +251,8 @@ void MigrationManager::dispatchSetting(MessageType type, const QByteArray &paylo
 void MigrationManager::onTransferStart(const QByteArray &payload)
 {
     const auto start = TransferMessages::Start::fromPayload(payload);
-    qDebug() << "Received TransferStart: fileCount=" << start.fileCount << "totalSize=" << start.totalSize;
+    qCDebug(logPipeline) << "Received TransferStart: fileCount=" << start.fileCount
+                         << "totalSize=" << start.totalSize;
     ++m_rearmTicket;
     m_incomingRun = true;
     if (!m_receiverWorker)
@@ -263,12 +265,12 @@ void MigrationManager::onTransferStart(const QByteArray &payload)
 
 void MigrationManager::onFileHeader(const QByteArray &payload)
 {
-    qDebug() << ">>> FileHeader CASE ENTERED! payload:" << payload.size();
+    qCDebug(logPipeline) << ">>> FileHeader CASE ENTERED! payload:" << payload.size();
     const auto header = TransferMessages::Header::fromPayload(payload);
-    qDebug() << ">>> FileHeader:" << header.relativePath << header.fileSize << header.taskId;
+    qCDebug(logPipeline) << ">>> FileHeader:" << header.relativePath << header.fileSize << header.taskId;
     m_receivedApps->countFileIn(header.relativePath);
     if (!m_receiverWorker) {
-        qDebug() << ">>> WARNING: m_receiverWorker is NULL! File will fail!";
+        qCDebug(logPipeline) << ">>> WARNING: m_receiverWorker is NULL! File will fail!";
         return;
     }
     QMetaObject::invokeMethod(
@@ -307,18 +309,18 @@ void MigrationManager::onFileEnd(const QByteArray &payload)
 
 void MigrationManager::onFileAck(const QByteArray &payload)
 {
-    qDebug() << ">>> FileAck CASE ENTERED! payload:" << payload.size();
-    qDebug() << ">>> Raw payload:" << payload.first(std::min(payload.size(), TracedPayloadBytes));
+    qCDebug(logPipeline) << ">>> FileAck CASE ENTERED! payload:" << payload.size();
+    qCDebug(logPipeline) << ">>> Raw payload:" << payload.first(std::min(payload.size(), TracedPayloadBytes));
     const auto ack = TransferMessages::Ack::fromPayload(payload);
-    qDebug() << ">>> FileAck isRequest:" << ack.isRequest;
+    qCDebug(logPipeline) << ">>> FileAck isRequest:" << ack.isRequest;
     if (ack.isRequest) {
-        qDebug() << ">>> This is a BatchAckRequest!";
+        qCDebug(logPipeline) << ">>> This is a BatchAckRequest!";
         if (!m_receiverWorker) {
-            qDebug() << ">>> ERROR: m_receiverWorker is NULL! Cannot process BatchAckRequest!";
+            qCDebug(logPipeline) << ">>> ERROR: m_receiverWorker is NULL! Cannot process BatchAckRequest!";
             return;
         }
-        qDebug() << ">>> Calling onBatchAckRequest: batchId=" << ack.batchId
-                 << "startTaskId=" << ack.startTaskId << "endTaskId=" << ack.endTaskId;
+        qCDebug(logPipeline) << ">>> Calling onBatchAckRequest: batchId=" << ack.batchId
+                             << "startTaskId=" << ack.startTaskId << "endTaskId=" << ack.endTaskId;
         // Queued, so that the answer stands behind all chunks of the batch.
         QMetaObject::invokeMethod(
             m_receiverWorker,
@@ -326,26 +328,26 @@ void MigrationManager::onFileAck(const QByteArray &payload)
                 receiver->onBatchAckRequest(ack.batchId, ack.startTaskId, ack.endTaskId);
             },
             Qt::QueuedConnection);
-        qDebug() << ">>> onBatchAckRequest invoked!";
+        qCDebug(logPipeline) << ">>> onBatchAckRequest invoked!";
         return;
     }
-    qDebug() << ">>> This is a BatchAck response (for sender)";
+    qCDebug(logPipeline) << ">>> This is a BatchAck response (for sender)";
     if (!m_senderWorker) {
-        qDebug() << ">>> ERROR: m_senderWorker is NULL! Cannot process BatchAck!";
+        qCDebug(logPipeline) << ">>> ERROR: m_senderWorker is NULL! Cannot process BatchAck!";
         return;
     }
-    qDebug() << ">>> Calling onBatchAckReceived: batchId=" << ack.batchId << "success=" << ack.success
-             << "failedCount=" << ack.failedFiles.size();
+    qCDebug(logPipeline) << ">>> Calling onBatchAckReceived: batchId=" << ack.batchId
+                         << "success=" << ack.success << "failedCount=" << ack.failedFiles.size();
     // Directly: the worker's thread is blocked waiting for this answer.
     m_senderWorker->onBatchAckReceived(ack.batchId, ack.success, ack.failedFiles);
-    qDebug() << ">>> onBatchAckReceived invoked!";
+    qCDebug(logPipeline) << ">>> onBatchAckReceived invoked!";
 }
 
 void MigrationManager::onPeerPause()
 {
     if (m_paused)
         return;
-    qDebug() << "MigrationManager::onPeerPause() - peer requested pause";
+    qCDebug(logPipeline) << "MigrationManager::onPeerPause() - peer requested pause";
     m_pausedByPeer = true;
     setWorkersPaused(true);
     Q_EMIT pausedByPeer();
@@ -355,15 +357,15 @@ void MigrationManager::onPeerResume()
 {
     if (!m_paused)
         return;
-    qDebug() << "MigrationManager::onPeerResume() - peer requested resume";
+    qCDebug(logPipeline) << "MigrationManager::onPeerResume() - peer requested resume";
     setWorkersPaused(false);
     Q_EMIT resumedByPeer();
 }
 
 void MigrationManager::handlePeerCancel()
 {
-    qDebug() << "Received TransferCancel from peer";
-    qDebug() << "MigrationManager::handlePeerCancel()";
+    qCDebug(logPipeline) << "Received TransferCancel from peer";
+    qCDebug(logPipeline) << "MigrationManager::handlePeerCancel()";
     m_migrating = false;
     m_settingsOwed = false;
     cancelWorkersQueued();
@@ -379,9 +381,9 @@ void MigrationManager::handlePeerCancel()
 
 void MigrationManager::onTransferComplete()
 {
-    qDebug() << "Received TransferComplete message!";
+    qCDebug(logPipeline) << "Received TransferComplete message!";
     if (m_role == NewPC) {
-        qDebug() << "Receiver: Marking all phases as done";
+        qCDebug(logPipeline) << "Receiver: Marking all phases as done";
         appMigrationDone = true;
         appFilesAllQueued = true;
         settingPhaseDone = true;
@@ -392,10 +394,10 @@ void MigrationManager::onTransferComplete()
             onPeerResume();
     }
     if (!m_receiverWorker) {
-        qDebug() << "WARNING: m_receiverWorker is null!";
+        qCDebug(logPipeline) << "WARNING: m_receiverWorker is null!";
         return;
     }
-    qDebug() << "Calling receiverWorker->onTransferComplete()";
+    qCDebug(logPipeline) << "Calling receiverWorker->onTransferComplete()";
     m_completing = true;
     QMetaObject::invokeMethod(m_receiverWorker, &FileReceiverWorker::onTransferComplete,
                               Qt::QueuedConnection);
@@ -403,7 +405,7 @@ void MigrationManager::onTransferComplete()
 
 void MigrationManager::onTransferReset()
 {
-    qDebug() << "Received TransferReset - peer wants to restart";
+    qCDebug(logPipeline) << "Received TransferReset - peer wants to restart";
     resetRun();
     Q_EMIT transferReset();
 }

@@ -1,9 +1,8 @@
 // MigrationManager's settings.
 
+#include "pipeline/Log.h"
 #include "pipeline/MigrationManager.h"
 #include "settings/SettingMigrator.h"
-
-#include <QDebug>
 
 #include <algorithm>
 #include <iterator>
@@ -22,7 +21,7 @@ void MigrationManager::startSettingMigration(const QList<SettingInfo> &settings)
 {
     if (settings.isEmpty())
         return;
-    qDebug() << "Starting setting migration for" << settings.size() << "settings";
+    qCDebug(logPipeline) << "Starting setting migration for" << settings.size() << "settings";
     QMetaObject::invokeMethod(
         m_settingMigrator, [migrator = m_settingMigrator, settings] { migrator->start(settings); },
         Qt::QueuedConnection);
@@ -30,7 +29,7 @@ void MigrationManager::startSettingMigration(const QList<SettingInfo> &settings)
 
 void MigrationManager::onSettingMigrationFinished(int applied, int failed)
 {
-    qDebug() << "[Setting] Migration finished - applied:" << applied << "failed:" << failed;
+    qCDebug(logPipeline) << "[Setting] Migration finished - applied:" << applied << "failed:" << failed;
     m_settingsApplied = applied;
     m_settingsFailed = failed;
     settingPhaseDone = true;
@@ -74,7 +73,7 @@ void MigrationManager::tellSettingMigrator(void (SettingMigrator::*slot)(const Q
 
 void MigrationManager::onSettingStarted(const QString &name)
 {
-    qDebug() << "[Setting] Started:" << name;
+    qCDebug(logPipeline) << "[Setting] Started:" << name;
     Q_EMIT fileTransferStarted(tr("[Setting] %1").arg(name));
 }
 

@@ -4,10 +4,10 @@
 #include "peer/NetworkManager.h"
 #include "pipeline/FileReceiverWorker.h"
 #include "pipeline/FileSenderWorker.h"
+#include "pipeline/Log.h"
 #include "pipeline/MigrationManager.h"
 #include "settings/SettingMigrator.h"
 
-#include <QDebug>
 #include <QThread>
 
 #include <chrono>
@@ -35,7 +35,7 @@ auto MigrationManager::ofThisRun(void (MigrationManager::*slot)(Arguments...))
 
 void MigrationManager::setupConnections()
 {
-    qDebug() << "MigrationManager::setupConnections() - role:" << roleName(m_role);
+    qCDebug(logPipeline) << "MigrationManager::setupConnections() - role:" << roleName(m_role);
     if (m_networkManager) {
         QObject::disconnect(m_networkManager, nullptr, this, nullptr);
         setNetworkManager(m_networkManager);
@@ -50,7 +50,7 @@ void MigrationManager::setupConnections()
 
 void MigrationManager::createReceiver()
 {
-    qDebug() << "  Creating FileReceiverWorker, destRoot:" << m_destRoot;
+    qCDebug(logPipeline) << "  Creating FileReceiverWorker, destRoot:" << m_destRoot;
     delete m_receiverWorker;
     m_receiverWorker = new FileReceiverWorker;
     m_receiverWorker->setDestinationRoot(m_destRoot);
@@ -64,7 +64,7 @@ void MigrationManager::createReceiver()
 
 void MigrationManager::createSender()
 {
-    qDebug() << "  Creating FileSenderWorker";
+    qCDebug(logPipeline) << "  Creating FileSenderWorker";
     delete m_senderWorker;
     m_senderWorker = new FileSenderWorker;
     m_senderWorker->setConflictPolicy(m_conflictConfig.policy);
@@ -192,7 +192,7 @@ void MigrationManager::endThread(QThread *&thread, const char *warning, Workers 
         if (thread->wait(QDeadlineTimer(StopDeadline))) {
             (delete workers, ...);
         } else {
-            qWarning() << warning;
+            qCWarning(logPipeline) << warning;
             thread->terminate();
             thread->wait();
         }

@@ -3,8 +3,8 @@
 #include "appmigration/AppMessages.h"
 #include "pipeline/DestinationGuard.h"
 #include "pipeline/DestinationMap.h"
+#include "pipeline/Log.h"
 
-#include <QDebug>
 #include <QDir>
 
 namespace Zandrove {
@@ -31,14 +31,14 @@ ReceivedApps::ReceivedApps(QObject *parent)
 {
     connect(&m_appInstaller, &AppInstaller::progress, this,
             [this](const QString &name, int percent, const QString &status) {
-                qDebug() << "Installing" << name << percent << status;
+                qCDebug(logPipeline) << "Installing" << name << percent << status;
                 Q_EMIT installProgress(name, percent, status);
             });
     connect(&m_appInstaller, &AppInstaller::finished, this,
             [this](const QString &name, bool success, const QString &error) {
-                qDebug() << "App install finished:" << name << (success ? "SUCCESS" : "FAILED");
+                qCDebug(logPipeline) << "App install finished:" << name << (success ? "SUCCESS" : "FAILED");
                 if (!error.isEmpty())
-                    qDebug() << "  Error:" << error;
+                    qCDebug(logPipeline) << "  Error:" << error;
                 Q_EMIT installFinished(name, success, error);
             });
 }
@@ -47,24 +47,24 @@ bool ReceivedApps::begin(const QByteArray &payload)
 {
     const std::optional<AppPackage> package = readAppStart(payload);
     if (!package) {
-        qDebug() << "Ignoring an application that can't be read or has a name of no use";
+        qCDebug(logPipeline) << "Ignoring an application that can't be read or has a name of no use";
         return false;
     }
     const QString basePath = receivedAppFolder(package->name);
     if (QDir(basePath).exists()) {
-        qDebug() << "Cleaning previous app data:" << basePath;
+        qCDebug(logPipeline) << "Cleaning previous app data:" << basePath;
         if (!removeReceived(basePath)) {
-            qDebug() << "Ignoring an application whose folder can't be cleaned:" << basePath;
+            qCDebug(logPipeline) << "Ignoring an application whose folder can't be cleaned:" << basePath;
             return false;
         }
     }
     QDir().mkpath(basePath);
     const AppPackageInfo &info =
         *m_receivedPackages.insert(package->name, receivedPackage(*package, basePath));
-    qDebug() << "Received AppStart for:" << info.name;
-    qDebug() << "  Original install location:" << info.originalInstallLocation;
-    qDebug() << "  Source user:" << info.sourceUser;
-    qDebug() << "  Saved to receivedBasePath:" << info.receivedBasePath;
+    qCDebug(logPipeline) << "Received AppStart for:" << info.name;
+    qCDebug(logPipeline) << "  Original install location:" << info.originalInstallLocation;
+    qCDebug(logPipeline) << "  Source user:" << info.sourceUser;
+    qCDebug(logPipeline) << "  Saved to receivedBasePath:" << info.receivedBasePath;
     return true;
 }
 
@@ -74,7 +74,7 @@ void ReceivedApps::countFileIn(const QString &relativePath)
     if (name.isEmpty())
         return;
     const int count = ++m_appOpenFiles[name];
-    qDebug() << "App file opened:" << name << "count:" << count;
+    qCDebug(logPipeline) << "App file opened:" << name << "count:" << count;
 }
 
 QString ReceivedApps::countFileOut(const QString &relativePath)
@@ -83,7 +83,7 @@ QString ReceivedApps::countFileOut(const QString &relativePath)
     if (name.isEmpty())
         return {};
     const int count = --m_appOpenFiles[name];
-    qDebug() << "App file closed:" << name << "count:" << count;
+    qCDebug(logPipeline) << "App file closed:" << name << "count:" << count;
     return isComplete(name) ? name : QString();
 }
 
@@ -100,24 +100,24 @@ bool ReceivedApps::isComplete(const QString &appName) const
 
 void ReceivedApps::tryInstallApp(const QString &appName)
 {
-    qDebug() << "tryInstallApp:" << appName;
+    qCDebug(logPipeline) << "tryInstallApp:" << appName;
     const auto waiting = m_receivedPackages.constFind(appName);
     if (waiting == m_receivedPackages.cend()) {
-        qDebug() << "  WARNING: No package info found for:" << appName;
+        qCDebug(logPipeline) << "  WARNING: No package info found for:" << appName;
         return;
     }
     AppPackageInfo package = *waiting;
     package.receivedBasePath = receivedAppFolder(appName);
-    qDebug() << "Installing app:" << appName;
-    qDebug() << "  receivedBasePath:" << package.receivedBasePath;
-    qDebug() << "  originalInstallLocation:" << package.originalInstallLocation;
-    qDebug() << "  sourceUser:" << package.sourceUser;
+    qCDebug(logPipeline) << "Installing app:" << appName;
+    qCDebug(logPipeline) << "  receivedBasePath:" << package.receivedBasePath;
+    qCDebug(logPipeline) << "  originalInstallLocation:" << package.originalInstallLocation;
+    qCDebug(logPipeline) << "  sourceUser:" << package.sourceUser;
 
     const bool success = m_appInstaller.install(package);
-    qDebug() << (success ? "App installed successfully:" : "App install failed:") << appName;
+    qCDebug(logPipeline) << (success ? "App installed successfully:" : "App install failed:") << appName;
     if (!removeReceived(package.receivedBasePath))
-        qDebug() << "Something is left in temp directory:" << package.receivedBasePath;
-    qDebug() << "Cleaned up temp directory:" << package.receivedBasePath;
+        qCDebug(logPipeline) << "Something is left in temp directory:" << package.receivedBasePath;
+    qCDebug(logPipeline) << "Cleaned up temp directory:" << package.receivedBasePath;
     m_receivedPackages.remove(appName);
     m_appOpenFiles.remove(appName);
     m_appEndReceived.remove(appName);
@@ -127,9 +127,9 @@ void ReceivedApps::tryInstallApp(const QString &appName)
 void ReceivedApps::forceInstallAll()
 {
     const QStringList names = m_receivedPackages.keys();
-    qDebug() << "Apps pending installation:" << names.size();
+    qCDebug(logPipeline) << "Apps pending installation:" << names.size();
     for (const QString &name : names) {
-        qDebug() << "Force installing app:" << name;
+        qCDebug(logPipeline) << "Force installing app:" << name;
         m_appEndReceived[name] = true;
         m_appOpenFiles[name] = 0;
         tryInstallApp(name);
@@ -142,11 +142,12 @@ void ReceivedApps::cleanUp()
     if (folder.exists()) {
         const QStringList remaining = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
         if (!remaining.isEmpty())
-            qDebug() << "Found" << remaining.size() << "remaining app directories (not installed)";
+            qCDebug(logPipeline) << "Found" << remaining.size()
+                                 << "remaining app directories (not installed)";
         for (const QString &name : remaining)
-            qDebug() << "  Remaining:" << name;
+            qCDebug(logPipeline) << "  Remaining:" << name;
         if (removeReceived(folder.path()))
-            qDebug() << "Cleaned up received apps temp directory";
+            qCDebug(logPipeline) << "Cleaned up received apps temp directory";
     }
     forgetPackages();
 }

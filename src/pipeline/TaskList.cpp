@@ -1,8 +1,8 @@
 #include "pipeline/TaskList.h"
 
 #include "pipeline/DestinationMap.h"
+#include "pipeline/Log.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
@@ -22,9 +22,9 @@ using PlacedFile = QPair<QString, QString>; // source path, relative path
 
 void logStandardFolders(const StandardFolders &standard)
 {
-    qDebug() << "Standard folders mapping:";
+    qCDebug(logPipeline) << "Standard folders mapping:";
     for (auto entry = standard.cbegin(); entry != standard.cend(); ++entry)
-        qDebug() << "  " << entry.key() << "->" << entry.value().rootWord;
+        qCDebug(logPipeline) << "  " << entry.key() << "->" << entry.value().rootWord;
 }
 
 } // namespace
@@ -99,8 +99,9 @@ QList<FileTransferTask> taskListFor(const QList<FolderInfo> &folders, int &nextT
         }
     }
     if (repeats > 0)
-        qDebug() << "Left out" << repeats << "repeats of files that another folder brings to the same place";
-    qDebug() << "Built task list with" << tasks.size() << "files";
+        qCDebug(logPipeline) << "Left out" << repeats
+                             << "repeats of files that another folder brings to the same place";
+    qCDebug(logPipeline) << "Built task list with" << tasks.size() << "files";
     return tasks;
 }
 

@@ -4,10 +4,10 @@
 #include "platform/LastError.h"
 #include "platform/Registry.h"
 #include "platform/SystemParameters.h"
+#include "settings/Log.h"
 #include "settings/SettingPrograms.h"
 #include "support/Json.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QJsonObject>
@@ -28,7 +28,7 @@ namespace {
 void writeValue(Platform::RegistryKey &key, const QString &name, const QString &value)
 {
     if (!key.setText(name, value))
-        qDebug() << "[Registry] Failed to write value:" << name;
+        qCDebug(logSettings) << "[Registry] Failed to write value:" << name;
 }
 
 /// Whether `name` is one component of a path and nothing else.
@@ -59,25 +59,25 @@ QString savePicture(const SettingPackage &package)
 bool applyWallpaper(const SettingPackage &package)
 {
     if (package.fileData.isEmpty() || package.fileName.isEmpty()) {
-        qDebug() << "[Wallpaper] No wallpaper file data";
+        qCDebug(logSettings) << "[Wallpaper] No wallpaper file data";
         return false;
     }
     const QString path = savePicture(package);
     if (path.isEmpty()) {
-        qDebug() << "[Wallpaper] Failed to save wallpaper file";
+        qCDebug(logSettings) << "[Wallpaper] Failed to save wallpaper file";
         return false;
     }
-    qDebug() << "[Wallpaper] Saved to:" << path;
+    qCDebug(logSettings) << "[Wallpaper] Saved to:" << path;
 
     Platform::RegistryKey desktop(u"HKEY_CURRENT_USER\\Control Panel\\Desktop"_s);
     writeValue(desktop, u"WallpaperStyle"_s, package.metadata.value(u"WallpaperStyle"_s, u"10"_s));
     writeValue(desktop, u"TileWallpaper"_s, package.metadata.value(u"TileWallpaper"_s, u"0"_s));
     if (!Platform::setWallpaper(path)) {
         const auto error = Platform::lastErrorCode();
-        qDebug() << "[Wallpaper] SystemParametersInfo failed, error:" << error;
+        qCDebug(logSettings) << "[Wallpaper] SystemParametersInfo failed, error:" << error;
         return false;
     }
-    qDebug() << "[Wallpaper] Applied successfully";
+    qCDebug(logSettings) << "[Wallpaper] Applied successfully";
     return true;
 }
 
@@ -90,7 +90,7 @@ bool applyTaskbar(const SettingPackage &package)
     // Explorer's view options are an extra that the taskbar's own success doesn't hang on.
     static_cast<void>(importRegistryData(advanced));
     Platform::broadcastSettingChange(u"TraySettings"_s);
-    qDebug() << "[Taskbar] Applied settings";
+    qCDebug(logSettings) << "[Taskbar] Applied settings";
     return imported;
 }
 
@@ -101,7 +101,7 @@ bool applyExplorer(const SettingPackage &package)
     const bool imported = importRegistryData(package.registryData);
     Platform::broadcastSettingChange(QString());
     Platform::notifyAssociationsChanged();
-    qDebug() << "[Explorer] Applied settings";
+    qCDebug(logSettings) << "[Explorer] Applied settings";
     return imported;
 }
 
@@ -116,7 +116,7 @@ bool applyMouse(const SettingPackage &package)
         Platform::setSystemParameter(SystemParameter::MouseButtonSwap, *swap == "1"_L1 ? 1 : 0);
     if (const auto time = metadata.constFind(u"DoubleClickSpeed"_s); time != metadata.cend())
         Platform::setSystemParameter(SystemParameter::DoubleClickTime, time->toInt());
-    qDebug() << "[Mouse] Applied settings";
+    qCDebug(logSettings) << "[Mouse] Applied settings";
     return true;
 }
 
@@ -131,14 +131,14 @@ bool applyKeyboard(const SettingPackage &package)
         Platform::setSystemParameter(SystemParameter::KeyboardDelay, delay->toInt());
         Platform::setSystemParameter(SystemParameter::KeyboardSpeed, speed->toInt());
     }
-    qDebug() << "[Keyboard] Applied settings";
+    qCDebug(logSettings) << "[Keyboard] Applied settings";
     return true;
 }
 
 bool applyPower(const SettingPackage &package)
 {
     if (package.fileData.isEmpty()) {
-        qDebug() << "[Power] No power scheme data";
+        qCDebug(logSettings) << "[Power] No power scheme data";
         return false;
     }
     return importPowerScheme(package.fileData);
@@ -153,7 +153,7 @@ void writeVariables(const QJsonObject &variables)
         const QString value = variable.value().toString();
         if (name.compare("PATH"_L1, Qt::CaseInsensitive) == 0) {
             if (!environment.text(u"PATH"_s).contains(value))
-                qDebug() << "[Environment] Skipping PATH merge for safety";
+                qCDebug(logSettings) << "[Environment] Skipping PATH merge for safety";
         } else if (!name.isEmpty() && variable.value().isString()) {
             writeValue(environment, name, value);
         }
@@ -169,7 +169,7 @@ bool applyEnvironment(const SettingPackage &package)
         applied = true;
     }
     Platform::broadcastSettingChange(u"Environment"_s);
-    qDebug() << "[Environment] Applied settings";
+    qCDebug(logSettings) << "[Environment] Applied settings";
     return applied;
 }
 
@@ -178,7 +178,7 @@ bool applySound(const SettingPackage &package)
     if (package.registryData.isEmpty())
         return false;
     const bool imported = importRegistryData(package.registryData);
-    qDebug() << "[Sound] Applied settings";
+    qCDebug(logSettings) << "[Sound] Applied settings";
     return imported;
 }
 
@@ -186,7 +186,7 @@ bool applyDisplay(const SettingPackage &package)
 {
     const bool imported = importRegistryData(package.registryData);
     Platform::broadcastSettingChange(u"ImmersiveColorSet"_s);
-    qDebug() << "[Display] Applied settings";
+    qCDebug(logSettings) << "[Display] Applied settings";
     return imported;
 }
 
@@ -208,7 +208,7 @@ constexpr std::array Appliers = {
 
 bool applySetting(const SettingPackage &package)
 {
-    qDebug() << "[SettingMigrator] Applying setting:" << package.key;
+    qCDebug(logSettings) << "[SettingMigrator] Applying setting:" << package.key;
     const auto *const known =
         std::find_if(Appliers.begin(), Appliers.end(),
                      [&package](const Applier &applier) { return applier.key == package.key; });

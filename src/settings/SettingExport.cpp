@@ -2,11 +2,11 @@
 
 #include "platform/Registry.h"
 #include "platform/SystemParameters.h"
+#include "settings/Log.h"
 #include "settings/SettingPrograms.h"
 #include "support/Json.h"
 #include "support/Paths.h"
 
-#include <QDebug>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonObject>
@@ -89,7 +89,7 @@ bool exportKeySetting(SettingPackage &package, const KeySetting &setting)
     if (!exportKey(package, setting.registryPath))
         return false;
     addValues(package, setting.values);
-    qDebug() << setting.exportedLine;
+    qCDebug(logSettings) << setting.exportedLine;
     return true;
 }
 
@@ -108,21 +108,21 @@ bool exportWallpaper(SettingPackage &package)
 {
     const std::optional<QString> picture = Platform::wallpaper();
     if (!picture) {
-        qDebug() << "[Wallpaper] Failed to get wallpaper path";
+        qCDebug(logSettings) << "[Wallpaper] Failed to get wallpaper path";
         return false;
     }
     if (picture->isEmpty() || !QFileInfo::exists(withSlashes(*picture))) {
-        qDebug() << "[Wallpaper] Wallpaper file not found:" << *picture;
+        qCDebug(logSettings) << "[Wallpaper] Wallpaper file not found:" << *picture;
         return false;
     }
-    qDebug() << "[Wallpaper] Current wallpaper:" << *picture;
+    qCDebug(logSettings) << "[Wallpaper] Current wallpaper:" << *picture;
     if (!readPicture(package, *picture)) {
-        qDebug() << "[Wallpaper] Failed to read wallpaper file";
+        qCDebug(logSettings) << "[Wallpaper] Failed to read wallpaper file";
         return false;
     }
     exportKey(package, WallpaperKey);
     addValues(package, WallpaperValues);
-    qDebug() << "[Wallpaper] Exported successfully, file size:" << package.fileData.size();
+    qCDebug(logSettings) << "[Wallpaper] Exported successfully, file size:" << package.fileData.size();
     return true;
 }
 
@@ -134,14 +134,14 @@ bool exportTaskbar(SettingPackage &package)
         package.metadata.insert(u"AdvancedSettings"_s, QString::fromLatin1(advanced->toBase64()));
     if (package.registryData.isEmpty())
         return false;
-    qDebug() << "[Taskbar] Exported settings";
+    qCDebug(logSettings) << "[Taskbar] Exported settings";
     return true;
 }
 
 bool exportExplorer(SettingPackage &package)
 {
     const bool exported = exportKey(package, ExplorerKey);
-    qDebug() << "[Explorer] Exported settings, success:" << exported;
+    qCDebug(logSettings) << "[Explorer] Exported settings, success:" << exported;
     return exported;
 }
 
@@ -152,7 +152,7 @@ bool exportPower(SettingPackage &package)
         return false;
     package.fileData = *scheme;
     package.fileName = u"power_scheme.pow"_s;
-    qDebug() << "[Power] Exported power scheme, size:" << package.fileData.size();
+    qCDebug(logSettings) << "[Power] Exported power scheme, size:" << package.fileData.size();
     return true;
 }
 
@@ -166,7 +166,7 @@ bool exportEnvironment(SettingPackage &package)
     for (const QString &name : names)
         variables.insert(name, key.text(name));
     package.metadata.insert(u"EnvironmentVars"_s, QString::fromUtf8(compactJson(variables)));
-    qDebug() << "[Environment] Exported" << variables.size() << "variables";
+    qCDebug(logSettings) << "[Environment] Exported" << variables.size() << "variables";
     return true;
 }
 
@@ -174,7 +174,7 @@ bool exportNamedKey(SettingPackage &package, const QString &path)
 {
     if (!path.isEmpty())
         return exportKey(package, path);
-    qDebug() << "[SettingMigrator] Unknown setting key:" << package.key;
+    qCDebug(logSettings) << "[SettingMigrator] Unknown setting key:" << package.key;
     return false;
 }
 
@@ -217,7 +217,7 @@ std::optional<SettingPackage> exportSetting(const SettingInfo &setting)
     package.key = setting.id;
     package.name = setting.name;
     package.category = setting.category;
-    qDebug() << "[SettingMigrator] Exporting:" << package.key << "-" << package.name;
+    qCDebug(logSettings) << "[SettingMigrator] Exporting:" << package.key << "-" << package.name;
     if (!fillPackage(package, setting))
         return std::nullopt;
     return package;

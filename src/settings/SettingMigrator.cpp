@@ -1,10 +1,10 @@
 #include "settings/SettingMigrator.h"
 
 #include "peer/Protocol.h"
+#include "settings/Log.h"
 #include "settings/SettingApply.h"
 #include "settings/SettingExport.h"
 
-#include <QDebug>
 #include <QThread>
 
 #include <algorithm>
@@ -57,12 +57,12 @@ void SettingMigrator::start(const QList<SettingInfo> &settings)
     std::copy_if(settings.cbegin(), settings.cend(), std::back_inserter(chosen),
                  [](const SettingInfo &setting) { return setting.selected && setting.available; });
     if (chosen.isEmpty()) {
-        qDebug() << "[SettingMigrator] No settings selected for migration";
+        qCDebug(logSettings) << "[SettingMigrator] No settings selected for migration";
         Q_EMIT finished(0, 0);
         return;
     }
     beginRun();
-    qDebug() << "[SettingMigrator] Starting export of" << chosen.size() << "settings";
+    qCDebug(logSettings) << "[SettingMigrator] Starting export of" << chosen.size() << "settings";
     for (qsizetype i = 0; i < chosen.size() && !isCancelled(); ++i) {
         Q_EMIT settingStarted(chosen[i].name);
         Q_EMIT progress(int(i * 100 / chosen.size()), chosen[i].name);
@@ -73,8 +73,8 @@ void SettingMigrator::start(const QList<SettingInfo> &settings)
         return;
     Q_EMIT requestSendCommand(wireType(Protocol::MessageType::SettingComplete),
                               Complete{m_successCount, m_failedCount}.toPayload());
-    qDebug() << "[SettingMigrator] Export completed. Success:" << m_successCount
-             << "Failed:" << m_failedCount;
+    qCDebug(logSettings) << "[SettingMigrator] Export completed. Success:" << m_successCount
+                         << "Failed:" << m_failedCount;
     Q_EMIT finished(m_successCount, m_failedCount);
 }
 
@@ -130,7 +130,7 @@ void SettingMigrator::sendPackage(const SettingPackage &package)
     sendFile(package);
     Q_EMIT requestSendCommand(wireType(Protocol::MessageType::SettingEnd),
                               End{package.key, package.name}.toPayload());
-    qDebug() << "[SettingMigrator] Sent package:" << package.key;
+    qCDebug(logSettings) << "[SettingMigrator] Sent package:" << package.key;
 }
 
 void SettingMigrator::sendFile(const SettingPackage &package)
@@ -151,7 +151,7 @@ void SettingMigrator::sendFile(const SettingPackage &package)
 
 void SettingMigrator::startReceiving()
 {
-    qDebug() << "[SettingMigrator] Starting receiver mode";
+    qCDebug(logSettings) << "[SettingMigrator] Starting receiver mode";
     beginRun();
 }
 
@@ -159,7 +159,8 @@ void SettingMigrator::onSettingStart(const QByteArray &payload)
 {
     m_currentPackage = readStart(payload);
     m_currentIsDamaged = false;
-    qDebug() << "[SettingMigrator] Receiving setting:" << m_currentPackage.key << m_currentPackage.name;
+    qCDebug(logSettings) << "[SettingMigrator] Receiving setting:" << m_currentPackage.key
+                         << m_currentPackage.name;
     Q_EMIT settingStarted(m_currentPackage.name);
 }
 
@@ -167,16 +168,17 @@ void SettingMigrator::onSettingData(const QByteArray &payload)
 {
     const Data data = Data::fromPayload(payload);
     if (data.key != m_currentPackage.key) {
-        qDebug() << "[SettingMigrator] Key mismatch! Expected:" << m_currentPackage.key << "Got:" << data.key;
+        qCDebug(logSettings) << "[SettingMigrator] Key mismatch! Expected:" << m_currentPackage.key
+                             << "Got:" << data.key;
         return;
     }
     addContent(data);
     if (data.content == Data::Content::Registry) {
-        qDebug() << "[SettingMigrator] Received registry data, size:" << data.bytes.size();
+        qCDebug(logSettings) << "[SettingMigrator] Received registry data, size:" << data.bytes.size();
     } else if (data.content == Data::Content::File) {
         Q_EMIT settingProgress(m_currentPackage.name, percentOf(data));
-        qDebug() << "[SettingMigrator] Received file chunk" << qint64(data.chunkIndex) + 1 << "/"
-                 << data.totalChunks;
+        qCDebug(logSettings) << "[SettingMigrator] Received file chunk" << qint64(data.chunkIndex) + 1 << "/"
+                             << data.totalChunks;
     }
 }
 
@@ -203,13 +205,13 @@ void SettingMigrator::addContent(const Data &data)
 void SettingMigrator::onSettingEnd(const QByteArray &payload)
 {
     if (End::fromPayload(payload).key != m_currentPackage.key) {
-        qDebug() << "[SettingMigrator] SettingEnd key mismatch!";
+        qCDebug(logSettings) << "[SettingMigrator] SettingEnd key mismatch!";
         return;
     }
     const SettingPackage package = std::exchange(m_currentPackage, {});
     const bool isDamaged = std::exchange(m_currentIsDamaged, false);
-    qDebug() << "[SettingMigrator] Setting complete:" << package.key
-             << "registry:" << package.registryData.size() << "file:" << package.fileData.size();
+    qCDebug(logSettings) << "[SettingMigrator] Setting complete:" << package.key
+                         << "registry:" << package.registryData.size() << "file:" << package.fileData.size();
     countOutcome(package.name, !isDamaged && applySetting(package), tr("Failed to apply setting"));
     ++m_processedCount;
     Q_EMIT progress(m_processedCount * PointsPerSetting, package.name);
@@ -217,8 +219,8 @@ void SettingMigrator::onSettingEnd(const QByteArray &payload)
 
 void SettingMigrator::onSettingComplete(const QByteArray &)
 {
-    qDebug() << "[SettingMigrator] Received SettingComplete - Applied:" << m_successCount
-             << "Failed:" << m_failedCount;
+    qCDebug(logSettings) << "[SettingMigrator] Received SettingComplete - Applied:" << m_successCount
+                         << "Failed:" << m_failedCount;
     endRun();
     Q_EMIT finished(m_successCount, m_failedCount);
 }

@@ -1,9 +1,9 @@
 #include "settings/SettingPrograms.h"
 
 #include "platform/ExternalProgram.h"
+#include "settings/Log.h"
 
 #include <QDateTime>
-#include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -92,19 +92,19 @@ std::optional<QByteArray> exportRegistryKey(const QString &key)
     const Platform::ProgramResult reg =
         Platform::runProgram(u"reg"_s, {u"export"_s, name, path, u"/y"_s}, ProgramTimeout);
     if (!reg.finished) {
-        qDebug() << "[Registry] Export timeout for:" << name;
+        qCDebug(logSettings) << "[Registry] Export timeout for:" << name;
         return std::nullopt;
     }
     if (reg.exitCode != 0) {
-        qDebug() << "[Registry] Export failed for:" << name;
-        qDebug() << "  Error:" << localText(reg.standardError);
+        qCDebug(logSettings) << "[Registry] Export failed for:" << name;
+        qCDebug(logSettings) << "  Error:" << localText(reg.standardError);
         QFile::remove(path);
         return std::nullopt;
     }
     const std::optional<QByteArray> data = takeFile(path);
     if (!data)
         return std::nullopt;
-    qDebug() << "[Registry] Exported:" << name << "size:" << data->size();
+    qCDebug(logSettings) << "[Registry] Exported:" << name << "size:" << data->size();
     return data->isEmpty() ? std::nullopt : data;
 }
 
@@ -117,11 +117,11 @@ bool importRegistryData(const QByteArray &data)
     if (!reg)
         return false;
     if (!reg->finished) {
-        qDebug() << "[Registry] Import timeout";
+        qCDebug(logSettings) << "[Registry] Import timeout";
         return false;
     }
     if (reg->exitCode != 0) {
-        qDebug() << "[Registry] Import failed:" << localText(reg->standardError);
+        qCDebug(logSettings) << "[Registry] Import failed:" << localText(reg->standardError);
         return false;
     }
     return true;
@@ -133,11 +133,11 @@ std::optional<QByteArray> exportPowerScheme()
     const Platform::ProgramResult powercfg =
         Platform::runProgram(u"powercfg"_s, {u"/export"_s, path, u"SCHEME_CURRENT"_s}, ProgramTimeout);
     if (!powercfg.finished) {
-        qDebug() << "[Power] powercfg export timeout";
+        qCDebug(logSettings) << "[Power] powercfg export timeout";
         return std::nullopt;
     }
     if (powercfg.exitCode != 0) {
-        qDebug() << "[Power] powercfg export failed:" << localText(powercfg.standardError);
+        qCDebug(logSettings) << "[Power] powercfg export failed:" << localText(powercfg.standardError);
         QFile::remove(path);
         return std::nullopt;
     }
@@ -154,7 +154,7 @@ bool importPowerScheme(const QByteArray &scheme)
     const QString guid = guidIn(localText(powercfg->standardOutput));
     if (imported && !guid.isEmpty())
         static_cast<void>(Platform::runProgram(u"powercfg"_s, {u"/setactive"_s, guid}));
-    qDebug() << "[Power] Applied settings, success:" << imported;
+    qCDebug(logSettings) << "[Power] Applied settings, success:" << imported;
     return imported;
 }
 

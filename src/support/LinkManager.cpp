@@ -1,8 +1,8 @@
 #include "support/LinkManager.h"
 
 #include "core/common/AppConfig.h"
+#include "support/Log.h"
 
-#include <QDebug>
 #include <QDesktopServices>
 #include <QFile>
 #include <QJsonArray>
@@ -33,24 +33,24 @@ LinkManager::LinkManager(const QString &document, QObject *parent)
     , m_fallbackLanguage(u"en"_s)
 {
     if (!loadLinks(document))
-        qCritical() << "[LinkManager] 加载链接配置失败！";
+        qCCritical(logSupport) << "[LinkManager] 加载链接配置失败！";
     m_currentLanguage = detectLanguage();
-    qDebug() << "[LinkManager] 初始化完成";
-    qDebug() << "[LinkManager] 当前语言:" << m_currentLanguage;
-    qDebug() << "[LinkManager] 支持的语言:" << m_supportedLanguages;
+    qCDebug(logSupport) << "[LinkManager] 初始化完成";
+    qCDebug(logSupport) << "[LinkManager] 当前语言:" << m_currentLanguage;
+    qCDebug(logSupport) << "[LinkManager] 支持的语言:" << m_supportedLanguages;
 }
 
 bool LinkManager::loadLinks(const QString &document)
 {
     QFile file(document);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        qCritical() << "[LinkManager] 无法打开 links.json:" << file.errorString();
+        qCCritical(logSupport) << "[LinkManager] 无法打开 links.json:" << file.errorString();
         return false;
     }
     const QJsonDocument json = QJsonDocument::fromJson(file.readAll());
     file.close();
     if (!json.isObject()) {
-        qCritical() << "[LinkManager] JSON 格式错误";
+        qCCritical(logSupport) << "[LinkManager] JSON 格式错误";
         return false;
     }
     m_links = json.object();
@@ -66,9 +66,9 @@ void LinkManager::loadMetadata(const QJsonObject &metadata)
         m_supportedLanguages.append(language.toString());
     if (const auto fallback = metadata.constFind("fallback_language"_L1); fallback != metadata.constEnd())
         m_fallbackLanguage = fallback->toString();
-    qDebug() << "[LinkManager] 元数据加载成功";
-    qDebug() << "[LinkManager] 版本:" << metadata.value("version"_L1).toString();
-    qDebug() << "[LinkManager] 更新日期:" << metadata.value("last_updated"_L1).toString();
+    qCDebug(logSupport) << "[LinkManager] 元数据加载成功";
+    qCDebug(logSupport) << "[LinkManager] 版本:" << metadata.value("version"_L1).toString();
+    qCDebug(logSupport) << "[LinkManager] 更新日期:" << metadata.value("last_updated"_L1).toString();
 }
 
 QString LinkManager::detectLanguage() const
@@ -76,15 +76,15 @@ QString LinkManager::detectLanguage() const
     const QSettings settings(AppConfig::userOrganisation(), AppConfig::appName());
     QString chosen = settings.value(LanguageKey, QString()).toString();
     if (!chosen.isEmpty() && m_supportedLanguages.contains(chosen)) {
-        qDebug() << "[LinkManager] 使用用户设置的语言:" << chosen;
+        qCDebug(logSupport) << "[LinkManager] 使用用户设置的语言:" << chosen;
         return chosen;
     }
     const QString locale = QLocale::system().name();
     QString mapped = mapSystemLanguage(locale);
-    qDebug() << "[LinkManager] 系统语言:" << locale << "-> 映射为:" << mapped;
+    qCDebug(logSupport) << "[LinkManager] 系统语言:" << locale << "-> 映射为:" << mapped;
     if (m_supportedLanguages.contains(mapped))
         return mapped;
-    qWarning() << "[LinkManager] 不支持的语言，使用回退语言:" << m_fallbackLanguage;
+    qCWarning(logSupport) << "[LinkManager] 不支持的语言，使用回退语言:" << m_fallbackLanguage;
     return m_fallbackLanguage;
 }
 
@@ -102,43 +102,44 @@ QString LinkManager::mapSystemLanguage(const QString &locale)
 QString LinkManager::lookupLink(const QString &category, const QString &key, const QString &language) const
 {
     if (!m_links.contains(category)) {
-        qWarning() << "[LinkManager] 类别不存在:" << category;
+        qCWarning(logSupport) << "[LinkManager] 类别不存在:" << category;
         return {};
     }
     const QJsonObject keys = m_links.value(category).toObject();
     if (!keys.contains(key)) {
-        qWarning() << "[LinkManager] 键不存在:" << key << "in category:" << category;
+        qCWarning(logSupport) << "[LinkManager] 键不存在:" << key << "in category:" << category;
         return {};
     }
     const QJsonObject addresses = keys.value(key).toObject();
     if (addresses.contains(language)) {
         QString url = addresses.value(language).toString();
-        qDebug() << "[LinkManager] 获取链接:" << category << key << language << url;
+        qCDebug(logSupport) << "[LinkManager] 获取链接:" << category << key << language << url;
         return url;
     }
     if (addresses.contains(m_fallbackLanguage)) {
-        qWarning() << "[LinkManager] 语言" << language << "不存在，使用回退语言:" << m_fallbackLanguage;
+        qCWarning(logSupport) << "[LinkManager] 语言" << language
+                              << "不存在，使用回退语言:" << m_fallbackLanguage;
         return addresses.value(m_fallbackLanguage).toString();
     }
-    qCritical() << "[LinkManager] 无法找到链接:" << category << "/" << key;
+    qCCritical(logSupport) << "[LinkManager] 无法找到链接:" << category << "/" << key;
     return {};
 }
 
 QString LinkManager::getLink(const QString &category, const QString &key) const
 {
     if (QString url = lookupLink(category, key, m_currentLanguage); !url.isEmpty()) {
-        qDebug() << "[LinkManager] ✓ 获取链接成功 [" << m_currentLanguage << "]:" << url;
+        qCDebug(logSupport) << "[LinkManager] ✓ 获取链接成功 [" << m_currentLanguage << "]:" << url;
         return url;
     }
-    qWarning() << "[LinkManager] ⚠ 无法获取" << category << "/" << key << "的" << m_currentLanguage
-               << "版本，降级到" << m_fallbackLanguage;
+    qCWarning(logSupport) << "[LinkManager] ⚠ 无法获取" << category << "/" << key << "的" << m_currentLanguage
+                          << "版本，降级到" << m_fallbackLanguage;
     QString url = lookupLink(category, key, m_fallbackLanguage);
     if (url.isEmpty()) {
-        qCritical() << "[LinkManager] ✗ 无法获取链接:" << category << "/" << key;
-        qCritical() << "[LinkManager] ✗ 请检查 links.json 配置文件！";
+        qCCritical(logSupport) << "[LinkManager] ✗ 无法获取链接:" << category << "/" << key;
+        qCCritical(logSupport) << "[LinkManager] ✗ 请检查 links.json 配置文件！";
         return {};
     }
-    qDebug() << "[LinkManager] ✓ 使用回退语言 [" << m_fallbackLanguage << "]:" << url;
+    qCDebug(logSupport) << "[LinkManager] ✓ 使用回退语言 [" << m_fallbackLanguage << "]:" << url;
     return url;
 }
 
@@ -146,17 +147,17 @@ bool LinkManager::openLink(const QString &category, const QString &key, QWidget 
 {
     const QString url = getLink(category, key);
     if (url.isEmpty()) {
-        qCritical() << "[LinkManager] ✗ 无法打开链接:" << category << "/" << key;
+        qCCritical(logSupport) << "[LinkManager] ✗ 无法打开链接:" << category << "/" << key;
         if (parent != nullptr)
             QMessageBox::critical(parent, tr("配置错误"),
                                   tr("无法加载页面链接。\n\n请联系技术支持或重新安装软件。"));
         return false;
     }
     if (QDesktopServices::openUrl(QUrl(url))) {
-        qDebug() << "[LinkManager] ✓ 成功打开链接:" << url;
+        qCDebug(logSupport) << "[LinkManager] ✓ 成功打开链接:" << url;
         return true;
     }
-    qWarning() << "[LinkManager] ⚠ 无法打开浏览器:" << url;
+    qCWarning(logSupport) << "[LinkManager] ⚠ 无法打开浏览器:" << url;
     if (parent != nullptr) {
         QMessageBox warning(QMessageBox::Warning, tr("无法打开浏览器"),
                             tr("无法打开默认浏览器。\n\n请手动复制链接访问：\n%1").arg(url), QMessageBox::Ok,
@@ -171,14 +172,14 @@ bool LinkManager::openLink(const QString &category, const QString &key, QWidget 
 void LinkManager::setLanguage(const QString &language)
 {
     if (!m_supportedLanguages.contains(language)) {
-        qWarning() << "[LinkManager] 不支持的语言:" << language;
+        qCWarning(logSupport) << "[LinkManager] 不支持的语言:" << language;
         return;
     }
     if (language == m_currentLanguage)
         return;
     m_currentLanguage = language;
     QSettings(AppConfig::userOrganisation(), AppConfig::appName()).setValue(LanguageKey, language);
-    qDebug() << "[LinkManager] 语言已切换为:" << language;
+    qCDebug(logSupport) << "[LinkManager] 语言已切换为:" << language;
     Q_EMIT languageChanged(language);
 }
 

@@ -3,6 +3,7 @@
 #include "core/common/AppConfig.h"
 #include "core/engine/TransferEngine.h"
 #include "support/LinkManager.h"
+#include "ui/Log.h"
 #include "ui/Theme.h"
 #include "ui/TitleBar.h"
 #include "ui/pages/CompletePage.h"
@@ -15,7 +16,6 @@
 #include "ui/widgets/ProgressDots.h"
 
 #include <QCoreApplication>
-#include <QDebug>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -148,14 +148,14 @@ void MainWindow::beginOnTransferPage()
 {
     m_transferPage->setRole(m_engine->role());
     if (isNewPC()) {
-        qDebug() << "New PC: Starting to receive data";
+        qCDebug(logUi) << "New PC: Starting to receive data";
         m_transferPage->setFiles({});
         m_transferPage->startReceiving();
         m_engine->startReceiving();
         return;
     }
     const QStringList paths = m_selectionPage->selectedPaths();
-    qDebug() << "Old PC: Starting transfer with" << paths.size() << "files";
+    qCDebug(logUi) << "Old PC: Starting transfer with" << paths.size() << "files";
     m_engine->setSelectedPaths(paths);
     m_transferPage->setFiles(paths);
     m_transferPage->startTransfer();
@@ -171,10 +171,10 @@ void MainWindow::onNextClicked()
     if (left == PageConnection) {
         m_engine->stopDiscovery();
         if (isNewPC()) {
-            qDebug() << "New PC flow: Connection → Transfer (receiving)";
+            qCDebug(logUi) << "New PC flow: Connection → Transfer (receiving)";
             enterTransferPage();
         } else {
-            qDebug() << "Old PC flow: Connection → Scanning";
+            qCDebug(logUi) << "Old PC flow: Connection → Scanning";
             beginScanning();
         }
         return;
@@ -211,11 +211,11 @@ void MainWindow::onBackClicked()
 
 void MainWindow::onConnected()
 {
-    qDebug() << "MainWindow::onConnected() - Role:" << roleName(m_engine->role());
+    qCDebug(logUi) << "MainWindow::onConnected() - Role:" << roleName(m_engine->role());
     if (m_currentPage == PageConnection) {
         m_engine->stopDiscovery();
         if (!isNewPC()) {
-            qDebug() << "Old PC: Auto-advancing to scanning page";
+            qCDebug(logUi) << "Old PC: Auto-advancing to scanning page";
             beginScanning();
         }
     }
@@ -226,7 +226,7 @@ void MainWindow::onRequestAutoAdvance()
 {
     if (!isNewPC() || m_currentPage != PageConnection)
         return;
-    qDebug() << "New PC: Auto-advancing to transfer page for receiving";
+    qCDebug(logUi) << "New PC: Auto-advancing to transfer page for receiving";
     m_engine->stopDiscovery();
     enterTransferPage();
 }
@@ -247,47 +247,47 @@ void MainWindow::onTransferFinished()
 void MainWindow::onScanCompleted(const ScanResult &result)
 {
     Q_UNUSED(result)
-    qDebug() << "MainWindow::onScanCompleted()";
+    qCDebug(logUi) << "MainWindow::onScanCompleted()";
 }
 
 void MainWindow::onTransferCompleted(const MigrationReport &report)
 {
     Q_UNUSED(report)
-    qDebug() << "MainWindow::onTransferCompleted()";
+    qCDebug(logUi) << "MainWindow::onTransferCompleted()";
 }
 
 void MainWindow::onTransferReset()
 {
-    qDebug() << "Received transferReset signal";
+    qCDebug(logUi) << "Received transferReset signal";
     if (!isNewPC())
         return;
     m_transferPage->resetForNewTransfer();
     m_transferPage->setRole(NewPC);
     showPage(PageTransfer);
     m_engine->startReceiving();
-    qDebug() << "New PC: Switched to waiting page";
+    qCDebug(logUi) << "New PC: Switched to waiting page";
 }
 
 void MainWindow::onNewTransferStarted()
 {
-    qDebug() << "MainWindow::onNewTransferStarted() - currentPage:" << m_currentPage;
+    qCDebug(logUi) << "MainWindow::onNewTransferStarted() - currentPage:" << m_currentPage;
     if (!isNewPC())
         return;
     m_engine->resetForNewReceive();
     m_transferPage->resetForNewTransfer();
     if (m_currentPage != PageTransfer) {
-        qDebug() << "Switching from page" << m_currentPage << "to PageTransfer";
+        qCDebug(logUi) << "Switching from page" << m_currentPage << "to PageTransfer";
         showPage(PageTransfer);
         m_transferPage->setRole(NewPC);
     }
     updateNavigation();
-    qDebug() << "New PC: Ready to receive new transfer";
+    qCDebug(logUi) << "New PC: Ready to receive new transfer";
 }
 
 void MainWindow::onLocalCancel()
 {
     const int role = m_engine->role();
-    qDebug() << "Local cancel - Role:" << roleName(role);
+    qCDebug(logUi) << "Local cancel - Role:" << roleName(role);
     if (m_currentPage >= PageSelection) // else the session has ended meanwhile
         returnFromCancel(role != OldPC);
 }
@@ -295,7 +295,7 @@ void MainWindow::onLocalCancel()
 void MainWindow::onPeerCancelled()
 {
     const int role = m_engine->role();
-    qDebug() << "Peer cancelled - Role:" << roleName(role);
+    qCDebug(logUi) << "Peer cancelled - Role:" << roleName(role);
     returnFromCancel(role == NewPC);
 }
 
@@ -310,7 +310,7 @@ void MainWindow::returnFromCancel(bool waits)
 
 void MainWindow::navigateBack(const QString &pageName)
 {
-    qDebug() << "[MainWindow] Navigate back to:" << pageName;
+    qCDebug(logUi) << "[MainWindow] Navigate back to:" << pageName;
     if (pageName == "SelectionPage"_L1) {
         goToPage(PageSelection);
     } else if (pageName == "WaitingPage"_L1) {
@@ -321,7 +321,7 @@ void MainWindow::navigateBack(const QString &pageName)
 
 void MainWindow::onBackToSelection()
 {
-    qDebug() << "Send More Files - back to selection page";
+    qCDebug(logUi) << "Send More Files - back to selection page";
     m_engine->resetTransfer();
     m_engine->notifyPeerReadyForNew();
     goToPage(PageSelection);
@@ -330,7 +330,7 @@ void MainWindow::onBackToSelection()
 
 void MainWindow::resetToRolePage()
 {
-    qDebug() << "Resetting to role selection page";
+    qCDebug(logUi) << "Resetting to role selection page";
     m_engine->disconnectFromPeer();
     m_engine->reset();
     goToPage(PageRole);
@@ -339,14 +339,14 @@ void MainWindow::resetToRolePage()
 
 void MainWindow::onSessionEnd()
 {
-    qDebug() << "User requested session end";
+    qCDebug(logUi) << "User requested session end";
     m_engine->sendSessionEnd();
     resetToRolePage();
 }
 
 void MainWindow::onSessionEndReceived()
 {
-    qDebug() << "Session end received from peer";
+    qCDebug(logUi) << "Session end received from peer";
     resetToRolePage();
 }
 
@@ -402,7 +402,7 @@ void MainWindow::onAboutClicked()
 
 void MainWindow::onLanguageChanged(const QString &language)
 {
-    qDebug() << "[MainWindow] Language changed to:" << language;
+    qCDebug(logUi) << "[MainWindow] Language changed to:" << language;
     QMessageBox::information(this, tr("Language Changed"),
                              tr("Language has been changed.\n\nThe application will restart now."));
     QProcess::startDetached(QCoreApplication::applicationFilePath(), QCoreApplication::arguments().mid(1));

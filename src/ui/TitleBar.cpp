@@ -2,13 +2,13 @@
 
 #include "core/common/AppConfig.h"
 #include "support/LinkManager.h"
+#include "ui/Log.h"
 #include "ui/Theme.h"
 #include "ui/WinButton.h"
 #include "ui/widgets/Labels.h"
 
 #include <QAction>
 #include <QActionGroup>
-#include <QDebug>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLinearGradient>
@@ -180,7 +180,7 @@ void TitleBar::onLanguageChosen(const QString &code)
     settings.setValue(LanguageKey, code);
     settings.sync();
     if (settings.status() != QSettings::NoError)
-        qWarning() << "[TitleBar] The language could not be kept in" << settings.fileName();
+        qCWarning(logUi) << "[TitleBar] The language could not be kept in" << settings.fileName();
     LinkManager::instance().setLanguage(code);
     Q_EMIT languageChanged(code);
 }

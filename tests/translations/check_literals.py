@@ -32,7 +32,7 @@ NAMES_THAT_STAY = {
 }
 
 TRANSLATED = {"tr", "translate", "QT_TR_NOOP", "QT_TRANSLATE_NOOP"}
-LOGGED = {"qDebug", "qInfo", "qWarning", "qCritical"}
+LOGGED = {"qCDebug", "qCInfo", "qCWarning", "qCCritical"}
 INTERNAL = {"setObjectName", "setProperty", "boxStyle", "createPanel", "makeHoverBox", "rule"}
 
 TOKEN = re.compile(

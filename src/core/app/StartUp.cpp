@@ -1,11 +1,11 @@
 #include "core/app/StartUp.h"
 
+#include "core/app/Log.h"
 #include "core/common/AppConfig.h"
 #include "core/common/Records.h"
 #include "platform/ExternalProgram.h"
 
 #include <QCoreApplication>
-#include <QDebug>
 #include <QFile>
 #include <QLocale>
 #include <QMap>
@@ -94,13 +94,13 @@ void registerMetaTypes()
 QString chooseLanguage(const QString &storedLanguage, const QString &localeName)
 {
     if (!storedLanguage.isEmpty()) {
-        qDebug() << "[Main] Using user language:" << storedLanguage;
+        qCDebug(logApp) << "[Main] Using user language:" << storedLanguage;
         return storedLanguage;
     }
     const QString twoLetters = localeName.section(u'_', 0, 0).left(2);
-    qDebug() << "[Main] System language:" << twoLetters;
+    qCDebug(logApp) << "[Main] System language:" << twoLetters;
     QString language = languageForCode(twoLetters);
-    qDebug() << "[Main] Auto-detected:" << language;
+    qCDebug(logApp) << "[Main] Auto-detected:" << language;
     return language;
 }
 
@@ -115,32 +115,32 @@ bool installTranslation(const QString &applicationDir, const QString &language)
 
     const QString path = translationPath(applicationDir, language);
     const bool exists = QFile::exists(path);
-    qDebug() << "[Main] Translation file:" << path;
-    qDebug() << "[Main] File exists:" << exists;
+    qCDebug(logApp) << "[Main] Translation file:" << path;
+    qCDebug(logApp) << "[Main] File exists:" << exists;
 
     // For a missing file QTranslator would try shorter names, of other languages too.
     if (!exists || !translator.load(path)) {
-        qDebug() << "[Main] ✗ Failed to load translation file";
-        qDebug() << "[Main] Falling back to English";
+        qCDebug(logApp) << "[Main] ✗ Failed to load translation file";
+        qCDebug(logApp) << "[Main] Falling back to English";
         return false;
     }
     if (!QCoreApplication::installTranslator(&translator)) {
-        qDebug() << "[Main] ✗ Failed to install translator";
+        qCDebug(logApp) << "[Main] ✗ Failed to install translator";
         return false;
     }
-    qDebug() << "[Main] ✓ Translation loaded successfully:" << language;
+    qCDebug(logApp) << "[Main] ✓ Translation loaded successfully:" << language;
     return true;
 }
 
 QString initTranslation()
 {
-    qDebug() << "========== Translation Init ==========";
+    qCDebug(logApp) << "========== Translation Init ==========";
     const QSettings settings(AppConfig::userOrganisation(), AppConfig::appName());
     const QString stored = settings.value("language"_L1, QString()).toString();
-    qDebug() << "[Main] User language from settings:" << stored;
+    qCDebug(logApp) << "[Main] User language from settings:" << stored;
     QString language = chooseLanguage(stored, QLocale::system().name());
     installTranslation(QCoreApplication::applicationDirPath(), language);
-    qDebug() << "=======================================";
+    qCDebug(logApp) << "=======================================";
     return language;
 }
 

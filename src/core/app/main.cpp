@@ -1,10 +1,10 @@
+#include "core/app/Log.h"
 #include "core/app/StartUp.h"
 #include "core/common/License.h"
 #include "support/LinkManager.h"
 #include "ui/MainWindow.h"
 
 #include <QApplication>
-#include <QDebug>
 #include <QIcon>
 #include <QString>
 
@@ -25,7 +25,7 @@ int main(int argc, char *argv[])
     if (const QString styleSheet = StartUp::styleSheet(); !styleSheet.isEmpty())
         qApp->setStyleSheet(styleSheet);
     const bool registered = License::ofThisCopy().isRegistered();
-    qDebug() << "[Main] Registered:" << registered;
+    qCDebug(logApp) << "[Main] Registered:" << registered;
 
     const auto window = std::make_unique<MainWindow>(nullptr);
     window->show();

@@ -1,5 +1,6 @@
 #include "core/engine/TransferEngine.h"
 
+#include "core/engine/Log.h"
 #include "inventory/AccountScanner.h"
 #include "inventory/AppScanner.h"
 #include "inventory/FileScanner.h"
@@ -7,7 +8,6 @@
 #include "peer/NetworkManager.h"
 #include "pipeline/MigrationManager.h"
 
-#include <QDebug>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -128,7 +128,7 @@ void TransferEngine::setRole(int role)
 {
     m_role = role;
     m_networkManager->setRole(role);
-    qDebug() << "TransferEngine::setRole() ->" << roleName(role);
+    qCDebug(logEngine) << "TransferEngine::setRole() ->" << roleName(role);
     m_migrationManager->setRole(role);
     Q_EMIT stateChanged();
 }

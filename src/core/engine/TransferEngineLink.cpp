@@ -1,10 +1,10 @@
 // TransferEngine: discovery and connection.
 
+#include "core/engine/Log.h"
 #include "core/engine/TransferEngine.h"
 #include "peer/NetworkManager.h"
 #include "pipeline/MigrationManager.h"
 
-#include <QDebug>
 #include <QRandomGenerator>
 
 #include <algorithm>
@@ -22,7 +22,7 @@ QString TransferEngine::generateVerifyCode()
     QString code;
     for (int digit = 0; digit < CodeDigits; ++digit)
         code += QString::number(QRandomGenerator::global()->bounded(10));
-    qDebug() << "Generated verify code:" << code;
+    qCDebug(logEngine) << "Generated verify code:" << code;
     return code;
 }
 
@@ -38,7 +38,7 @@ void TransferEngine::startDiscovery()
 {
     if (!hasLink())
         return;
-    qDebug() << "startDiscovery() with role:" << roleName(m_role);
+    qCDebug(logEngine) << "startDiscovery() with role:" << roleName(m_role);
     m_networkManager->setRole(m_role);
     m_verifyCode = generateVerifyCode();
     m_networkManager->setVerifyCode(m_verifyCode);
@@ -51,7 +51,7 @@ void TransferEngine::restartBroadcast()
 {
     if (!hasLink())
         return;
-    qDebug() << "TransferEngine::restartBroadcast() with code:" << m_verifyCode;
+    qCDebug(logEngine) << "TransferEngine::restartBroadcast() with code:" << m_verifyCode;
     m_networkManager->setVerifyCode(m_verifyCode);
     m_networkManager->restartBroadcast();
     Q_EMIT info(tr("Broadcast restarted. Verification code: %1").arg(m_verifyCode));

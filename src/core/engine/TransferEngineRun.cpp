@@ -1,10 +1,10 @@
 // TransferEngine: selection, transfer, and the ways back to another round.
 
+#include "core/engine/Log.h"
 #include "core/engine/TransferEngine.h"
 #include "peer/NetworkManager.h"
 #include "pipeline/MigrationManager.h"
 
-#include <QDebug>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -65,7 +65,7 @@ void TransferEngine::setSelectedSettings(const QList<int> &indexes)
 void TransferEngine::setSelectedPaths(const QStringList &paths)
 {
     m_selectedPaths = paths;
-    qDebug() << "TransferEngine: Selected" << paths.size() << "folder paths";
+    qCDebug(logEngine) << "TransferEngine: Selected" << paths.size() << "folder paths";
     Q_EMIT stateChanged();
 }
 
@@ -121,8 +121,8 @@ void TransferEngine::startTransfer()
     const QList<FolderInfo> folders = foldersToSend();
     const QList<AccountInfo> accounts = selectedOf(m_scanResult.accounts);
     const QList<SettingInfo> settings = selectedOf(m_scanResult.settings);
-    qDebug() << "Starting transfer - Apps:" << apps.size() << "Folders:" << folders.size()
-             << "Accounts:" << accounts.size() << "Settings:" << settings.size();
+    qCDebug(logEngine) << "Starting transfer - Apps:" << apps.size() << "Folders:" << folders.size()
+                       << "Accounts:" << accounts.size() << "Settings:" << settings.size();
     configureMigration(m_role);
     if (m_migrationManager->isMigrating())
         m_migrationManager->resetAndListen(); // a run that nobody here waits for any more
@@ -134,7 +134,7 @@ void TransferEngine::startTransfer()
 void TransferEngine::startReceiving()
 {
     beginTransfer();
-    qDebug() << "Starting to receive files...";
+    qCDebug(logEngine) << "Starting to receive files...";
     configureMigration(NewPC);
     m_migrationManager->resetAndListen();
     m_migrationManager->startReceiving();
@@ -156,7 +156,7 @@ void TransferEngine::pauseTransfer()
 {
     if (!m_transferring || m_paused)
         return;
-    qDebug() << "TransferEngine::pauseTransfer()";
+    qCDebug(logEngine) << "TransferEngine::pauseTransfer()";
     m_migrationManager->pause();
     m_paused = true;
     Q_EMIT transferPaused();
@@ -167,7 +167,7 @@ void TransferEngine::resumeTransfer()
 {
     if (!m_transferring || !m_paused)
         return;
-    qDebug() << "TransferEngine::resumeTransfer()";
+    qCDebug(logEngine) << "TransferEngine::resumeTransfer()";
     m_migrationManager->resume();
     m_paused = false;
     Q_EMIT transferResumed();
@@ -178,7 +178,7 @@ void TransferEngine::cancelTransfer()
 {
     if (!m_transferring)
         return;
-    qDebug() << "[TransferEngine] Sending cancel notification to peer...";
+    qCDebug(logEngine) << "[TransferEngine] Sending cancel notification to peer...";
     m_migrationManager->sendCancelNotification(
         {{u"type"_s, u"transfer_cancelled"_s}, {u"reason"_s, u"user_cancelled"_s}});
     m_migrationManager->cancel();
@@ -201,7 +201,7 @@ void TransferEngine::retryFailed()
 
 void TransferEngine::onNewTransferStarted()
 {
-    qDebug() << "TransferEngine: New transfer started from peer";
+    qCDebug(logEngine) << "TransferEngine: New transfer started from peer";
     beginTransfer();
     Q_EMIT newTransferStarted();
     Q_EMIT stateChanged();
@@ -306,7 +306,7 @@ void TransferEngine::clearAll()
 
 void TransferEngine::resetForNewConnection()
 {
-    qDebug() << "[TransferEngine] Resetting for new connection...";
+    qCDebug(logEngine) << "[TransferEngine] Resetting for new connection...";
     m_transferring = false;
     m_paused = false;
     if (m_role == NewPC)
@@ -316,14 +316,14 @@ void TransferEngine::resetForNewConnection()
 
 void TransferEngine::resetForNewReceive()
 {
-    qDebug() << "TransferEngine::resetForNewReceive()";
+    qCDebug(logEngine) << "TransferEngine::resetForNewReceive()";
     m_progress = TransferProgress();
     beginTransfer();
 }
 
 void TransferEngine::resetTransfer()
 {
-    qDebug() << "TransferEngine::resetTransfer() - keeping connection";
+    qCDebug(logEngine) << "TransferEngine::resetTransfer() - keeping connection";
     m_transferring = false;
     m_migrationManager->cancel();
     if (isConnected())
@@ -337,14 +337,14 @@ void TransferEngine::resetTransfer()
 
 void TransferEngine::notifyPeerReadyForNew()
 {
-    qDebug() << "TransferEngine::notifyPeerReadyForNew()";
+    qCDebug(logEngine) << "TransferEngine::notifyPeerReadyForNew()";
     if (isConnected())
         m_networkManager->sendCommand(MessageType::TransferReset);
 }
 
 void TransferEngine::sendSessionEnd()
 {
-    qDebug() << "TransferEngine::sendSessionEnd()";
+    qCDebug(logEngine) << "TransferEngine::sendSessionEnd()";
     m_migrationManager->endSession();
     m_networkManager->sendSessionEnd();
 }

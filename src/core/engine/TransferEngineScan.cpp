@@ -1,12 +1,12 @@
 // TransferEngine: the inventory of the Old PC.
 
+#include "core/engine/Log.h"
 #include "core/engine/TransferEngine.h"
 #include "inventory/AccountScanner.h"
 #include "inventory/AppScanner.h"
 #include "inventory/FileScanner.h"
 #include "inventory/SettingScanner.h"
 
-#include <QDebug>
 #include <QTimer>
 
 #include <chrono>
@@ -103,35 +103,35 @@ void TransferEngine::onScanError(const QString &message)
 void TransferEngine::onAppScanFinished(const QList<AppInfo> &apps)
 {
     m_scanResult.apps = apps;
-    qDebug() << "App scan finished:" << apps.size() << "apps found";
+    qCDebug(logEngine) << "App scan finished:" << apps.size() << "apps found";
     joinScans();
 }
 
 void TransferEngine::onFileScanFinished(const QList<FolderInfo> &folders)
 {
     m_scanResult.folders = folders;
-    qDebug() << "File scan finished:" << folders.size() << "folders found";
+    qCDebug(logEngine) << "File scan finished:" << folders.size() << "folders found";
     joinScans();
 }
 
 void TransferEngine::onAccountScanFinished(const QList<AccountInfo> &accounts)
 {
     m_scanResult.accounts = accounts;
-    qDebug() << "Account scan finished:" << accounts.size() << "accounts found";
+    qCDebug(logEngine) << "Account scan finished:" << accounts.size() << "accounts found";
     joinScans();
 }
 
 void TransferEngine::onSettingScanFinished(const QList<SettingInfo> &settings)
 {
     m_scanResult.settings = settings;
-    qDebug() << "Setting scan finished:" << settings.size() << "settings found";
+    qCDebug(logEngine) << "Setting scan finished:" << settings.size() << "settings found";
     joinScans();
 }
 
 void TransferEngine::joinScans()
 {
     ++m_completedScans;
-    qDebug() << "Scan complete count:" << m_completedScans << "/4";
+    qCDebug(logEngine) << "Scan complete count:" << m_completedScans << "/4";
     if (m_completedScans < Scanners)
         return;
     m_scanning = false;
@@ -148,9 +148,10 @@ void TransferEngine::joinScans()
     dropUnnamed(m_scanResult.folders, &FolderInfo::path);
     dropUnnamed(m_scanResult.accounts, &AccountInfo::userName);
     dropUnnamed(m_scanResult.settings, &SettingInfo::id);
-    qDebug() << "Scan completed - Apps:" << m_scanResult.apps.size()
-             << "Folders:" << m_scanResult.folders.size() << "Accounts:" << m_scanResult.accounts.size()
-             << "Settings:" << m_scanResult.settings.size();
+    qCDebug(logEngine) << "Scan completed - Apps:" << m_scanResult.apps.size()
+                       << "Folders:" << m_scanResult.folders.size()
+                       << "Accounts:" << m_scanResult.accounts.size()
+                       << "Settings:" << m_scanResult.settings.size();
     if (m_scanResult.scanTime.isNull())
         m_scanResult.scanTime = QDateTime::currentDateTime();
 

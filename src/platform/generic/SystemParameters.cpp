@@ -1,9 +1,8 @@
 #include "platform/SystemParameters.h"
+#include "platform/Log.h"
 
 #include "platform/Registry.h"
 #include "platform/generic/RegistryFile.h"
-
-#include <QDebug>
 
 #include <cerrno>
 
@@ -37,19 +36,20 @@ bool setWallpaper(const QString &path)
 
 bool setSystemParameter(SystemParameter parameter, int value)
 {
-    qDebug() << "[SystemParameters] action" << static_cast<unsigned>(parameter) << "value" << value;
+    qCDebug(logPlatform) << "[SystemParameters] action" << static_cast<unsigned>(parameter) << "value"
+                         << value;
     return registryFileExists();
 }
 
 bool broadcastSettingChange(const QString &area)
 {
-    qDebug() << "[SystemParameters] setting change" << area;
+    qCDebug(logPlatform) << "[SystemParameters] setting change" << area;
     return registryFileExists();
 }
 
 void notifyAssociationsChanged()
 {
-    qDebug() << "[SystemParameters] associations changed";
+    qCDebug(logPlatform) << "[SystemParameters] associations changed";
 }
 
 } // namespace Zandrove::Platform

@@ -2,10 +2,10 @@
 
 #include "core/engine/TransferEngine.h"
 #include "support/PrintableText.h"
+#include "ui/Log.h"
 #include "ui/widgets/PCListItem.h"
 #include "ui/widgets/RadarWidget.h"
 
-#include <QDebug>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -58,7 +58,7 @@ void ConnectionPage::showEvent(QShowEvent *event)
     if (m_discoveryStarted)
         return;
     m_discoveryStarted = true;
-    qDebug() << "ConnectionPage::showEvent - Starting discovery";
+    qCDebug(logUi) << "ConnectionPage::showEvent - Starting discovery";
     startDiscovery();
 }
 

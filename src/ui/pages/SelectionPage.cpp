@@ -2,6 +2,7 @@
 
 #include "core/engine/TransferEngine.h"
 #include "support/Utilities.h"
+#include "ui/Log.h"
 #include "ui/pages/AppOffer.h"
 #include "ui/widgets/AccountListItem.h"
 #include "ui/widgets/AppListItem.h"
@@ -10,7 +11,6 @@
 #include "ui/widgets/SettingListItem.h"
 
 #include <QCheckBox>
-#include <QDebug>
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QTabWidget>
@@ -86,7 +86,7 @@ SelectionPage::SelectionPage(TransferEngine *engine, QWidget *parent)
 void SelectionPage::setScanResult(const ScanResult &result)
 {
     if (!m_appLayout || !m_accountLayout || !m_settingLayout) {
-        qDebug() << "Warning: Some layouts not initialized!";
+        qCDebug(logUi) << "Warning: Some layouts not initialized!";
         return;
     }
     m_scanResult = result;
@@ -175,7 +175,7 @@ QList<int> SelectionPage::checkedApps() const
         if (!item->isChecked())
             continue;
         indexes.append(item->property(OriginalIndex).toInt());
-        qDebug() << "Selected app:" << item->appInfo().name << "originalIndex:" << indexes.constLast();
+        qCDebug(logUi) << "Selected app:" << item->appInfo().name << "originalIndex:" << indexes.constLast();
     }
     return indexes;
 }

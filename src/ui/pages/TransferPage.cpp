@@ -2,10 +2,10 @@
 
 #include "core/engine/TransferEngine.h"
 #include "support/Utilities.h"
+#include "ui/Log.h"
 #include "ui/Theme.h"
 #include "ui/widgets/ProgressCard.h"
 
-#include <QDebug>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -106,12 +106,13 @@ void TransferPage::setFiles(const QStringList &files)
     const QStringList shown = files.first(std::min<qsizetype>(files.size(), MAX_VISIBLE_FILES));
     for (const QString &file : shown)
         addFileItem(shortenedPath(file));
-    qDebug() << "TransferPage: Set" << files.size() << "files for transfer (showing" << shown.size() << ")";
+    qCDebug(logUi) << "TransferPage: Set" << files.size() << "files for transfer (showing" << shown.size()
+                   << ")";
 }
 
 void TransferPage::startTransfer()
 {
-    qDebug() << "TransferPage::startTransfer() - Starting real transfer as sender";
+    qCDebug(logUi) << "TransferPage::startTransfer() - Starting real transfer as sender";
     m_sessionEnded = false;
     clearFileItems();
     showPaused(false);
@@ -122,7 +123,7 @@ void TransferPage::startTransfer()
 
 void TransferPage::startReceiving()
 {
-    qDebug() << "TransferPage::startReceiving() - Waiting for incoming data";
+    qCDebug(logUi) << "TransferPage::startReceiving() - Waiting for incoming data";
     m_sessionEnded = false;
     showPaused(false);
     m_titleLabel->setText(tr("Waiting for Data..."));
@@ -132,7 +133,7 @@ void TransferPage::startReceiving()
 
 void TransferPage::resetForNewTransfer()
 {
-    qDebug() << "TransferPage::resetForNewTransfer()";
+    qCDebug(logUi) << "TransferPage::resetForNewTransfer()";
     clearFileItems();
     clearCard(tr("Waiting..."), u"-- GB"_s);
     m_titleLabel->setText(tr("Waiting for Data..."));
@@ -163,8 +164,8 @@ void TransferPage::onProgressChanged(const TransferProgress &progress)
 
 void TransferPage::onTransferCompleted(const MigrationReport &report)
 {
-    qDebug() << "TransferPage::onTransferCompleted() - Success:" << report.filesSuccess
-             << "Failed:" << report.filesFailed;
+    qCDebug(logUi) << "TransferPage::onTransferCompleted() - Success:" << report.filesSuccess
+                   << "Failed:" << report.filesFailed;
     m_progressCard->setProgress(100);
     m_progressCard->setSpeed(u"--"_s);
     m_progressCard->setRemaining(u"00:00"_s);
@@ -178,7 +179,7 @@ void TransferPage::onTransferCompleted(const MigrationReport &report)
 
 void TransferPage::onTransferFailed(const QString &reason)
 {
-    qDebug() << "TransferPage::onTransferFailed():" << reason;
+    qCDebug(logUi) << "TransferPage::onTransferFailed():" << reason;
     m_titleLabel->setText(tr("Transfer Failed"));
 }
 
@@ -193,14 +194,14 @@ void TransferPage::onPauseClicked()
 
 void TransferPage::onPausedByPeer()
 {
-    qDebug() << "TransferPage::onPausedByPeer() - peer paused transfer";
+    qCDebug(logUi) << "TransferPage::onPausedByPeer() - peer paused transfer";
     showPaused(true);
     m_titleLabel->setText(isNewPC() ? tr("Receiving Paused") : tr("Sending Paused"));
 }
 
 void TransferPage::onResumedByPeer()
 {
-    qDebug() << "TransferPage::onResumedByPeer() - peer resumed transfer";
+    qCDebug(logUi) << "TransferPage::onResumedByPeer() - peer resumed transfer";
     showPaused(false);
     m_titleLabel->setText(isNewPC() ? tr("Receiving Data") : tr("Sending Data"));
 }
@@ -241,7 +242,7 @@ void TransferPage::onCancelClicked()
 {
     if (!confirmCancel())
         return;
-    qDebug() << "[TransferPage] User cancelled transfer - Role:" << roleName(m_role);
+    qCDebug(logUi) << "[TransferPage] User cancelled transfer - Role:" << roleName(m_role);
     m_engine->cancelTransfer();
     resetForNewTransfer();
     if (!isNewPC()) {
@@ -267,13 +268,13 @@ void TransferPage::listenAgain()
     if (!m_engine || m_engine->hasIncomingRun())
         return;
     if (m_listenAgainLog)
-        qDebug() << m_listenAgainLog;
+        qCDebug(logUi) << m_listenAgainLog;
     m_engine->startReceiving();
 }
 
 void TransferPage::onPeerCancelled()
 {
-    qDebug() << "[TransferPage] Peer cancelled transfer - Role:" << roleName(m_role);
+    qCDebug(logUi) << "[TransferPage] Peer cancelled transfer - Role:" << roleName(m_role);
     resetForNewTransfer();
     if (!isNewPC()) {
         Q_EMIT transferCancelled();
@@ -345,7 +346,7 @@ void TransferPage::clearFileItems()
 void TransferPage::onFileStarted(const QString &fileName)
 {
     if (QThread::currentThread() != thread()) {
-        qWarning() << "onFileStarted called from non-GUI thread!";
+        qCWarning(logUi) << "onFileStarted called from non-GUI thread!";
         return;
     }
     TransferFileItem *item = findOrAddFileItem(fileName);

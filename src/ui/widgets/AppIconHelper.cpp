@@ -1,8 +1,8 @@
 #include "ui/widgets/AppIconHelper.h"
 
 #include "platform/ShellIcons.h"
+#include "ui/Log.h"
 
-#include <QDebug>
 #include <QFileInfo>
 #include <QPixmap>
 
@@ -55,7 +55,7 @@ QIcon iconForPath(const QString &path)
         return defaultAppIcon();
     const QFileInfo file(path);
     if (!file.exists()) {
-        qDebug() << "[AppIconHelper] Icon file not found:" << path;
+        qCDebug(logUi) << "[AppIconHelper] Icon file not found:" << path;
         return defaultAppIcon();
     }
     static const QStringList Pictures = {u"ico"_s, u"png"_s, u"jpg"_s, u"jpeg"_s, u"bmp"_s};

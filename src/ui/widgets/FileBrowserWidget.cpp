@@ -1,12 +1,12 @@
 #include "ui/widgets/FileBrowserWidget.h"
 
 #include "support/Utilities.h"
+#include "ui/Log.h"
 #include "ui/Theme.h"
 #include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/KeyboardFocus.h"
 #include "ui/widgets/Labels.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -310,7 +310,7 @@ void FileBrowserWidget::onFolderExpanded(QTreeWidgetItem *item)
     const QString path = pathOf(item);
     if (item->data(0, LoadedRole).toBool() || path.isEmpty())
         return;
-    qDebug() << "Loading subfolders for:" << path;
+    qCDebug(logUi) << "Loading subfolders for:" << path;
     const qsizetype selectedBefore = m_checkedPaths.size();
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     {
@@ -332,11 +332,11 @@ void FileBrowserWidget::loadSubfolders(QTreeWidgetItem *parent, const QString &p
         return;
     const QDir dir(path);
     if (!dir.exists()) {
-        qDebug() << "Directory does not exist:" << path;
+        qCDebug(logUi) << "Directory does not exist:" << path;
         return;
     }
     if (!dir.isReadable()) {
-        qDebug() << "Directory not readable:" << path;
+        qCDebug(logUi) << "Directory not readable:" << path;
         return;
     }
 
@@ -359,8 +359,8 @@ void FileBrowserWidget::loadSubfolders(QTreeWidgetItem *parent, const QString &p
     }
     parent->addChildren(children);
     if (entry != entries.constEnd())
-        qDebug() << "Reached max items limit for:" << path;
-    qDebug() << "Loaded" << children.size() << "subfolders for:" << path;
+        qCDebug(logUi) << "Reached max items limit for:" << path;
+    qCDebug(logUi) << "Loaded" << children.size() << "subfolders for:" << path;
 }
 
 void FileBrowserWidget::onItemChanged(QTreeWidgetItem *item, int column)

@@ -1,12 +1,12 @@
 #include "ui/widgets/ModeCard.h"
 
+#include "ui/Log.h"
 #include "ui/Theme.h"
 #include "ui/widgets/AccessibleCard.h"
 #include "ui/widgets/CardPainting.h"
 #include "ui/widgets/KeyboardFocus.h"
 #include "ui/widgets/Labels.h"
 
-#include <QDebug>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
@@ -28,7 +28,7 @@ QPixmap renderSvg(const QString &path)
 {
     QSvgRenderer renderer(path);
     if (!renderer.isValid()) {
-        qDebug() << "Invalid SVG:" << path;
+        qCDebug(logUi) << "Invalid SVG:" << path;
         return {};
     }
     QPixmap pixmap(IconSide * IconScale, IconSide * IconScale);
