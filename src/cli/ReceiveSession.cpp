@@ -244,7 +244,6 @@ void ReceiveSession::onTransferReset()
         finish(m_results.exitCode());
         return;
     }
-    engine().startReceiving();
     expectTransfer();
     m_expecting = true;
 }

@@ -264,7 +264,6 @@ void MainWindow::onTransferReset()
     m_transferPage->resetForNewTransfer();
     m_transferPage->setRole(NewPC);
     showPage(PageTransfer);
-    m_engine->startReceiving();
     qCDebug(logUi) << "New PC: Switched to waiting page";
 }
 

@@ -27,8 +27,6 @@ NAMES_THAT_STAY = {
     "SelectionPage", "WaitingPage", "THIS_PC",
     # Style sheet selectors, one of them by the English text of a button.
     "QCheckBox::indicator", "QTreeView::indicator", "Yes, Cancel", "Continue Transfer",
-    # A line of the log.
-    "Restarting receive mode after cancel...",
 }
 
 TRANSLATED = {"tr", "translate", "QT_TR_NOOP", "QT_TRANSLATE_NOOP"}

@@ -175,21 +175,6 @@ private Q_SLOTS:
             QTRY_COMPARE(runTexts().first(), u"Sender cancelled. Waiting..."_s);
     }
 
-    void sessionEndStopsTheNewPcFromListeningAgain()
-    {
-        m_engine->setRole(NewPC);
-        m_run->setRole(NewPC);
-        QSignalSpy rearmed(m_engine.get(), &TransferEngine::transferStarted);
-        for (const bool atOnce : {true, false}) {
-            m_run->startReceiving();
-            Q_EMIT m_engine->peerCancelled();
-            if (!atOnce)
-                QCoreApplication::processEvents();
-            Q_EMIT m_engine->sessionEndReceived();
-            QVERIFY2(!rearmed.wait(300), atOnce ? "right behind the cancel" : "a little later");
-        }
-    }
-
     void reportIsShownByRole()
     {
         MigrationReport report;

@@ -111,6 +111,7 @@ void TransferEngine::setupMigrationConnections()
     connect(m_migrationManager, &Run::sessionEndReceived, this, &TransferEngine::sessionEndReceived);
     connect(m_migrationManager, &Run::pausedByPeer, this, [this] { setPausedByPeer(true); });
     connect(m_migrationManager, &Run::resumedByPeer, this, [this] { setPausedByPeer(false); });
+    connect(m_migrationManager, &Run::waiting, this, &TransferEngine::onWaiting);
     connect(m_migrationManager, &Run::newTransferStarted, this, &TransferEngine::onNewTransferStarted);
     connect(m_migrationManager, &Run::progressChanged, this, &TransferEngine::onMigrationProgress);
     connect(m_migrationManager, &Run::completed, this, &TransferEngine::onMigrationCompleted);

@@ -94,11 +94,9 @@ public:
     /// Sends the selection. Emits `transferStarted`, or `transferFailed` when there is no peer, nothing
     /// selected, or a scan under way.
     void startTransfer();
-    /// Waits, as the New PC, for what the peer sends. Emits `transferStarted`.
+    /// Waits, as the New PC, for what the peer sends. Emits `transferStarted`, and again whenever it waits
+    /// anew by itself, behind a run that was called off or reset, for as long as the session lasts.
     void startReceiving();
-    /// New PC: whether the peer has begun to send since this side last cancelled, was cancelled, or started
-    /// to wait. To start waiting again would end that run.
-    [[nodiscard]] bool hasIncomingRun() const;
     /// New PC: settings have arrived that are still being applied. `settingsFinished` follows.
     [[nodiscard]] bool isApplyingSettings() const;
     /// Holds the transfer on both sides. Emits `transferPaused`.
@@ -219,6 +217,7 @@ private:
     void configureMigration(int role);
     [[nodiscard]] QList<FolderInfo> foldersToSend() const;
     void onNewTransferStarted();
+    void onWaiting();
     void onPeerCancelled();
     void onTransferReset();
     void setPausedByPeer(bool paused);

@@ -142,9 +142,11 @@ void TransferEngine::startReceiving()
     Q_EMIT info(tr("Waiting to receive files..."));
 }
 
-bool TransferEngine::hasIncomingRun() const
+void TransferEngine::onWaiting()
 {
-    return m_migrationManager->hasIncomingRun();
+    beginTransfer();
+    Q_EMIT transferStarted();
+    Q_EMIT info(tr("Waiting to receive files..."));
 }
 
 bool TransferEngine::isApplyingSettings() const
