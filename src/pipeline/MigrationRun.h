@@ -94,8 +94,10 @@ protected:
     virtual void pauseWorkers(bool paused) = 0;
     /// Stops all work at once and for good; may be called from anywhere in the run.
     virtual void stopWorkers();
-    /// Whether settings that have arrived outlive the end of a complete run.
+    /// Whether settings have arrived of which it isn't known yet what became of them. They outlive the end of a
+    /// run only where that is complete.
     [[nodiscard]] virtual bool owesSettings() const { return false; }
+    [[nodiscard]] bool outlivedBySettings() const { return m_end == RunEnd::Complete && owesSettings(); }
 
     // What the workers tell.
     virtual void onRequestSendCommand(int type, const QByteArray &payload);
@@ -129,7 +131,6 @@ private:
     void onFileAck(const QByteArray &payload);
     void onAppFinished(const QString &name, bool success, const QString &error);
     void onSettingFinished(const QString &name, bool success, const QString &error);
-    [[nodiscard]] bool outlivedBySettings() const { return m_end == RunEnd::Complete && owesSettings(); }
     void wireMigrators();
     void watchThreads();
     void tellWhenGone();

@@ -77,13 +77,15 @@ bool ReceivingRun::mayReadLink() const
 
 bool ReceivingRun::isApplyingSettings() const
 {
-    return m_settings == Settings::Arriving || m_settings == Settings::AllHere;
+    return (isOn() || outlivedBySettings()) &&
+           (m_settings == Settings::Arriving || m_settings == Settings::AllHere);
 }
 
 /// They have arrived, and the peer was told so: also where it forgot to close them.
 bool ReceivingRun::owesSettings() const
 {
-    return isApplyingSettings() || m_settings == Settings::Unclosed;
+    return m_settings == Settings::Arriving || m_settings == Settings::AllHere ||
+           m_settings == Settings::Unclosed;
 }
 
 /// A program of the system that never ends must not keep the peer out for good.

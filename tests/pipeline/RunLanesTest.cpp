@@ -278,6 +278,7 @@ void RunLanesTest::calledOffRunLeavesNothingToInstall()
     peerBeginsApp(u"Tool"_s);
     peerSendsFile(u"Apps/Tool/Install/Tool/half.txt"_s);
     peerEndsApp(u"Tool"_s);
+    peerSendsSetting(u"unknown"_s);
     if (how == "peer"_L1) {
         peer(MessageType::TransferCancel);
     } else {
