@@ -1,5 +1,6 @@
 #include "settings/SettingApply.h"
 
+#include "core/common/KnownSettings.h"
 #include "platform/FileAttributes.h"
 #include "platform/LastError.h"
 #include "platform/Registry.h"
@@ -11,12 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QJsonObject>
-#include <QLatin1StringView>
 #include <QStandardPaths>
-
-#include <algorithm>
-#include <array>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 using Zandrove::Platform::SystemParameter;
@@ -56,7 +52,7 @@ QString savePicture(const SettingPackage &package)
     return file.fileName();
 }
 
-bool applyWallpaper(const SettingPackage &package)
+bool applyWallpaper(const SettingPackage &package, const KnownSetting &setting)
 {
     if (package.fileData.isEmpty() || package.fileName.isEmpty()) {
         qCDebug(logSettings) << "[Wallpaper] No wallpaper file data";
@@ -69,9 +65,9 @@ bool applyWallpaper(const SettingPackage &package)
     }
     qCDebug(logSettings) << "[Wallpaper] Saved to:" << path;
 
-    Platform::RegistryKey desktop(u"HKEY_CURRENT_USER\\Control Panel\\Desktop"_s);
-    writeValue(desktop, u"WallpaperStyle"_s, package.metadata.value(u"WallpaperStyle"_s, u"10"_s));
-    writeValue(desktop, u"TileWallpaper"_s, package.metadata.value(u"TileWallpaper"_s, u"0"_s));
+    Platform::RegistryKey desktop(setting.registryPath);
+    for (const NamedSettingValue &value : setting.values)
+        writeValue(desktop, value.name, package.metadata.value(value.name, value.fallback));
     if (!Platform::setWallpaper(path)) {
         const auto error = Platform::lastErrorCode();
         qCDebug(logSettings) << "[Wallpaper] SystemParametersInfo failed, error:" << error;
@@ -145,9 +141,8 @@ bool applyPower(const SettingPackage &package)
 }
 
 /// Writes each variable but PATH, which only the import of the whole key replaces.
-void writeVariables(const QJsonObject &variables)
+void writeVariables(Platform::RegistryKey environment, const QJsonObject &variables)
 {
-    Platform::RegistryKey environment(u"HKEY_CURRENT_USER\\Environment"_s);
     for (auto variable = variables.constBegin(); variable != variables.constEnd(); ++variable) {
         const QString name = variable.key();
         const QString value = variable.value().toString();
@@ -160,12 +155,13 @@ void writeVariables(const QJsonObject &variables)
     }
 }
 
-bool applyEnvironment(const SettingPackage &package)
+bool applyEnvironment(const SettingPackage &package, const KnownSetting &setting)
 {
     bool applied = importRegistryData(package.registryData);
     const auto variables = package.metadata.constFind(u"EnvironmentVars"_s);
     if (variables != package.metadata.cend()) {
-        writeVariables(parseJsonObject(variables->toUtf8()).value_or(QJsonObject()));
+        writeVariables(Platform::RegistryKey(setting.registryPath),
+                       parseJsonObject(variables->toUtf8()).value_or(QJsonObject()));
         applied = true;
     }
     Platform::broadcastSettingChange(u"Environment"_s);
@@ -190,29 +186,38 @@ bool applyDisplay(const SettingPackage &package)
     return imported;
 }
 
-struct Applier
+bool applyKnown(const SettingPackage &package, const KnownSetting &setting)
 {
-    QLatin1StringView key;
-    bool (*apply)(const SettingPackage &package);
-};
-
-constexpr std::array Appliers = {
-    Applier{"wallpaper"_L1, applyWallpaper},     Applier{"taskbar"_L1, applyTaskbar},
-    Applier{"explorer"_L1, applyExplorer},       Applier{"mouse"_L1, applyMouse},
-    Applier{"keyboard"_L1, applyKeyboard},       Applier{"power"_L1, applyPower},
-    Applier{"environment"_L1, applyEnvironment}, Applier{"sound"_L1, applySound},
-    Applier{"display"_L1, applyDisplay},
-};
+    switch (setting.kind) {
+    case SettingKind::Wallpaper:
+        return applyWallpaper(package, setting);
+    case SettingKind::Taskbar:
+        return applyTaskbar(package);
+    case SettingKind::Explorer:
+        return applyExplorer(package);
+    case SettingKind::Mouse:
+        return applyMouse(package);
+    case SettingKind::Keyboard:
+        return applyKeyboard(package);
+    case SettingKind::Power:
+        return applyPower(package);
+    case SettingKind::Environment:
+        return applyEnvironment(package, setting);
+    case SettingKind::Display:
+        return applyDisplay(package);
+    case SettingKind::Sound:
+        return applySound(package);
+    }
+    return false;
+}
 
 } // namespace
 
 bool applySetting(const SettingPackage &package)
 {
     qCDebug(logSettings) << "[SettingMigrator] Applying setting:" << package.key;
-    const auto *const known =
-        std::find_if(Appliers.begin(), Appliers.end(),
-                     [&package](const Applier &applier) { return applier.key == package.key; });
-    return known != Appliers.end() ? known->apply(package) : importRegistryData(package.registryData);
+    const KnownSetting *const known = knownSetting(package.key);
+    return known ? applyKnown(package, *known) : importRegistryData(package.registryData);
 }
 
 } // namespace Zandrove
