@@ -1,5 +1,6 @@
 #include "PeerTest.h"
 
+#include "peer/AddressRules.h"
 #include "peer/CableModeHelper.h"
 
 #include <QTcpServer>
@@ -45,7 +46,7 @@ class CableModeHelperTest : public QObject
 private Q_SLOTS:
     void addressRules()
     {
-        const auto inOneNet = CableModeHelper::isSameSubnet;
+        const auto inOneNet = isSameSubnet;
         QCOMPARE(CableModeHelper::normalizeIP(u"::ffff:169.254.1.2"_s), u"169.254.1.2"_s);
         QCOMPARE(CableModeHelper::normalizeIP(u" fe80::1%eth0 "_s), u"fe80::1"_s);
         QVERIFY(inOneNet(u"169.254.1.2"_s, u"169.254.200.3"_s)); // link-local by two octets, others by three
@@ -54,9 +55,9 @@ private Q_SLOTS:
         QVERIFY(!inOneNet(u"10.1.2.3"_s, u"169.254.2.3"_s));
         QVERIFY(!inOneNet(u"peer"_s, {}));
         for (const QString &ip : {u"10.0.0.1"_s, u"172.16.0.1"_s, u"172.31.0.1"_s, u"192.168.1.1"_s})
-            QVERIFY2(CableModeHelper::isPrivateIP(ip), qPrintable(ip));
+            QVERIFY2(isPrivateIP(ip), qPrintable(ip));
         for (const QString &ip : {u"172.15.0.1"_s, u"172.32.0.1"_s, u"192.169.1.1"_s, u"169.254.1.2"_s})
-            QVERIFY2(!CableModeHelper::isPrivateIP(ip), qPrintable(ip));
+            QVERIFY2(!isPrivateIP(ip), qPrintable(ip));
     }
 
     void sweepWindow_data()
@@ -80,7 +81,7 @@ private Q_SLOTS:
         QFETCH(int, layer);
         QFETCH(int, subnets);
         const QSet<QString> own(ips.cbegin(), ips.cend());
-        const auto targets = CableModeHelper::scanTargets(adapters(ips)(), own, layer);
+        const auto targets = scanTargets(adapters(ips)(), own, layer);
         QTEST(targets.value(0), "first");
         QTEST(targets.value(targets.size() - 1), "last");
         QCOMPARE(targets.size(), subnets == 0 ? 0 : subnets * Hosts - ips.size());

@@ -1,5 +1,7 @@
 #include "PeerTest.h"
 
+#include "peer/Link.h"
+
 #include <QEventLoop>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -63,7 +65,7 @@ public:
     [[nodiscard]] bool isAlone() const { return !manager.isConnected() && !manager.isAccepted(); }
     [[nodiscard]] qsizetype sockets() const
     {
-        return manager.findChildren<QTcpSocket *>(Qt::FindDirectChildrenOnly).size();
+        return manager.findChildren<Link *>(Qt::FindDirectChildrenOnly).size();
     }
 };
 
