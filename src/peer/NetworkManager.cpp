@@ -13,7 +13,6 @@
 #include <QNetworkProxy>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QThread>
 #include <QTimer>
 
 #include <utility>
@@ -26,7 +25,6 @@ namespace Zandrove {
 namespace {
 
 constexpr auto ConnectTimeout = 5000ms;
-constexpr unsigned long ListenRetryMs = 100;
 /// How long the end of the program waits for the last frames to leave.
 constexpr auto FarewellTime = 200ms;
 /// What a peer that nobody has said yes to may keep waiting here in an unfinished frame.
@@ -209,28 +207,6 @@ void NetworkManager::rejectConnection(quint64 question)
         return;
     sendCommand(Protocol::MessageType::ConnectReject);
     hangUp();
-}
-
-void NetworkManager::setupServer()
-{
-    const bool listening = m_tcpServer->isListening();
-    qCDebug(logPeer) << "setupServer() called, currently listening:" << listening;
-    if (listening)
-        return;
-    bool result = listen();
-    qCDebug(logPeer) << "TCP Server listen result:" << result << "Port:" << m_environment.tcpPort;
-    if (result)
-        return;
-    qCDebug(logPeer) << "ERROR:" << m_tcpServer->errorString();
-    m_tcpServer->close();
-    QThread::msleep(ListenRetryMs);
-    result = listen();
-    qCDebug(logPeer) << "Retry result:" << result;
-}
-
-bool NetworkManager::listen()
-{
-    return m_tcpServer->listen(QHostAddress::Any, m_environment.tcpPort);
 }
 
 void NetworkManager::onNewConnection()

@@ -137,17 +137,17 @@ Q_SIGNALS:
     void commandReceived(Zandrove::Protocol::MessageType type, const QByteArray &payload);
 
 private:
-    // NetworkManagerDiscovery.cpp
+    // NetworkManagerDiscovery.cpp: who is there, and how others find and dial this copy
     void setupDiscovery();
+    void setupServer();
+    [[nodiscard]] bool listen();
     void refreshAddresses();
     void startTimers();
     [[nodiscard]] QByteArray discoveryFrame();
     [[nodiscard]] std::optional<PCInfo> peerFrom(const QByteArray &payload, const QString &senderIP) const;
     void onDirectScanDeviceFound(const QString &ip);
 
-    // NetworkManager.cpp
-    void setupServer();
-    [[nodiscard]] bool listen();
+    // NetworkManager.cpp: the connection
     void onNewConnection();
     Link *adopt(QTcpSocket *socket);
     [[nodiscard]] Link *release();

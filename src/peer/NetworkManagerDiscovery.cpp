@@ -9,6 +9,7 @@
 
 #include <QJsonObject>
 #include <QTcpServer>
+#include <QThread>
 #include <QTimer>
 
 #include <limits>
@@ -21,6 +22,7 @@ namespace Zandrove {
 namespace {
 
 constexpr auto AgeingInterval = 5000ms;
+constexpr unsigned long ListenRetryMs = 100;
 constexpr auto ScanDelayAfterStart = 500ms;
 constexpr auto ScanDelayAfterRestart = 100ms;
 
@@ -59,6 +61,28 @@ void NetworkManager::setupDiscovery()
     connect(m_cableHelper, &CableModeHelper::scanProgress, this, &NetworkManager::directScanProgress);
     connect(m_cableHelper, &CableModeHelper::scanFinished, this, &NetworkManager::directScanFinished);
     connect(m_cableHelper, &CableModeHelper::deviceFound, this, &NetworkManager::onDirectScanDeviceFound);
+}
+
+void NetworkManager::setupServer()
+{
+    const bool listening = m_tcpServer->isListening();
+    qCDebug(logPeer) << "setupServer() called, currently listening:" << listening;
+    if (listening)
+        return;
+    bool result = listen();
+    qCDebug(logPeer) << "TCP Server listen result:" << result << "Port:" << m_environment.tcpPort;
+    if (result)
+        return;
+    qCDebug(logPeer) << "ERROR:" << m_tcpServer->errorString();
+    m_tcpServer->close();
+    QThread::msleep(ListenRetryMs);
+    result = listen();
+    qCDebug(logPeer) << "Retry result:" << result;
+}
+
+bool NetworkManager::listen()
+{
+    return m_tcpServer->listen(QHostAddress::Any, m_environment.tcpPort);
 }
 
 void NetworkManager::startDiscovery()
