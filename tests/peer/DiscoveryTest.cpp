@@ -49,11 +49,11 @@ private Q_SLOTS:
             NetworkAdapter ethernet =
                 adapter(u"Ethernet"_s, {u"192.168.1.9"_s, u"fe80::1"_s, u"169.254.7.8"_s});
             ethernet.addresses[0].broadcast = QHostAddress(u"192.168.1.127"_s);
-            NetworkAdapter loopback = adapter(u"lo"_s, {u"127.0.0.1"_s});
-            loopback.loopback = true;
-            NetworkAdapter down = adapter(u"down"_s, {u"10.0.0.1"_s});
-            down.up = false;
-            return QList<NetworkAdapter>{loopback, down, ethernet};
+            QList<NetworkAdapter> all(3, adapter(u"other"_s, {u"10.0.0.1"_s}));
+            all[0].loopback = true;
+            all[1].up = false;
+            all[2] = ethernet;
+            return all;
         };
         environment.sendDatagram = [&](const QByteArray &datagram, const QHostAddress &target, quint16) {
             targets.append(target.toString());
@@ -82,31 +82,22 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(targets.size() >= 5 * once.size(), 1500);
     }
 
-    void dropsWhatIsNoPeer_data()
-    {
-        const QByteArray good = discoveryFrame(u"pc"_s, u"10.0.0.9"_s);
-        addColumns<QByteArray>("datagram");
-        const auto row = [](const char *name, const QByteArray &datagram) {
-            QTest::newRow(name) << datagram;
-        };
-        row("19 bytes", good.first(19));
-        row("nothing", {});
-        row("wrong magic", QByteArray(good).replace(0, 1, "X"));
-        row("type 2", QByteArray(good).replace(7, 1, "\x02"));
-        row("length beyond the datagram", good.chopped(1));
-        row("length that wraps", header(Protocol::Magic, 1, 0xFFFFFFEC) + good.mid(20));
-        row("no JSON", frame(MessageType::Discovery, "{\"id\":"));
-        row("JSON array", frame(MessageType::Discovery, "[1]"));
-        row("id of a wrong type", frame(MessageType::Discovery, R"({"id":7,"name":"pc","role":1})"));
-        row("no name", frame(MessageType::Discovery, R"({"id":"pc","role":1})"));
-        row("no role, which is the own one", frame(MessageType::Discovery, R"({"id":"pc","name":"pc"})"));
-    }
     void dropsWhatIsNoPeer()
     {
-        QFETCH(QByteArray, datagram);
-        hear(datagram);
+        const QByteArray good = discoveryFrame(u"pc"_s, u"10.0.0.9"_s);
+        for (const QByteArray &datagram :
+             {QByteArray(), good.first(19), QByteArray(good).replace(0, 1, "X"),
+              QByteArray(good).replace(7, 1, "\x02"), // another type
+              good.chopped(1), header(Protocol::Magic, 1, 0xFFFFFFEC) + good.mid(20),
+              frame(MessageType::Discovery, "{\"id\":"), frame(MessageType::Discovery, "[1]"),
+              frame(MessageType::Discovery, R"({"id":7,"name":"pc","role":1})"),
+              frame(MessageType::Discovery, R"({"id":"pc","role":1})"),
+              frame(MessageType::Discovery, R"({"id":"pc","name":"pc"})")}) { // no role is the own one
+            hear(datagram);
+            QVERIFY2(table().isEmpty(), datagram.toHex().constData());
+        }
         for (const QString &own : {u"127.0.0.1"_s, u"::ffff:127.0.0.1"_s})
-            hear(discoveryFrame(u"pc"_s, u"10.0.0.9"_s), QHostAddress(own));
+            hear(good, QHostAddress(own));
         QVERIFY(table().isEmpty() && m_discovered->isEmpty());
     }
 
