@@ -74,17 +74,17 @@ void TransferEngine::setupConnections()
 
 void TransferEngine::setupLinkConnections()
 {
-    using Link = NetworkManager;
-    connect(m_networkManager, &Link::pcDiscovered, this, &TransferEngine::onPCDiscovered);
-    connect(m_networkManager, &Link::pcLost, this, &TransferEngine::onPCLost);
-    connect(m_networkManager, &Link::connected, this, &TransferEngine::onConnected);
-    connect(m_networkManager, &Link::disconnected, this, &TransferEngine::onDisconnected);
-    connect(m_networkManager, &Link::connectionFailed, this, &TransferEngine::onConnectionFailed);
-    connect(m_networkManager, &Link::connectionTimeout, this, &TransferEngine::onConnectionTimeout);
-    connect(m_networkManager, &Link::connectionRequested, this, &TransferEngine::connectionRequested);
-    connect(m_networkManager, &Link::directScanStarted, this, &TransferEngine::directScanStarted);
-    connect(m_networkManager, &Link::directScanProgress, this, &TransferEngine::directScanProgress);
-    connect(m_networkManager, &Link::directScanFinished, this, &TransferEngine::directScanFinished);
+    using Net = NetworkManager;
+    connect(m_networkManager, &Net::pcDiscovered, this, &TransferEngine::onPCDiscovered);
+    connect(m_networkManager, &Net::pcLost, this, &TransferEngine::onPCLost);
+    connect(m_networkManager, &Net::connected, this, &TransferEngine::onConnected);
+    connect(m_networkManager, &Net::disconnected, this, &TransferEngine::onDisconnected);
+    connect(m_networkManager, &Net::connectionFailed, this, &TransferEngine::onConnectionFailed);
+    connect(m_networkManager, &Net::connectionTimeout, this, &TransferEngine::onConnectionTimeout);
+    connect(m_networkManager, &Net::connectionRequested, this, &TransferEngine::connectionRequested);
+    connect(m_networkManager, &Net::directScanStarted, this, &TransferEngine::directScanStarted);
+    connect(m_networkManager, &Net::directScanProgress, this, &TransferEngine::directScanProgress);
+    connect(m_networkManager, &Net::directScanFinished, this, &TransferEngine::directScanFinished);
 }
 
 void TransferEngine::setupScanConnections()
