@@ -9,8 +9,6 @@
 #include <QRandomGenerator>
 #include <QStorageInfo>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace Zandrove {
@@ -64,7 +62,7 @@ bool ReplacingFile::open()
     if (!QDir().mkpath(old.path()))
         return fail(Platform::errorText(Platform::lastErrorCode()));
     m_file.setFileName(temporaryPath(m_path));
-    if (m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+    if (m_file.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return true;
     failForSystem(1);
     m_file.setFileName({});
@@ -73,19 +71,22 @@ bool ReplacingFile::open()
 
 bool ReplacingFile::write(const QByteArray &bytes)
 {
-    if (m_file.write(bytes) != bytes.size())
-        return failForSystem(bytes.size());
+    // A volume that fills up takes a part, and tells why at the next attempt only.
+    for (qint64 done = 0; done < bytes.size();) {
+        const qint64 taken = m_file.write(bytes.constData() + done, bytes.size() - done);
+        if (taken <= 0)
+            return failForSystem(bytes.size() - done);
+        done += taken;
+    }
     m_written += bytes.size();
     return true;
 }
 
 bool ReplacingFile::commit()
 {
-    const qint64 pending = std::max<qint64>(m_file.bytesToWrite(), 1);
-    const bool isFlushed = m_file.flush();
     m_file.close(); // some file systems tell only here that there is no room
-    if (!isFlushed || m_file.error() != QFile::NoError)
-        return failForSystem(pending);
+    if (m_file.error() != QFile::NoError)
+        return failForSystem(1);
     if (QFileInfo(m_file.fileName()).size() != m_written)
         return fail(Text::tr("it was not written whole"));
     if (!Platform::replaceFile(m_file.fileName(), m_path))
