@@ -65,7 +65,7 @@ Outcome copyFile(const QString &source, const QString &destination, const std::f
     if (outcome == Outcome::Failed) {
         const QString readError =
             from.error() == QFile::NoError ? Text::tr("it became shorter meanwhile") : from.errorString();
-        failure = {destination, to.reason().isEmpty() ? readError : to.reason(), to.isVolumeFull()};
+        failure = {destination, to.reason().isEmpty() ? readError : to.reason(), to.fullVolume()};
     }
     return outcome;
 }
@@ -78,7 +78,8 @@ CopyResult failedFile(const QString &source, const CopyFailure &failure)
     CopyResult result;
     result.failed = 1;
     result.failures = {failure};
-    if (failure.isVolumeFull) {
+    if (!failure.fullVolume.isEmpty()) {
+        result.fullVolume = failure.fullVolume;
         result.failedForRoom = 1;
         result.bytesWithoutRoom = QFileInfo(source).size();
     }
@@ -96,6 +97,8 @@ void CopyResult::add(const CopyResult &other)
 {
     copied += other.copied;
     failed += other.failed;
+    if (!other.fullVolume.isEmpty())
+        fullVolume = other.fullVolume;
     failedForRoom += other.failedForRoom;
     bytesWithoutRoom += other.bytesWithoutRoom;
     failures += other.failures.first(std::min(MaxListed - failures.size(), other.failures.size()));

@@ -10,9 +10,9 @@ namespace Zandrove {
 /// A file that was not copied.
 struct CopyFailure
 {
-    QString path;              ///< where it should stand now
-    QString reason;            ///< in the system's words, or translated
-    bool isVolumeFull = false; ///< there was no room for it
+    QString path;       ///< where it should stand now
+    QString reason;     ///< in the system's words, or translated
+    QString fullVolume; ///< "D:" or a mount point that had no room for it; empty where that is not why
 };
 
 /// What came of copying files.
@@ -22,7 +22,8 @@ struct CopyResult
 
     int copied = 0;              ///< files
     int failed = 0;              ///< files; without those that a stop left out
-    int failedForRoom = 0;       ///< those of the failed that found the volume full
+    QString fullVolume;          ///< the last that had no room for one of them; empty where all had
+    int failedForRoom = 0;       ///< those of the failed that found their volume full
     qint64 bytesWithoutRoom = 0; ///< the size of these
     QList<CopyFailure> failures; ///< the first MaxListed of them
 

@@ -33,10 +33,14 @@ QString temporaryPath(const QString &path)
     return candidate;
 }
 
-bool hasRoomFor(const QString &folder, qint64 bytes)
+/// The volume of `folder` where it has no room for as many bytes; else nothing.
+QString volumeWithoutRoom(const QString &folder, qint64 bytes)
 {
     const QStorageInfo volume(folder);
-    return !volume.isValid() || volume.bytesAvailable() >= bytes;
+    if (!volume.isValid() || volume.bytesAvailable() >= bytes)
+        return {};
+    const QString root = volume.rootPath();
+    return root.endsWith(":/"_L1) ? root.chopped(1) : root;
 }
 
 } // namespace
@@ -105,7 +109,7 @@ bool ReplacingFile::fail(const QString &reason)
 /// The file's error tells a full volume on some systems only; there is another sign of it everywhere.
 bool ReplacingFile::failForSystem(qint64 bytes)
 {
-    m_isVolumeFull = !hasRoomFor(QFileInfo(m_path).path(), bytes);
+    m_fullVolume = volumeWithoutRoom(QFileInfo(m_path).path(), bytes);
     return fail(m_file.errorString());
 }
 

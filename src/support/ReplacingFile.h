@@ -30,8 +30,8 @@ public:
 
     /// Why it failed, in the system's words or translated; empty until then.
     [[nodiscard]] QString reason() const { return m_reason; }
-    /// Whether it failed for want of room on the volume.
-    [[nodiscard]] bool isVolumeFull() const { return m_isVolumeFull; }
+    /// The volume that had no room for it, when that is why it failed: "D:" or a mount point; else empty.
+    [[nodiscard]] QString fullVolume() const { return m_fullVolume; }
 
 private:
     bool fail(const QString &reason);
@@ -41,7 +41,7 @@ private:
     QFile m_file; // the temporary one
     qint64 m_written = 0;
     QString m_reason;
-    bool m_isVolumeFull = false;
+    QString m_fullVolume;
 };
 
 } // namespace Zandrove
