@@ -8,9 +8,8 @@
 #include "settings/Log.h"
 #include "settings/SettingPrograms.h"
 #include "support/Json.h"
+#include "support/ReplacingFile.h"
 
-#include <QDir>
-#include <QFile>
 #include <QJsonObject>
 #include <QStandardPaths>
 
@@ -20,6 +19,9 @@ using Zandrove::Platform::SystemParameter;
 namespace Zandrove {
 
 namespace {
+
+constexpr int SlowestPointer = 1;
+constexpr int FastestPointer = 20;
 
 void writeValue(Platform::RegistryKey &key, const QString &name, const QString &value)
 {
@@ -34,34 +36,24 @@ bool isPlainFileName(const QString &name)
            !Platform::isUnsafeRelativePath(name);
 }
 
-/// Writes the picture where the system goes on reading it. Empty where that failed.
-QString savePicture(const SettingPackage &package)
+/// Where the system goes on reading the package's picture.
+QString pictureFolder()
 {
-    if (!isPlainFileName(package.fileName))
-        return {};
-    const QString folder =
-        QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) + u"/Zandrove"_s;
-    QDir().mkpath(folder);
-    QFile file(folder + u'/' + package.fileName);
-    if (!file.open(QIODevice::WriteOnly))
-        return {};
-    if (file.write(package.fileData) != package.fileData.size() || !file.flush()) {
-        file.remove();
-        return {};
-    }
-    return file.fileName();
+    return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) + u"/Zandrove"_s;
 }
 
-bool applyWallpaper(const SettingPackage &package, const KnownSetting &setting)
+ApplyResult applyWallpaper(const SettingPackage &package, const KnownSetting &setting)
 {
     if (package.fileData.isEmpty() || package.fileName.isEmpty()) {
         qCDebug(logSettings) << "[Wallpaper] No wallpaper file data";
         return false;
     }
-    const QString path = savePicture(package);
-    if (path.isEmpty()) {
-        qCDebug(logSettings) << "[Wallpaper] Failed to save wallpaper file";
-        return false;
+    const QString path = pictureFolder() + u'/' + package.fileName;
+    ReplacingFile picture(path);
+    if (!isPlainFileName(package.fileName) || !picture.open() || !picture.write(package.fileData) ||
+        !picture.commit()) {
+        qCDebug(logSettings) << "[Wallpaper] Failed to save wallpaper file" << picture.reason();
+        return {false, picture.reason()};
     }
     qCDebug(logSettings) << "[Wallpaper] Saved to:" << path;
 
@@ -71,13 +63,13 @@ bool applyWallpaper(const SettingPackage &package, const KnownSetting &setting)
     if (!Platform::setWallpaper(path)) {
         const auto error = Platform::lastErrorCode();
         qCDebug(logSettings) << "[Wallpaper] SystemParametersInfo failed, error:" << error;
-        return false;
+        return {false, Platform::errorText(error)};
     }
     qCDebug(logSettings) << "[Wallpaper] Applied successfully";
     return true;
 }
 
-bool applyTaskbar(const SettingPackage &package)
+ApplyResult applyTaskbar(const SettingPackage &package)
 {
     if (package.registryData.isEmpty())
         return false;
@@ -90,7 +82,7 @@ bool applyTaskbar(const SettingPackage &package)
     return imported;
 }
 
-bool applyExplorer(const SettingPackage &package)
+ApplyResult applyExplorer(const SettingPackage &package)
 {
     if (package.registryData.isEmpty())
         return false;
@@ -102,12 +94,14 @@ bool applyExplorer(const SettingPackage &package)
 }
 
 /// The key alone makes no difference before the next logon, so the calls count and its import does not.
-bool applyMouse(const SettingPackage &package)
+ApplyResult applyMouse(const SettingPackage &package)
 {
     static_cast<void>(importRegistryData(package.registryData));
     const auto &metadata = package.metadata;
-    if (const auto speed = metadata.constFind(u"MouseSpeed"_s); speed != metadata.cend())
-        Platform::setSystemParameter(SystemParameter::MouseSpeed, speed->toInt());
+    // What the registry calls MouseSpeed is the acceleration, which is no speed to set.
+    const int speed = metadata.value(u"MouseSensitivity"_s).toInt();
+    if (speed >= SlowestPointer && speed <= FastestPointer)
+        Platform::setSystemParameter(SystemParameter::MouseSpeed, speed);
     if (const auto swap = metadata.constFind(u"SwapMouseButtons"_s); swap != metadata.cend())
         Platform::setSystemParameter(SystemParameter::MouseButtonSwap, *swap == "1"_L1 ? 1 : 0);
     if (const auto time = metadata.constFind(u"DoubleClickSpeed"_s); time != metadata.cend())
@@ -117,7 +111,7 @@ bool applyMouse(const SettingPackage &package)
 }
 
 /// As with the mouse, the import alone decides nothing.
-bool applyKeyboard(const SettingPackage &package)
+ApplyResult applyKeyboard(const SettingPackage &package)
 {
     static_cast<void>(importRegistryData(package.registryData));
     const auto &metadata = package.metadata;
@@ -131,7 +125,7 @@ bool applyKeyboard(const SettingPackage &package)
     return true;
 }
 
-bool applyPower(const SettingPackage &package)
+ApplyResult applyPower(const SettingPackage &package)
 {
     if (package.fileData.isEmpty()) {
         qCDebug(logSettings) << "[Power] No power scheme data";
@@ -155,7 +149,7 @@ void writeVariables(Platform::RegistryKey environment, const QJsonObject &variab
     }
 }
 
-bool applyEnvironment(const SettingPackage &package, const KnownSetting &setting)
+ApplyResult applyEnvironment(const SettingPackage &package, const KnownSetting &setting)
 {
     bool applied = importRegistryData(package.registryData);
     const auto variables = package.metadata.constFind(u"EnvironmentVars"_s);
@@ -169,7 +163,7 @@ bool applyEnvironment(const SettingPackage &package, const KnownSetting &setting
     return applied;
 }
 
-bool applySound(const SettingPackage &package)
+ApplyResult applySound(const SettingPackage &package)
 {
     if (package.registryData.isEmpty())
         return false;
@@ -178,7 +172,7 @@ bool applySound(const SettingPackage &package)
     return imported;
 }
 
-bool applyDisplay(const SettingPackage &package)
+ApplyResult applyDisplay(const SettingPackage &package)
 {
     const bool imported = importRegistryData(package.registryData);
     Platform::broadcastSettingChange(u"ImmersiveColorSet"_s);
@@ -186,7 +180,7 @@ bool applyDisplay(const SettingPackage &package)
     return imported;
 }
 
-bool applyKnown(const SettingPackage &package, const KnownSetting &setting)
+ApplyResult applyKnown(const SettingPackage &package, const KnownSetting &setting)
 {
     switch (setting.kind) {
     case SettingKind::Wallpaper:
@@ -213,7 +207,7 @@ bool applyKnown(const SettingPackage &package, const KnownSetting &setting)
 
 } // namespace
 
-bool applySetting(const SettingPackage &package)
+ApplyResult applySetting(const SettingPackage &package)
 {
     qCDebug(logSettings) << "[SettingMigrator] Applying setting:" << package.key;
     const KnownSetting *const known = knownSetting(package.key);
