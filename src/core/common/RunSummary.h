@@ -87,6 +87,8 @@ struct RunSummary
     QMap<QString, int> savedFolderCounts;      ///< New PC: receiving folder name to number of files
     QMap<QString, QString> savedFolderSamples; ///< New PC: receiving folder name to "(a, b, c, ...)"
 
+    /// Items of all kinds.
+    [[nodiscard]] qint64 total() const { return qint64(files.total()) + apps.total() + settings.total(); }
     /// Bytes per second over whole seconds; 0 for a run that took less than one.
     [[nodiscard]] double averageSpeed() const
     {

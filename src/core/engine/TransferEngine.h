@@ -236,6 +236,7 @@ private:
     void onPeerCancelled();
     void onTransferReset();
     void setPausedByPeer(bool paused);
+    void beginSummary();
     void noteItem(ItemKind kind, const QString &name, bool success, const QString &error);
     void noteReport(const MigrationReport &report);
     void endRun(RunEnd end);

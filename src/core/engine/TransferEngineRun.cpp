@@ -97,11 +97,16 @@ void TransferEngine::beginTransfer()
     m_paused = false;
     m_report = MigrationReport();
     m_report.startTime = QDateTime::currentDateTime();
+    beginSummary();
+}
+
+void TransferEngine::beginSummary()
+{
     m_summary = RunSummary();
     m_summary.role = m_role;
     m_summary.ownName = getComputerName();
     m_summary.peerName = m_connectedPC.name;
-    m_summary.startTime = m_report.startTime;
+    m_summary.startTime = QDateTime::currentDateTime();
 }
 
 void TransferEngine::noteItem(ItemKind kind, const QString &name, bool success, const QString &error)
@@ -254,6 +259,8 @@ void TransferEngine::onPeerCancelled()
         m_transferring = false;
     Q_EMIT peerCancelled();
     endRun(RunEnd::CancelledThere);
+    if (m_role == NewPC)
+        beginSummary();
 }
 
 void TransferEngine::onTransferReset()
