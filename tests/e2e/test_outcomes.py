@@ -168,7 +168,7 @@ class Outcomes(pcs.TestCase):
         self.assertRegex(said, r"code of this PC is \d{4}")
         self.assertIn("Files: 30 arrived, 0 failed, 0 were there before.", said)
         self.assertIn(os.fspath(self.pair.new.home / "Downloads" / "Zandrove"), said)
-        self.assertIn("Files: 30 sent, 0 failed, 0 skipped.", sender.stdout)
+        self.assertIn("Files: 30 arrived, 0 failed, 0 were there before.", sender.stdout)
         self.assertNotIn("\x1b", said + sender.stdout)
         self.assertEqual(sender.stderr, "")
 
