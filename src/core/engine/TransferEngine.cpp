@@ -23,6 +23,8 @@ void registerMetaTypes()
         qRegisterMetaType<Zandrove::ScanResult>("Zandrove::ScanResult");
         qRegisterMetaType<Zandrove::TransferProgress>("Zandrove::TransferProgress");
         qRegisterMetaType<Zandrove::MigrationReport>("Zandrove::MigrationReport");
+        qRegisterMetaType<Zandrove::ItemResult>("Zandrove::ItemResult");
+        qRegisterMetaType<Zandrove::RunSummary>("Zandrove::RunSummary");
         qRegisterMetaType<QList<Zandrove::AppInfo>>("QList<Zandrove::AppInfo>");
         qRegisterMetaType<QList<Zandrove::FolderInfo>>("QList<Zandrove::FolderInfo>");
         qRegisterMetaType<QList<Zandrove::AccountInfo>>("QList<Zandrove::AccountInfo>");
@@ -120,8 +122,16 @@ void TransferEngine::setupMigrationConnections()
     connect(m_migrationManager, &Run::fileTransferProgress, this, &TransferEngine::onFileTransferProgress);
     connect(m_migrationManager, &Run::fileTransferCompleted, this, &TransferEngine::onFileTransferCompleted);
     connect(m_migrationManager, &Run::fileTransferFailed, this, &TransferEngine::onFileTransferFailed);
-    connect(m_migrationManager, &Run::appOutcome, this, &TransferEngine::appOutcome);
-    connect(m_migrationManager, &Run::settingOutcome, this, &TransferEngine::settingOutcome);
+    connect(m_migrationManager, &Run::appOutcome, this,
+            [this](const QString &name, bool success, const QString &error) {
+                noteItem(ItemKind::Application, name, success, error);
+                Q_EMIT appOutcome(name, success, error);
+            });
+    connect(m_migrationManager, &Run::settingOutcome, this,
+            [this](const QString &name, bool success, const QString &error) {
+                noteItem(ItemKind::Setting, name, success, error);
+                Q_EMIT settingOutcome(name, success, error);
+            });
     connect(m_migrationManager, &Run::settingsFinished, this, &TransferEngine::settingsFinished);
 }
 
