@@ -268,7 +268,7 @@ void MigrationManager::restartReceiving()
 
 QList<FileTransferTask> MigrationManager::buildTaskList(const QList<FolderInfo> &folders)
 {
-    return taskListFor(folders, m_nextTaskId);
+    return taskListFor(folders, m_nextTaskId).tasks;
 }
 
 void MigrationManager::onWorkerAllCompleted(int success, int failed, int skipped, qlonglong totalBytes)

@@ -299,7 +299,7 @@ void MigrationManager::onFileEnd(const QByteArray &payload)
     QMetaObject::invokeMethod(
         m_receiverWorker,
         [receiver = m_receiverWorker, end] {
-            receiver->onFileEnd(end.relativePath, end.checksum, end.taskId);
+            receiver->onFileEnd(end.relativePath, end.checksum, end.taskId, end.changed);
         },
         Qt::QueuedConnection);
     const QString completeApp = m_receivedApps->countFileOut(end.relativePath);
@@ -337,9 +337,9 @@ void MigrationManager::onFileAck(const QByteArray &payload)
         return;
     }
     qCDebug(logPipeline) << ">>> Calling onBatchAckReceived: batchId=" << ack.batchId
-                         << "success=" << ack.success << "failedCount=" << ack.failedFiles.size();
+                         << "success=" << ack.success << "failedCount=" << ack.namedFiles.size();
     // Directly: the worker's thread is blocked waiting for this answer.
-    m_senderWorker->onBatchAckReceived(ack.batchId, ack.success, ack.failedFiles);
+    m_senderWorker->onBatchAckReceived(ack.batchId, ack.success, ack.namedPaths());
     qCDebug(logPipeline) << ">>> onBatchAckReceived invoked!";
 }
 
