@@ -16,17 +16,11 @@ namespace Zandrove::Platform {
 
 namespace {
 
-/// Locks the file for as long as it is open. False when somebody else was quicker, who may have removed it.
-/// Where the file system has no locks the file is used without, and never taken for a leftover.
+/// Locks the file for as long as it is open. False when somebody else was quicker. Where the file system has
+/// no locks the file is used without, and never taken for a leftover.
 bool own(int file)
 {
-    if (::flock(file, LOCK_EX | LOCK_NB) != 0)
-        return errno != EWOULDBLOCK;
-    struct stat status = {};
-    if (::fstat(file, &status) == 0 && status.st_nlink > 0)
-        return true;
-    errno = ENOENT;
-    return false;
+    return ::flock(file, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 
 /// For file systems that can't rename without replacing: the name is taken by a second name of the file, or,
