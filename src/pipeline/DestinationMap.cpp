@@ -71,6 +71,13 @@ bool isAppPath(const QString &relativePath)
     return relativePath.startsWith(AppsPrefix, Qt::CaseInsensitive);
 }
 
+QString appOfPath(const QString &relativePath)
+{
+    const qsizetype start = relativePath.indexOf(u'/') + 1;
+    const qsizetype end = relativePath.indexOf(u'/', start);
+    return isAppPath(relativePath) && end > start ? relativePath.sliced(start, end - start) : QString();
+}
+
 QString destinationFor(const QString &relativePath, const QString &destinationRoot)
 {
     const QString path = withSlashes(relativePath);

@@ -14,6 +14,9 @@ namespace Zandrove {
 /// Whether `relativePath`, with '/' between components, belongs to an application.
 [[nodiscard]] bool isAppPath(const QString &relativePath);
 
+/// The application that the file `relativePath` belongs to, as the path names it; empty for another file.
+[[nodiscard]] QString appOfPath(const QString &relativePath);
+
 /// Where the file `relativePath` of the peer belongs on this PC: in the standard folder that its first
 /// component names, in the received-applications folder, or else below `destinationRoot` (empty: "Zandrove"
 /// in the downloads). A plain mapping: nothing is checked or created.

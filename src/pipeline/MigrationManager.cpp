@@ -58,9 +58,12 @@ void MigrationManager::setNetworkManager(NetworkManager *networkManager)
         QObject::disconnect(m_networkManager, nullptr, this, nullptr);
     m_networkManager = networkManager;
     setLink(RunLink::over(networkManager));
-    if (networkManager)
-        connect(networkManager, &NetworkManager::commandReceived, this,
-                &MigrationManager::onLinkCommandReceived);
+    if (!networkManager)
+        return;
+    connect(networkManager, &NetworkManager::commandReceived, this, &MigrationManager::onLinkCommandReceived);
+    connect(networkManager, &NetworkManager::disconnected, this, &MigrationManager::onLinkChanged);
+    connect(networkManager, &NetworkManager::connectionFailed, this, &MigrationManager::onLinkChanged);
+    connect(networkManager, &NetworkManager::connected, this, &MigrationManager::onLinkChanged);
 }
 
 void MigrationManager::setLink(RunLink link)
@@ -82,6 +85,11 @@ void MigrationManager::setRole(int role)
 bool MigrationManager::isMigrating() const
 {
     return m_run && m_run->isOn();
+}
+
+RunSummary MigrationManager::summary() const
+{
+    return m_run ? m_run->summary() : m_summary;
 }
 
 bool MigrationManager::isApplyingSettings() const
@@ -112,11 +120,10 @@ void MigrationManager::start(const QList<AppInfo> &apps, const QList<FolderInfo>
 
 void MigrationManager::startReceiving()
 {
-    if (isMigrating())
-        return;
     m_role = NewPC;
     m_waits = true;
-    beginReceiving();
+    if (!isMigrating())
+        beginReceiving();
 }
 
 void MigrationManager::beginReceiving()
@@ -160,6 +167,9 @@ void MigrationManager::forward(const MigrationRun *run)
     connect(run, &Run::appOutcome, this, &Face::appOutcome);
     connect(run, &Run::settingOutcome, this, &Face::settingOutcome);
     connect(run, &Run::settingsFinished, this, &Face::settingsFinished);
+    connect(run, &Run::itemSettled, this, &Face::itemSettled);
+    connect(run, &Run::spaceShort, this, &Face::spaceShort);
+    connect(run, &Run::installing, this, &Face::installing);
 }
 
 /// What the run was is over; what its threads still do, nobody hears of.
@@ -170,6 +180,8 @@ void MigrationManager::retire()
         return;
     QObject::disconnect(run, nullptr, this, nullptr);
     run->end(RunEnd::Reset);
+    run->closeLedger();
+    m_summary = run->summary();
     m_past.append(run);
     connect(run, &MigrationRun::gone, this, [this, run] {
         m_past.removeOne(run);
@@ -179,6 +191,8 @@ void MigrationManager::retire()
 
 void MigrationManager::onRunEnded(RunEnd how, const MigrationReport &report)
 {
+    const bool hasBegun = m_run->hasBegun();
+    const RunSummary summary = m_run->summary();
     if (runState() != RunState::Settling)
         retire();
     resumeReadingLink();
@@ -200,10 +214,14 @@ void MigrationManager::onRunEnded(RunEnd how, const MigrationReport &report)
         waitAgain(0ms);
         Q_EMIT transferReset();
         break;
-    case RunEnd::Running:
     case RunEnd::LinkLost:
+        waitAgain(0ms); // for a peer that has come meanwhile
+        break;
+    case RunEnd::Running:
         break;
     }
+    if (hasBegun)
+        Q_EMIT runEnded(summary);
     processInbox();
 }
 
@@ -268,10 +286,21 @@ void MigrationManager::endSession()
 void MigrationManager::resetAndListen()
 {
     qCDebug(logPipeline) << "MigrationManager::resetAndListen()";
+    if (isMigrating() && m_run->isLinkLost())
+        return;
     dropInbox();
     m_waitAgainTimer.stop();
     retire();
     resumeReadingLink();
+}
+
+/// The run in hand may have lost its link, to nobody or to another peer.
+void MigrationManager::onLinkChanged()
+{
+    if (!isMigrating() || m_run->belongsTo(m_link.number()))
+        return;
+    endSession();
+    m_run->end(RunEnd::LinkLost);
 }
 
 /// Whether there is a peer that this side said yes to, and the run is one with that peer.

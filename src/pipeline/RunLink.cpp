@@ -17,6 +17,7 @@ RunLink RunLink::over(NetworkManager *network)
             guarded->sendCommand(type, payload);
     };
     link.acceptedNumber = [guarded] { return guarded ? guarded->acceptedLink() : 0; };
+    link.peerName = [guarded] { return guarded ? guarded->connectedPC().name : QString(); };
     link.unsentBytes = network->pendingBytes();
     link.resumeReading = [guarded] {
         if (guarded)

@@ -3,6 +3,7 @@
 #include "peer/Protocol.h"
 
 #include <QByteArray>
+#include <QString>
 
 #include <atomic>
 #include <functional>
@@ -21,6 +22,8 @@ struct RunLink
     std::function<void(Protocol::MessageType type, const QByteArray &payload)> send = {};
     /// The link that is accepted now: another number for each, 0 while there is none.
     std::function<quint64()> acceptedNumber = {};
+    /// The name of the PC at its other end.
+    std::function<QString()> peerName = {};
     /// Bytes that wait in the socket.
     std::shared_ptr<const std::atomic<qint64>> unsentBytes = {};
     /// Reads what was held back, when the answer of the gate may have changed.
@@ -32,6 +35,7 @@ struct RunLink
     [[nodiscard]] static RunLink over(NetworkManager *network);
 
     [[nodiscard]] quint64 number() const { return acceptedNumber ? acceptedNumber() : 0; }
+    [[nodiscard]] QString peer() const { return peerName ? peerName() : QString(); }
 };
 
 } // namespace Zandrove
