@@ -88,7 +88,7 @@ check_include() {
         complain "$file: its folder has no floor in scripts/check-layers.sh"
     elif [ "$quoted" = '"' ]; then
         find_folder "$name"
-        if [ -n "$folder" ]; then
+        if [[ -n $folder && $name != *..* ]]; then
             compare "$place" "$own" "$folder" include "\"$name\""
         elif [[ $name != *.moc && $name != ui_* ]]; then
             complain "$place: \"$name\" is not written from src/, or its folder has no floor"
@@ -109,12 +109,16 @@ while IFS=: read -r file line text; do
     fi
 done < <(code '^[[:space:]]*#[[:space:]]*(include|import)|(%:|\?\?=)[[:space:]]*include|__has_include')
 
+compilers='__(unix|linux|gnu_linux|APPLE|MACH|MINGW|CYGWIN|MSYS|ANDROID|[A-Za-z]+BSD)[A-Z0-9a-z]*(__)?'
+system_names="\\b(Q_OS_[A-Z0-9]+|_?WIN(32|64)|_MSC_VER|$compilers)\\b"
+system_names+="|QOperatingSystemVersion|QSysInfo::(kernel|product)"
+
 # --- the operating system: no conditional compilation at all, and none of the names that compilers and Qt give systems
 while IFS=: read -r file line _; do
     [[ $file =~ $knows_the_system ]] || complain "$file:$line: asks for the operating system; only src/platform may"
 done < <({
     code '^[[:space:]]*#[[:space:]]*(el)?if' | grep -vE '__SANITIZE_[A-Z]+__|QT_VERSION' || true
-    code '\b(Q_OS_[A-Z0-9]+|_?WIN(32|64)|_MSC_VER|__(unix|linux|gnu_linux|APPLE|MACH|MINGW|CYGWIN|MSYS|ANDROID|[A-Za-z]+BSD)[A-Z0-9a-z]*(__)?)\b|QOperatingSystemVersion|QSysInfo::(kernel|product)'
+    code "$system_names"
 } | sort -u)
 
 # --- links: each call of CMake belongs to the target that it names first, else to its folder
@@ -134,7 +138,7 @@ while read -r file first names; do
                 complain "$file: $first links the widget module below the user interface"
         elif [[ -v "made_in[$name]" && -n $own ]]; then
             compare "$file" "$own" "${made_in[$name]}" link "$name"
-        elif [[ $name == zandrove_* && ! $name =~ ^zandrove_(options|icons|translations)$ && ! -v "made_in[$name]" ]]; then
+        elif [[ $name =~ ^zandrove_ && ! $name =~ ^zandrove_(options|icons|translations)$ ]]; then
             complain "$file: $name is no library of a layer"
         fi
     done
