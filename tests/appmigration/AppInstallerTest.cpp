@@ -24,14 +24,189 @@ class AppInstallerTest : public PcTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void targetIsChosen();
-    void everythingLandsWhereItBelongs_data();
-    void everythingLandsWhereItBelongs();
-    void onlyInstallFilesCanFail_data();
-    void onlyInstallFilesCanFail();
-    void copiesReplaceFilesOneByOne();
-    void failedCopiesKeepTheOldFile();
-    void copiesNeverFeedOnThemselves();
+    void targetIsChosen()
+    {
+        const QString programs = specialFolder(SpecialFolder::ProgramFiles);
+        const QString users = u"C:/Users/"_s;
+        const std::tuple<QString, QString, QString> targets[] = {
+            // of an application's name and old place
+            {u"Acme  Big Editor version 2.1"_s, u""_s, programs + u"/Acme_Big_Editor"_s},
+            {u"Acme Version 2"_s, u"/"_s, programs + u"/Acme_Version_2"_s},
+            {u"x"_s, u"C:\\Program Files\\Vendor\\App\\"_s, programs + u"/App"_s},
+            {u"x"_s, u"E:/program files (X86)/App"_s,
+             specialFolder(SpecialFolder::ProgramFilesX86) + u"/App"_s},
+            {u"x"_s, u"C:\\Users\\Anna\\AppData\\App"_s, users + Platform::userName() + u"/AppData/App"_s},
+            {u"x"_s, users + u"other/App"_s, users + u"other/App"_s},
+            {u"x"_s, u"D:\\Games\\App"_s, u"D:/Games/App"_s},
+            {u"x"_s, u"D:\\"_s, u"D:"_s}};
+        for (const auto &[name, original, target] : targets) {
+            AppPackageInfo info = package(name);
+            info.originalInstallLocation = original;
+            QCOMPARE(AppInstaller().getTargetInstallPath(info), target);
+        }
+    }
+
+    void everythingLandsWhereItBelongs_data()
+    {
+        QTest::addColumn<QString>("location");
+        QTest::addColumn<bool>("shortcutLeads"); ///< to the installed program
+
+        QTest::newRow("top folder") << u"C:\\Program Files\\ZandroveTest"_s << true;
+        QTest::newRow("another user's") << u"C:\\Users\\anna\\AppData\\Local\\ZandroveTest"_s << true;
+        // The install folder is known with slashes only, which is how Windows keeps no shortcut's path.
+        QTest::newRow("vendor") << u"C:\\Program Files\\Vendor\\ZandroveTest"_s << false;
+        QTest::newRow("slashes") << u"C:/Program Files/Vendor/ZandroveTest"_s << SimulatedPc::isMadeUp();
+    }
+    void everythingLandsWhereItBelongs()
+    {
+        AppPackageInfo info = package();
+        QFETCH(QString, location);
+        info.originalInstallLocation = location;
+        const QString target = AppInstaller().getTargetInstallPath(info);
+        const QList<std::pair<QString, QString>> places = {
+            {u"Install/Acme/bin/a.exe"_s, target + u"/bin/a.exe"_s},
+            {u"Install/Other/.hidden"_s, target + u"/.hidden"_s},
+            {u"AppData/Local/Acme/a"_s, specialFolder(SpecialFolder::LocalAppData) + u"/Acme/a"_s},
+            {u"AppData/Roaming/Acme/b"_s, specialFolder(SpecialFolder::RoamingAppData) + u"/Acme/b"_s},
+            {u"ProgramData/Acme/c"_s, specialFolder(SpecialFolder::CommonAppData) + u"/Acme/c"_s}};
+        for (const auto &[from, to] : places)
+            m_pc->writeFile(info.receivedBasePath + u'/' + from, from.toUtf8());
+        const QString registry =
+            u"Windows Registry Editor Version 5.00\r\n\r\n[%1]\r\n"
+            "\"plain\"=\"C:/Users/anna/x\"\r\n\"doubled\"=\"C:\\\\Users\\\\anna\\\\x\"\r\n"_s;
+        m_pc->writeFile(info.receivedBasePath + u"/registry.reg"_s, registry.arg(Key).toUtf8());
+        const QString shortcuts = info.receivedBasePath + u"/Shortcuts"_s;
+        for (const QString &place : {u"/Desktop"_s, u"/StartMenu"_s})
+            QVERIFY(Platform::writeShellLink(shortcuts + place + u"/Acme.lnk"_s,
+                                             {.path = location + u"/bin/a.exe"_s,
+                                              .arguments = u"C:/Users/anna/x"_s,
+                                              .workingDirectory = u"C:\\Users\\anna\\work"_s,
+                                              .iconPath = u"C:\\Users\\anna\\a.ico"_s,
+                                              .iconIndex = 3,
+                                              .description = u"C:/Users/anna/x"_s}));
+
+        AppInstaller installer;
+        QSignalSpy progress(&installer, &AppInstaller::progress);
+        QSignalSpy finished(&installer, &AppInstaller::finished);
+        QVERIFY(installer.install(info));
+        QCOMPARE(info.status, AppPackageInfo::Installed);
+        QCOMPARE(finished, (QList<QVariantList>{{u"Acme"_s, true, QString()}}));
+        QList<int> percents;
+        for (const QVariantList &step : progress)
+            percents.append(step.at(1).toInt());
+        QCOMPARE(percents, (QList<int>{10, 40, 60, 80, 100}));
+
+        for (const auto &[from, to] : places)
+            QCOMPARE(contentOf(to), from.toUtf8());
+        const Platform::RegistryKey key(Key);
+        QCOMPARE(key.text(u"plain"_s), u"C:/Users/%1/x"_s.arg(Platform::userName()));
+        QCOMPARE(key.text(u"doubled"_s), u"C:\\Users\\anna\\x"_s);
+        const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+        QCOMPARE(contentOf(desktop + u"/debug_Acme_registry.reg"_s), registry.arg(Key).toUtf8());
+        for (const QString &folder : {desktop, specialFolder(SpecialFolder::StartMenuPrograms)}) {
+            const auto link =
+                Platform::readShellLink(folder + u"/Acme.lnk"_s).value_or(Platform::ShellLink{});
+            QTEST(QFile::exists(withSlashes(link.path)), "shortcutLeads");
+            auto expected = Platform::readShellLink(shortcuts + u"/Desktop/Acme.lnk"_s).value_or(link);
+            expected.path = link.path;
+            expected.workingDirectory = u"C:\\Users\\%1\\work"_s.arg(Platform::userName());
+            expected.iconPath = u"C:\\Users\\%1\\a.ico"_s.arg(Platform::userName());
+            QVERIFY(link == expected);
+        }
+    }
+
+    void onlyInstallFilesCanFail_data()
+    {
+        QTest::addColumn<QString>("file"); ///< in the received folder; a folder where it ends in a slash
+        QTest::addColumn<QString>("location");
+        QTest::addColumn<bool>("installed");
+
+        const QString fine = u"Target/Acme"_s;
+        QTest::newRow("nothing received") << u"x/"_s << fine << true;
+        QTest::newRow("no folders") << u"Install/file"_s << fine << true;
+        QTest::newRow("no files") << u"Install/Acme/sub/"_s << fine << false;
+        QTest::newRow("files") << u"Install/Acme/file"_s << fine << true;
+        QTest::newRow("a file in the way") << u"Install/Acme/file"_s << u"blocked/Acme"_s << false;
+        if (SimulatedPc::isMadeUp())
+            QTest::newRow("read-only folder") << u"Install/Acme/file"_s << u"/proc/Acme"_s << false;
+        QTest::newRow("where packages arrive") << u"Install/Acme/file"_s << u"$T/Zandrove/x"_s << false;
+        QTest::newRow("that folder by a detour") << u"Install/Acme/file"_s << u"$T/y/../Zandrove"_s << false;
+        QTest::newRow("data without files") << u"AppData/Local/Acme/"_s << fine << true;
+        QTest::newRow("damaged registry") << u"registry.reg"_s << fine << true;
+        QTest::newRow("damaged shortcut") << u"Shortcuts/Desktop/x.lnk"_s << fine << true;
+    }
+    void onlyInstallFilesCanFail()
+    {
+        QFETCH(QString, file);
+        QFETCH(QString, location);
+        QFETCH(bool, installed);
+        AppPackageInfo info = package(u"a/../../x"_s);
+        m_pc->writeFile(u"blocked"_s, "x");
+        m_pc->writeFile(m_pc->homePath(u"x_registry.reg"_s), "mine");
+        QVERIFY(QDir().mkpath(m_pc->homePath(u"Desktop/debug_a"_s)));
+        location.replace(u"$T"_s, QStandardPaths::writableLocation(QStandardPaths::TempLocation));
+        info.originalInstallLocation = m_pc->path(location);
+        if (file.endsWith(u'/'))
+            QVERIFY(QDir().mkpath(info.receivedBasePath + u'/' + file));
+        else
+            m_pc->writeFile(info.receivedBasePath + u'/' + file, "content");
+
+        AppInstaller installer;
+        QSignalSpy finished(&installer, &AppInstaller::finished);
+        QCOMPARE(installer.install(info), installed);
+        QCOMPARE(info.status, installed ? AppPackageInfo::Installed : AppPackageInfo::Failed);
+        const QString error = installed ? QString() : u"Failed to copy install files"_s;
+        QCOMPARE(info.errorMessage, error);
+        QCOMPARE(finished, (QList<QVariantList>{{info.name, installed, error}}));
+        QCOMPARE(contentOf(m_pc->homePath(u"x_registry.reg"_s)), "mine"_ba);
+        QVERIFY(
+            !QDir(QStandardPaths::writableLocation(QStandardPaths::TempLocation) + u"/Zandrove"_s).exists());
+    }
+
+    void copiesReplaceFilesOneByOne()
+    {
+        for (const QString &file : {u"from/a"_s, u"from/sub/b"_s, u"from/taken"_s})
+            m_pc->writeFile(file, "new");
+        for (const QString &file : {u"to/a"_s, u"to/kept"_s, u"to/taken/inside"_s})
+            m_pc->writeFile(file, "old");
+        const QString folder = m_pc->path(u"to"_s);
+        QVERIFY(copyDirectory(m_pc->path(u"from"_s), folder));
+        QByteArrayList contents;
+        for (const QString &file : {u"/a"_s, u"/kept"_s, u"/sub/b"_s, u"/taken/inside"_s})
+            contents.append(contentOf(folder + file));
+        QCOMPARE(contents, (QByteArrayList{"new", "old", "new", "old"}));
+        QCOMPARE(QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden).size(), 4);
+        QVERIFY(!copyDirectory(m_pc->path(u"missing"_s), folder));
+    }
+
+    void failedCopiesKeepTheOldFile()
+    {
+        m_pc->writeFile(u"from/a"_s, "new");
+        m_pc->writeFile(u"from/b"_s, "new");
+        // An open file can't be removed on Windows, and elsewhere a copy beside it has too long a path.
+        QString folder = m_pc->path(u"to"_s);
+        while (SimulatedPc::isMadeUp() && folder.size() < 4090)
+            folder += u'/' + QString(std::min<qsizetype>(200, 4092 - folder.size()), u'x');
+        QFile old(m_pc->writeFile(folder + u"/a"_s, "old"));
+        QVERIFY(old.open(QIODevice::ReadOnly));
+        expectLog(u"    Failed to copy: \"%1\" -> \"%2\""_s.arg(m_pc->path(u"from/a"_s), old.fileName()));
+        QVERIFY(copyDirectory(m_pc->path(u"from"_s), folder)); // for the other one
+        QCOMPARE(contentOf(old.fileName()), "old"_ba);
+        QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden), (QStringList{u"a"_s, u"b"_s}));
+    }
+
+    void copiesNeverFeedOnThemselves()
+    {
+        m_pc->writeFile(u"outer/inner/x"_s, "x");
+        m_pc->writeFile(u"outer/inner/inner/y"_s, "y");
+        const QString inner = m_pc->path(u"outer/inner"_s);
+        QVERIFY(!copyDirectory(inner, inner + u"/../inner/"_s));
+        QVERIFY(!copyDirectory(inner, inner + u"/deep/er"_s));
+        QVERIFY(!QDir(inner + u"/deep"_s).exists());
+        QVERIFY(copyDirectory(inner, m_pc->path(u"outer"_s)));
+        QCOMPARE(contentOf(inner + u"/y"_s), "y"_ba);
+        QVERIFY(copyDirectory(inner, inner + u"2"_s));
+    }
 
 private:
     [[nodiscard]] AppPackageInfo package(const QString &name = u"Acme"_s) const
@@ -45,192 +220,5 @@ private:
     }
 };
 
-void AppInstallerTest::targetIsChosen()
-{
-    const QString programs = specialFolder(SpecialFolder::ProgramFiles);
-    const QString users = u"C:/Users/"_s;
-    const std::tuple<QString, QString, QString> targets[] = {
-        // of an application's name and old place
-        {u"Acme  Big Editor version 2.1"_s, u""_s, programs + u"/Acme_Big_Editor"_s},
-        {u"Acme Version 2"_s, u"/"_s, programs + u"/Acme_Version_2"_s},
-        {u"x"_s, u"C:\\Program Files\\Vendor\\App\\"_s, programs + u"/App"_s},
-        {u"x"_s, u"E:/program files (X86)/App"_s, specialFolder(SpecialFolder::ProgramFilesX86) + u"/App"_s},
-        {u"x"_s, u"C:\\Users\\Anna\\AppData\\App"_s, users + Platform::userName() + u"/AppData/App"_s},
-        {u"x"_s, users + u"other/App"_s, users + u"other/App"_s},
-        {u"x"_s, u"D:\\Games\\App"_s, u"D:/Games/App"_s},
-        {u"x"_s, u"D:\\"_s, u"D:"_s}};
-    for (const auto &[name, original, target] : targets) {
-        AppPackageInfo info = package(name);
-        info.originalInstallLocation = original;
-        QCOMPARE(AppInstaller().getTargetInstallPath(info), target);
-    }
-}
-
-void AppInstallerTest::everythingLandsWhereItBelongs_data()
-{
-    QTest::addColumn<QString>("location");
-    QTest::addColumn<bool>("shortcutLeads"); ///< to the installed program
-
-    QTest::newRow("top folder") << u"C:\\Program Files\\ZandroveTest"_s << true;
-    QTest::newRow("another user's") << u"C:\\Users\\anna\\AppData\\Local\\ZandroveTest"_s << true;
-    // The install folder is known with slashes only, which is how Windows keeps no shortcut's path.
-    QTest::newRow("vendor") << u"C:\\Program Files\\Vendor\\ZandroveTest"_s << false;
-    QTest::newRow("slashes") << u"C:/Program Files/Vendor/ZandroveTest"_s << SimulatedPc::isMadeUp();
-}
-
-void AppInstallerTest::everythingLandsWhereItBelongs()
-{
-    AppPackageInfo info = package();
-    QFETCH(QString, location);
-    info.originalInstallLocation = location;
-    const QString target = AppInstaller().getTargetInstallPath(info);
-    const QList<std::pair<QString, QString>> places = {
-        {u"Install/Acme/bin/a.exe"_s, target + u"/bin/a.exe"_s},
-        {u"Install/Other/.hidden"_s, target + u"/.hidden"_s},
-        {u"AppData/Local/Acme/a"_s, specialFolder(SpecialFolder::LocalAppData) + u"/Acme/a"_s},
-        {u"AppData/Roaming/Acme/b"_s, specialFolder(SpecialFolder::RoamingAppData) + u"/Acme/b"_s},
-        {u"ProgramData/Acme/c"_s, specialFolder(SpecialFolder::CommonAppData) + u"/Acme/c"_s}};
-    for (const auto &[from, to] : places)
-        m_pc->writeFile(info.receivedBasePath + u'/' + from, from.toUtf8());
-    const QString registry =
-        u"Windows Registry Editor Version 5.00\r\n\r\n[%1]\r\n"
-        "\"plain\"=\"C:/Users/anna/x\"\r\n\"doubled\"=\"C:\\\\Users\\\\anna\\\\x\"\r\n"_s;
-    m_pc->writeFile(info.receivedBasePath + u"/registry.reg"_s, registry.arg(Key).toUtf8());
-    const QString shortcuts = info.receivedBasePath + u"/Shortcuts"_s;
-    for (const QString &place : {u"/Desktop"_s, u"/StartMenu"_s})
-        QVERIFY(Platform::writeShellLink(shortcuts + place + u"/Acme.lnk"_s,
-                                         {.path = location + u"/bin/a.exe"_s,
-                                          .arguments = u"C:/Users/anna/x"_s,
-                                          .workingDirectory = u"C:\\Users\\anna\\work"_s,
-                                          .iconPath = u"C:\\Users\\anna\\a.ico"_s,
-                                          .iconIndex = 3,
-                                          .description = u"C:/Users/anna/x"_s}));
-
-    AppInstaller installer;
-    QSignalSpy progress(&installer, &AppInstaller::progress);
-    QSignalSpy finished(&installer, &AppInstaller::finished);
-    QVERIFY(installer.install(info));
-    QCOMPARE(info.status, AppPackageInfo::Installed);
-    QCOMPARE(finished, (QList<QVariantList>{{u"Acme"_s, true, QString()}}));
-    QList<int> percents;
-    for (const QVariantList &step : progress)
-        percents.append(step.at(1).toInt());
-    QCOMPARE(percents, (QList<int>{10, 40, 60, 80, 100}));
-
-    for (const auto &[from, to] : places)
-        QCOMPARE(contentOf(to), from.toUtf8());
-    const Platform::RegistryKey key(Key);
-    QCOMPARE(key.text(u"plain"_s), u"C:/Users/%1/x"_s.arg(Platform::userName()));
-    QCOMPARE(key.text(u"doubled"_s), u"C:\\Users\\anna\\x"_s);
-    const QString desktop = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
-    QCOMPARE(contentOf(desktop + u"/debug_Acme_registry.reg"_s), registry.arg(Key).toUtf8());
-    for (const QString &folder : {desktop, specialFolder(SpecialFolder::StartMenuPrograms)}) {
-        const auto link = Platform::readShellLink(folder + u"/Acme.lnk"_s).value_or(Platform::ShellLink{});
-        QTEST(QFile::exists(withSlashes(link.path)), "shortcutLeads");
-        auto expected = Platform::readShellLink(shortcuts + u"/Desktop/Acme.lnk"_s).value_or(link);
-        expected.path = link.path;
-        expected.workingDirectory = u"C:\\Users\\%1\\work"_s.arg(Platform::userName());
-        expected.iconPath = u"C:\\Users\\%1\\a.ico"_s.arg(Platform::userName());
-        QVERIFY(link == expected);
-    }
-}
-
-void AppInstallerTest::onlyInstallFilesCanFail_data()
-{
-    QTest::addColumn<QString>("file"); ///< in the received folder; a folder where it ends in a slash
-    QTest::addColumn<QString>("location");
-    QTest::addColumn<bool>("installed");
-
-    const QString fine = u"Target/Acme"_s;
-    QTest::newRow("nothing received") << u"x/"_s << fine << true;
-    QTest::newRow("no folders") << u"Install/file"_s << fine << true;
-    QTest::newRow("no files") << u"Install/Acme/sub/"_s << fine << false;
-    QTest::newRow("files") << u"Install/Acme/file"_s << fine << true;
-    QTest::newRow("a file in the way") << u"Install/Acme/file"_s << u"blocked/Acme"_s << false;
-    if (SimulatedPc::isMadeUp())
-        QTest::newRow("read-only folder") << u"Install/Acme/file"_s << u"/proc/Acme"_s << false;
-    QTest::newRow("where packages arrive") << u"Install/Acme/file"_s << u"$T/Zandrove/x"_s << false;
-    QTest::newRow("that folder by a detour") << u"Install/Acme/file"_s << u"$T/y/../Zandrove"_s << false;
-    QTest::newRow("data without files") << u"AppData/Local/Acme/"_s << fine << true;
-    QTest::newRow("damaged registry") << u"registry.reg"_s << fine << true;
-    QTest::newRow("damaged shortcut") << u"Shortcuts/Desktop/x.lnk"_s << fine << true;
-}
-
-void AppInstallerTest::onlyInstallFilesCanFail()
-{
-    QFETCH(QString, file);
-    QFETCH(QString, location);
-    QFETCH(bool, installed);
-    AppPackageInfo info = package(u"a/../../x"_s);
-    m_pc->writeFile(u"blocked"_s, "x");
-    m_pc->writeFile(m_pc->homePath(u"x_registry.reg"_s), "mine");
-    QVERIFY(QDir().mkpath(m_pc->homePath(u"Desktop/debug_a"_s)));
-    location.replace(u"$T"_s, QStandardPaths::writableLocation(QStandardPaths::TempLocation));
-    info.originalInstallLocation = m_pc->path(location);
-    if (file.endsWith(u'/'))
-        QVERIFY(QDir().mkpath(info.receivedBasePath + u'/' + file));
-    else
-        m_pc->writeFile(info.receivedBasePath + u'/' + file, "content");
-
-    AppInstaller installer;
-    QSignalSpy finished(&installer, &AppInstaller::finished);
-    QCOMPARE(installer.install(info), installed);
-    QCOMPARE(info.status, installed ? AppPackageInfo::Installed : AppPackageInfo::Failed);
-    const QString error = installed ? QString() : u"Failed to copy install files"_s;
-    QCOMPARE(info.errorMessage, error);
-    QCOMPARE(finished, (QList<QVariantList>{{info.name, installed, error}}));
-    QCOMPARE(contentOf(m_pc->homePath(u"x_registry.reg"_s)), "mine"_ba);
-    QVERIFY(!QDir(QStandardPaths::writableLocation(QStandardPaths::TempLocation) + u"/Zandrove"_s).exists());
-}
-
-void AppInstallerTest::copiesReplaceFilesOneByOne()
-{
-    for (const QString &file : {u"from/a"_s, u"from/sub/b"_s, u"from/taken"_s})
-        m_pc->writeFile(file, "new");
-    for (const QString &file : {u"to/a"_s, u"to/kept"_s, u"to/taken/inside"_s})
-        m_pc->writeFile(file, "old");
-    const QString folder = m_pc->path(u"to"_s);
-    QVERIFY(copyDirectory(m_pc->path(u"from"_s), folder));
-    QByteArrayList contents;
-    for (const QString &file : {u"/a"_s, u"/kept"_s, u"/sub/b"_s, u"/taken/inside"_s})
-        contents.append(contentOf(folder + file));
-    QCOMPARE(contents, (QByteArrayList{"new", "old", "new", "old"}));
-    QCOMPARE(QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden).size(), 4);
-    QVERIFY(!copyDirectory(m_pc->path(u"missing"_s), folder));
-}
-
-void AppInstallerTest::failedCopiesKeepTheOldFile()
-{
-    m_pc->writeFile(u"from/a"_s, "new");
-    m_pc->writeFile(u"from/b"_s, "new");
-    // An open file can't be removed on Windows, and elsewhere a copy beside it has too long a path.
-    QString folder = m_pc->path(u"to"_s);
-    while (SimulatedPc::isMadeUp() && folder.size() < 4090)
-        folder += u'/' + QString(std::min<qsizetype>(200, 4092 - folder.size()), u'x');
-    QFile old(m_pc->writeFile(folder + u"/a"_s, "old"));
-    QVERIFY(old.open(QIODevice::ReadOnly));
-    expectLog(u"    Failed to copy: \"%1\" -> \"%2\""_s.arg(m_pc->path(u"from/a"_s), old.fileName()));
-    QVERIFY(copyDirectory(m_pc->path(u"from"_s), folder)); // for the other one
-    QCOMPARE(contentOf(old.fileName()), "old"_ba);
-    QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden), (QStringList{u"a"_s, u"b"_s}));
-}
-
-void AppInstallerTest::copiesNeverFeedOnThemselves()
-{
-    m_pc->writeFile(u"outer/inner/x"_s, "x");
-    m_pc->writeFile(u"outer/inner/inner/y"_s, "y");
-    const QString inner = m_pc->path(u"outer/inner"_s);
-    QVERIFY(!copyDirectory(inner, inner + u"/../inner/"_s));
-    QVERIFY(!copyDirectory(inner, inner + u"/deep/er"_s));
-    QVERIFY(!QDir(inner + u"/deep"_s).exists());
-    QVERIFY(copyDirectory(inner, m_pc->path(u"outer"_s)));
-    QCOMPARE(contentOf(inner + u"/y"_s), "y"_ba);
-    QVERIFY(copyDirectory(inner, inner + u"2"_s));
-}
-
-QObject *makeAppInstallerTest()
-{
-    return new AppInstallerTest;
-}
-
+ZANDROVE_TEST(AppInstallerTest)
 #include "AppInstallerTest.moc"
