@@ -379,6 +379,7 @@ private Q_SLOTS:
                                          filePayload(Wallpaper, name, "1", Largest, 1),
                                          filePayload(Wallpaper, name, "2", -Largest, 1)}),
                  u"applied"_s);
+        QCOMPARE(newPc.end(Wallpaper), u"dropped"_s); // a second end applies nothing twice
         QCOMPARE(newPc.percents, (QList<QVariantList>{{QString(), 0}, {QString(), 100}, {QString(), 0}}));
         QCOMPARE(contentOf(pictureOfNewPc(name)), QByteArray("312")); // what counts is the order of arrival
         const QByteArrayList odd = {
@@ -459,6 +460,6 @@ private:
     QStringList m_foreignFiles; // what others had left in the temporary folder of the PC at hand
 };
 
-ZANDROVE_TEST_MAIN(SettingsTest)
+ZANDROVE_TEST(SettingsTest)
 
 #include "SettingsTest.moc"
