@@ -1119,7 +1119,7 @@ La aplicación se reiniciará ahora.</translation>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationManager</name>
+    <name>Zandrove::MigrationRun</name>
     <message>
         <source>[App] %1</source>
         <translation>[Aplicación] %1</translation>

@@ -1119,7 +1119,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationManager</name>
+    <name>Zandrove::MigrationRun</name>
     <message>
         <source>[App] %1</source>
         <translation>[Application] %1</translation>

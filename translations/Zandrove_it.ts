@@ -1119,7 +1119,7 @@ L’app verrà ora riavviata.</translation>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationManager</name>
+    <name>Zandrove::MigrationRun</name>
     <message>
         <source>[App] %1</source>
         <translation>[App] %1</translation>

@@ -1119,7 +1119,7 @@ A aplicação vai ser reiniciada agora.</translation>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationManager</name>
+    <name>Zandrove::MigrationRun</name>
     <message>
         <source>[App] %1</source>
         <translation>[Aplicação] %1</translation>

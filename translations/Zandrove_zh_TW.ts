@@ -1119,7 +1119,7 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationManager</name>
+    <name>Zandrove::MigrationRun</name>
     <message>
         <source>[App] %1</source>
         <translation>[應用程式] %1</translation>

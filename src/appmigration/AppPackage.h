@@ -1,5 +1,7 @@
 #pragma once
 
+#include "appmigration/FileCopy.h"
+
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -57,8 +59,14 @@ struct AppPackageInfo
     QString sourceUser;              ///< name of the user on the Old PC
     qint64 totalSize = 0;
     int fileCount = 0;
+    int filesMissing = 0; ///< files of it that are known not to have arrived; one is enough to fail it
     QString errorMessage; ///< set when an installation fails
     int status = Received;
+
+    // What the installer did:
+    int filesToCopy = 0;      ///< that were there
+    CopyResult files;         ///< what came of them
+    QString importedKeysCopy; ///< the file that keeps what was to be imported; empty where there is none
 };
 
 /// `package`, whose message has arrived, as it is installed from `receivedBasePath`.

@@ -2,19 +2,29 @@
 
 #include "appmigration/Log.h"
 #include "support/Paths.h"
+#include "support/ReplacingFile.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QRandomGenerator>
 #include <QStringList>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace Zandrove {
 
 namespace {
+
+struct Text
+{
+    Q_DECLARE_TR_FUNCTIONS(Zandrove::FileCopy)
+};
+
+constexpr qint64 PieceBytes = 1024 * 1024;
 
 /// All at once, because the copies may come to lie where the walk still has to go.
 QStringList filesBelow(const QString &folder)
@@ -26,49 +36,54 @@ QStringList filesBelow(const QString &folder)
     return paths;
 }
 
-/// A name in `folder` that nothing has.
-QString unusedPath(const QString &folder)
-{
-    QString path;
-    do {
-        path = folder + u"/~zd%1"_s.arg(QRandomGenerator::global()->generate(), 8, 16, QLatin1Char('0'));
-    } while (QFileInfo::exists(path));
-    return path;
-}
+enum class Outcome { Copied, Failed, Stopped };
 
-/// Puts `copy` in the place of the file `old`, which stays or comes back where that fails: one that another
-/// program holds open may be movable but not removable, or leave its name only later.
-bool takePlace(const QString &copy, const QString &old)
+/// The content, in pieces that are small enough for a stop to be noticed. Stops where `goOn` says so.
+Outcome copyContent(QFile &from, ReplacingFile &to, const std::function<bool()> &goOn)
 {
-    if (QFileInfo(old).isSymLink()) // nothing is lost with it
-        return QFile::remove(old) && QFile::rename(copy, old);
-    const QString aside = unusedPath(QFileInfo(old).path());
-    if (!QFile::rename(old, aside))
-        return false;
-    if (QFile::rename(copy, old)) {
-        if (QFile::remove(aside))
-            return true;
-        QFile::remove(old);
+    const qint64 size = from.size();
+    qint64 copied = 0;
+    while (copied < size) {
+        if (!goOn())
+            return Outcome::Stopped;
+        const QByteArray bytes = from.read(std::min(PieceBytes, size - copied));
+        if (bytes.isEmpty() || !to.write(bytes))
+            return Outcome::Failed;
+        copied += bytes.size();
     }
-    QFile::rename(aside, old);
-    return false;
+    return to.commit() ? Outcome::Copied : Outcome::Failed;
 }
 
-/// Copies beside an old file first: a full disk or a locked source then leaves it as it is.
-bool replaceFile(const QString &source, const QString &destination)
+Outcome copyFile(const QString &source, const QString &destination, const std::function<bool()> &goOn,
+                 CopyFailure &failure)
 {
-    const QFileInfo old(destination);
-    if (old.isDir() || !QDir().mkpath(old.path()))
-        return false;
-    if (!old.exists() && !old.isSymLink())
-        return QFile::copy(source, destination);
-    if (old.exists() && !old.isWritable()) // can be moved, but not removed, on Windows
-        return false;
-    const QString copy = unusedPath(old.path());
-    const bool replaced = QFile::copy(source, copy) && takePlace(copy, destination);
-    if (!replaced)
-        QFile::remove(copy);
-    return replaced;
+    QFile from(source);
+    ReplacingFile to(destination);
+    Outcome outcome = Outcome::Failed;
+    if (from.open(QIODevice::ReadOnly) && to.open())
+        outcome = copyContent(from, to, goOn);
+    if (outcome == Outcome::Failed) {
+        const QString readError =
+            from.error() == QFile::NoError ? Text::tr("it became shorter meanwhile") : from.errorString();
+        failure = {destination, to.reason().isEmpty() ? readError : to.reason(), to.fullVolume()};
+    }
+    return outcome;
+}
+
+/// What a file that failed adds, and its line of the log.
+CopyResult failedFile(const QString &source, const CopyFailure &failure)
+{
+    qCDebug(logAppMigration) << "    Failed to copy:" << source << "->" << failure.path;
+    qCDebug(logAppMigration) << "      Reason:" << failure.reason;
+    CopyResult result;
+    result.failed = 1;
+    result.failures = {failure};
+    if (!failure.fullVolume.isEmpty()) {
+        result.fullVolume = failure.fullVolume;
+        result.failedForRoom = 1;
+        result.bytesWithoutRoom = QFileInfo(source).size();
+    }
+    return result;
 }
 
 QString absoluteComparable(const QString &path)
@@ -78,29 +93,48 @@ QString absoluteComparable(const QString &path)
 
 } // namespace
 
-bool copyDirectory(const QString &source, const QString &target)
+void CopyResult::add(const CopyResult &other)
 {
+    copied += other.copied;
+    failed += other.failed;
+    if (!other.fullVolume.isEmpty())
+        fullVolume = other.fullVolume;
+    failedForRoom += other.failedForRoom;
+    bytesWithoutRoom += other.bytesWithoutRoom;
+    failures += other.failures.first(std::min(MaxListed - failures.size(), other.failures.size()));
+}
+
+CopyResult copyDirectory(const QString &source, const QString &target, const CopyControl &goOn)
+{
+    CopyResult result;
     const QDir sourceFolder(source);
     if (!sourceFolder.exists() || isWithin(target, source))
-        return false;
-    if (!QDir().mkpath(target)) {
+        return result;
+    if (!QDir().mkpath(target)) // which each file says with its reason
         qCDebug(logAppMigration) << "  Failed to create directory:" << target;
-        return false;
-    }
-    int copied = 0;
-    int failed = 0;
+    const auto mayGoOn = [&] { return !goOn || goOn(result.copied + result.failed); };
     const QStringList files = filesBelow(source);
     for (const QString &file : files) {
+        if (!mayGoOn())
+            break;
         const QString destination = target + u'/' + sourceFolder.relativeFilePath(file);
-        if (replaceFile(file, destination)) {
-            ++copied;
-        } else {
-            ++failed;
-            qCDebug(logAppMigration) << "    Failed to copy:" << file << "->" << destination;
-        }
+        CopyFailure failure;
+        const Outcome outcome = copyFile(file, destination, mayGoOn, failure);
+        if (outcome == Outcome::Stopped)
+            break;
+        if (outcome == Outcome::Copied)
+            ++result.copied;
+        else
+            result.add(failedFile(file, failure));
     }
-    qCDebug(logAppMigration) << "  copyDirectory result: success=" << copied << "failed=" << failed;
-    return copied > 0;
+    qCDebug(logAppMigration) << "  copyDirectory result: success=" << result.copied
+                             << "failed=" << result.failed;
+    return result;
+}
+
+int countFiles(const QString &source)
+{
+    return int(filesBelow(source).size());
 }
 
 bool isWithin(const QString &path, const QString &folder)

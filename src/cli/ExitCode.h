@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/common/Records.h"
+#include "core/common/RunSummary.h"
 
 namespace Zandrove::Cli {
 
@@ -10,16 +10,19 @@ enum ExitCode : int {
     RunFailed = 1,       ///< the connection or the run failed, was refused or was ended by the peer
     WrongUsage = 2,      ///< nothing was begun
     TimedOut = 3,
-    SomethingMissing = 4, ///< the run finished, but an item failed or was skipped
+    SomethingMissing = 4, ///< the run finished, but an item failed or was there before
     Cancelled = 130,      ///< by the user, here
 };
 
-/// What a finished run amounts to.
-[[nodiscard]] inline ExitCode exitCodeFor(const MigrationReport &report)
+/// What a run that is over amounts to.
+[[nodiscard]] inline ExitCode exitCodeFor(const RunSummary &summary)
 {
-    const bool complete = report.filesFailed == 0 && report.filesSkipped == 0 && report.appsFailed == 0 &&
-                          report.appsSkipped == 0 && report.settingsFailed == 0;
-    return complete ? EverythingMoved : SomethingMissing;
+    if (summary.end == RunEnd::CancelledHere)
+        return Cancelled;
+    if (summary.end != RunEnd::Complete)
+        return RunFailed;
+    const int wasThere = summary.files.wasThere + summary.apps.wasThere + summary.settings.wasThere;
+    return summary.everythingArrived() && wasThere == 0 ? EverythingMoved : SomethingMissing;
 }
 
 } // namespace Zandrove::Cli

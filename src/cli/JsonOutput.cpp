@@ -1,6 +1,7 @@
 #include "cli/JsonOutput.h"
 
 #include "support/Json.h"
+#include "support/RunTexts.h"
 
 #include <QJsonArray>
 
@@ -56,9 +57,12 @@ QJsonObject toJson(const SettingInfo &setting)
             {u"size"_s, setting.size}};
 }
 
-QJsonObject toJson(const ItemOutcome &outcome)
+QJsonObject toJson(const FullVolume &volume)
 {
-    return {{u"name"_s, outcome.name}, {u"success"_s, outcome.success}, {u"error"_s, outcome.error}};
+    return {{u"volume"_s, volume.volume},
+            {u"pc"_s, volume.pcName},
+            {u"files"_s, volume.files},
+            {u"bytes"_s, volume.bytes}};
 }
 
 template <typename Record>
@@ -77,6 +81,40 @@ QJsonObject toJson(const QMap<QString, Value> &map)
     for (auto entry = map.begin(); entry != map.end(); ++entry)
         object.insert(entry.key(), entry.value());
     return object;
+}
+
+constexpr int MaxNamedFiles = 1000;
+
+QJsonArray namedFiles(const QList<ItemResult> &results)
+{
+    QJsonArray files;
+    for (const ItemResult &result : results) {
+        if (files.size() >= MaxNamedFiles)
+            break;
+        if (result.kind == ItemKind::File)
+            files.append(QJsonObject{{u"path"_s, result.path}, {u"reason"_s, result.reason}});
+    }
+    return files;
+}
+
+QJsonArray namedItems(const QList<ItemResult> &results, ItemKind kind)
+{
+    QJsonArray items;
+    for (const ItemResult &result : results) {
+        const bool isThere =
+            result.outcome == ItemOutcome::Arrived || result.outcome == ItemOutcome::WasThere;
+        if (result.kind == kind)
+            items.append(QJsonObject{{u"name"_s, result.path},
+                                     {u"success"_s, isThere},
+                                     {u"error"_s, isThere ? QString() : result.reason}});
+    }
+    return items;
+}
+
+/// What did not come to a good end: a face knows no outcome between failed and not confirmed.
+int failedOf(const OutcomeCounts &counts)
+{
+    return counts.failed + counts.notConfirmed + counts.pending;
 }
 
 QString sideName(Side side)
@@ -186,12 +224,14 @@ void JsonOutput::cancelled(Side by)
     print("cancelled"_L1, {{u"by"_s, sideName(by)}});
 }
 
-void JsonOutput::report(const MigrationReport &report, const RunItems &items)
+void JsonOutput::installing(const QString &pcName, const QString &app, int percent)
 {
-    QJsonObject fields = Cli::toJson(report);
-    fields.insert(u"apps"_s, toJson(items.apps));
-    fields.insert(u"settings"_s, toJson(items.settings));
-    print("report"_L1, fields);
+    print("installing"_L1, {{u"pc"_s, pcName}, {u"app"_s, app}, {u"percent"_s, percent}});
+}
+
+void JsonOutput::report(const RunSummary &summary)
+{
+    print("report"_L1, Cli::toJson(summary));
 }
 
 void JsonOutput::scanning(int percent, const QString &item, int apps)
@@ -215,26 +255,30 @@ void JsonOutput::error(const QString &message)
     m_streams.err(errorLine(message));
 }
 
-QJsonObject toJson(const MigrationReport &report)
+QJsonObject toJson(const RunSummary &summary)
 {
-    return {{u"startTime"_s, report.startTime.toString(Qt::ISODateWithMs)},
-            {u"endTime"_s, report.endTime.toString(Qt::ISODateWithMs)},
-            {u"filesSuccess"_s, report.filesSuccess},
-            {u"filesFailed"_s, report.filesFailed},
-            {u"filesSkipped"_s, report.filesSkipped},
-            {u"appsSuccess"_s, report.appsSuccess},
-            {u"appsFailed"_s, report.appsFailed},
-            {u"appsSkipped"_s, report.appsSkipped},
-            {u"settingsSuccess"_s, report.settingsSuccess},
-            {u"settingsFailed"_s, report.settingsFailed},
-            {u"totalBytes"_s, report.totalBytes},
-            {u"averageSpeed"_s, report.averageSpeed},
-            {u"savedFolderPaths"_s, toJson(report.savedFolderPaths)},
-            {u"savedFolderCounts"_s, toJson(report.savedFolderCounts)},
-            {u"savedFolderSamples"_s, toJson(report.savedFolderSamples)},
-            {u"failedFiles"_s, QJsonArray::fromStringList(report.failedFiles)},
-            {u"warnings"_s, QJsonArray::fromStringList(report.warnings)},
-            {u"summary"_s, report.summary}};
+    const OutcomeCounts &files = summary.files;
+    return {{u"end"_s, endName(summary.end)},
+            {u"startTime"_s, summary.startTime.toString(Qt::ISODateWithMs)},
+            {u"endTime"_s, summary.endTime.toString(Qt::ISODateWithMs)},
+            {u"filesSuccess"_s, files.arrived},
+            {u"filesFailed"_s, failedOf(files)},
+            {u"filesSkipped"_s, files.wasThere + files.wasDifferent},
+            {u"failedFiles"_s, namedFiles(summary.notArrived)},
+            {u"differentFiles"_s, namedFiles(summary.different)},
+            {u"fullVolumes"_s, toJson(summary.fullVolumes)},
+            {u"apps"_s, namedItems(summary.items, ItemKind::Application)},
+            {u"appsSuccess"_s, summary.apps.arrived},
+            {u"appsFailed"_s, failedOf(summary.apps)},
+            {u"appsSkipped"_s, summary.apps.wasThere + summary.apps.wasDifferent},
+            {u"settings"_s, namedItems(summary.items, ItemKind::Setting)},
+            {u"settingsSuccess"_s, summary.settings.arrived},
+            {u"settingsFailed"_s, failedOf(summary.settings)},
+            {u"totalBytes"_s, summary.arrivedBytes},
+            {u"averageSpeed"_s, summary.averageSpeed()},
+            {u"savedFolderPaths"_s, toJson(summary.savedFolderPaths)},
+            {u"savedFolderCounts"_s, toJson(summary.savedFolderCounts)},
+            {u"savedFolderSamples"_s, toJson(summary.savedFolderSamples)}};
 }
 
 QJsonObject toJson(const ScanResult &result)

@@ -26,7 +26,8 @@ public:
     void paused(Side by) override;
     void resumed(Side by) override;
     void cancelled(Side by) override;
-    void report(const MigrationReport &report, const RunItems &items) override;
+    void installing(const QString &pcName, const QString &app, int percent) override;
+    void report(const RunSummary &summary) override;
     void scanning(int percent, const QString &item, int apps) override;
     void inventory(const ScanResult &result) override;
     void warning(const QString &message) override;
@@ -39,8 +40,8 @@ private:
 };
 
 /// The fields of a report, and of a scan's result, by their names. Times are ISO 8601 with milliseconds,
-/// empty where not set.
-[[nodiscard]] QJsonObject toJson(const MigrationReport &report);
+/// empty where not set. A report names at most 1,000 files that failed, and as many that differ.
+[[nodiscard]] QJsonObject toJson(const RunSummary &summary);
 [[nodiscard]] QJsonObject toJson(const ScanResult &result);
 
 } // namespace Zandrove::Cli

@@ -82,6 +82,14 @@ QString storeApp(Options &options, const QString &value)
     return {};
 }
 
+QString storeReport(Options &options, const QString &value)
+{
+    if (value.isEmpty())
+        return Text::tr("%1 needs a value.").arg("--report"_L1);
+    options.report = value;
+    return {};
+}
+
 QString storeSetting(Options &options, const QString &value)
 {
     if (value.isEmpty())
@@ -139,6 +147,11 @@ const std::array Rules = {
                    "within S seconds. Counted from when it is looked for; the transfer itself is never "
                    "cut."),
                [](Options &options, const QString &value) { return storeSeconds(options.timeout, value); }},
+    OptionRule{"--report"_L1, "FILE", Receive | Send,
+               QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                                 "Write the report of each transfer to FILE, in place of the one before: a "
+                                 "page to read or, for a name that ends in .json, JSON."),
+               storeReport},
     OptionRule{"--role"_L1, "old|new", Discover,
                QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
                                  "What this PC is. An Old PC sees the New PCs, a New PC the Old PCs."),
@@ -182,7 +195,8 @@ struct CommandText
 };
 
 const std::array Commands = {
-    CommandText{Command::Receive, "receive"_L1, "zandrove-cli receive [--yes] [--once] [--timeout S]",
+    CommandText{Command::Receive, "receive"_L1,
+                "zandrove-cli receive [--yes] [--once] [--timeout S] [--report FILE]",
                 QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
                                   "Be the New PC: show a code, wait for an Old PC, receive what it sends.")},
     CommandText{
@@ -225,7 +239,7 @@ QString exitCodeHelp()
 {
     return Text::tr(
         "Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 "
-        "wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with "
+        "wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with "
         "Ctrl-C "
         "(the other PC is told; a second Ctrl-C ends at once).");
 }

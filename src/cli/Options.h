@@ -21,6 +21,7 @@ struct Options
     bool json = false;
     bool verbose = false;
     bool control = false;                        ///< obey commands on standard input
+    QString report;                              ///< receive, send: file to write the report to
     bool yes = false;                            ///< receive: accept each request without asking
     bool once = false;                           ///< receive: end after the first report
     QString target;                              ///< send: code, name or address of the New PC

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/common/Records.h"
+#include "core/common/RunSummary.h"
 
 #include <QByteArray>
-#include <QList>
 #include <QString>
 
 #include <functional>
@@ -14,21 +14,6 @@ namespace Zandrove::Cli {
 enum class Side { Here, Peer };
 
 enum class FileStatus { Started, Completed, Failed };
-
-/// What became of one application or setting.
-struct ItemOutcome
-{
-    QString name;
-    bool success = false;
-    QString error; ///< empty on success
-};
-
-/// The applications and settings of one run, in the order in which they ended.
-struct RunItems
-{
-    QList<ItemOutcome> apps;
-    QList<ItemOutcome> settings;
-};
 
 /// Where printed bytes go.
 struct Streams
@@ -62,7 +47,10 @@ public:
     virtual void paused(Side by) = 0;
     virtual void resumed(Side by) = 0;
     virtual void cancelled(Side by) = 0;
-    virtual void report(const MigrationReport &report, const RunItems &items) = 0;
+    /// The New PC of the run installs an application.
+    virtual void installing(const QString &pcName, const QString &app, int percent) = 0;
+    /// A run that is over, whichever way.
+    virtual void report(const RunSummary &summary) = 0;
     /// How far the scan of this PC has come, what it looks at, and how many applications it has found.
     virtual void scanning(int percent, const QString &item, int apps) = 0;
     virtual void inventory(const ScanResult &result) = 0;

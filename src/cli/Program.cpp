@@ -12,6 +12,7 @@
 #include "support/PrintableText.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QLoggingCategory>
 
 #include <cstdio>
@@ -73,9 +74,15 @@ std::unique_ptr<Session> makeSession(const Options &options, TransferEngine &eng
     return std::make_unique<DiscoverSession>(options, engine, output);
 }
 
-/// Makes the folders absolute, each once. Returns what is wrong with the first one that can't be sent.
-QString prepareFolders(Options &options)
+/// Makes the paths absolute, each folder once. Returns what is wrong with the first one that can't be used.
+QString preparePaths(Options &options)
 {
+    if (!options.report.isEmpty())
+        options.report = absoluteFolder(options.report);
+    if (QFileInfo(options.report).isDir())
+        return QCoreApplication::translate("Zandrove::Cli::Program",
+                                           "The report can't be written: %1 is a folder.")
+            .arg(options.report);
     QStringList folders;
     for (const QString &folder : std::as_const(options.folders)) {
         const QString path = absoluteFolder(folder);
@@ -102,7 +109,7 @@ void installLog(bool shown)
 std::optional<int> answered(ParsedArguments &parsed)
 {
     if (parsed.options)
-        parsed.error = prepareFolders(*parsed.options);
+        parsed.error = preparePaths(*parsed.options);
     if (!parsed.error.isEmpty()) {
         write(stderr, errorLine(parsed.error));
         return WrongUsage;

@@ -9,7 +9,7 @@ namespace Zandrove::Cli {
 void installLog(bool shown);
 
 /// Answers a command line that is not to be run (help, the version, or an error) and returns the exit code;
-/// nothing when `parsed` holds options that can be run. Makes the folders of those absolute.
+/// nothing when `parsed` holds options that can be run. Makes the paths of those absolute.
 [[nodiscard]] std::optional<int> answered(ParsedArguments &parsed);
 
 /// Runs a command to its end and returns the exit code. Needs the application object.

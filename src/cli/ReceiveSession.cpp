@@ -73,9 +73,17 @@ void ReceiveSession::connectEngine()
     connect(source, &TransferEngine::transferProgressChanged, this, &ReceiveSession::onTransferSign);
     connect(source, &TransferEngine::newTransferStarted, this, &ReceiveSession::onNewTransferStarted);
     connect(source, &TransferEngine::transferReset, this, &ReceiveSession::onTransferReset);
-    connect(source, &TransferEngine::transferCompleted, this, &ReceiveSession::onCompleted);
-    connect(source, &TransferEngine::settingsFinished, this, &ReceiveSession::onSettingsFinished);
-    connect(source, &TransferEngine::peerCancelled, this, &ReceiveSession::onPeerCancelled);
+    connect(source, &TransferEngine::runEnded, this, &ReceiveSession::onRunEnded);
+    connect(source, &TransferEngine::settingsFinished, this, [this] {
+        if (!m_heldReport)
+            return;
+        takeHeldReport();
+        concludeRun(engine().summary());
+    });
+    connect(source, &TransferEngine::peerCancelled, this, [this] {
+        if (m_receiving)
+            output().cancelled(Side::Peer);
+    });
     connect(source, &TransferEngine::transferFailed, this, &ReceiveSession::onTransferFailed);
 }
 
@@ -244,29 +252,49 @@ void ReceiveSession::onTransferReset()
         finish(m_results.exitCode());
         return;
     }
-    engine().startReceiving();
     expectTransfer();
     m_expecting = true;
 }
 
-void ReceiveSession::onCompleted(const MigrationReport &report)
+void ReceiveSession::onRunEnded(const RunSummary &summary)
+{
+    if (summary.end == RunEnd::Complete)
+        onCompleted(summary);
+    else if (summary.end == RunEnd::LinkLost || summary.end == RunEnd::Reset)
+        onRunBroken(summary);
+    else
+        keepReport(summary);
+    if (summary.end == RunEnd::CancelledThere)
+        runEnded(RunFailed);
+}
+
+void ReceiveSession::onCompleted(const RunSummary &summary)
 {
     if (!engine().isApplyingSettings()) {
-        concludeRun(report);
+        concludeRun(summary);
         return;
     }
     m_drainTimer.stop(); // all has come
-    m_heldReport = report;
+    m_heldReport = summary;
     m_settingsTimer.start(SettingsTime);
 }
 
-void ReceiveSession::onSettingsFinished(int succeeded, int failed)
+void ReceiveSession::onRunBroken(const RunSummary &summary)
 {
-    if (!m_heldReport)
+    if (summary.total() == 0)
         return;
-    m_heldReport->settingsSuccess = succeeded;
-    m_heldReport->settingsFailed = failed;
-    concludeRun(takeHeldReport());
+    const QString complaint = std::exchange(m_complaint, {});
+    output().error(complaint.isEmpty() ? tr("The transfer from %1 broke off.").arg(m_peerName) : complaint);
+    showReport(summary);
+    m_results.record(RunFailed);
+    m_receiving = m_expecting = false;
+    if (summary.end != RunEnd::LinkLost)
+        return;
+    const bool wasUp = link() == Link::Up;
+    setLink(Link::None);
+    if (wasUp)
+        engine().disconnectFromPeer();
+    afterLink();
 }
 
 void ReceiveSession::concludeWithoutSettings()
@@ -278,16 +306,16 @@ void ReceiveSession::concludeWithoutSettings()
     concludeRun(takeHeldReport());
 }
 
-MigrationReport ReceiveSession::takeHeldReport()
+RunSummary ReceiveSession::takeHeldReport()
 {
     m_settingsTimer.stop();
     return *std::exchange(m_heldReport, std::nullopt);
 }
 
-void ReceiveSession::concludeRun(const MigrationReport &report)
+void ReceiveSession::concludeRun(const RunSummary &summary)
 {
-    showReport(report);
-    m_results.record(exitCodeFor(report));
+    showReport(summary);
+    m_results.record(exitCodeFor(summary));
     expectTransfer();
     m_reported = options().once;
     if (m_endsThen) {
@@ -298,13 +326,6 @@ void ReceiveSession::concludeRun(const MigrationReport &report)
         m_timeoutTimer.stop();
         m_goodbyeTimer.start(GoodbyeTime);
     }
-}
-
-void ReceiveSession::onPeerCancelled()
-{
-    if (m_receiving)
-        output().cancelled(Side::Peer);
-    runEnded(RunFailed);
 }
 
 void ReceiveSession::onTransferFailed(const QString &reason)

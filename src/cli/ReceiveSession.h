@@ -42,12 +42,12 @@ private:
     void onTransferSign();
     void onNewTransferStarted();
     void onTransferReset();
-    void onCompleted(const MigrationReport &report);
-    void onSettingsFinished(int succeeded, int failed);
+    void onRunEnded(const RunSummary &summary);
+    void onCompleted(const RunSummary &summary);
+    void onRunBroken(const RunSummary &summary);
     void concludeWithoutSettings();
-    [[nodiscard]] MigrationReport takeHeldReport();
-    void concludeRun(const MigrationReport &report);
-    void onPeerCancelled();
+    RunSummary takeHeldReport();
+    void concludeRun(const RunSummary &summary);
     void onTransferFailed(const QString &reason);
     void cancelHere();
     void onTimeout();
@@ -59,9 +59,9 @@ private:
     /// from sign of life to sign of life.
     QTimer m_drainTimer;
     QTimer m_settingsTimer;
-    std::optional<MigrationReport> m_heldReport; ///< complete but for the settings, which are being applied
-    QString m_complaint;                         ///< what is to be said if the end of the run does not come
-    QString m_asker;                             ///< who asks to be let in
+    std::optional<RunSummary> m_heldReport; ///< complete but for the settings, which are being applied
+    QString m_complaint;                    ///< what is to be said if the end of the run does not come
+    QString m_asker;                        ///< who asks to be let in
     QString m_peerName;
     RunResults m_results;
     bool m_expecting = false; ///< armed on a fresh link, nothing has arrived

@@ -5,6 +5,7 @@
 #include "core/engine/TransferEngine.h"
 
 #include <chrono>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -18,6 +19,9 @@ constexpr auto LookInterval = 250ms;
 // A New PC with a window goes to its receiving page half a second after pairing and takes only what comes
 // then.
 constexpr auto SettleTime = 1000ms;
+
+// How long the end of a run may take to be told once its link is gone.
+constexpr auto PartingTime = 2000ms;
 
 } // namespace
 
@@ -80,7 +84,7 @@ void SendSession::connectEngine()
     connect(source, &TransferEngine::connectionRequested, this, &SendSession::onConnectionRequested);
     connect(source, &TransferEngine::disconnected, this, &SendSession::onDisconnected);
     connect(source, &TransferEngine::sessionEndReceived, this, &SendSession::onSessionEndReceived);
-    connect(source, &TransferEngine::transferCompleted, this, &SendSession::onCompleted);
+    connect(source, &TransferEngine::runEnded, this, &SendSession::onRunEnded);
     connect(source, &TransferEngine::peerCancelled, this, &SendSession::onPeerCancelled);
     connect(source, &TransferEngine::transferFailed, this, &SendSession::onTransferFailed);
 }
@@ -162,13 +166,25 @@ void SendSession::linkOver(const QString &complaint)
     if (link() != Link::Up || isFinishing())
         return;
     setLink(Link::None);
-    engine().disconnectFromPeer();
     output().disconnected();
-    if (m_state == State::Resting) {
-        finish(m_results.exitCode());
+    m_complaint = complaint;
+    const State state = std::exchange(m_state, State::Parting);
+    engine().disconnectFromPeer();
+    if (state == State::Running) {
+        QTimer::singleShot(PartingTime, this, [this] { endBrokenRun(engine().summary()); });
         return;
     }
-    output().error(complaint);
+    if (state != State::Resting)
+        output().error(complaint);
+    finish(state == State::Resting ? m_results.exitCode() : RunFailed);
+}
+
+void SendSession::endBrokenRun(const RunSummary &summary)
+{
+    if (isFinishing())
+        return;
+    output().error(m_complaint);
+    showReport(summary);
     finish(RunFailed);
 }
 
@@ -198,20 +214,31 @@ void SendSession::sendAgain(const QString &folder)
     sendSelection();
 }
 
-void SendSession::onCompleted(const MigrationReport &report)
+void SendSession::onRunEnded(const RunSummary &summary)
 {
-    showReport(report);
-    m_completed = true;
-    runEnded(exitCodeFor(report));
+    if (summary.end == RunEnd::CancelledHere)
+        keepReport(summary);
+    if (summary.end == RunEnd::CancelledHere || (m_state != State::Running && m_state != State::Parting))
+        return;
+    m_completed = summary.end == RunEnd::Complete;
+    if (summary.end == RunEnd::LinkLost || m_state == State::Parting) {
+        linkOver(tr("The link to %1 broke.").arg(m_peerName));
+        endBrokenRun(summary);
+        return;
+    }
+    if (summary.end == RunEnd::Reset)
+        output().error(tr("%1 ended the transfer.").arg(m_peerName));
+    if (summary.end == RunEnd::CancelledThere)
+        keepReport(summary);
+    else
+        showReport(summary);
+    runEnded(exitCodeFor(summary));
 }
 
 void SendSession::onPeerCancelled()
 {
-    if (m_state != State::Running)
-        return;
-    output().cancelled(Side::Peer);
-    m_completed = false;
-    runEnded(RunFailed);
+    if (m_state == State::Running)
+        output().cancelled(Side::Peer);
 }
 
 void SendSession::onTransferFailed(const QString &reason)

@@ -30,6 +30,7 @@ private:
         Dialling,
         Settling, ///< connected, the New PC is getting ready
         Running,
+        Parting, ///< the link broke in a run, whose end follows
         Resting, ///< between two runs on the same link
     };
 
@@ -44,10 +45,11 @@ private:
     void onDisconnected();
     void onSessionEndReceived();
     void linkOver(const QString &complaint);
+    void endBrokenRun(const RunSummary &summary);
 
     void sendSelection();
     void sendAgain(const QString &folder);
-    void onCompleted(const MigrationReport &report);
+    void onRunEnded(const RunSummary &summary);
     void onPeerCancelled();
     void onTransferFailed(const QString &reason);
     void cancelHere();
@@ -60,6 +62,7 @@ private:
     QStringList m_folders;
     ItemChoice m_choice;
     QString m_peerName;
+    QString m_complaint; ///< what is to be said of the link that broke
     RunResults m_results;
     bool m_staysForMore = false; ///< --control: standard input may still ask for a further run
     bool m_completed = false;    ///< the last run came to its report

@@ -2,10 +2,13 @@
 
 #include "core/engine/TransferEngine.h"
 #include "platform/Terminal.h"
+#include "support/ReportDocument.h"
+#include "support/Utilities.h"
 
 #include <QHostAddress>
 
 #include <chrono>
+#include <utility>
 
 using namespace std::chrono_literals;
 
@@ -66,32 +69,59 @@ void Session::showRuns()
     connect(&m_engine, &TransferEngine::pausedByPeer, this, [this] { m_output.paused(Side::Peer); });
     connect(&m_engine, &TransferEngine::transferResumed, this, [this] { m_output.resumed(Side::Here); });
     connect(&m_engine, &TransferEngine::resumedByPeer, this, [this] { m_output.resumed(Side::Peer); });
-    collectItems();
+    connect(&m_engine, &TransferEngine::installing, this, &Session::showInstalling);
+    connect(&m_engine, &TransferEngine::spaceShort, this,
+            [this](qint64 needed, qint64 available, const QString &volume) {
+                m_output.warning(
+                    tr("%1 are on their way, but only %2 are free on %3: not everything will fit.")
+                        .arg(formatSize(needed), formatSize(available), volume));
+            });
+    showLink();
 }
 
-void Session::collectItems()
+void Session::showLink()
 {
-    connect(&m_engine, &TransferEngine::transferStarted, this, [this] { m_items = {}; });
-    connect(&m_engine, &TransferEngine::newTransferStarted, this, [this] { m_items = {}; });
-    // The New PC waits for a further run without another word.
-    connect(&m_engine, &TransferEngine::peerCancelled, this, [this] { m_items = {}; });
-    connect(&m_engine, &TransferEngine::appOutcome, this,
-            [this](const QString &name, bool success, const QString &error) {
-                m_items.apps.append({name, success, error});
-            });
-    connect(&m_engine, &TransferEngine::settingOutcome, this,
-            [this](const QString &name, bool success, const QString &error) {
-                m_items.settings.append({name, success, error});
-            });
+    connect(&m_engine, &TransferEngine::linkSilent, this, [this](int seconds) {
+        if (!std::exchange(m_linkSilent, true))
+            m_output.warning(
+                tr("No answer from %1 for %2 s").arg(connectedPeer().name, QString::number(seconds)));
+    });
+    connect(&m_engine, &TransferEngine::linkAnswers, this, [this] {
+        if (std::exchange(m_linkSilent, false))
+            m_output.warning(tr("%1 answers again").arg(connectedPeer().name));
+    });
+    connect(&m_engine, &TransferEngine::connected, this, [this] { m_linkSilent = false; });
 }
 
-void Session::showReport(const MigrationReport &report)
+void Session::showInstalling(const QString &app, int percent)
+{
+    const bool isNew = m_installing != app;
+    if (!isNew && !progressIsDue())
+        return;
+    m_installing = app;
+    m_output.installing(m_options.role == NewPC ? getComputerName() : connectedPeer().name, app, percent);
+}
+
+void Session::showReport(const RunSummary &summary)
 {
     showLastProgress();
-    m_output.report(report, m_items);
+    m_output.report(summary);
+    m_installing.clear();
+    keepReport(summary);
     // A further run may stand behind what an earlier one has left the other PC to do.
-    if (report.appsSuccess > 0 || report.settingsSuccess > 0)
+    if (summary.apps.arrived > 0 || summary.settings.arrived > 0)
         m_farewellTime = FarewellTimeInstalling;
+}
+
+void Session::keepReport(const RunSummary &summary)
+{
+    if (m_options.report.isEmpty() || (summary.total() == 0 && summary.end != RunEnd::Complete))
+        return;
+    const QString problem = saveReport(summary, m_options.report);
+    if (problem.isEmpty())
+        return;
+    m_output.error(problem);
+    m_reportLost = true;
 }
 
 void Session::showProgress(const TransferProgress &progress)
@@ -166,7 +196,7 @@ void Session::finish(ExitCode exitCode)
     if (m_finishing)
         return;
     m_finishing = true;
-    m_exitCode = exitCode;
+    m_exitCode = m_reportLost && exitCode == EverythingMoved ? SomethingMissing : exitCode;
     QObject::disconnect(&m_engine, nullptr, this, nullptr);
     m_engine.stopDiscovery();
     if (m_link == Link::Up) {

@@ -62,8 +62,11 @@ protected:
     void showRuns();
     /// Whether it is time to show progress again: at most five times a second.
     [[nodiscard]] bool progressIsDue();
-    /// Shows how a run ended, with the applications and settings that it moved.
-    void showReport(const MigrationReport &report);
+    /// Shows how a run ended, and keeps its report where the user wants it.
+    void showReport(const RunSummary &summary);
+    /// Writes the file of --report, unless the run ended before it moved anything. A failure is told, and
+    /// then the session doesn't end as if everything had moved.
+    void keepReport(const RunSummary &summary);
 
     /// Reads standard input from now on: each line goes to `onInput`, its end to `onInputEnded`.
     void readInput();
@@ -83,7 +86,8 @@ protected:
 private:
     void hangUp();
     void onNoFarewell();
-    void collectItems();
+    void showLink();
+    void showInstalling(const QString &app, int percent);
     void showProgress(const TransferProgress &progress);
     void showLastProgress();
     void conclude();
@@ -96,7 +100,9 @@ private:
     QElapsedTimer m_sinceProgress;
     TransferProgress m_heldProgress;
     bool m_progressHeld = false;
-    RunItems m_items;
+    QString m_installing;      ///< the application that was named last
+    bool m_linkSilent = false; ///< and the user knows
+    bool m_reportLost = false;
     std::chrono::milliseconds m_farewellTime; ///< how long a peer that has got everything may take to hang up
     bool m_finishing = false;
     bool m_concluded = false;

@@ -2,6 +2,7 @@
 
 #include "cli/Columns.h"
 #include "support/PrintableText.h"
+#include "support/RunTexts.h"
 #include "support/Utilities.h"
 
 #include <optional>
@@ -16,6 +17,7 @@ namespace {
 constexpr int NarrowestLiveLine = 20; // columns; less says nothing
 constexpr int CountColumns = 8;
 constexpr int SizeColumns = 11;
+constexpr int MaxShownFiles = 20;
 
 /// Name of a peer for a person, with what is known besides it.
 QString described(const PCInfo &pc)
@@ -155,43 +157,89 @@ void TextOutput::cancelled(Side by)
     line(by == Side::Here ? tr("Cancelled.") : tr("Cancelled by %1.").arg(m_peerName));
 }
 
-void TextOutput::report(const MigrationReport &report, const RunItems &items)
+void TextOutput::installing(const QString &pcName, const QString &app, int percent)
 {
-    const int seconds = static_cast<int>(report.startTime.secsTo(report.endTime));
-    const QString time = formatTime(seconds);
-    const QString size = formatSize(report.totalBytes);
-    line(report.averageSpeed > 0
-             ? tr("Done in %1: %2, %3 on average.").arg(time, size, formatSpeed(report.averageSpeed))
-             : tr("Done in %1: %2.").arg(time, size));
-    const QString format = m_role == NewPC ? tr("Files: %1 received, %2 failed, %3 skipped.")
-                                           : tr("Files: %1 sent, %2 failed, %3 skipped.");
-    line(format.arg(QString::number(report.filesSuccess), QString::number(report.filesFailed),
-                    QString::number(report.filesSkipped)));
-    savedFolders(report);
-    const bool receives = m_role == NewPC;
-    outcomes(tr("Applications:"), receives ? tr("installed") : tr("sent"), items.apps);
-    outcomes(tr("Settings:"), receives ? tr("applied") : tr("sent"), items.settings);
+    if (m_installing != app)
+        line(tr("%1 is installing %2...").arg(pcName, app));
+    m_installing = app;
+    showLiveLine(tr("Installing %1").arg(app) + u"  %1%"_s.arg(percent));
 }
 
-void TextOutput::outcomes(const QString &head, const QString &done, const QList<ItemOutcome> &items)
+void TextOutput::report(const RunSummary &summary)
 {
-    if (items.isEmpty())
+    m_installing.clear();
+    const QString time = formatTime(static_cast<int>(summary.startTime.secsTo(summary.endTime)));
+    const QString size = formatSize(summary.arrivedBytes);
+    const double speed = summary.averageSpeed();
+    if (summary.end != RunEnd::Complete)
+        line(arrivedFilesText(summary) + u'.');
+    else if (speed > 0)
+        line(tr("Done in %1: %2, %3 on average.").arg(time, size, formatSpeed(speed)));
+    else
+        line(tr("Done in %1: %2.").arg(time, size));
+    const OutcomeCounts &counts = summary.files;
+    line(tr("Files: %1 arrived, %2 failed, %3 were there before.")
+             .arg(QString::number(counts.arrived),
+                  QString::number(counts.failed + counts.notConfirmed + counts.pending),
+                  QString::number(counts.wasThere + counts.wasDifferent)));
+    missingFiles(summary);
+    savedFolders(summary);
+    const bool receives = m_role == NewPC;
+    items(tr("Applications:"), receives ? tr("installed") : tr("sent"), summary.items, ItemKind::Application);
+    items(tr("Settings:"), receives ? tr("applied") : tr("sent"), summary.items, ItemKind::Setting);
+}
+
+void TextOutput::missingFiles(const RunSummary &summary)
+{
+    for (const FullVolume &volume : summary.fullVolumes)
+        line(fullVolumeText(volume));
+    const OutcomeCounts &counts = summary.files;
+    if (counts.missing() == 0)
         return;
-    line(head);
-    for (const ItemOutcome &item : items) {
-        const QString failure = item.error.isEmpty() ? tr("failed") : tr("failed: %1").arg(item.error);
-        line(u"  "_s + item.name + u": "_s + (item.success ? done : failure));
+    line(missingFilesText(summary) + u':');
+    files(summary.notArrived, counts.missing() - counts.wasDifferent);
+    files(summary.different, counts.wasDifferent);
+}
+
+/// The first of `all` files, and how many there are beyond.
+void TextOutput::files(const QList<ItemResult> &results, int all)
+{
+    int shown = 0;
+    for (const ItemResult &result : results) {
+        if (result.kind != ItemKind::File)
+            continue;
+        if (shown == MaxShownFiles)
+            break;
+        line(u"  "_s + result.path + u": "_s + result.reason);
+        ++shown;
+    }
+    if (all > shown)
+        line(u"  "_s + tr("and %1 more").arg(countText(all - shown)));
+}
+
+void TextOutput::items(const QString &head, const QString &done, const QList<ItemResult> &results,
+                       ItemKind kind)
+{
+    bool headShown = false;
+    for (const ItemResult &item : results) {
+        if (item.kind != kind)
+            continue;
+        if (!std::exchange(headShown, true))
+            line(head);
+        const QString outcome = item.outcome == ItemOutcome::Arrived ? done : outcomeText(item.outcome);
+        line(u"  "_s + item.path + u": "_s +
+             (item.reason.isEmpty() ? outcome : outcome + u": "_s + item.reason));
     }
 }
 
-void TextOutput::savedFolders(const MigrationReport &report)
+void TextOutput::savedFolders(const RunSummary &summary)
 {
-    if (report.savedFolderPaths.isEmpty())
+    if (summary.savedFolderPaths.isEmpty())
         return;
     line(tr("Files saved:"));
-    for (auto folder = report.savedFolderPaths.begin(); folder != report.savedFolderPaths.end(); ++folder) {
-        const QString count = QString::number(report.savedFolderCounts.value(folder.key()));
-        const QString sample = report.savedFolderSamples.value(folder.key());
+    for (auto folder = summary.savedFolderPaths.begin(); folder != summary.savedFolderPaths.end(); ++folder) {
+        const QString count = QString::number(summary.savedFolderCounts.value(folder.key()));
+        const QString sample = summary.savedFolderSamples.value(folder.key());
         line(count.rightJustified(CountColumns) + u"  "_s + folder.value() +
              (sample.isEmpty() ? QString() : u' ' + sample));
     }

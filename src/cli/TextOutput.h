@@ -30,7 +30,8 @@ public:
     void paused(Side by) override;
     void resumed(Side by) override;
     void cancelled(Side by) override;
-    void report(const MigrationReport &report, const RunItems &items) override;
+    void installing(const QString &pcName, const QString &app, int percent) override;
+    void report(const RunSummary &summary) override;
     void scanning(int percent, const QString &item, int apps) override;
     void inventory(const ScanResult &result) override;
     void warning(const QString &message) override;
@@ -41,8 +42,10 @@ private:
     void errorText(const QByteArray &bytes);
     void showLiveLine(const QString &text);
     void clearLiveLine();
-    void savedFolders(const MigrationReport &report);
-    void outcomes(const QString &head, const QString &done, const QList<ItemOutcome> &items);
+    void missingFiles(const RunSummary &summary);
+    void files(const QList<ItemResult> &results, int all);
+    void savedFolders(const RunSummary &summary);
+    void items(const QString &head, const QString &done, const QList<ItemResult> &results, ItemKind kind);
     void section(const QString &title, const QStringList &rows);
 
     Streams m_streams;
@@ -50,6 +53,7 @@ private:
     bool m_listsPeers;
     bool m_liveLineShown = false;
     QString m_peerName;
+    QString m_installing; ///< the application that was named last
 };
 
 } // namespace Zandrove::Cli

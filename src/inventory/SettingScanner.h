@@ -7,9 +7,10 @@
 #include <QObject>
 
 #include <optional>
-#include <span>
 
 namespace Zandrove {
+
+struct KnownSetting;
 
 /// Lists the system settings that can be moved: a fixed catalogue, in which only the wallpaper and the number
 /// of environment variables are looked up. The wallpaper is left out where there is no picture.
@@ -38,9 +39,7 @@ Q_SIGNALS:
     void cancelled();
 
 private:
-    struct CatalogueEntry;
-    [[nodiscard]] static std::span<const CatalogueEntry> catalogue();
-    [[nodiscard]] static std::optional<SettingInfo> settingFor(const CatalogueEntry &entry);
+    [[nodiscard]] static std::optional<SettingInfo> settingFor(const KnownSetting &entry);
     [[nodiscard]] QList<SettingInfo> scanSettings(quint64 run);
 
     ScanRuns m_runs;

@@ -1,5 +1,6 @@
 #include "peer/CableModeHelper.h"
 
+#include "peer/AddressRules.h"
 #include "peer/Log.h"
 
 #include <QDateTime>
@@ -22,73 +23,18 @@ namespace {
 constexpr qsizetype ProbesPerBatch = 30;
 constexpr auto BatchTimeout = 150ms;
 constexpr int HighestLayer = 5;
-constexpr int FirstHost = 1;
-constexpr int LastHost = 254;
-constexpr int HostsPerSubnet = LastHost - FirstHost + 1;
-constexpr int HighestOctet = 255;
 constexpr int ReachabilityTimeoutMs = 200;
 constexpr qint64 ReachabilityLifetimeMs = 3000;
 constexpr auto TargetProperty = "targetIP";
 
-constexpr auto LinkLocalPrefix = "169.254."_L1;
 constexpr auto LoopbackPrefix = "127."_L1;
 /// The network that Windows gives to the PCs it shares its internet connection with.
 constexpr auto SharingPrefix = "192.168.137."_L1;
 
-bool isIPv4(const AdapterAddress &entry)
-{
-    return entry.ip.protocol() == QHostAddress::IPv4Protocol;
-}
-
 bool isPlainPrivate(const QString &ip)
 {
-    return CableModeHelper::isPrivateIP(ip) && !ip.startsWith(LinkLocalPrefix) &&
-           !ip.startsWith(LoopbackPrefix) && !ip.startsWith(SharingPrefix);
-}
-
-/// Addresses in the order they were added, each once.
-class TargetList
-{
-public:
-    explicit TargetList(const QSet<QString> &excluded)
-        : m_seen(excluded)
-    {
-    }
-
-    /// Adds the hosts of the /24 that starts with `prefix`, as in "10.0.0.".
-    void addSubnet(const QString &prefix)
-    {
-        for (int host = FirstHost; host <= LastHost; ++host) {
-            const QString ip = prefix + QString::number(host);
-            if (m_seen.contains(ip))
-                continue;
-            m_seen.insert(ip);
-            m_targets.append(ip);
-        }
-    }
-
-    [[nodiscard]] QStringList targets() const { return m_targets; }
-
-private:
-    QSet<QString> m_seen;
-    QStringList m_targets;
-};
-
-void addTargetsAround(const QString &ip, const QString &adapterName, int layer, TargetList &list)
-{
-    const QStringList octets = ip.split(u'.');
-    if (octets.size() != 4)
-        return;
-    if (ip.startsWith(LinkLocalPrefix)) {
-        qCDebug(logPeer) << "[CableModeHelper] Found APIPA:" << ip << "on" << adapterName
-                         << "layer:" << layer;
-        const int own = octets.at(2).toInt();
-        for (int third = std::max(own - layer, 0); third <= std::min(own + layer, HighestOctet); ++third)
-            list.addSubnet(LinkLocalPrefix + QString::number(third) + u'.');
-    } else if (CableModeHelper::isPrivateIP(ip)) {
-        qCDebug(logPeer) << "[CableModeHelper] Found private network:" << ip;
-        list.addSubnet(octets.first(3).join(u'.') + u'.');
-    }
+    return isPrivateIP(ip) && !ip.startsWith(LinkLocalPrefix) && !ip.startsWith(LoopbackPrefix) &&
+           !ip.startsWith(SharingPrefix);
 }
 
 } // namespace
@@ -148,42 +94,6 @@ bool CableModeHelper::isLocalIP(const QString &ip)
     if (!m_localIPsValid)
         refreshLocalIPs();
     return m_localIPs.contains(normalizeIP(ip));
-}
-
-bool CableModeHelper::isPrivateIP(const QString &ip)
-{
-    if (ip.startsWith("10."_L1) || ip.startsWith("192.168."_L1))
-        return true;
-    if (!ip.startsWith("172."_L1))
-        return false;
-    const int second = ip.section(u'.', 1, 1).toInt();
-    return second >= 16 && second <= 31;
-}
-
-bool CableModeHelper::isSameSubnet(const QString &a, const QString &b)
-{
-    bool aIsIPv4 = false;
-    bool bIsIPv4 = false;
-    const quint32 first = QHostAddress(a).toIPv4Address(&aIsIPv4);
-    const quint32 second = QHostAddress(b).toIPv4Address(&bIsIPv4);
-    const bool linkLocal = a.startsWith(LinkLocalPrefix) || b.startsWith(LinkLocalPrefix);
-    const quint32 mask = linkLocal ? 0xFFFF0000 : 0xFFFFFF00;
-    return aIsIPv4 && bIsIPv4 && (first & mask) == (second & mask);
-}
-
-QStringList CableModeHelper::scanTargets(const QList<NetworkAdapter> &adapters,
-                                         const QSet<QString> &ownAddresses, int layer)
-{
-    TargetList list(ownAddresses);
-    for (const NetworkAdapter &adapter : adapters) {
-        if (!adapter.up || adapter.loopback)
-            continue;
-        for (const AdapterAddress &entry : adapter.addresses) {
-            if (isIPv4(entry))
-                addTargetsAround(entry.ip.toString(), adapter.name, layer, list);
-        }
-    }
-    return list.targets();
 }
 
 QString CableModeHelper::chooseBestIP(const QString &payloadIP, const QString &senderIP)
@@ -306,7 +216,7 @@ QStringList CableModeHelper::getLocalIPs() const
         if (!adapter.up || !adapter.running || adapter.loopback)
             continue;
         for (const AdapterAddress &entry : adapter.addresses) {
-            if (isIPv4(entry))
+            if (isIPv4(entry.ip))
                 ips.append(entry.ip.toString());
         }
     }

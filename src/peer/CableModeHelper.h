@@ -31,7 +31,6 @@ public:
     explicit CableModeHelper(AdapterSource adapters, QObject *parent = nullptr);
     ~CableModeHelper() override;
 
-    void setRole(int role) { m_role = role; }
     void setTargetPort(quint16 port) { m_targetPort = port; }
 
     /// Refreshes the known local addresses. Never changes an adapter. Returns whether cable mode had been
@@ -47,19 +46,6 @@ public:
 
     /// Whether `ip`, normalised, is one of this machine's own addresses, as they were when last refreshed.
     [[nodiscard]] bool isLocalIP(const QString &ip);
-
-    /// Whether `ip` is written as an IPv4 address in 10/8, 172.16/12 or 192.168/16.
-    [[nodiscard]] static bool isPrivateIP(const QString &ip);
-
-    /// Whether two IPv4 addresses share their first two octets where one of them is link-local, else their
-    /// first three.
-    [[nodiscard]] static bool isSameSubnet(const QString &a, const QString &b);
-
-    /// The addresses that a sweep tries at `layer` (0 to 5), in order: for each link-local address of an
-    /// adapter that is up its own /24 and `layer` neighbours on either side, for each private address its
-    /// /24. Leaves out `ownAddresses` and repeats.
-    [[nodiscard]] static QStringList scanTargets(const QList<NetworkAdapter> &adapters,
-                                                 const QSet<QString> &ownAddresses, int layer);
 
     /// Which of a peer's two addresses to dial: the one in a subnet of this machine, else one that answers a
     /// probe where link-local addresses are about, else the sender's.
@@ -117,7 +103,6 @@ private:
     int m_currentLayer = 0;
     bool m_foundDevice = false;
     QHash<QString, Reachability> m_reachableCache;
-    int m_role = OldPC;
     quint16 m_targetPort = TcpPort;
     bool m_cableModeInitialized = false;
     QSet<QString> m_localIPs;

@@ -1,24 +1,34 @@
 #include "peer/NetworkManager.h"
 
+#include "peer/Beacon.h"
 #include "peer/CableModeHelper.h"
+#include "peer/Link.h"
 #include "peer/Log.h"
+#include "peer/PeerText.h"
+#include "support/Json.h"
+#include "support/Utilities.h"
 
+#include <QDeadlineTimer>
+#include <QJsonObject>
+#include <QNetworkProxy>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTimer>
-#include <QUdpSocket>
 
 #include <utility>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace Zandrove {
 
 namespace {
 
-constexpr qint64 MiB = 1 << 20;
-/// Above this much waiting in the socket each further frame leaves a log line.
-constexpr qint64 HighBufferBytes = 16 * MiB;
+constexpr auto ConnectTimeout = 5000ms;
+/// How long the end of the program waits for the last frames to leave.
+constexpr auto FarewellTime = 200ms;
 /// What a peer that nobody has said yes to may keep waiting here in an unfinished frame.
-constexpr qsizetype UnacceptedLimitBytes = 16 * MiB;
+constexpr qsizetype UnacceptedLimitBytes = 16 << 20;
 
 } // namespace
 
@@ -26,31 +36,38 @@ NetworkManager::NetworkManager(QObject *parent, LinkEnvironment environment)
     : QObject(parent)
     , m_environment(std::move(environment))
     , m_cableHelper(new CableModeHelper(m_environment.adapters, this))
-    , m_udpSocket(new QUdpSocket(this))
-    , m_broadcastTimer(new QTimer(this))
+    , m_beacon(new Beacon(
+          m_environment, [this] { return discoveryFrame(); }, this))
     , m_timeoutTimer(new QTimer(this))
-    , m_connectionTimer(new QTimer(this))
-    , m_tcpServer(new QTcpServer(this))
-    , m_heartbeatTimer(new QTimer(this))
-    , m_burstTimer(new QTimer(this))
     , m_scanDelayTimer(new QTimer(this))
+    , m_tcpServer(new QTcpServer(this))
+    , m_connectionTimer(new QTimer(this))
     , m_pendingBytes(std::make_shared<std::atomic<qint64>>(0))
 {
     setupDiscovery();
-    setupConnection();
+    m_connectionTimer->setSingleShot(true);
+    m_connectionTimer->setInterval(ConnectTimeout);
+    connect(m_connectionTimer, &QTimer::timeout, this, &NetworkManager::onConnectionTimeout);
+    m_tcpServer->setProxy(QNetworkProxy::NoProxy);
+    connect(m_tcpServer, &QTcpServer::newConnection, this, &NetworkManager::onNewConnection);
     setupServer();
 }
 
+/// Says goodbye, and lets what waits in the current link, and in those that are closing, still go out.
 NetworkManager::~NetworkManager()
 {
     stopDiscovery();
-    closeAllSockets();
+    if (m_link && !m_link->isDialling())
+        sendCommand(Protocol::MessageType::Disconnect);
+    const QDeadlineTimer deadline(FarewellTime);
+    const auto links = findChildren<Link *>(Qt::FindDirectChildrenOnly);
+    for (Link *link : links)
+        link->farewell(deadline);
 }
 
 void NetworkManager::setRole(int role)
 {
     m_role = role;
-    m_cableHelper->setRole(role);
 }
 
 void NetworkManager::setMode(int mode)
@@ -65,37 +82,37 @@ void NetworkManager::setVerifyCode(const QString &code)
 
 QList<PCInfo> NetworkManager::discoveredPCs() const
 {
-    return m_discoveredPCs;
+    return m_peers.peers();
 }
 
 bool NetworkManager::isConnected() const
 {
-    return m_connected;
+    return m_pairing.isPaired();
 }
 
 PCInfo NetworkManager::connectedPC() const
 {
-    return m_connectedPC;
+    return m_pairing.peer();
 }
 
 bool NetworkManager::isAccepted() const
 {
-    return m_accepted;
+    return m_pairing.state() == Pairing::State::Accepted;
 }
 
 quint64 NetworkManager::acceptedLink() const
 {
-    return m_accepted ? m_linkSerial : 0;
+    return m_pairing.acceptedLink();
+}
+
+quint64 NetworkManager::openQuestion() const
+{
+    return m_pairing.openQuestion();
 }
 
 quint16 NetworkManager::serverPort() const
 {
     return m_tcpServer->serverPort();
-}
-
-quint64 NetworkManager::openQuestion() const
-{
-    return m_questionOpen ? m_questionSerial : 0;
 }
 
 std::shared_ptr<const std::atomic<qint64>> NetworkManager::pendingBytes() const
@@ -108,6 +125,12 @@ void NetworkManager::setReadGate(std::function<bool()> mayRead)
     m_readGate = std::move(mayRead);
 }
 
+void NetworkManager::resumeReading()
+{
+    if (m_link)
+        m_link->resumeReading();
+}
+
 void NetworkManager::sendSessionEnd()
 {
     qCDebug(logPeer) << "Sending SessionEnd to peer";
@@ -116,8 +139,8 @@ void NetworkManager::sendSessionEnd()
 
 void NetworkManager::sendData(const QByteArray &data)
 {
-    if (m_connected && isSocketOpen())
-        write(data);
+    if (m_link && isConnected())
+        m_link->sendRaw(data);
 }
 
 void NetworkManager::sendCommand(Protocol::MessageType type)
@@ -127,87 +150,224 @@ void NetworkManager::sendCommand(Protocol::MessageType type)
 
 void NetworkManager::sendCommand(Protocol::MessageType type, const QByteArray &payload)
 {
-    if (!isSocketOpen())
+    if (m_link)
+        m_link->send(type, payload);
+}
+
+void NetworkManager::connectToPC(const QString &pcId)
+{
+    qCDebug(logPeer) << "=== connectToPC() ===";
+    qCDebug(logPeer) << "Target:" << pcId;
+    const auto target = m_peers.withId(pcId);
+    if (!target) {
+        Q_EMIT connectionFailed(tr("PC not found"));
         return;
-    const qint64 waiting = m_tcpSocket->bytesToWrite();
-    if (waiting > HighBufferBytes)
-        qCDebug(logPeer) << "[NetworkManager] High buffer:" << waiting << "bytes";
-    write(buildPacket(type, payload));
+    }
+    const QString ip = m_cableHelper->chooseBestIP(target->ip, target->senderIp);
+    qCDebug(logPeer) << "Payload IP:" << target->ip;
+    qCDebug(logPeer) << "Sender IP:" << target->senderIp;
+    qCDebug(logPeer) << "Chosen IP:" << ip;
+    if (isAccepted())
+        endPair(); // a live link is given up for the new one
+    drop();
+    Link *link = adopt(new QTcpSocket);
+    m_pairing.dialled(*target);
+    applyPairing();
+    m_connectionTimer->start();
+    link->dial(ip, target->port);
 }
 
-void NetworkManager::resumeReading()
+void NetworkManager::connectByVerifyCode(const QString &code)
 {
-    if (std::exchange(m_readQueued, true))
+    const auto target = m_peers.withCode(code);
+    if (target)
+        connectToPC(target->id);
+    else
+        Q_EMIT connectionFailed(tr("No device found with verification code: %1").arg(code));
+}
+
+void NetworkManager::disconnect()
+{
+    sendCommand(Protocol::MessageType::Disconnect);
+    hangUp();
+}
+
+void NetworkManager::acceptConnection(quint64 question)
+{
+    qCDebug(logPeer) << "acceptConnection() called";
+    if (!m_link || !m_link->isEstablished() || !m_pairing.answerYes(question))
         return;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            m_readQueued = false;
-            if (m_tcpSocket)
-                onReadyRead(m_tcpSocket);
-        },
-        Qt::QueuedConnection);
+    sendCommand(Protocol::MessageType::ConnectAccept);
+    pair();
 }
 
-QByteArray NetworkManager::buildPacket(Protocol::MessageType type, const QByteArray &payload)
+void NetworkManager::rejectConnection(quint64 question)
 {
-    return Protocol::buildFrame(type, payload, ++m_sequence);
+    if (!m_link || !m_pairing.answerNo(question))
+        return;
+    sendCommand(Protocol::MessageType::ConnectReject);
+    hangUp();
 }
 
-/// Whether there is a socket that bytes can be written to, be it only for later, while it connects.
-bool NetworkManager::isSocketOpen() const
+void NetworkManager::onNewConnection()
 {
-    return m_tcpSocket && m_tcpSocket->state() != QAbstractSocket::UnconnectedState;
-}
-
-void NetworkManager::write(const QByteArray &bytes)
-{
-    m_tcpSocket->write(bytes);
-    notePendingBytes();
-}
-
-void NetworkManager::notePendingBytes()
-{
-    m_pendingBytes->store(isSocketOpen() ? m_tcpSocket->bytesToWrite() : 0);
-}
-
-void NetworkManager::onReadyRead(QTcpSocket *socket)
-{
-    const SocketHandling handling(m_handledSockets, socket);
-    readFrames(socket, true);
-}
-
-void NetworkManager::readFrames(QTcpSocket *socket, bool mindGate)
-{
-    while (socket == m_tcpSocket && !m_refused && (!mindGate || !m_readGate || m_readGate())) {
-        const auto frame =
-            m_receiveBuffer.read(*socket, m_accepted ? FrameReader::NoLimit : UnacceptedLimitBytes);
-        if (!frame)
-            return;
-        dispatch(*frame);
+    while (QTcpSocket *socket = m_tcpServer->nextPendingConnection()) {
+        drop();
+        const Link *link = adopt(socket);
+        m_pairing.cameIn();
+        applyPairing();
+        qCDebug(logPeer) << "New TCP connection from:" << link->peerAddress();
     }
 }
 
-void NetworkManager::dispatch(const Frame &frame)
+/// Makes a link over a fresh socket the current one; none is current when it is called.
+Link *NetworkManager::adopt(QTcpSocket *socket)
 {
-    switch (frame.type) {
+    const auto mayRead = [this] { return !m_readGate || m_readGate(); };
+    auto *link = new Link(socket, {&m_frames, m_pendingBytes, mayRead}, this);
+    connect(link, &Link::opened, this, &NetworkManager::onLinkOpened);
+    connect(link, &Link::frameReceived, this, &NetworkManager::onFrame);
+    connect(link, &Link::closed, this, [this, link] { onLinkClosed(link); });
+    connect(link, &Link::failed, this, &NetworkManager::onLinkFailed);
+    m_link = link;
+    return link;
+}
+
+/// Forgets the current link and its handshake, and returns it; null without one. Who was paired stays so.
+Link *NetworkManager::release()
+{
+    Link *link = std::exchange(m_link, nullptr);
+    m_pairing.ended();
+    applyPairing();
+    return link;
+}
+
+/// Ends the current link on the spot, unheard.
+void NetworkManager::drop()
+{
+    if (Link *link = release())
+        link->abandon();
+}
+
+/// Forgets the current link and the peer at once; what was sent is still delivered.
+void NetworkManager::hangUp()
+{
+    Link *link = release();
+    endPair();
+    if (link)
+        link->hangUp();
+}
+
+void NetworkManager::endPair()
+{
+    m_pairing.forgetPeer();
+    m_connectionTimer->stop();
+    if (m_link)
+        m_link->stopHeartbeat();
+}
+
+/// Goes on from the handshake's yes.
+void NetworkManager::pair()
+{
+    m_connectionTimer->stop();
+    applyPairing();
+    m_link->startHeartbeat();
+    Q_EMIT connected();
+}
+
+/// What hangs on the state of the handshake besides itself.
+void NetworkManager::applyPairing()
+{
+    m_cableHelper->setHandshakeOpen(m_pairing.isOpen());
+    if (m_link)
+        m_link->setFrameLimit(isAccepted() ? FrameReader::NoLimit : UnacceptedLimitBytes);
+}
+
+void NetworkManager::onLinkOpened()
+{
+    m_connectionTimer->stop();
+    const QJsonObject json{{u"name"_s, getComputerName()}, {u"os"_s, getOSVersion()}};
+    sendCommand(Protocol::MessageType::ConnectRequest, compactJson(json));
+}
+
+void NetworkManager::onLinkClosed(const Link *link)
+{
+    if (link == m_link) {
+        drop();
+        endPair();
+    }
+    if (!m_link)
+        Q_EMIT disconnected();
+}
+
+void NetworkManager::onLinkFailed(QAbstractSocket::SocketError error, const QString &reason)
+{
+    // A peer that closes an answered link ends it by `disconnected`, which comes next. A peer that closes
+    // instead of answering has failed the dial.
+    if (error == QAbstractSocket::RemoteHostClosedError && m_pairing.state() != Pairing::State::Dialling)
+        return;
+    m_connectionTimer->stop();
+    drop();
+    Q_EMIT connectionFailed(reason.isEmpty() ? tr("Unknown error") : reason);
+}
+
+void NetworkManager::onFrame(Protocol::MessageType type, const QByteArray &payload)
+{
+    switch (type) {
     case Protocol::MessageType::ConnectRequest:
-        onConnectRequest(frame.payload);
+        onConnectRequest(payload);
         return;
     case Protocol::MessageType::ConnectAccept:
-        onConnectAccept();
+        if (m_pairing.toldYes())
+            pair();
         return;
     case Protocol::MessageType::ConnectReject:
         onConnectReject();
         return;
     case Protocol::MessageType::Disconnect:
-        endLink();
+        m_pairing.peerLeft();
+        applyPairing();
+        endPair();
+        Q_EMIT disconnected();
         return;
     case Protocol::MessageType::Heartbeat:
         return;
     default:
-        Q_EMIT commandReceived(frame.type, frame.payload);
+        Q_EMIT commandReceived(type, payload);
     }
+}
+
+void NetworkManager::onConnectRequest(const QByteArray &payload)
+{
+    const QJsonObject json = parseJsonObject(payload).value_or(QJsonObject());
+    PCInfo asker;
+    asker.name = boundedText(json["name"_L1]);
+    asker.os = boundedText(json["os"_L1]);
+    asker.ip = m_link->peerAddress().toString();
+    asker.id = asker.name;
+    m_pairing.asked(asker);
+    applyPairing();
+    qCDebug(logPeer) << "Received ConnectRequest from:" << asker.name;
+    Q_EMIT connectionRequested(asker.name, m_verifyCode);
+}
+
+void NetworkManager::onConnectReject()
+{
+    if (!m_pairing.toldNo())
+        return;
+    m_connectionTimer->stop();
+    applyPairing();
+    Q_EMIT connectionFailed(tr("Connection rejected"));
+}
+
+/// The dial that timed out may have been displaced in the meantime: then only its user hears of it.
+void NetworkManager::onConnectionTimeout()
+{
+    qCDebug(logPeer) << "Connection timeout";
+    if (m_link && m_link->isDialling())
+        drop();
+    Q_EMIT connectionTimeout();
+    Q_EMIT connectionFailed(tr("Connection timeout"));
 }
 
 } // namespace Zandrove

@@ -1,11 +1,10 @@
 #pragma once
 
 #include "core/common/Records.h"
-#include "peer/FrameReader.h"
 #include "peer/LinkEnvironment.h"
+#include "peer/Pairing.h"
+#include "peer/PeerTable.h"
 #include "peer/Protocol.h"
-#include "peer/SocketHandling.h"
-#include "support/NetworkAdapters.h"
 
 #include <QAbstractSocket>
 #include <QObject>
@@ -18,14 +17,16 @@
 class QTcpServer;
 class QTcpSocket;
 class QTimer;
-class QUdpSocket;
 
 namespace Zandrove {
 
+class Beacon;
 class CableModeHelper;
+class Link;
 
 /// The link to other copies: discovery by broadcast, the table of peers, and at most one paired TCP
-/// connection that carries frames.
+/// connection that carries frames. It is the face of the rooms behind it, and joins them: `Beacon` and
+/// `PeerTable` for who is there, `Pairing` for who said yes, `Link` for the connection.
 ///
 /// Main thread only, apart from `pendingBytes`, whose counter may be read anywhere. Operations return
 /// nothing; a failure to connect leaves through `connectionFailed` with a translated text.
@@ -136,91 +137,51 @@ Q_SIGNALS:
     void commandReceived(Zandrove::Protocol::MessageType type, const QByteArray &payload);
 
 private:
-    // NetworkManager.cpp
-    [[nodiscard]] QByteArray buildPacket(Protocol::MessageType type, const QByteArray &payload);
-    [[nodiscard]] bool isSocketOpen() const;
-    void write(const QByteArray &bytes);
-    void notePendingBytes();
-    void onReadyRead(QTcpSocket *socket);
-    void readFrames(QTcpSocket *socket, bool mindGate);
-    void dispatch(const Frame &frame);
-
-    // NetworkManagerDiscovery.cpp
+    // NetworkManagerDiscovery.cpp: who is there, and how others find and dial this copy
     void setupDiscovery();
-    void clearTable();
-    void startBurst();
-    void sendBurst();
-    void sendBroadcast();
-    void sendDatagram(const QByteArray &datagram, const QHostAddress &target);
-    [[nodiscard]] QByteArray discoveryPayload() const;
-    void onBroadcastReceived();
+    void setupServer();
+    [[nodiscard]] bool listen();
+    void refreshAddresses();
+    void startTimers();
+    [[nodiscard]] QByteArray discoveryFrame();
     [[nodiscard]] std::optional<PCInfo> peerFrom(const QByteArray &payload, const QString &senderIP) const;
-    void addOrUpdate(const PCInfo &pc);
-    void update(qsizetype index, const PCInfo &pc);
-    void giveUpId(const QString &id);
-    [[nodiscard]] bool append(const PCInfo &pc);
-    void forgetTimes(const QString &id);
-    void removeLost(const QString &id);
     void onDirectScanDeviceFound(const QString &ip);
 
-    // NetworkManagerConnection.cpp
-    void setupConnection();
-    void setupServer();
+    // NetworkManager.cpp: the connection
     void onNewConnection();
-    void adopt(QTcpSocket *socket, bool dialled);
-    [[nodiscard]] QTcpSocket *releaseSocket();
-    void dropSocket();
-    void hangUp(QTcpSocket *socket);
-    void closeAllSockets();
-    void resetPairing();
-    void endLink();
-    void completePairing();
-    void onSocketConnected(QTcpSocket *socket);
-    void onSocketDisconnected(QTcpSocket *socket);
-    void onSocketError(QTcpSocket *socket, QAbstractSocket::SocketError error);
-    void onConnectionTimeout();
+    Link *adopt(QTcpSocket *socket);
+    [[nodiscard]] Link *release();
+    void drop();
+    void hangUp();
+    void endPair();
+    void pair();
+    void applyPairing();
+    void onLinkOpened();
+    void onLinkClosed(const Link *link);
+    void onLinkFailed(QAbstractSocket::SocketError error, const QString &reason);
+    void onFrame(Protocol::MessageType type, const QByteArray &payload);
     void onConnectRequest(const QByteArray &payload);
-    void onConnectAccept();
     void onConnectReject();
-    void sendHeartbeat();
-    void setHandshake(bool dialOpen, bool questionOpen);
-    [[nodiscard]] bool mayAnswer(quint64 question) const;
+    void onConnectionTimeout();
 
-    LinkEnvironment m_environment;
+    const LinkEnvironment m_environment;
     CableModeHelper *m_cableHelper;
-    quint32 m_sequence = 0;
+    Protocol::FrameBuilder m_frames;
     int m_mode = NetworkMode;
     int m_role = OldPC;
-    bool m_connected = false;
     QString m_verifyCode;
-    QUdpSocket *m_udpSocket;
-    QTimer *m_broadcastTimer;
-    QTimer *m_timeoutTimer;
-    QTimer *m_connectionTimer;
-    QList<PCInfo> m_discoveredPCs;
-    QMap<QString, QDateTime> m_lastSeen;
-    QMap<QString, int> m_missedChecks;
-    QTcpServer *m_tcpServer;
-    QTcpSocket *m_tcpSocket = nullptr;
-    QTimer *m_heartbeatTimer;
-    PCInfo m_connectedPC;
-    PCInfo m_pendingPC;
-    FrameReader m_receiveBuffer;
 
-    QTimer *m_burstTimer;
-    int m_burstLeft = 0;          ///< broadcasts of the burst still to be sent
-    QTimer *m_scanDelayTimer;     ///< runs from a start of discovery in cable mode to the start of the sweep
-    bool m_accepted = false;      ///< of the current socket
-    bool m_dialOpen = false;      ///< the current socket is an own dial that has not been answered
-    bool m_questionOpen = false;  ///< a ConnectRequest on the current socket waits for the user
-    bool m_refused = false;       ///< the current socket was told no: nothing of it is read any more
-    quint64 m_linkSerial = 0;     ///< goes up with each pairing
-    quint64 m_questionSerial = 0; ///< goes up with each question, 0 before the first
-    int m_tableGeneration = 0;    ///< goes up when the table is cleared
-    HandledSockets m_handledSockets;
-    std::function<bool()> m_readGate;
-    bool m_readQueued = false;
+    Beacon *m_beacon;
+    QTimer *m_timeoutTimer;
+    QTimer *m_scanDelayTimer; ///< runs from a start of discovery in cable mode to the start of the sweep
+    PeerTable m_peers;
+
+    QTcpServer *m_tcpServer;
+    QTimer *m_connectionTimer; ///< runs from a dial until TCP is up
+    Pairing m_pairing;
+    Link *m_link = nullptr; ///< the current connection; those that are closing are children only
     std::shared_ptr<std::atomic<qint64>> m_pendingBytes;
+    std::function<bool()> m_readGate;
 };
 
 } // namespace Zandrove

@@ -55,6 +55,19 @@ struct FrameHeader
 /// The whole frame for a message.
 [[nodiscard]] QByteArray buildFrame(MessageType type, const QByteArray &payload, quint32 sequence);
 
+/// Builds all frames of one copy, by UDP and TCP alike: they share one running number, the first is 1.
+class FrameBuilder final
+{
+public:
+    [[nodiscard]] QByteArray buildPacket(MessageType type, const QByteArray &payload)
+    {
+        return buildFrame(type, payload, ++m_sequence);
+    }
+
+private:
+    quint32 m_sequence = 0;
+};
+
 /// The header at the start of `bytes`, or nothing while fewer than HeaderSize bytes are there. The magic is
 /// not judged.
 [[nodiscard]] std::optional<FrameHeader> readHeader(QByteArrayView bytes);

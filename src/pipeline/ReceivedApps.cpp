@@ -3,7 +3,9 @@
 #include "appmigration/AppMessages.h"
 #include "pipeline/DestinationGuard.h"
 #include "pipeline/DestinationMap.h"
+#include "pipeline/InstallWorker.h"
 #include "pipeline/Log.h"
+#include "pipeline/WorkerThread.h"
 
 #include <QDir>
 
@@ -26,21 +28,15 @@ QString appOfFile(const QString &relativePath)
 
 } // namespace
 
-ReceivedApps::ReceivedApps(QObject *parent)
+ReceivedApps::ReceivedApps(WorkerThread &thread, QObject *parent)
     : QObject(parent)
+    , m_worker(new InstallWorker)
 {
-    connect(&m_appInstaller, &AppInstaller::progress, this,
-            [this](const QString &name, int percent, const QString &status) {
-                qCDebug(logPipeline) << "Installing" << name << percent << status;
-                Q_EMIT installProgress(name, percent, status);
-            });
-    connect(&m_appInstaller, &AppInstaller::finished, this,
-            [this](const QString &name, bool success, const QString &error) {
-                qCDebug(logPipeline) << "App install finished:" << name << (success ? "SUCCESS" : "FAILED");
-                if (!error.isEmpty())
-                    qCDebug(logPipeline) << "  Error:" << error;
-                Q_EMIT installFinished(name, success, error);
-            });
+    connect(m_worker, &InstallWorker::progress, this, &ReceivedApps::installProgress);
+    connect(m_worker, &InstallWorker::finished, this, &ReceivedApps::installFinished);
+    connect(m_worker, &InstallWorker::installed, this, &ReceivedApps::installed);
+    connect(m_worker, &InstallWorker::cleanedUp, this, &ReceivedApps::cleanedUp);
+    thread.carry(m_worker);
 }
 
 bool ReceivedApps::begin(const QByteArray &payload)
@@ -113,15 +109,11 @@ void ReceivedApps::tryInstallApp(const QString &appName)
     qCDebug(logPipeline) << "  originalInstallLocation:" << package.originalInstallLocation;
     qCDebug(logPipeline) << "  sourceUser:" << package.sourceUser;
 
-    const bool success = m_appInstaller.install(package);
-    qCDebug(logPipeline) << (success ? "App installed successfully:" : "App install failed:") << appName;
-    if (!removeReceived(package.receivedBasePath))
-        qCDebug(logPipeline) << "Something is left in temp directory:" << package.receivedBasePath;
-    qCDebug(logPipeline) << "Cleaned up temp directory:" << package.receivedBasePath;
+    QMetaObject::invokeMethod(
+        m_worker, [worker = m_worker, package] { worker->install(package); }, Qt::QueuedConnection);
     m_receivedPackages.remove(appName);
     m_appOpenFiles.remove(appName);
     m_appEndReceived.remove(appName);
-    Q_EMIT installed(appName, success, success ? QString() : package.errorMessage);
 }
 
 void ReceivedApps::forceInstallAll()
@@ -138,24 +130,8 @@ void ReceivedApps::forceInstallAll()
 
 void ReceivedApps::cleanUp()
 {
-    const QDir folder(receivedAppsFolder());
-    if (folder.exists()) {
-        const QStringList remaining = folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-        if (!remaining.isEmpty())
-            qCDebug(logPipeline) << "Found" << remaining.size()
-                                 << "remaining app directories (not installed)";
-        for (const QString &name : remaining)
-            qCDebug(logPipeline) << "  Remaining:" << name;
-        if (removeReceived(folder.path()))
-            qCDebug(logPipeline) << "Cleaned up received apps temp directory";
-    }
-    forgetPackages();
-}
-
-void ReceivedApps::forgetFiles()
-{
-    m_appOpenFiles.clear();
-    m_appEndReceived.clear();
+    m_receivedPackages.clear();
+    QMetaObject::invokeMethod(m_worker, &InstallWorker::cleanUp, Qt::QueuedConnection);
 }
 
 } // namespace Zandrove

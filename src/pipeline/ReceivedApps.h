@@ -1,6 +1,5 @@
 #pragma once
 
-#include "appmigration/AppInstaller.h"
 #include "appmigration/AppPackage.h"
 
 #include <QByteArray>
@@ -10,17 +9,22 @@
 
 namespace Zandrove {
 
+class InstallWorker;
+class WorkerThread;
+
 /// The New PC's applications in transit: which are announced, which of their files are on the way, and their
 /// installation once they are whole. Their files lie below receivedAppsFolder(), a folder for each, and
 /// nothing outside is ever removed, whatever an application is called.
 ///
-/// Main thread only. An application that can't be installed costs itself alone.
+/// Main thread only; the installing itself happens on the thread that it is given, one application after the
+/// other. One that can't be installed costs itself alone.
 class ReceivedApps final : public QObject
 {
     Q_OBJECT
 
 public:
-    explicit ReceivedApps(QObject *parent = nullptr);
+    /// Installs on `thread`, which must outlive this object.
+    ReceivedApps(WorkerThread &thread, QObject *parent);
 
     /// An application is announced by this message: its folder is made, empty, and it waits to be installed.
     /// One of the same name is replaced. False, and nothing done, for a message that can't be read, a name
@@ -37,27 +41,26 @@ public:
     /// Whether `appName` has ended and none of its files is on the way.
     [[nodiscard]] bool isComplete(const QString &appName) const;
 
-    /// Installs `appName` from what has arrived, and removes that. Blocks for as long as that takes. Emits
-    /// `installed`; does nothing where no such application waits.
+    /// Has `appName` installed from what has arrived, and that removed. `installed` tells the outcome;
+    /// nothing happens where no such application waits.
     void tryInstallApp(const QString &appName);
     /// The same for all that still wait, complete or not.
     void forceInstallAll();
 
-    /// Removes all that has arrived and forgets what waits.
+    /// Removes all that has arrived, behind what is being installed, and forgets what waits. `cleanedUp`
+    /// follows.
     void cleanUp();
-    /// Forgets files on the way and ends; `forgetPackages()` also what waits to be installed.
-    void forgetFiles();
-    void forgetPackages() { m_receivedPackages.clear(); }
 
 Q_SIGNALS:
     void installProgress(const QString &appName, int percent, const QString &status);
     /// The installation has come to its end, before what has arrived is removed.
     void installFinished(const QString &appName, bool success, const QString &error);
-    /// The outcome, as `tryInstallApp` came to it.
+    /// The outcome, when what had arrived is removed.
     void installed(const QString &appName, bool success, const QString &error);
+    void cleanedUp();
 
 private:
-    AppInstaller m_appInstaller;
+    InstallWorker *m_worker;                          // owned by the thread
     QMap<QString, AppPackageInfo> m_receivedPackages; // by name, not yet installed
     QMap<QString, int> m_appOpenFiles;                // by the name in the path
     QMap<QString, bool> m_appEndReceived;             // by name

@@ -1,5 +1,6 @@
 #include "settings/SettingApply.h"
 
+#include "core/common/KnownSettings.h"
 #include "platform/FileAttributes.h"
 #include "platform/LastError.h"
 #include "platform/Registry.h"
@@ -7,16 +8,10 @@
 #include "settings/Log.h"
 #include "settings/SettingPrograms.h"
 #include "support/Json.h"
+#include "support/ReplacingFile.h"
 
-#include <QDir>
-#include <QFile>
 #include <QJsonObject>
-#include <QLatin1StringView>
 #include <QStandardPaths>
-
-#include <algorithm>
-#include <array>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 using Zandrove::Platform::SystemParameter;
@@ -24,6 +19,9 @@ using Zandrove::Platform::SystemParameter;
 namespace Zandrove {
 
 namespace {
+
+constexpr int SlowestPointer = 1;
+constexpr int FastestPointer = 20;
 
 void writeValue(Platform::RegistryKey &key, const QString &name, const QString &value)
 {
@@ -38,50 +36,40 @@ bool isPlainFileName(const QString &name)
            !Platform::isUnsafeRelativePath(name);
 }
 
-/// Writes the picture where the system goes on reading it. Empty where that failed.
-QString savePicture(const SettingPackage &package)
+/// Where the system goes on reading the package's picture.
+QString pictureFolder()
 {
-    if (!isPlainFileName(package.fileName))
-        return {};
-    const QString folder =
-        QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) + u"/Zandrove"_s;
-    QDir().mkpath(folder);
-    QFile file(folder + u'/' + package.fileName);
-    if (!file.open(QIODevice::WriteOnly))
-        return {};
-    if (file.write(package.fileData) != package.fileData.size() || !file.flush()) {
-        file.remove();
-        return {};
-    }
-    return file.fileName();
+    return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) + u"/Zandrove"_s;
 }
 
-bool applyWallpaper(const SettingPackage &package)
+ApplyResult applyWallpaper(const SettingPackage &package, const KnownSetting &setting)
 {
     if (package.fileData.isEmpty() || package.fileName.isEmpty()) {
         qCDebug(logSettings) << "[Wallpaper] No wallpaper file data";
         return false;
     }
-    const QString path = savePicture(package);
-    if (path.isEmpty()) {
-        qCDebug(logSettings) << "[Wallpaper] Failed to save wallpaper file";
-        return false;
+    const QString path = pictureFolder() + u'/' + package.fileName;
+    ReplacingFile picture(path);
+    if (!isPlainFileName(package.fileName) || !picture.open() || !picture.write(package.fileData) ||
+        !picture.commit()) {
+        qCDebug(logSettings) << "[Wallpaper] Failed to save wallpaper file" << picture.reason();
+        return {false, picture.reason()};
     }
     qCDebug(logSettings) << "[Wallpaper] Saved to:" << path;
 
-    Platform::RegistryKey desktop(u"HKEY_CURRENT_USER\\Control Panel\\Desktop"_s);
-    writeValue(desktop, u"WallpaperStyle"_s, package.metadata.value(u"WallpaperStyle"_s, u"10"_s));
-    writeValue(desktop, u"TileWallpaper"_s, package.metadata.value(u"TileWallpaper"_s, u"0"_s));
+    Platform::RegistryKey desktop(setting.registryPath);
+    for (const NamedSettingValue &value : setting.values)
+        writeValue(desktop, value.name, package.metadata.value(value.name, value.fallback));
     if (!Platform::setWallpaper(path)) {
         const auto error = Platform::lastErrorCode();
         qCDebug(logSettings) << "[Wallpaper] SystemParametersInfo failed, error:" << error;
-        return false;
+        return {false, Platform::errorText(error)};
     }
     qCDebug(logSettings) << "[Wallpaper] Applied successfully";
     return true;
 }
 
-bool applyTaskbar(const SettingPackage &package)
+ApplyResult applyTaskbar(const SettingPackage &package)
 {
     if (package.registryData.isEmpty())
         return false;
@@ -94,7 +82,7 @@ bool applyTaskbar(const SettingPackage &package)
     return imported;
 }
 
-bool applyExplorer(const SettingPackage &package)
+ApplyResult applyExplorer(const SettingPackage &package)
 {
     if (package.registryData.isEmpty())
         return false;
@@ -106,12 +94,14 @@ bool applyExplorer(const SettingPackage &package)
 }
 
 /// The key alone makes no difference before the next logon, so the calls count and its import does not.
-bool applyMouse(const SettingPackage &package)
+ApplyResult applyMouse(const SettingPackage &package)
 {
     static_cast<void>(importRegistryData(package.registryData));
     const auto &metadata = package.metadata;
-    if (const auto speed = metadata.constFind(u"MouseSpeed"_s); speed != metadata.cend())
-        Platform::setSystemParameter(SystemParameter::MouseSpeed, speed->toInt());
+    // What the registry calls MouseSpeed is the acceleration, which is no speed to set.
+    const int speed = metadata.value(u"MouseSensitivity"_s).toInt();
+    if (speed >= SlowestPointer && speed <= FastestPointer)
+        Platform::setSystemParameter(SystemParameter::MouseSpeed, speed);
     if (const auto swap = metadata.constFind(u"SwapMouseButtons"_s); swap != metadata.cend())
         Platform::setSystemParameter(SystemParameter::MouseButtonSwap, *swap == "1"_L1 ? 1 : 0);
     if (const auto time = metadata.constFind(u"DoubleClickSpeed"_s); time != metadata.cend())
@@ -121,7 +111,7 @@ bool applyMouse(const SettingPackage &package)
 }
 
 /// As with the mouse, the import alone decides nothing.
-bool applyKeyboard(const SettingPackage &package)
+ApplyResult applyKeyboard(const SettingPackage &package)
 {
     static_cast<void>(importRegistryData(package.registryData));
     const auto &metadata = package.metadata;
@@ -135,7 +125,7 @@ bool applyKeyboard(const SettingPackage &package)
     return true;
 }
 
-bool applyPower(const SettingPackage &package)
+ApplyResult applyPower(const SettingPackage &package)
 {
     if (package.fileData.isEmpty()) {
         qCDebug(logSettings) << "[Power] No power scheme data";
@@ -145,9 +135,8 @@ bool applyPower(const SettingPackage &package)
 }
 
 /// Writes each variable but PATH, which only the import of the whole key replaces.
-void writeVariables(const QJsonObject &variables)
+void writeVariables(Platform::RegistryKey environment, const QJsonObject &variables)
 {
-    Platform::RegistryKey environment(u"HKEY_CURRENT_USER\\Environment"_s);
     for (auto variable = variables.constBegin(); variable != variables.constEnd(); ++variable) {
         const QString name = variable.key();
         const QString value = variable.value().toString();
@@ -160,12 +149,13 @@ void writeVariables(const QJsonObject &variables)
     }
 }
 
-bool applyEnvironment(const SettingPackage &package)
+ApplyResult applyEnvironment(const SettingPackage &package, const KnownSetting &setting)
 {
     bool applied = importRegistryData(package.registryData);
     const auto variables = package.metadata.constFind(u"EnvironmentVars"_s);
     if (variables != package.metadata.cend()) {
-        writeVariables(parseJsonObject(variables->toUtf8()).value_or(QJsonObject()));
+        writeVariables(Platform::RegistryKey(setting.registryPath),
+                       parseJsonObject(variables->toUtf8()).value_or(QJsonObject()));
         applied = true;
     }
     Platform::broadcastSettingChange(u"Environment"_s);
@@ -173,7 +163,7 @@ bool applyEnvironment(const SettingPackage &package)
     return applied;
 }
 
-bool applySound(const SettingPackage &package)
+ApplyResult applySound(const SettingPackage &package)
 {
     if (package.registryData.isEmpty())
         return false;
@@ -182,7 +172,7 @@ bool applySound(const SettingPackage &package)
     return imported;
 }
 
-bool applyDisplay(const SettingPackage &package)
+ApplyResult applyDisplay(const SettingPackage &package)
 {
     const bool imported = importRegistryData(package.registryData);
     Platform::broadcastSettingChange(u"ImmersiveColorSet"_s);
@@ -190,29 +180,38 @@ bool applyDisplay(const SettingPackage &package)
     return imported;
 }
 
-struct Applier
+ApplyResult applyKnown(const SettingPackage &package, const KnownSetting &setting)
 {
-    QLatin1StringView key;
-    bool (*apply)(const SettingPackage &package);
-};
-
-constexpr std::array Appliers = {
-    Applier{"wallpaper"_L1, applyWallpaper},     Applier{"taskbar"_L1, applyTaskbar},
-    Applier{"explorer"_L1, applyExplorer},       Applier{"mouse"_L1, applyMouse},
-    Applier{"keyboard"_L1, applyKeyboard},       Applier{"power"_L1, applyPower},
-    Applier{"environment"_L1, applyEnvironment}, Applier{"sound"_L1, applySound},
-    Applier{"display"_L1, applyDisplay},
-};
+    switch (setting.kind) {
+    case SettingKind::Wallpaper:
+        return applyWallpaper(package, setting);
+    case SettingKind::Taskbar:
+        return applyTaskbar(package);
+    case SettingKind::Explorer:
+        return applyExplorer(package);
+    case SettingKind::Mouse:
+        return applyMouse(package);
+    case SettingKind::Keyboard:
+        return applyKeyboard(package);
+    case SettingKind::Power:
+        return applyPower(package);
+    case SettingKind::Environment:
+        return applyEnvironment(package, setting);
+    case SettingKind::Display:
+        return applyDisplay(package);
+    case SettingKind::Sound:
+        return applySound(package);
+    }
+    return false;
+}
 
 } // namespace
 
-bool applySetting(const SettingPackage &package)
+ApplyResult applySetting(const SettingPackage &package)
 {
     qCDebug(logSettings) << "[SettingMigrator] Applying setting:" << package.key;
-    const auto *const known =
-        std::find_if(Appliers.begin(), Appliers.end(),
-                     [&package](const Applier &applier) { return applier.key == package.key; });
-    return known != Appliers.end() ? known->apply(package) : importRegistryData(package.registryData);
+    const KnownSetting *const known = knownSetting(package.key);
+    return known ? applyKnown(package, *known) : importRegistryData(package.registryData);
 }
 
 } // namespace Zandrove

@@ -1,5 +1,6 @@
 #include "settings/SettingExport.h"
 
+#include "core/common/KnownSettings.h"
 #include "platform/Registry.h"
 #include "platform/SystemParameters.h"
 #include "settings/Log.h"
@@ -10,10 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonObject>
-#include <QLatin1StringView>
 
-#include <algorithm>
-#include <array>
 #include <span>
 
 using namespace Qt::StringLiterals;
@@ -21,53 +19,6 @@ using namespace Qt::StringLiterals;
 namespace Zandrove {
 
 namespace {
-
-/// A value that travels by name, and what it is where the registry doesn't hold it.
-struct NamedValue
-{
-    QLatin1StringView name;
-    QLatin1StringView fallback;
-};
-
-/// A setting that is one key, some of whose values travel by name as well.
-struct KeySetting
-{
-    QLatin1StringView id;
-    QLatin1StringView registryPath;
-    std::span<const NamedValue> values;
-    const char *exportedLine;
-};
-
-constexpr auto WallpaperKey = "HKEY_CURRENT_USER\\Control Panel\\Desktop"_L1;
-constexpr auto EnvironmentKey = "HKEY_CURRENT_USER\\Environment"_L1;
-constexpr auto TaskbarKey =
-    "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\StuckRects3"_L1;
-constexpr auto OtherTaskbarKey =
-    "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Taskband"_L1;
-constexpr auto ExplorerKey =
-    "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Advanced"_L1;
-
-constexpr std::array WallpaperValues = {NamedValue{"WallpaperStyle"_L1, "10"_L1},
-                                        NamedValue{"TileWallpaper"_L1, "0"_L1}};
-constexpr std::array MouseValues = {
-    NamedValue{"MouseSpeed"_L1, "1"_L1}, NamedValue{"MouseSensitivity"_L1, "10"_L1},
-    NamedValue{"SwapMouseButtons"_L1, "0"_L1}, NamedValue{"DoubleClickSpeed"_L1, "500"_L1}};
-constexpr std::array KeyboardValues = {NamedValue{"KeyboardDelay"_L1, "1"_L1},
-                                       NamedValue{"KeyboardSpeed"_L1, "31"_L1}};
-constexpr std::array DisplayValues = {NamedValue{"AppsUseLightTheme"_L1, "1"_L1},
-                                      NamedValue{"SystemUsesLightTheme"_L1, "1"_L1},
-                                      NamedValue{"EnableTransparency"_L1, "1"_L1}};
-
-constexpr std::array KeySettings = {
-    KeySetting{"mouse"_L1, "HKEY_CURRENT_USER\\Control Panel\\Mouse"_L1, MouseValues,
-               "[Mouse] Exported settings"},
-    KeySetting{"keyboard"_L1, "HKEY_CURRENT_USER\\Control Panel\\Keyboard"_L1, KeyboardValues,
-               "[Keyboard] Exported settings"},
-    KeySetting{"sound"_L1, "HKEY_CURRENT_USER\\AppEvents\\Schemes"_L1, {}, "[Sound] Exported settings"},
-    KeySetting{"display"_L1,
-               "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize"_L1,
-               DisplayValues, "[Display] Exported settings"},
-};
 
 /// Fills in the key `path` and its content. False where there is no content.
 bool exportKey(SettingPackage &package, const QString &path)
@@ -77,19 +28,19 @@ bool exportKey(SettingPackage &package, const QString &path)
     return !package.registryData.isEmpty();
 }
 
-void addValues(SettingPackage &package, std::span<const NamedValue> values)
+void addValues(SettingPackage &package, std::span<const NamedSettingValue> values)
 {
     const Platform::RegistryKey key(package.registryPath);
-    for (const NamedValue &value : values)
+    for (const NamedSettingValue &value : values)
         package.metadata.insert(value.name, key.text(value.name, value.fallback));
 }
 
-bool exportKeySetting(SettingPackage &package, const KeySetting &setting)
+bool exportKeySetting(SettingPackage &package, const KnownSetting &setting)
 {
     if (!exportKey(package, setting.registryPath))
         return false;
     addValues(package, setting.values);
-    qCDebug(logSettings) << setting.exportedLine;
+    qCDebug(logSettings, "[%s] Exported settings", setting.logName);
     return true;
 }
 
@@ -104,7 +55,7 @@ bool readPicture(SettingPackage &package, const QString &picture)
     return file.error() == QFile::NoError;
 }
 
-bool exportWallpaper(SettingPackage &package)
+bool exportWallpaper(SettingPackage &package, const KnownSetting &setting)
 {
     const std::optional<QString> picture = Platform::wallpaper();
     if (!picture) {
@@ -120,17 +71,18 @@ bool exportWallpaper(SettingPackage &package)
         qCDebug(logSettings) << "[Wallpaper] Failed to read wallpaper file";
         return false;
     }
-    exportKey(package, WallpaperKey);
-    addValues(package, WallpaperValues);
+    exportKey(package, setting.registryPath);
+    addValues(package, setting.values);
     qCDebug(logSettings) << "[Wallpaper] Exported successfully, file size:" << package.fileData.size();
     return true;
 }
 
-bool exportTaskbar(SettingPackage &package)
+bool exportTaskbar(SettingPackage &package, const KnownSetting &setting)
 {
-    if (!exportKey(package, TaskbarKey))
-        exportKey(package, OtherTaskbarKey);
-    if (const std::optional<QByteArray> advanced = exportRegistryKey(ExplorerKey))
+    if (!exportKey(package, setting.registryPath))
+        exportKey(package, setting.otherRegistryPath);
+    const QString explorerKey = knownSetting(SettingKind::Explorer).registryPath;
+    if (const std::optional<QByteArray> advanced = exportRegistryKey(explorerKey))
         package.metadata.insert(u"AdvancedSettings"_s, QString::fromLatin1(advanced->toBase64()));
     if (package.registryData.isEmpty())
         return false;
@@ -138,9 +90,9 @@ bool exportTaskbar(SettingPackage &package)
     return true;
 }
 
-bool exportExplorer(SettingPackage &package)
+bool exportExplorer(SettingPackage &package, const KnownSetting &setting)
 {
-    const bool exported = exportKey(package, ExplorerKey);
+    const bool exported = exportKey(package, setting.registryPath);
     qCDebug(logSettings) << "[Explorer] Exported settings, success:" << exported;
     return exported;
 }
@@ -156,11 +108,11 @@ bool exportPower(SettingPackage &package)
     return true;
 }
 
-bool exportEnvironment(SettingPackage &package)
+bool exportEnvironment(SettingPackage &package, const KnownSetting &setting)
 {
-    if (!exportKey(package, EnvironmentKey))
+    if (!exportKey(package, setting.registryPath))
         return false;
-    const Platform::RegistryKey key(EnvironmentKey);
+    const Platform::RegistryKey key(setting.registryPath);
     QJsonObject variables;
     const QStringList names = key.valueNames();
     for (const QString &name : names)
@@ -178,35 +130,26 @@ bool exportNamedKey(SettingPackage &package, const QString &path)
     return false;
 }
 
-/// A setting that is gathered in a way of its own.
-struct Exporter
+bool fillPackage(SettingPackage &package, const KnownSetting &setting)
 {
-    QLatin1StringView id;
-    bool (*fill)(SettingPackage &package);
-};
-
-constexpr std::array Exporters = {
-    Exporter{"wallpaper"_L1, exportWallpaper},     Exporter{"taskbar"_L1, exportTaskbar},
-    Exporter{"explorer"_L1, exportExplorer},       Exporter{"power"_L1, exportPower},
-    Exporter{"environment"_L1, exportEnvironment},
-};
-
-/// The entry of a table that is about the setting `id`; null where there is none.
-template <typename Table>
-auto entryFor(const Table &table, const QString &id)
-{
-    const auto entry =
-        std::find_if(table.begin(), table.end(), [&id](const auto &known) { return known.id == id; });
-    return entry == table.end() ? nullptr : &*entry;
-}
-
-bool fillPackage(SettingPackage &package, const SettingInfo &setting)
-{
-    if (const Exporter *const exporter = entryFor(Exporters, setting.id))
-        return exporter->fill(package);
-    if (const KeySetting *const known = entryFor(KeySettings, setting.id))
-        return exportKeySetting(package, *known);
-    return exportNamedKey(package, setting.registryPath);
+    switch (setting.kind) {
+    case SettingKind::Wallpaper:
+        return exportWallpaper(package, setting);
+    case SettingKind::Taskbar:
+        return exportTaskbar(package, setting);
+    case SettingKind::Explorer:
+        return exportExplorer(package, setting);
+    case SettingKind::Power:
+        return exportPower(package);
+    case SettingKind::Environment:
+        return exportEnvironment(package, setting);
+    case SettingKind::Mouse:
+    case SettingKind::Keyboard:
+    case SettingKind::Display:
+    case SettingKind::Sound:
+        return exportKeySetting(package, setting);
+    }
+    return false;
 }
 
 } // namespace
@@ -218,7 +161,8 @@ std::optional<SettingPackage> exportSetting(const SettingInfo &setting)
     package.name = setting.name;
     package.category = setting.category;
     qCDebug(logSettings) << "[SettingMigrator] Exporting:" << package.key << "-" << package.name;
-    if (!fillPackage(package, setting))
+    const KnownSetting *const known = knownSetting(setting.id);
+    if (!(known ? fillPackage(package, *known) : exportNamedKey(package, setting.registryPath)))
         return std::nullopt;
     return package;
 }

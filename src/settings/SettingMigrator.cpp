@@ -2,7 +2,6 @@
 
 #include "peer/Protocol.h"
 #include "settings/Log.h"
-#include "settings/SettingApply.h"
 #include "settings/SettingExport.h"
 
 #include <QThread>
@@ -12,6 +11,7 @@
 #include <iterator>
 #include <utility>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 using namespace Zandrove::SettingMessages;
 
@@ -212,9 +212,33 @@ void SettingMigrator::onSettingEnd(const QByteArray &payload)
     const bool isDamaged = std::exchange(m_currentIsDamaged, false);
     qCDebug(logSettings) << "[SettingMigrator] Setting complete:" << package.key
                          << "registry:" << package.registryData.size() << "file:" << package.fileData.size();
-    countOutcome(package.name, !isDamaged && applySetting(package), tr("Failed to apply setting"));
+    const ApplyResult result = applyUnlessStopped(package, isDamaged);
+    QString failure = tr("Failed to apply setting");
+    if (!result.reason.isEmpty())
+        failure += u": "_s + result.reason;
+    countOutcome(package.name, result.applied, failure);
     ++m_processedCount;
     Q_EMIT progress(m_processedCount * PointsPerSetting, package.name);
+}
+
+ApplyResult SettingMigrator::applyUnlessStopped(const SettingPackage &package, bool isDamaged) const
+{
+    if (m_stopped)
+        return {false, tr("stopped before it was applied")};
+    if (isDamaged)
+        return {false, tr("it did not arrive whole")};
+    ApplyResult result = applySetting(package);
+    if (!result.applied && m_stopped)
+        result.reason = tr("stopped while it was being applied");
+    return result;
+}
+
+void SettingMigrator::giveUpReceiving(const QString &reason)
+{
+    const SettingPackage package = std::exchange(m_currentPackage, {});
+    m_currentIsDamaged = false;
+    if (!package.key.isEmpty())
+        countOutcome(package.name, false, tr("Failed to apply setting") + u": "_s + reason);
 }
 
 void SettingMigrator::onSettingComplete(const QByteArray &)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/common/Records.h"
+#include "settings/SettingApply.h"
 #include "settings/SettingPackage.h"
 
 #include <QByteArray>
@@ -32,14 +33,16 @@ public:
 
     /// Whether an export is on, or settings are being received.
     [[nodiscard]] bool isRunning() const { return m_state == State::Running; }
-    /// A cancel for good: this object begins no other export.
+    /// A cancel for good: this object begins no other export, and applies no other setting. Those that come
+    /// to their end all the same have failed, with this as the reason; the one at hand is finished first,
+    /// unless the thread is asked for an interruption.
     void stop();
 
 public Q_SLOTS:
     /// Exports and sends those that are selected and available. Ignored while another export is on. Ends by
     /// `finished`, at once and without a message where there is none, or silently when cancelled.
     void start(const QList<Zandrove::SettingInfo> &settings);
-    /// Ends the export before its next setting. What is received is applied all the same.
+    /// Ends the export before its next setting. What is received is applied all the same, until a stop.
     void cancel();
 
     /// Begins to receive: the counts of `finished` from zero. Those of `progress` go on.
@@ -52,6 +55,9 @@ public Q_SLOTS:
     void onSettingEnd(const QByteArray &payload);
     /// The peer has no more settings: ends the run by `finished`.
     void onSettingComplete(const QByteArray &payload);
+    /// No more messages come, for this translated reason: the setting that was still being received has
+    /// failed.
+    void giveUpReceiving(const QString &reason);
 
 Q_SIGNALS:
     // In all of them name is the setting's display name.
@@ -77,6 +83,7 @@ private:
     void sendPackage(const SettingPackage &package);
     void sendFile(const SettingPackage &package);
     void addContent(const SettingMessages::Data &data);
+    [[nodiscard]] ApplyResult applyUnlessStopped(const SettingPackage &package, bool isDamaged) const;
     void countOutcome(const QString &name, bool success, const QString &failure);
 
     std::atomic<State> m_state = State::Idle;

@@ -1,6 +1,7 @@
 #include "support/LinkManager.h"
 
 #include "core/common/AppConfig.h"
+#include "core/common/Languages.h"
 #include "support/Log.h"
 
 #include <QDesktopServices>
@@ -15,12 +16,6 @@
 using namespace Qt::StringLiterals;
 
 namespace Zandrove {
-
-namespace {
-
-constexpr QLatin1StringView LanguageKey("language");
-
-} // namespace
 
 LinkManager &LinkManager::instance()
 {
@@ -93,10 +88,9 @@ QString LinkManager::mapSystemLanguage(const QString &locale)
     // The pages have no simplified Chinese; its readers get the English ones.
     if (locale == "zh_TW"_L1 || locale == "zh_HK"_L1)
         return u"zh_TW"_s;
-    static const QStringList Languages = {u"en"_s, u"fr"_s, u"de"_s, u"ja"_s, u"es"_s,
-                                          u"ko"_s, u"nl"_s, u"pt"_s, u"it"_s};
     QString twoLetters = locale.left(2).toLower();
-    return Languages.contains(twoLetters) ? twoLetters : u"en"_s;
+    const Language *const known = languageForLetters(twoLetters);
+    return known && known->code == twoLetters ? twoLetters : u"en"_s;
 }
 
 QString LinkManager::lookupLink(const QString &category, const QString &key, const QString &language) const

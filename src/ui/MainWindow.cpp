@@ -1,9 +1,8 @@
 #include "ui/MainWindow.h"
 
-#include "core/common/AppConfig.h"
 #include "core/engine/TransferEngine.h"
-#include "support/LinkManager.h"
 #include "ui/Log.h"
+#include "ui/ProductDialogs.h"
 #include "ui/Theme.h"
 #include "ui/TitleBar.h"
 #include "ui/pages/CompletePage.h"
@@ -15,12 +14,8 @@
 #include "ui/pages/WelcomePage.h"
 #include "ui/widgets/ProgressDots.h"
 
-#include <QCoreApplication>
-#include <QMessageBox>
-#include <QProcess>
 #include <QPushButton>
 #include <QStackedWidget>
-#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 
@@ -30,7 +25,7 @@ MainWindow::MainWindow(QWidget *parent, License &license, TransferEngine *engine
     : QMainWindow(parent)
     , m_license(license)
     , m_engine(engine ? engine : new TransferEngine(this))
-    , m_translator(new QTranslator(this))
+    , m_dialogs(new ProductDialogs(this, license))
 {
     m_engine->setParent(this);
     setupUi();
@@ -264,7 +259,6 @@ void MainWindow::onTransferReset()
     m_transferPage->resetForNewTransfer();
     m_transferPage->setRole(NewPC);
     showPage(PageTransfer);
-    m_engine->startReceiving();
     qCDebug(logUi) << "New PC: Switched to waiting page";
 }
 
@@ -373,45 +367,9 @@ void MainWindow::onClose()
 
 void MainWindow::onSettings() {}
 
-void MainWindow::onHelpClicked()
-{
-    LinkManager::instance().openLink(u"support"_s, u"help"_s, this);
-}
-
-void MainWindow::onSupportClicked()
-{
-    LinkManager::instance().openLink(u"support"_s, u"contact"_s, this);
-}
-
-void MainWindow::onPurchaseClicked()
-{
-    LinkManager::instance().openLink(u"purchase"_s, u"buy_now"_s, this);
-}
-
-void MainWindow::onAboutClicked()
-{
-    const QString text = u"<h3>%1 - %2</h3><p>%3</p><p>%4</p><p>%5</p>"_s.arg(
-        AppConfig::appName(), tr("PC Migration Tool"), tr("Version %1").arg(AppConfig::appVersion()),
-        tr("Transfer files, apps, and settings between PCs easily."),
-        tr("Copyright © %1. All rights reserved.").arg(AppConfig::userOrganisation()));
-    QMessageBox about(QMessageBox::NoIcon, tr("About Zandrove"), text, QMessageBox::Ok, this);
-    about.setTextFormat(Qt::RichText);
-    about.setStyleSheet(Theme::messageBoxStyle());
-    about.exec();
-}
-
-void MainWindow::onLanguageChanged(const QString &language)
-{
-    qCDebug(logUi) << "[MainWindow] Language changed to:" << language;
-    QMessageBox::information(this, tr("Language Changed"),
-                             tr("Language has been changed.\n\nThe application will restart now."));
-    QProcess::startDetached(QCoreApplication::applicationFilePath(), QCoreApplication::arguments().mid(1));
-    QCoreApplication::quit();
-}
-
 void MainWindow::onActivateClicked()
 {
-    showRegistration(m_license.registerCopy());
+    m_dialogs->registerCopy();
     m_titleBar->refreshActivateButton();
 }
 
@@ -420,26 +378,11 @@ bool MainWindow::ensureRegistered()
 {
     if (m_license.isRegistered())
         return true;
-    const bool registered = m_license.registerCopy();
-    showRegistration(registered);
+    const bool registered = m_dialogs->registerCopy();
     if (registered)
         m_titleBar->refreshActivateButton();
     // The peer may have ended the session behind the dialog.
     return registered && m_currentPage == PageSelection;
-}
-
-void MainWindow::showRegistration(bool registered)
-{
-    if (!m_registerDialog) {
-        m_registerDialog = new QMessageBox(this);
-        m_registerDialog->setWindowTitle(tr("Register"));
-        m_registerDialog->setTextFormat(Qt::PlainText);
-        m_registerDialog->setStyleSheet(Theme::messageBoxStyle());
-    }
-    m_registerDialog->setIcon(registered ? QMessageBox::Information : QMessageBox::Warning);
-    m_registerDialog->setText(registered ? tr("This copy of Zandrove is registered.")
-                                         : tr("This copy of Zandrove is not registered."));
-    m_registerDialog->exec();
 }
 
 } // namespace Zandrove

@@ -7,15 +7,14 @@
 
 #include <array>
 
-class QMessageBox;
 class QPushButton;
 class QStackedWidget;
-class QTranslator;
 
 namespace Zandrove {
 
 class CompletePage;
 class ConnectionPage;
+class ProductDialogs;
 class ProgressDots;
 class RolePage;
 class ScanningPage;
@@ -70,11 +69,6 @@ private Q_SLOTS:
     void onSessionEndReceived();
     void onNewTransferStarted();
     void onActivateClicked();
-    void onAboutClicked();
-    void onPurchaseClicked();
-    void onHelpClicked();
-    void onSupportClicked();
-    void onLanguageChanged(const QString &language);
 
 private:
     void setupUi();
@@ -109,10 +103,10 @@ private:
     void returnFromCancel(bool waits);
 
     [[nodiscard]] bool ensureRegistered();
-    void showRegistration(bool registered);
 
     License &m_license;
     TransferEngine *m_engine = nullptr;
+    ProductDialogs *m_dialogs = nullptr;
     TitleBar *m_titleBar = nullptr;
     QStackedWidget *m_pageStack = nullptr;
     QWidget *m_navBar = nullptr;
@@ -126,8 +120,6 @@ private:
     SelectionPage *m_selectionPage = nullptr;
     TransferPage *m_transferPage = nullptr;
     CompletePage *m_completePage = nullptr;
-    QMessageBox *m_registerDialog = nullptr;
-    QTranslator *m_translator = nullptr;
     int m_currentPage = PageWelcome;
 };
 

@@ -3,6 +3,7 @@
 #include "core/common/AppConfig.h"
 #include "core/engine/TransferEngine.h"
 #include "ui/MainWindow.h"
+#include "ui/ProductDialogs.h"
 #include "ui/Theme.h"
 #include "ui/TitleBar.h"
 #include "ui/pages/CompletePage.h"
@@ -156,11 +157,11 @@ void MainWindow::connectTitleBar()
     connect(m_titleBar, &TitleBar::closeClicked, this, &MainWindow::onClose);
     connect(m_titleBar, &TitleBar::settingsClicked, this, &MainWindow::onSettings);
     connect(m_titleBar, &TitleBar::activateClicked, this, &MainWindow::onActivateClicked);
-    connect(m_titleBar, &TitleBar::aboutClicked, this, &MainWindow::onAboutClicked);
-    connect(m_titleBar, &TitleBar::purchaseClicked, this, &MainWindow::onPurchaseClicked);
-    connect(m_titleBar, &TitleBar::helpClicked, this, &MainWindow::onHelpClicked);
-    connect(m_titleBar, &TitleBar::supportClicked, this, &MainWindow::onSupportClicked);
-    connect(m_titleBar, &TitleBar::languageChanged, this, &MainWindow::onLanguageChanged);
+    connect(m_titleBar, &TitleBar::aboutClicked, m_dialogs, &ProductDialogs::showAbout);
+    connect(m_titleBar, &TitleBar::purchaseClicked, m_dialogs, &ProductDialogs::openPurchase);
+    connect(m_titleBar, &TitleBar::helpClicked, m_dialogs, &ProductDialogs::openHelp);
+    connect(m_titleBar, &TitleBar::supportClicked, m_dialogs, &ProductDialogs::openSupport);
+    connect(m_titleBar, &TitleBar::languageChanged, m_dialogs, &ProductDialogs::restartIn);
 }
 
 void MainWindow::connectNavigation()

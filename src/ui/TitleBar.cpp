@@ -1,6 +1,7 @@
 #include "ui/TitleBar.h"
 
 #include "core/common/AppConfig.h"
+#include "core/common/Languages.h"
 #include "support/LinkManager.h"
 #include "ui/Log.h"
 #include "ui/Theme.h"
@@ -27,21 +28,6 @@ namespace {
 
 constexpr int BarHeight = 44;
 constexpr int CornerRadius = 12;
-constexpr QLatin1StringView LanguageKey("language");
-
-struct Language
-{
-    QLatin1StringView code;
-    QStringView nativeName;
-};
-
-// Each reader finds the own language by its own name, so these are never translated.
-constexpr Language Languages[] = {
-    {"en"_L1, u"🇺🇸  English"},  {"zh_TW"_L1, u"🇹🇼  繁體中文"}, {"fr"_L1, u"🇫🇷  Français"},
-    {"de"_L1, u"🇩🇪  Deutsch"},  {"ja"_L1, u"🇯🇵  日本語"},      {"es"_L1, u"🇪🇸  Español"},
-    {"ko"_L1, u"🇰🇷  한국어"},   {"nl"_L1, u"🇳🇱  Nederlands"},  {"pt"_L1, u"🇵🇹  Português"},
-    {"it"_L1, u"🇮🇹  Italiano"},
-};
 
 QLabel *createLogo()
 {
@@ -160,8 +146,8 @@ void TitleBar::setupLanguageMenu()
     styleMenu(menu);
     m_languageGroup = new QActionGroup(this);
     m_languageGroup->setExclusive(true);
-    for (const Language &language : Languages) {
-        QAction *action = menu->addAction(language.nativeName.toString());
+    for (const Language &language : languages()) {
+        QAction *action = menu->addAction(language.ownName.toString());
         action->setCheckable(true);
         action->setData(QString(language.code));
         action->setChecked(language.code == m_currentLanguage);

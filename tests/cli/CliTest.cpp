@@ -59,7 +59,6 @@ private Q_SLOTS:
         QTest::newRow("nothing") << u""_s << u"receive"_s;
         QTest::newRow("unknown command") << u"fetch"_s << u"fetch"_s;
         QTest::newRow("second word") << u"receive now"_s << u"now"_s;
-        QTest::newRow("unknown option") << u"receive --fast"_s << u"--fast"_s;
         QTest::newRow("option of another command") << u"receive --folder x"_s << u"--folder"_s;
         QTest::newRow("no target") << u"send --folder x"_s << u"--to"_s;
         QTest::newRow("blank target") << u"send --to= --folder x"_s << u"--to"_s;
@@ -67,8 +66,7 @@ private Q_SLOTS:
         QTest::newRow("value missing at the end") << u"send --folder x --to"_s << u"--to"_s;
         QTest::newRow("value for a flag") << u"receive --yes=1"_s << u"--yes"_s;
         QTest::newRow("no name") << u"send --to x --app="_s << u"--app"_s;
-        QTest::newRow("no id") << u"send --to x --setting="_s << u"--setting"_s;
-        QTest::newRow("value for all") << u"send --to x --all-apps=1"_s << u"--all-apps"_s;
+        QTest::newRow("report of a scan") << u"scan --report x"_s << u"--report"_s;
         QTest::newRow("items of the other side") << u"receive --all-settings"_s << u"--all-settings"_s;
         QTest::newRow("no role") << u"discover"_s << u"--role"_s;
         QTest::newRow("wrong role") << u"discover --role 0"_s << u"0"_s;
@@ -184,7 +182,6 @@ private Q_SLOTS:
         QTest::newRow("announced address") << u"10.0.0.1"_s << u"Blue"_s;
         QTest::newRow("address it spoke from") << u"192.168.1.9"_s << u"Green"_s;
         QTest::newRow("part of a name") << u"Gre"_s << QString();
-        QTest::newRow("part of a code") << u"042"_s << QString();
         QTest::newRow("nobody") << u"7777"_s << QString();
     }
     void findsThePeerThatIsMeant()
@@ -207,7 +204,6 @@ private Q_SLOTS:
         QTest::newRow("folder with blanks")
             << u"again  /a b/c "_s << int(ControlCommand::Again) << u"/a b/c"_s;
         QTest::newRow("too much") << u"cancel all"_s << -1 << QString();
-        QTest::newRow("another word") << u"pauses"_s << -1 << QString();
     }
     void readsControlLines()
     {
@@ -238,17 +234,23 @@ private Q_SLOTS:
         QCOMPARE(results.exitCode(), EverythingMoved);
         results.record(Cancelled);
         QCOMPARE(results.exitCode(), Cancelled);
-        results.record(EverythingMoved);
-        QCOMPARE(results.exitCode(), EverythingMoved);
         results.record(SomethingMissing);
         results.record(EverythingMoved);
         QCOMPARE(results.exitCode(), SomethingMissing);
         results.record(RunFailed);
         QCOMPARE(results.exitCode(), RunFailed);
 
-        MigrationReport skipped;
-        skipped.filesSkipped = 1;
-        QCOMPARE(exitCodeFor(skipped), SomethingMissing);
+        RunSummary run;
+        run.files.arrived = 1;
+        QCOMPARE(exitCodeFor(run), RunFailed);
+        run.end = RunEnd::Complete;
+        QCOMPARE(exitCodeFor(run), EverythingMoved);
+        for (int *count :
+             {&run.files.wasThere, &run.files.wasDifferent, &run.apps.failed, &run.settings.notConfirmed}) {
+            *count = 1;
+            QCOMPARE(exitCodeFor(run), SomethingMissing);
+            *count = 0;
+        }
     }
 
     void printsOneJsonObjectALine()
@@ -268,6 +270,34 @@ private Q_SLOTS:
         QCOMPARE(file.value(u"name"_s).toString(), u"a\n\"b\".txt"_s);
         QCOMPARE(file.value(u"reason"_s).toString(), u"why"_s);
         QCOMPARE(captured.err.count('\n'), 1);
+    }
+
+    void reportNamesWhatDidNotArrive()
+    {
+        RunSummary run;
+        run.end = RunEnd::Complete;
+        run.startTime = QDateTime(QDate(2024, 5, 6), QTime(7, 8, 9, 12));
+        run.files = {.arrived = 7, .wasThere = 2, .wasDifferent = 1, .failed = 50, .notConfirmed = 1};
+        run.notArrived =
+            QList<ItemResult>(2000, {ItemKind::File, ItemOutcome::Failed, u"/d/a\x1b"_s, u"locked"_s, 1});
+        run.different = {{ItemKind::File, ItemOutcome::WasDifferent, u"/d/b"_s, u"other"_s, 1}};
+        run.fullVolumes = {{u"D:"_s, u"NEWBOX"_s, 12, 1024}};
+        run.savedFolderCounts.insert(u"Music"_s, 3);
+        const QJsonObject json = toJson(run);
+        QCOMPARE(json.value(u"startTime"_s).toString(), u"2024-05-06T07:08:09.012"_s);
+        QCOMPARE(json.value(u"filesFailed"_s).toInt(), 51);
+        QCOMPARE(json.value(u"filesSkipped"_s).toInt(), 3);
+        QCOMPARE(json.value(u"failedFiles"_s).toArray().size(), 1000);
+        QCOMPARE(json.value(u"differentFiles"_s).toArray().first().toObject().value(u"reason"_s).toString(),
+                 u"other"_s);
+
+        Captured captured;
+        TextOutput(captured.streams(), OldPC, false).report(run);
+        QVERIFY(
+            captured.out.contains("\nno space left on drive D: of NEWBOX: 12 files, 1.0 KB did not fit\n"));
+        QVERIFY(captured.out.contains("\n52 of 61 files did not arrive:\n  /d/a\uFFFD: locked\n"));
+        QVERIFY(captured.out.contains("locked\n  and 31 more\n  /d/b: other\n"));
+        QCOMPARE(captured.out.count(": locked\n"), 20);
     }
 
     void namesOfPeersCannotSteerTheTerminal()

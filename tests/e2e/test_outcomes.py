@@ -166,9 +166,9 @@ class Outcomes(pcs.TestCase):
                                    encoding="utf-8", timeout=20)
         said = receiver.communicate(timeout=20)[0]
         self.assertRegex(said, r"code of this PC is \d{4}")
-        self.assertIn("Files: 30 received, 0 failed, 0 skipped.", said)
+        self.assertIn("Files: 30 arrived, 0 failed, 0 were there before.", said)
         self.assertIn(os.fspath(self.pair.new.home / "Downloads" / "Zandrove"), said)
-        self.assertIn("Files: 30 sent, 0 failed, 0 skipped.", sender.stdout)
+        self.assertIn("Files: 30 arrived, 0 failed, 0 were there before.", sender.stdout)
         self.assertNotIn("\x1b", said + sender.stdout)
         self.assertEqual(sender.stderr, "")
 

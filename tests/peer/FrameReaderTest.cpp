@@ -44,46 +44,37 @@ private Q_SLOTS:
                  "5a4452560001003200000002ffffff02000000080102"_ba);
     }
 
-    void cutsFramesHoweverTheStreamIsSplit_data()
-    {
-        addColumns<qsizetype, qsizetype>("piece", "largest");
-        for (const qsizetype piece : {1, 19, 20, 21})
-            QTest::addRow("pieces of %d", int(piece)) << piece << qsizetype(700);
-        QTest::newRow("pieces of 4099, payload grown in steps") << qsizetype(4099) << qsizetype(5'000'001);
-        QTest::newRow("one piece") << qsizetype(100'000'000) << qsizetype(5'000'001);
-    }
     void cutsFramesHoweverTheStreamIsSplit()
     {
-        QFETCH(qsizetype, piece);
-        QFETCH(qsizetype, largest);
-        const QByteArrayList expected = {{}, "x", pattern(largest), {}, pattern(20), pattern(1'048'576)};
-        QByteArray stream;
-        for (const QByteArray &payload : expected)
-            stream += frame(MessageType(999), payload);
-        for (qsizetype at = 0; at < stream.size(); at += piece)
-            feed(stream.mid(at, piece));
-        QVERIFY(m_payloads == expected);
-        QCOMPARE(m_reader.waiting(), 0);
+        // Small pieces, and payloads that grow in steps.
+        for (const auto &[piece, largest] : std::initializer_list<std::pair<qsizetype, qsizetype>>{
+                 {1, 700}, {19, 700}, {20, 700}, {21, 700}, {4099, 5'000'001}, {100'000'000, 5'000'001}}) {
+            init();
+            const QByteArrayList expected = {{}, "x", pattern(largest), {}, pattern(20), pattern(1'048'576)};
+            QByteArray stream;
+            for (const QByteArray &payload : expected)
+                stream += frame(MessageType(999), payload);
+            for (qsizetype at = 0; at < stream.size(); at += piece)
+                feed(stream.mid(at, piece));
+            QVERIFY2(m_payloads == expected && m_reader.waiting() == 0, qPrintable(QString::number(piece)));
+        }
     }
 
-    void badHeaderCostsAllThatIsReadable_data()
-    {
-        addColumns<QByteArray>("bad");
-        QTest::newRow("wrong magic") << header(0x5A445257, 50, 0);
-        QTest::newRow("total 0") << header(Protocol::Magic, 50, 0xFFFFFFEC);
-        QTest::newRow("total 19") << header(Protocol::Magic, 50, 0xFFFFFFFF);
-        QTest::newRow("smallest negative total") << header(Protocol::Magic, 50, 0x7FFFFFEC);
-        QTest::newRow("total -1") << header(Protocol::Magic, 50, 0xFFFFFFEB);
-    }
     void badHeaderCostsAllThatIsReadable()
     {
-        QFETCH(QByteArray, bad);
-        feed(frame(MessageType::FileData, "before"_ba) + bad.first(17));
-        QCOMPARE(m_reader.waiting(), 17);
-        feed(bad.mid(17) + frame(MessageType::FileData, "lost"_ba));
-        QCOMPARE(m_reader.waiting(), 0);
-        feed(frame(MessageType::FileData, "after"_ba));
-        QCOMPARE(m_payloads, (QByteArrayList{"before", "after"}));
+        // A wrong magic, and sizes of 0, 19, the smallest negative number and -1.
+        for (const QByteArray &bad :
+             {header(0x5A445257, 50, 0), header(Protocol::Magic, 50, 0xFFFFFFEC),
+              header(Protocol::Magic, 50, 0xFFFFFFFF), header(Protocol::Magic, 50, 0x7FFFFFEC),
+              header(Protocol::Magic, 50, 0xFFFFFFEB)}) {
+            init();
+            feed(frame(MessageType::FileData, "before"_ba) + bad.first(17));
+            QCOMPARE(m_reader.waiting(), 17);
+            feed(bad.mid(17) + frame(MessageType::FileData, "lost"_ba));
+            QCOMPARE(m_reader.waiting(), 0);
+            feed(frame(MessageType::FileData, "after"_ba));
+            QCOMPARE(m_payloads, (QByteArrayList{"before", "after"}));
+        }
     }
 
     void unfinishedFrameIsDroppedAboveTheLimitOnly()

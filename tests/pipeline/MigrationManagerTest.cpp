@@ -112,27 +112,6 @@ private Q_SLOTS:
         QVERIFY(!m_pc->completed.wait(200));
     }
 
-    void nextRunWaitsForTheReportOfTheLast()
-    {
-        m_manager->startReceiving();
-        for (int id = 0; id < 6; ++id)
-            peerSends(u"first/%1"_s.arg(id), someBytes(9 * 1024 * 1024), id);
-        peer(MessageType::TransferComplete);
-        // All of this arrives while the receiver still works off the first run.
-        peer(MessageType::SessionEnd);
-        QCOMPARE(m_pc->ended.size(), 0);
-        peer(MessageType::TransferReset);
-        peerStarts(1, 3);
-        peerSends(u"second"_s, "abc");
-        peer(MessageType::TransferComplete);
-        QTRY_COMPARE(m_pc->completed.size(), 2);
-        QCOMPARE(m_pc->ended.size(), 1);
-        QCOMPARE(m_pc->restarted.size(), 1);
-        QCOMPARE(m_pc->report(0).filesSuccess, 6);
-        QCOMPARE(m_pc->report(1).filesSuccess, 1);
-        QVERIFY(isThere(u"second"_s));
-    }
-
     void cancelWhilePausedLeavesNothingBehind()
     {
         m_manager->startReceiving();

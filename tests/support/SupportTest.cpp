@@ -1,6 +1,14 @@
+#include "TestFiles.h"
 #include "TestMain.h"
+#include "core/common/Records.h"
 #include "support/Json.h"
+#include "support/ReportDocument.h"
+#include "support/RunTexts.h"
 #include "support/Utilities.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
 
 #include <limits>
 
@@ -118,6 +126,49 @@ private Q_SLOTS:
     {
         QFETCH(QList<NetworkAdapter>, adapters);
         QTEST(bestLocalAddress(adapters), "address");
+    }
+
+    void reportHoldsHostileNamesAsText()
+    {
+        const QString hostile = u"<img src=x onerror=\"a()\">'&%1\u202e\r\n"_s;
+        const ItemResult file{ItemKind::File, ItemOutcome::Failed, hostile, hostile, 1};
+        RunSummary summary;
+        summary.end = RunEnd::LinkLost;
+        summary.ownName = summary.peerName = hostile;
+        summary.notArrived = summary.different = summary.items = {file};
+        summary.files.failed = summary.files.wasDifferent = 2;
+        summary.fullVolumes = {{hostile, hostile, 1, 1}};
+        summary.savedFolderPaths.insert(hostile, hostile);
+        for (const int role : {OldPC, NewPC}) {
+            summary.role = role;
+            const QString page = QString::fromUtf8(reportAsHtml(summary));
+            QVERIFY(page.contains(u"&lt;img src=x onerror=&quot;a()&quot;&gt;'&amp;%1"_s));
+            QVERIFY(!page.contains(u"<img"_s) && !page.contains(u'\u202e') && !page.contains(u'\r'));
+        }
+        const QJsonObject json = QJsonDocument::fromJson(reportAsJson(summary)).object();
+        QCOMPARE(json.value(u"peerName"_s).toString(), hostile);
+    }
+
+    void reportIsSavedBesideAndRenamed()
+    {
+        const QTemporaryDir scratch;
+        const QString page = writeFile(scratch.filePath(u"r.html"_s), "older");
+        QVERIFY(saveReport({}, page).isEmpty() && contentOf(page).startsWith("<!DOCTYPE html>"));
+        const QString json = scratch.filePath(u"r.JSON"_s);
+        QVERIFY(saveReport({}, json).isEmpty() && contentOf(json).startsWith("{"));
+        QVERIFY(QDir(scratch.path()).mkdir(u"folder.html"_s));
+        QVERIFY(saveReport({}, scratch.filePath(u"folder.html"_s)).contains(u"folder.html"_s));
+        QVERIFY(!saveReport({}, scratch.filePath(u"missing/r.html"_s)).isEmpty());
+        QCOMPARE(
+            QDir(scratch.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot).size(), 3);
+    }
+
+    void fullVolumesAreNamedAsTheirUserKnowsThem()
+    {
+        QCOMPARE(fullVolumeText({u"D:"_s, u"NEWBOX"_s, 12, 1024}),
+                 u"no space left on drive D: of NEWBOX: 12 files, 1.0 KB did not fit"_s);
+        QVERIFY(
+            fullVolumeText({u"/home"_s, u"%1"_s, 1, 1}).startsWith(u"no space left on /home of %1: 1 "_s));
     }
 };
 

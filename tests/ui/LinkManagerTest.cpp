@@ -1,4 +1,4 @@
-#include "UiTests.h"
+#include "TestMain.h"
 
 #include "core/common/AppConfig.h"
 #include "support/LinkManager.h"
@@ -53,7 +53,7 @@ private Q_SLOTS:
 
     void poorDocumentGivesWhatItHas_data()
     {
-        columns<QByteArray, QString>("document", "link");
+        addColumns<QByteArray, QString>("document", "link");
         const QByteArray start =
             R"({"metadata": {"supported_languages": ["en", "fr"], "fallback_language": "fr"})";
         QTest::newRow("missing") << QByteArray() << QString();
@@ -112,6 +112,6 @@ private:
     QList<QUrl> m_browsed;
 };
 
-ZANDROVE_UI_TEST(LinkManagerTest)
+ZANDROVE_TEST(LinkManagerTest)
 
 #include "LinkManagerTest.moc"

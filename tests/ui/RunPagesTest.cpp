@@ -1,5 +1,5 @@
 #include "SilentEngine.h"
-#include "UiTests.h"
+#include "TestMain.h"
 #include "WizardView.h"
 
 #include "ui/pages/CompletePage.h"
@@ -101,23 +101,17 @@ private Q_SLOTS:
     {
         TransferProgress progress;
         progress.overallPercent = 42;
-        progress.bytesPerSecond = 1536;
         progress.remainingSeconds = 3661;
-        progress.transferredBytes = 1023;
-        progress.totalBytes = 1 << 20;
         progress.failedItems = 3;
-        for (const int role : {OldPC, NewPC}) {
-            const QString verb = role == OldPC ? u"Sending"_s : u"Receiving"_s;
+        for (const auto &[role, verb] : {std::pair(OldPC, u"Sending"_s), {NewPC, u"Receiving"_s}}) {
             m_run->setRole(role);
-            QCOMPARE(runTexts().first(), verb + u" Data"_s);
             Q_EMIT m_engine->pausedByPeer();
             QCOMPARE(runTexts().first(), verb + u" Paused"_s);
             Q_EMIT m_engine->resumedByPeer();
             QCOMPARE(runTexts().first(), verb + u" Data"_s);
             Q_EMIT m_engine->transferProgressChanged(progress);
-            QCOMPARE(
-                runTexts().mid(0, 9).join(u'|'),
-                verb + u" Data - 42%|42%|1.5 KB/s|Speed|1:01:01|Remaining|1023 B|of 1.0 MB|Current Files"_s);
+            QCOMPARE(runTexts().first(), verb + u" Data - 42%"_s);
+            QVERIFY(runTexts().contains(u"1:01:01"_s));
         }
         Q_EMIT m_engine->transferFailed(u"reason"_s);
         QCOMPARE(runTexts().first(), u"Transfer Failed"_s);
@@ -127,7 +121,7 @@ private Q_SLOTS:
     void cancelAsksFirst_data()
     {
         using Action = std::function<void()>; // behind the question
-        columns<int, QString, Action, bool>("role", "answer", "meanwhile", "cancels");
+        addColumns<int, QString, Action, bool>("role", "answer", "meanwhile", "cancels");
         const QString yes = u"Yes, Cancel"_s;
         const Action nothing = [] {};
         const Action completed = [this] { Q_EMIT m_engine->transferCompleted({}); };
@@ -173,38 +167,6 @@ private Q_SLOTS:
         }
         if (QLatin1StringView(QTest::currentDataTag()).contains("peer"_L1))
             QTRY_COMPARE(runTexts().first(), u"Sender cancelled. Waiting..."_s);
-    }
-
-    void sessionEndStopsTheNewPcFromListeningAgain()
-    {
-        m_engine->setRole(NewPC);
-        m_run->setRole(NewPC);
-        QSignalSpy rearmed(m_engine.get(), &TransferEngine::transferStarted);
-        for (const bool atOnce : {true, false}) {
-            m_run->startReceiving();
-            Q_EMIT m_engine->peerCancelled();
-            if (!atOnce)
-                QCoreApplication::processEvents();
-            Q_EMIT m_engine->sessionEndReceived();
-            QVERIFY2(!rearmed.wait(300), atOnce ? "right behind the cancel" : "a little later");
-        }
-    }
-
-    void reportIsShownByRole()
-    {
-        MigrationReport report;
-        report.filesSuccess = 11;
-        report.appsSuccess = 22;
-        report.settingsSuccess = 33;
-        report.filesFailed = 44;
-        for (const auto &[role, end] : {std::pair(OldPC, u"✓ Finished|📂 Send More Files..."_s),
-                                        {NewPC, u"📁|Files saved to:|📡|Waiting for more files..."_s}}) {
-            m_engine->setRole(role);
-            Q_EMIT m_engine->transferCompleted(report);
-            const QString outcome = outcomeText();
-            QVERIFY(outcome.startsWith(u"✓|Transfer Complete!|"_s));
-            QVERIFY2(outcome.endsWith(u"|11|Files|22|Apps|33|Settings|"_s + end), qPrintable(outcome));
-        }
     }
 
     void foldersAreListedOnceAndAsPlainText()
@@ -267,6 +229,6 @@ private:
     std::unique_ptr<CompletePage> m_outcome;
 };
 
-ZANDROVE_UI_TEST(RunPagesTest)
+ZANDROVE_TEST(RunPagesTest)
 
 #include "RunPagesTest.moc"

@@ -1,5 +1,3 @@
-#include "UiTests.h"
-
 #include "TestMain.h"
 
 #include <QApplication>
@@ -10,8 +8,7 @@ int runAll(int argc, char *argv[])
 {
     const Zandrove::TestMain::OwnHome home;
     const QApplication app(argc, argv);
-    return Zandrove::TestMain::runTests(makeLinkManagerTest, makeWidgetsTest, makeConnectionPageTest,
-                                        makeSelectionPagesTest, makeRunPagesTest, makeMainWindowTest);
+    return Zandrove::TestMain::runTests();
 }
 
 } // namespace

@@ -2,13 +2,13 @@
 
 #include "core/app/Log.h"
 #include "core/common/AppConfig.h"
+#include "core/common/Languages.h"
 #include "core/common/Records.h"
 #include "platform/ExternalProgram.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QLocale>
-#include <QMap>
 #include <QSettings>
 #include <QTranslator>
 
@@ -43,15 +43,6 @@ void addFirewallRule(const QString &name, const QString &protocol, quint16 port)
         u"netsh"_s, {u"advfirewall"_s, u"firewall"_s, u"add"_s, u"rule"_s, u"name="_s + name, u"dir=in"_s,
                      u"action=allow"_s, u"protocol="_s + protocol, u"localport="_s + QString::number(port),
                      u"profile=any"_s});
-}
-
-QString languageForCode(const QString &twoLetters)
-{
-    static const QMap<QString, QString> Languages = {
-        {u"en"_s, u"en"_s}, {u"fr"_s, u"fr"_s},   {u"de"_s, u"de"_s}, {u"ja"_s, u"ja"_s},
-        {u"es"_s, u"es"_s}, {u"ko"_s, u"ko"_s},   {u"nl"_s, u"nl"_s}, {u"pt"_s, u"pt"_s},
-        {u"it"_s, u"it"_s}, {u"zh"_s, u"zh_TW"_s}};
-    return Languages.value(twoLetters, u"en"_s);
 }
 
 } // namespace
@@ -99,7 +90,8 @@ QString chooseLanguage(const QString &storedLanguage, const QString &localeName)
     }
     const QString twoLetters = localeName.section(u'_', 0, 0).left(2);
     qCDebug(logApp) << "[Main] System language:" << twoLetters;
-    QString language = languageForCode(twoLetters);
+    const Language *const known = languageForLetters(twoLetters);
+    QString language = known ? QString(known->code) : u"en"_s;
     qCDebug(logApp) << "[Main] Auto-detected:" << language;
     return language;
 }
@@ -136,7 +128,7 @@ QString initTranslation()
 {
     qCDebug(logApp) << "========== Translation Init ==========";
     const QSettings settings(AppConfig::userOrganisation(), AppConfig::appName());
-    const QString stored = settings.value("language"_L1, QString()).toString();
+    const QString stored = settings.value(LanguageKey, QString()).toString();
     qCDebug(logApp) << "[Main] User language from settings:" << stored;
     QString language = chooseLanguage(stored, QLocale::system().name());
     installTranslation(QCoreApplication::applicationDirPath(), language);

@@ -81,10 +81,20 @@ struct RunSummary
     QList<ItemResult>
         notArrived; ///< failed or not confirmed, of all kinds, in the order in which it was known
     QList<ItemResult> different; ///< was there with other content
+    QList<ItemResult> items;     ///< applications and settings, whatever became of them
     QList<FullVolume> fullVolumes;
-    QMap<QString, QString> savedFolderPaths; ///< New PC: receiving folder name to local path
-    QMap<QString, int> savedFolderCounts;    ///< New PC: receiving folder name to number of files
+    QMap<QString, QString> savedFolderPaths;   ///< New PC: receiving folder name to local path
+    QMap<QString, int> savedFolderCounts;      ///< New PC: receiving folder name to number of files
+    QMap<QString, QString> savedFolderSamples; ///< New PC: receiving folder name to "(a, b, c, ...)"
 
+    /// Items of all kinds.
+    [[nodiscard]] qint64 total() const { return qint64(files.total()) + apps.total() + settings.total(); }
+    /// Bytes per second over whole seconds; 0 for a run that took less than one.
+    [[nodiscard]] double averageSpeed() const
+    {
+        const qint64 seconds = startTime.secsTo(endTime);
+        return seconds > 0 ? double(arrivedBytes) / double(seconds) : 0.0;
+    }
     /// Everything that was ticked stands on the New PC as it stands on the Old PC.
     [[nodiscard]] bool everythingArrived() const
     {

@@ -23,6 +23,8 @@ void registerMetaTypes()
         qRegisterMetaType<Zandrove::ScanResult>("Zandrove::ScanResult");
         qRegisterMetaType<Zandrove::TransferProgress>("Zandrove::TransferProgress");
         qRegisterMetaType<Zandrove::MigrationReport>("Zandrove::MigrationReport");
+        qRegisterMetaType<Zandrove::ItemResult>("Zandrove::ItemResult");
+        qRegisterMetaType<Zandrove::RunSummary>("Zandrove::RunSummary");
         qRegisterMetaType<QList<Zandrove::AppInfo>>("QList<Zandrove::AppInfo>");
         qRegisterMetaType<QList<Zandrove::FolderInfo>>("QList<Zandrove::FolderInfo>");
         qRegisterMetaType<QList<Zandrove::AccountInfo>>("QList<Zandrove::AccountInfo>");
@@ -74,17 +76,17 @@ void TransferEngine::setupConnections()
 
 void TransferEngine::setupLinkConnections()
 {
-    using Link = NetworkManager;
-    connect(m_networkManager, &Link::pcDiscovered, this, &TransferEngine::onPCDiscovered);
-    connect(m_networkManager, &Link::pcLost, this, &TransferEngine::onPCLost);
-    connect(m_networkManager, &Link::connected, this, &TransferEngine::onConnected);
-    connect(m_networkManager, &Link::disconnected, this, &TransferEngine::onDisconnected);
-    connect(m_networkManager, &Link::connectionFailed, this, &TransferEngine::onConnectionFailed);
-    connect(m_networkManager, &Link::connectionTimeout, this, &TransferEngine::onConnectionTimeout);
-    connect(m_networkManager, &Link::connectionRequested, this, &TransferEngine::connectionRequested);
-    connect(m_networkManager, &Link::directScanStarted, this, &TransferEngine::directScanStarted);
-    connect(m_networkManager, &Link::directScanProgress, this, &TransferEngine::directScanProgress);
-    connect(m_networkManager, &Link::directScanFinished, this, &TransferEngine::directScanFinished);
+    using Net = NetworkManager;
+    connect(m_networkManager, &Net::pcDiscovered, this, &TransferEngine::onPCDiscovered);
+    connect(m_networkManager, &Net::pcLost, this, &TransferEngine::onPCLost);
+    connect(m_networkManager, &Net::connected, this, &TransferEngine::onConnected);
+    connect(m_networkManager, &Net::disconnected, this, &TransferEngine::onDisconnected);
+    connect(m_networkManager, &Net::connectionFailed, this, &TransferEngine::onConnectionFailed);
+    connect(m_networkManager, &Net::connectionTimeout, this, &TransferEngine::onConnectionTimeout);
+    connect(m_networkManager, &Net::connectionRequested, this, &TransferEngine::connectionRequested);
+    connect(m_networkManager, &Net::directScanStarted, this, &TransferEngine::directScanStarted);
+    connect(m_networkManager, &Net::directScanProgress, this, &TransferEngine::directScanProgress);
+    connect(m_networkManager, &Net::directScanFinished, this, &TransferEngine::directScanFinished);
 }
 
 void TransferEngine::setupScanConnections()
@@ -111,6 +113,7 @@ void TransferEngine::setupMigrationConnections()
     connect(m_migrationManager, &Run::sessionEndReceived, this, &TransferEngine::sessionEndReceived);
     connect(m_migrationManager, &Run::pausedByPeer, this, [this] { setPausedByPeer(true); });
     connect(m_migrationManager, &Run::resumedByPeer, this, [this] { setPausedByPeer(false); });
+    connect(m_migrationManager, &Run::waiting, this, &TransferEngine::onWaiting);
     connect(m_migrationManager, &Run::newTransferStarted, this, &TransferEngine::onNewTransferStarted);
     connect(m_migrationManager, &Run::progressChanged, this, &TransferEngine::onMigrationProgress);
     connect(m_migrationManager, &Run::completed, this, &TransferEngine::onMigrationCompleted);
@@ -119,8 +122,16 @@ void TransferEngine::setupMigrationConnections()
     connect(m_migrationManager, &Run::fileTransferProgress, this, &TransferEngine::onFileTransferProgress);
     connect(m_migrationManager, &Run::fileTransferCompleted, this, &TransferEngine::onFileTransferCompleted);
     connect(m_migrationManager, &Run::fileTransferFailed, this, &TransferEngine::onFileTransferFailed);
-    connect(m_migrationManager, &Run::appOutcome, this, &TransferEngine::appOutcome);
-    connect(m_migrationManager, &Run::settingOutcome, this, &TransferEngine::settingOutcome);
+    connect(m_migrationManager, &Run::appOutcome, this,
+            [this](const QString &name, bool success, const QString &error) {
+                noteItem(ItemKind::Application, name, success, error);
+                Q_EMIT appOutcome(name, success, error);
+            });
+    connect(m_migrationManager, &Run::settingOutcome, this,
+            [this](const QString &name, bool success, const QString &error) {
+                noteItem(ItemKind::Setting, name, success, error);
+                Q_EMIT settingOutcome(name, success, error);
+            });
     connect(m_migrationManager, &Run::settingsFinished, this, &TransferEngine::settingsFinished);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/common/Records.h"
+#include "core/common/RunSummary.h"
 #include "peer/LinkEnvironment.h"
 
 #include <QList>
@@ -94,11 +95,9 @@ public:
     /// Sends the selection. Emits `transferStarted`, or `transferFailed` when there is no peer, nothing
     /// selected, or a scan under way.
     void startTransfer();
-    /// Waits, as the New PC, for what the peer sends. Emits `transferStarted`.
+    /// Waits, as the New PC, for what the peer sends. Emits `transferStarted`, and again whenever it waits
+    /// anew by itself, behind a run that was called off or reset, for as long as the session lasts.
     void startReceiving();
-    /// New PC: whether the peer has begun to send since this side last cancelled, was cancelled, or started
-    /// to wait. To start waiting again would end that run.
-    [[nodiscard]] bool hasIncomingRun() const;
     /// New PC: settings have arrived that are still being applied. `settingsFinished` follows.
     [[nodiscard]] bool isApplyingSettings() const;
     /// Holds the transfer on both sides. Emits `transferPaused`.
@@ -112,6 +111,8 @@ public:
 
     [[nodiscard]] TransferProgress progress() const { return m_progress; }
     [[nodiscard]] MigrationReport report() const { return m_report; }
+    /// The running or the last run, as its user is to be told of it.
+    [[nodiscard]] RunSummary summary() const { return m_summary; }
 
     /// Back to the very start: ends everything, disconnects, clears all state.
     void reset();
@@ -174,6 +175,17 @@ Q_SIGNALS:
     /// What became of one setting: on the Old PC whether it was exported, on the New PC whether it is
     /// applied, which may come after `transferCompleted`.
     void settingOutcome(const QString &name, bool success, const QString &error);
+    /// A file, an application or a setting has its outcome.
+    void itemSettled(const Zandrove::ItemResult &item);
+    /// A run is over, however it ended: once for each, and after the signal that tells how, where there is
+    /// one.
+    void runEnded(const Zandrove::RunSummary &summary);
+    void linkSilent(int seconds); ///< nothing has come from the peer for so long; the link stands
+    void linkAnswers();           ///< it has answered again
+    /// New PC: the peer has announced more than fits on the destination's volume, in bytes. The run goes on.
+    void spaceShort(qint64 needed, qint64 available, const QString &volume);
+    /// The New PC installs an application, by the name that is shown.
+    void installing(const QString &name, int percent);
     /// All settings of the run are through.
     void settingsFinished(int succeeded, int failed);
     void info(const QString &message);
@@ -219,9 +231,14 @@ private:
     void configureMigration(int role);
     [[nodiscard]] QList<FolderInfo> foldersToSend() const;
     void onNewTransferStarted();
+    void onWaiting();
     void onPeerCancelled();
     void onTransferReset();
     void setPausedByPeer(bool paused);
+    void beginSummary();
+    void noteItem(ItemKind kind, const QString &name, bool success, const QString &error);
+    void noteReport(const MigrationReport &report);
+    void endRun(RunEnd end);
     void clearAll();
 
     NetworkManager *m_networkManager = nullptr;
@@ -238,6 +255,7 @@ private:
     ScanResult m_scanResult;
     TransferProgress m_progress;
     MigrationReport m_report;
+    RunSummary m_summary;
     QString m_verifyCode;
     bool m_scanning = false;
     int m_completedScans = 0; // scanners that are through, 0 to 4

@@ -4,6 +4,7 @@
 #include "core/engine/TransferEngine.h"
 #include "peer/NetworkManager.h"
 #include "pipeline/MigrationManager.h"
+#include "support/Utilities.h"
 
 #include <QFileInfo>
 
@@ -96,6 +97,48 @@ void TransferEngine::beginTransfer()
     m_paused = false;
     m_report = MigrationReport();
     m_report.startTime = QDateTime::currentDateTime();
+    beginSummary();
+}
+
+void TransferEngine::beginSummary()
+{
+    m_summary = RunSummary();
+    m_summary.role = m_role;
+    m_summary.ownName = getComputerName();
+    m_summary.peerName = m_connectedPC.name;
+    m_summary.startTime = QDateTime::currentDateTime();
+}
+
+void TransferEngine::noteItem(ItemKind kind, const QString &name, bool success, const QString &error)
+{
+    const ItemResult item{kind, success ? ItemOutcome::Arrived : ItemOutcome::Failed, name, error, 0};
+    OutcomeCounts &counts = kind == ItemKind::Application ? m_summary.apps : m_summary.settings;
+    ++(success ? counts.arrived : counts.failed);
+    m_summary.items.append(item);
+    if (!success)
+        m_summary.notArrived.append(item);
+    Q_EMIT itemSettled(item);
+}
+
+void TransferEngine::noteReport(const MigrationReport &report)
+{
+    m_summary.startTime = report.startTime;
+    m_summary.files.arrived = report.filesSuccess;
+    m_summary.files.failed = report.filesFailed;
+    m_summary.files.wasThere = report.filesSkipped;
+    m_summary.arrivedBytes = report.totalBytes;
+    m_summary.savedFolderPaths = report.savedFolderPaths;
+    m_summary.savedFolderCounts = report.savedFolderCounts;
+    m_summary.savedFolderSamples = report.savedFolderSamples;
+}
+
+void TransferEngine::endRun(RunEnd end)
+{
+    if (m_summary.end != RunEnd::Running || !m_summary.startTime.isValid())
+        return;
+    m_summary.end = end;
+    m_summary.endTime = QDateTime::currentDateTime();
+    Q_EMIT runEnded(m_summary);
 }
 
 void TransferEngine::configureMigration(int role)
@@ -142,9 +185,11 @@ void TransferEngine::startReceiving()
     Q_EMIT info(tr("Waiting to receive files..."));
 }
 
-bool TransferEngine::hasIncomingRun() const
+void TransferEngine::onWaiting()
 {
-    return m_migrationManager->hasIncomingRun();
+    beginTransfer();
+    Q_EMIT transferStarted();
+    Q_EMIT info(tr("Waiting to receive files..."));
 }
 
 bool TransferEngine::isApplyingSettings() const
@@ -188,6 +233,7 @@ void TransferEngine::cancelTransfer()
     m_transferring = false;
     m_paused = false;
     Q_EMIT transferCancelled();
+    endRun(RunEnd::CancelledHere);
     Q_EMIT info(tr("Transfer cancelled"));
 }
 
@@ -214,6 +260,9 @@ void TransferEngine::onPeerCancelled()
     if (m_role == OldPC)
         m_transferring = false;
     Q_EMIT peerCancelled();
+    endRun(RunEnd::CancelledThere);
+    if (m_role == NewPC)
+        beginSummary();
 }
 
 void TransferEngine::onTransferReset()
@@ -245,7 +294,9 @@ void TransferEngine::onMigrationCompleted(const MigrationReport &report)
     m_report = report;
     m_report.endTime = QDateTime::currentDateTime();
     m_transferring = false;
+    noteReport(report);
     Q_EMIT transferCompleted(report);
+    endRun(RunEnd::Complete);
     Q_EMIT info(
         tr("Transfer completed - Success rate: %1%").arg(QString::number(successRate(report), 'f', 1)));
     Q_EMIT stateChanged();

@@ -18,13 +18,10 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace Zandrove {
 
 namespace {
-
-constexpr auto RearmDelay = 200ms;
 
 QString noRemaining()
 {
@@ -87,11 +84,6 @@ void TransferPage::setupConnections()
     for (auto end : {&Engine::peerCancelled, &Engine::transferReset, &Engine::sessionEndReceived})
         connect(m_engine, end, this, &TransferPage::onRunEnded);
     connect(m_engine, &Engine::transferCompleted, this, &TransferPage::onRunEnded);
-    connect(m_engine, &Engine::sessionEndReceived, this, [this] { m_sessionEnded = true; });
-
-    m_listenAgainTimer.setSingleShot(true);
-    m_listenAgainTimer.setInterval(RearmDelay);
-    connect(&m_listenAgainTimer, &QTimer::timeout, this, &TransferPage::listenAgain);
 }
 
 void TransferPage::setRole(int role)
@@ -113,7 +105,6 @@ void TransferPage::setFiles(const QStringList &files)
 void TransferPage::startTransfer()
 {
     qCDebug(logUi) << "TransferPage::startTransfer() - Starting real transfer as sender";
-    m_sessionEnded = false;
     clearFileItems();
     showPaused(false);
     clearCard(u"0 MB/s"_s, u"--"_s);
@@ -124,7 +115,6 @@ void TransferPage::startTransfer()
 void TransferPage::startReceiving()
 {
     qCDebug(logUi) << "TransferPage::startReceiving() - Waiting for incoming data";
-    m_sessionEnded = false;
     showPaused(false);
     m_titleLabel->setText(tr("Waiting for Data..."));
     clearCard(tr("Waiting..."), u"-- GB"_s);
@@ -232,7 +222,6 @@ bool TransferPage::confirmCancel()
 /// There is nothing left to cancel, and who ended it says what comes next.
 void TransferPage::onRunEnded()
 {
-    m_listenAgainTimer.stop();
     m_runEnded = true;
     if (m_cancelQuestion)
         m_cancelQuestion->reject();
@@ -250,26 +239,7 @@ void TransferPage::onCancelClicked()
         return;
     }
     m_titleLabel->setText(tr("Waiting for Data..."));
-    listenAgainSoon("Restarting receive mode after cancel...");
-}
-
-/// Gives the peer time to hear of the cancel.
-void TransferPage::listenAgainSoon(const char *logLine)
-{
-    if (m_sessionEnded)
-        return;
-    m_listenAgainLog = logLine;
-    m_listenAgainTimer.start();
-}
-
-void TransferPage::listenAgain()
-{
-    // The peer may have begun anew before the delay was over.
-    if (!m_engine || m_engine->hasIncomingRun())
-        return;
-    if (m_listenAgainLog)
-        qCDebug(logUi) << m_listenAgainLog;
-    m_engine->startReceiving();
+    qCDebug(logUi) << "Restarting receive mode after cancel...";
 }
 
 void TransferPage::onPeerCancelled()
@@ -281,7 +251,6 @@ void TransferPage::onPeerCancelled()
         return;
     }
     m_titleLabel->setText(tr("Sender cancelled. Waiting..."));
-    listenAgainSoon(nullptr);
 }
 
 TransferFileItem *TransferPage::findFileItem(const QString &fileName) const

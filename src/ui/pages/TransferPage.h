@@ -6,7 +6,6 @@
 #include <QList>
 #include <QPointer>
 #include <QStringList>
-#include <QTimer>
 #include <QWidget>
 
 class QLabel;
@@ -79,8 +78,6 @@ private:
     void showFailedCount(int count);
     /// An empty card with these texts in the places of the speed and the total.
     void clearCard(const QString &speed, const QString &total);
-    void listenAgainSoon(const char *logLine);
-    void listenAgain();
 
     [[nodiscard]] bool confirmCancel();
     void onRunEnded();
@@ -106,9 +103,6 @@ private:
     TransferProgress m_progress;
     QPointer<QMessageBox> m_cancelQuestion; ///< while it is open
     bool m_runEnded = false;                ///< since the question was asked
-    bool m_sessionEnded = false;            ///< by the peer; until the page is entered again
-    QTimer m_listenAgainTimer;
-    const char *m_listenAgainLog = nullptr; ///< what is logged at its end, if anything
 };
 
 } // namespace Zandrove

@@ -33,7 +33,6 @@ AccountListItem::AccountListItem(QWidget *parent)
 
 void AccountListItem::setAccountInfo(const AccountInfo &info)
 {
-    m_info = info;
     m_nameLabel->setText(info.userName);
     m_typeLabel->setText(info.accountType);
     setBoxName(info.userName, info.accountType);

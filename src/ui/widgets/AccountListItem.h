@@ -16,10 +16,8 @@ public:
     explicit AccountListItem(QWidget *parent = nullptr);
 
     void setAccountInfo(const AccountInfo &info);
-    [[nodiscard]] const AccountInfo &accountInfo() const { return m_info; }
 
 private:
-    AccountInfo m_info;
     ElidedLabel *m_nameLabel = nullptr;
     ElidedLabel *m_typeLabel = nullptr;
 };

@@ -13,7 +13,6 @@ class CircleProgress final : public QWidget
 public:
     explicit CircleProgress(QWidget *parent = nullptr);
 
-    [[nodiscard]] int value() const { return m_value; }
     /// In percent; held within 0 to 100.
     void setValue(int value);
     void setColors(const QColor &track, const QColor &progress);

@@ -1,26 +1,22 @@
 #include "ui/widgets/FileBrowserWidget.h"
 
 #include "support/Utilities.h"
-#include "ui/Log.h"
 #include "ui/Theme.h"
 #include "ui/widgets/ElidedLabel.h"
+#include "ui/widgets/FolderTree.h"
 #include "ui/widgets/KeyboardFocus.h"
 #include "ui/widgets/Labels.h"
 
 #include <QDir>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
-#include <QScopedValueRollback>
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QStorageInfo>
 #include <QTimer>
-#include <QTreeWidget>
-#include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -32,9 +28,7 @@ namespace Colour = Theme::Colour;
 
 namespace {
 
-constexpr int MAX_ITEMS_PER_FOLDER = 100;
 constexpr int PathRole = Qt::UserRole;
-constexpr int LoadedRole = Qt::UserRole + 1;
 // Lets the window show before the drives are asked, which may have to spin up.
 constexpr auto DrivesDelay = 100ms;
 
@@ -46,23 +40,6 @@ QString thisPcMarker()
 QIcon iconFor(const QString &word)
 {
     return QIcon(u":/icons/%1.svg"_s.arg(word));
-}
-
-QString pathOf(const QTreeWidgetItem *item)
-{
-    return item->data(0, PathRole).toString();
-}
-
-/// Folders that belong to the system, which nobody moves.
-bool isSystemFolder(const QString &name)
-{
-    static const QSet<QString> Names = {u"System Volume Information"_s,
-                                        u"Recovery"_s,
-                                        u"$Recycle.Bin"_s,
-                                        u"Config.Msi"_s,
-                                        u"MSOCache"_s,
-                                        u"PerfLogs"_s};
-    return name.startsWith(u'$') || name.startsWith(u'.') || Names.contains(name);
 }
 
 bool isNetworkShare(const QString &rootPath)
@@ -87,19 +64,6 @@ QString listStyle()
            // The line between the entries, whose own background an item with a style does not show.
            u"QListWidget::item:disabled { background: %5; }"_s.arg(
                Colour::TextSecondary, Colour::Hover, Colour::BlueTintStrong, Colour::Text, Colour::Border);
-}
-
-QString treeStyle()
-{
-    return u"QTreeWidget { background: %1; border: none; outline: none; font-size: 13px; color: %2; } "
-           u"QTreeWidget::item { padding: 4px 2px; min-height: 24px; border: none; } "
-           u"QTreeWidget::item:hover { background: %3; } "
-           u"QTreeWidget::item:selected { background: %4; color: %2; } "
-           u"QTreeView::branch { background: transparent; } "
-           u"QTreeView::branch:has-children:closed { image: url(:/icons/chevron-right.svg); padding: 6px; } "
-           u"QTreeView::branch:has-children:open { image: url(:/icons/chevron-down.svg); padding: 6px; } "_s
-               .arg(Colour::White, Colour::Text, Colour::Hover, Colour::BlueTintStrong) +
-           Theme::treeCheckBoxStyle();
 }
 
 QPushButton *createToolButton(const QString &text)
@@ -135,8 +99,7 @@ FileBrowserWidget::FileBrowserWidget(QWidget *parent)
 {
     setupUi();
     fillShortcuts();
-    connect(m_tree, &QTreeWidget::itemExpanded, this, &FileBrowserWidget::onFolderExpanded);
-    connect(m_tree, &QTreeWidget::itemChanged, this, &FileBrowserWidget::onItemChanged);
+    connect(m_tree, &FolderTree::ticksChanged, this, &FileBrowserWidget::selectionChanged);
     connect(m_shortcutList, &QListWidget::itemClicked, this, &FileBrowserWidget::onShortcutClicked);
     clickByKey(m_shortcutList, [this] {
         if (QListWidgetItem *item = m_shortcutList->currentItem())
@@ -183,7 +146,8 @@ QWidget *FileBrowserWidget::createShortcutPane()
 
 QWidget *FileBrowserWidget::createTreePane()
 {
-    setupTree();
+    m_tree = new FolderTree;
+    m_tree->setAccessibleName(tr("Select folders to transfer"));
     auto *pane = new QWidget;
     auto *layout = new QVBoxLayout(pane);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -212,28 +176,14 @@ QWidget *FileBrowserWidget::createToolbar()
     return toolbar;
 }
 
-void FileBrowserWidget::setupTree()
-{
-    m_tree = new QTreeWidget;
-    m_tree->setAccessibleName(tr("Select folders to transfer"));
-    m_tree->setHeaderHidden(true);
-    m_tree->setIndentation(24);
-    m_tree->setAnimated(true);
-    m_tree->setColumnCount(1);
-    m_tree->setUniformRowHeights(true);
-    m_tree->setStyleSheet(treeStyle());
-}
-
 void FileBrowserWidget::fillShortcuts()
 {
     using Paths = QStandardPaths;
     const auto addLocation = [this](const QString &label, Paths::StandardLocation location,
                                     const QString &iconWord) {
         const QString path = Paths::writableLocation(location);
-        if (path.isEmpty() || !QDir(path).exists())
-            return;
-        addShortcut(label, path, iconWord);
-        m_shortcutPaths.insert(label, path);
+        if (!path.isEmpty() && QDir(path).exists())
+            addShortcut(label, path, iconWord);
     };
     addLocation(tr("Desktop"), Paths::DesktopLocation, u"desktop"_s);
     addLocation(tr("My Documents"), Paths::DocumentsLocation, u"documents"_s);
@@ -271,190 +221,37 @@ void FileBrowserWidget::loadDrives()
                                                       : u"%1 (%2)"_s.arg(volume.name(), letter);
         const QString room =
             tr(" - %1 free of %2").arg(formatSize(volume.bytesFree()), formatSize(volume.bytesTotal()));
-        m_tree->addTopLevelItem(createFolderItem(label + room, root, icon));
+        m_tree->addRoot(label + room, root, icon);
     }
-}
-
-QTreeWidgetItem *FileBrowserWidget::createFolderItem(const QString &label, const QString &path,
-                                                     const QIcon &icon)
-{
-    auto *item = new QTreeWidgetItem({label});
-    item->setData(0, PathRole, path);
-    item->setData(0, LoadedRole, false);
-    item->setToolTip(0, plainToolTip(path));
-    item->setIcon(0, icon);
-    item->setCheckState(0, Qt::Unchecked);
-    item->setChildIndicatorPolicy(QTreeWidgetItem::ShowIndicator);
-    return item;
 }
 
 void FileBrowserWidget::onShortcutClicked(QListWidgetItem *item)
 {
     const QString path = item->data(PathRole).toString();
-    if (path == thisPcMarker()) {
+    if (path == thisPcMarker())
         loadDrives();
-        return;
-    }
-    if (path.isEmpty())
-        return;
-    m_tree->clear();
-    QTreeWidgetItem *root = createFolderItem(item->text(), path, item->icon());
-    root->setData(0, LoadedRole, true);
-    m_tree->addTopLevelItem(root);
-    loadSubfolders(root, path);
-    root->setExpanded(true);
-}
-
-void FileBrowserWidget::onFolderExpanded(QTreeWidgetItem *item)
-{
-    const QString path = pathOf(item);
-    if (item->data(0, LoadedRole).toBool() || path.isEmpty())
-        return;
-    qCDebug(logUi) << "Loading subfolders for:" << path;
-    const qsizetype selectedBefore = m_checkedPaths.size();
-    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    {
-        // The mark is a change of the item, too, and must not pass for a change of its box.
-        const QScopedValueRollback<bool> guard(m_updating, true);
-        item->setData(0, LoadedRole, true);
-        loadSubfolders(item, path);
-    }
-    QGuiApplication::restoreOverrideCursor();
-    if (item->childCount() == 0)
-        item->setChildIndicatorPolicy(QTreeWidgetItem::DontShowIndicator);
-    if (m_checkedPaths.size() != selectedBefore)
-        Q_EMIT selectionChanged();
-}
-
-void FileBrowserWidget::loadSubfolders(QTreeWidgetItem *parent, const QString &path)
-{
-    if (parent == nullptr || path.isEmpty())
-        return;
-    const QDir dir(path);
-    if (!dir.exists()) {
-        qCDebug(logUi) << "Directory does not exist:" << path;
-        return;
-    }
-    if (!dir.isReadable()) {
-        qCDebug(logUi) << "Directory not readable:" << path;
-        return;
-    }
-
-    const QFileInfoList entries =
-        dir.entryInfoList(QDir::Dirs | QDir::NoSymLinks | QDir::NoDotAndDotDot, QDir::IgnoreCase);
-    const QIcon icon = iconFor(u"folder"_s);
-    const bool checked = parent->checkState(0) == Qt::Checked;
-    QList<QTreeWidgetItem *> children;
-    auto entry = entries.constBegin();
-    for (; entry != entries.constEnd() && children.size() < MAX_ITEMS_PER_FOLDER; ++entry) {
-        const QString childPath = entry->absoluteFilePath();
-        if (isSystemFolder(entry->fileName()) || !QDir(childPath).exists())
-            continue;
-        QTreeWidgetItem *child = createFolderItem(entry->fileName(), childPath, icon);
-        if (checked) {
-            child->setCheckState(0, Qt::Checked);
-            setPathChecked(childPath, true);
-        }
-        children.append(child);
-    }
-    parent->addChildren(children);
-    if (entry != entries.constEnd())
-        qCDebug(logUi) << "Reached max items limit for:" << path;
-    qCDebug(logUi) << "Loaded" << children.size() << "subfolders for:" << path;
-}
-
-void FileBrowserWidget::onItemChanged(QTreeWidgetItem *item, int column)
-{
-    if (m_updating || column != 0 || item == nullptr)
-        return;
-    {
-        const QScopedValueRollback<bool> guard(m_updating, true);
-        const Qt::CheckState state = item->checkState(0);
-        setPathChecked(pathOf(item), state == Qt::Checked);
-        updateChildren(item, state);
-        updateParents(item);
-    }
-    m_tree->viewport()->update();
-    Q_EMIT selectionChanged();
-}
-
-void FileBrowserWidget::updateChildren(QTreeWidgetItem *item, Qt::CheckState state)
-{
-    for (int i = 0; i < item->childCount(); ++i) {
-        QTreeWidgetItem *child = item->child(i);
-        child->setCheckState(0, state);
-        setPathChecked(pathOf(child), state == Qt::Checked);
-        updateChildren(child, state);
-    }
-}
-
-void FileBrowserWidget::updateParents(const QTreeWidgetItem *item)
-{
-    for (QTreeWidgetItem *parent = item->parent(); parent != nullptr; parent = parent->parent()) {
-        int checked = 0;
-        int unchecked = 0;
-        for (int i = 0; i < parent->childCount(); ++i) {
-            const Qt::CheckState state = parent->child(i)->checkState(0);
-            checked += state == Qt::Checked ? 1 : 0;
-            unchecked += state == Qt::Unchecked ? 1 : 0;
-        }
-        if (checked == parent->childCount())
-            parent->setCheckState(0, Qt::Checked);
-        else if (unchecked == parent->childCount())
-            parent->setCheckState(0, Qt::Unchecked);
-        else
-            parent->setCheckState(0, Qt::PartiallyChecked);
-    }
-}
-
-void FileBrowserWidget::setPathChecked(const QString &path, bool checked)
-{
-    if (path.isEmpty())
-        return;
-    if (checked)
-        m_checkedPaths.insert(path);
-    else
-        m_checkedPaths.remove(path);
+    else if (!path.isEmpty())
+        m_tree->showOnly(item->text(), path, item->icon());
 }
 
 QStringList FileBrowserWidget::selectedPaths() const
 {
-    return m_checkedPaths.values();
+    return m_tree->tickedPaths();
 }
 
 int FileBrowserWidget::selectedCount() const
 {
-    return static_cast<int>(m_checkedPaths.size());
+    return m_tree->tickedCount();
 }
 
 void FileBrowserWidget::selectAll()
 {
-    {
-        const QScopedValueRollback<bool> guard(m_updating, true);
-        for (int i = 0; i < m_tree->topLevelItemCount(); ++i) {
-            QTreeWidgetItem *item = m_tree->topLevelItem(i);
-            item->setCheckState(0, Qt::Checked);
-            updateChildren(item, Qt::Checked);
-            setPathChecked(pathOf(item), true);
-        }
-    }
-    Q_EMIT selectionChanged();
+    m_tree->tickAll();
 }
 
 void FileBrowserWidget::clearSelection()
 {
-    {
-        const QScopedValueRollback<bool> guard(m_updating, true);
-        m_checkedPaths.clear();
-        for (QTreeWidgetItemIterator item(m_tree); *item != nullptr; ++item)
-            (*item)->setCheckState(0, Qt::Unchecked);
-        for (int i = 0; i < m_shortcutList->count(); ++i) {
-            QListWidgetItem *entry = m_shortcutList->item(i);
-            if (entry->flags().testFlag(Qt::ItemIsUserCheckable))
-                entry->setCheckState(Qt::Unchecked);
-        }
-    }
-    Q_EMIT selectionChanged();
+    m_tree->untickAll();
 }
 
 } // namespace Zandrove

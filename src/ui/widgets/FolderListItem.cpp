@@ -36,7 +36,6 @@ FolderListItem::FolderListItem(QWidget *parent)
 
 void FolderListItem::setFolderInfo(const FolderInfo &info)
 {
-    m_info = info;
     m_nameLabel->setText(info.name);
     m_pathLabel->setText(info.path);
     m_contentLabel->setText(

@@ -16,10 +16,8 @@ public:
     explicit FolderListItem(QWidget *parent = nullptr);
 
     void setFolderInfo(const FolderInfo &info);
-    [[nodiscard]] const FolderInfo &folderInfo() const { return m_info; }
 
 private:
-    FolderInfo m_info;
     ElidedLabel *m_nameLabel = nullptr;
     ElidedLabel *m_pathLabel = nullptr;
     ElidedLabel *m_contentLabel = nullptr;

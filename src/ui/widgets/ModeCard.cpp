@@ -2,14 +2,10 @@
 
 #include "ui/Log.h"
 #include "ui/Theme.h"
-#include "ui/widgets/AccessibleCard.h"
-#include "ui/widgets/CardPainting.h"
-#include "ui/widgets/KeyboardFocus.h"
 #include "ui/widgets/Labels.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -19,7 +15,6 @@ namespace Zandrove {
 
 namespace {
 
-constexpr int CornerRadius = 16;
 constexpr int IconSide = 28;
 constexpr int IconScale = 4; // sharp on any screen
 
@@ -45,19 +40,19 @@ QPixmap renderSvg(const QString &path)
 } // namespace
 
 ModeCard::ModeCard(QWidget *parent)
-    : QWidget(parent)
+    : SelectableCard({16,
+                      {Theme::Colour::BlueTint, Theme::Colour::Primary},
+                      {Theme::Colour::CardHover, Theme::Colour::BorderStrong},
+                      {Theme::Colour::White, Theme::Colour::Border}},
+                     parent)
 {
-    makeAccessibleChoice(this);
     setupUi();
-    refreshTile();
-    clickByKey(this, [this] { Q_EMIT clicked(); });
-    KeyboardFocus::setArea(this, this, CornerRadius);
+    showSelected(false);
 }
 
 void ModeCard::setupUi()
 {
     setFixedHeight(88);
-    setCursor(Qt::PointingHandCursor);
 
     m_iconTile = new QWidget;
     m_iconTile->setFixedSize(48, 48);
@@ -98,7 +93,7 @@ void ModeCard::setIcons(const QString &unselectedPath, const QString &selectedPa
 {
     m_unselectedIcon = unselectedPath;
     m_selectedIcon = selectedPath;
-    refreshTile();
+    showSelected(isSelected());
 }
 
 void ModeCard::setTitle(const QString &title)
@@ -132,58 +127,17 @@ void ModeCard::refreshAccessibleName()
     setAccessibleDescription(details.join(u", "_s));
 }
 
-void ModeCard::setSelected(bool selected)
+void ModeCard::showSelected(bool selected)
 {
-    if (m_selected == selected)
-        return;
-    m_selected = selected;
     m_checkLabel->setVisible(selected);
-    refreshTile();
-    update();
-    notifySelected(this);
-}
-
-void ModeCard::refreshTile()
-{
     m_iconTile->setStyleSheet(u"QWidget { %1 } QLabel { background: transparent; }"_s.arg(
-        Theme::boxProperties(m_selected ? Theme::Colour::Primary : Theme::Colour::Hover, 12)));
-    const QString &path = m_selected ? m_selectedIcon : m_unselectedIcon;
+        Theme::boxProperties(selected ? Theme::Colour::Primary : Theme::Colour::Hover, 12)));
+    const QString &path = selected ? m_selectedIcon : m_unselectedIcon;
     if (path.isEmpty())
         return;
     const QPixmap icon = renderSvg(path);
     if (!icon.isNull())
         m_iconLabel->setPixmap(icon);
-}
-
-void ModeCard::mousePressEvent(QMouseEvent *event)
-{
-    if (event->button() == Qt::LeftButton)
-        Q_EMIT clicked();
-    else
-        QWidget::mousePressEvent(event);
-}
-
-void ModeCard::enterEvent(QEnterEvent *)
-{
-    m_hovered = true;
-    update();
-}
-
-void ModeCard::leaveEvent(QEvent *)
-{
-    m_hovered = false;
-    update();
-}
-
-void ModeCard::paintEvent(QPaintEvent *)
-{
-    using namespace Theme::Colour;
-    if (m_selected)
-        paintCard(this, CornerRadius, BlueTint, Primary);
-    else if (m_hovered)
-        paintCard(this, CornerRadius, CardHover, BorderStrong);
-    else
-        paintCard(this, CornerRadius, White, Border);
 }
 
 } // namespace Zandrove

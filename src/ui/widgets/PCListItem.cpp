@@ -1,14 +1,10 @@
 #include "ui/widgets/PCListItem.h"
 
 #include "support/PrintableText.h"
-#include "ui/widgets/AccessibleCard.h"
-#include "ui/widgets/CardPainting.h"
 #include "ui/widgets/ElidedLabel.h"
-#include "ui/widgets/KeyboardFocus.h"
 #include "ui/widgets/Labels.h"
 
 #include <QHBoxLayout>
-#include <QMouseEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -16,25 +12,21 @@ namespace Zandrove {
 
 namespace {
 
-constexpr int CornerRadius = 14;
 constexpr int GlyphPixels = 24;
 constexpr int TileRadius = 14;
 constexpr int DotSide = 10;
-constexpr QLatin1StringView Transparent("transparent");
 
 } // namespace
 
 PCListItem::PCListItem(QWidget *parent)
-    : QWidget(parent)
+    : SelectableCard({14,
+                      {Theme::Colour::BlueTint, Theme::Colour::Primary},
+                      {Theme::Colour::Panel, Theme::Colour::Border},
+                      {Theme::Colour::White, "transparent"_L1}},
+                     parent)
 {
-    makeAccessibleChoice(this);
     setupUi();
     showOnline(false);
-    clickByKey(this, [this] {
-        if (m_info.online)
-            Q_EMIT clicked();
-    });
-    KeyboardFocus::setArea(this, this, CornerRadius);
 }
 
 void PCListItem::setupUi()
@@ -85,48 +77,12 @@ void PCListItem::showOnline(bool online)
     m_statusDot->setStyleSheet(Theme::boxStyle("QLabel"_L1, online ? Success : BorderStrong, DotSide / 2));
     setTileBackground(m_iconTile, GlyphPixels, TileRadius,
                       online ? Theme::gradient(PrimaryLight, Primary) : QString(Border));
-    setCursor(online ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    setPressable(online);
 }
 
-void PCListItem::setSelected(bool selected)
+void PCListItem::showSelected(bool selected)
 {
-    if (m_selected == selected)
-        return;
-    m_selected = selected;
     m_checkLabel->setVisible(selected);
-    update();
-    notifySelected(this);
-}
-
-void PCListItem::mousePressEvent(QMouseEvent *event)
-{
-    if (event->button() != Qt::LeftButton)
-        QWidget::mousePressEvent(event);
-    else if (m_info.online)
-        Q_EMIT clicked();
-}
-
-void PCListItem::enterEvent(QEnterEvent *)
-{
-    m_hovered = true;
-    update();
-}
-
-void PCListItem::leaveEvent(QEvent *)
-{
-    m_hovered = false;
-    update();
-}
-
-void PCListItem::paintEvent(QPaintEvent *)
-{
-    using namespace Theme::Colour;
-    if (m_selected)
-        paintCard(this, CornerRadius, BlueTint, Primary);
-    else if (m_hovered)
-        paintCard(this, CornerRadius, Panel, Border);
-    else
-        paintCard(this, CornerRadius, White, Transparent);
 }
 
 } // namespace Zandrove

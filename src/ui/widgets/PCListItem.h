@@ -1,8 +1,7 @@
 #pragma once
 
 #include "core/common/Records.h"
-
-#include <QWidget>
+#include "ui/widgets/SelectableCard.h"
 
 class QBoxLayout;
 class QLabel;
@@ -11,11 +10,10 @@ namespace Zandrove {
 
 class ElidedLabel;
 
-/// The row of a PC that was found, 80 pixels high. Selecting it is up to its owner.
-class PCListItem final : public QWidget
+/// The row of a PC that was found, 80 pixels high. It can be pressed while the PC is online.
+class PCListItem final : public SelectableCard
 {
     Q_OBJECT
-    Q_PROPERTY(bool selected READ isSelected WRITE setSelected)
 
 public:
     explicit PCListItem(QWidget *parent = nullptr);
@@ -23,18 +21,8 @@ public:
     void setPCInfo(const PCInfo &info);
     [[nodiscard]] const PCInfo &pcInfo() const { return m_info; }
 
-    [[nodiscard]] bool isSelected() const { return m_selected; }
-    void setSelected(bool selected);
-
-Q_SIGNALS:
-    /// A press of the left button, Space or Enter, while the PC is online.
-    void clicked();
-
 protected:
-    void mousePressEvent(QMouseEvent *event) override;
-    void enterEvent(QEnterEvent *event) override;
-    void leaveEvent(QEvent *event) override;
-    void paintEvent(QPaintEvent *event) override;
+    void showSelected(bool selected) override;
 
 private:
     void setupUi();
@@ -47,8 +35,6 @@ private:
     ElidedLabel *m_detailsLabel = nullptr;
     QLabel *m_statusDot = nullptr;
     QLabel *m_checkLabel = nullptr;
-    bool m_selected = false;
-    bool m_hovered = false;
 };
 
 } // namespace Zandrove

@@ -2,13 +2,9 @@
 
 #include "core/common/Records.h"
 #include "ui/Theme.h"
-#include "ui/widgets/AccessibleCard.h"
-#include "ui/widgets/CardPainting.h"
-#include "ui/widgets/KeyboardFocus.h"
 #include "ui/widgets/Labels.h"
 
 #include <QLabel>
-#include <QMouseEvent>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -17,29 +13,29 @@ namespace Zandrove {
 
 namespace {
 
-constexpr int CornerRadius = 20;
 constexpr int GlyphPixels = 36;
 constexpr int TileRadius = 20;
 
 } // namespace
 
 RoleCard::RoleCard(int role, QWidget *parent)
-    : QWidget(parent)
+    : SelectableCard({20,
+                      role == OldPC ? Face{Theme::Colour::OrangeTint, Theme::Colour::Orange}
+                                    : Face{Theme::Colour::SuccessTint, Theme::Colour::Teal},
+                      {Theme::Colour::CardHover, Theme::Colour::BorderStrong},
+                      {Theme::Colour::White, Theme::Colour::Border}},
+                     parent)
     , m_role(role)
 {
-    makeAccessibleChoice(this);
     setupUi();
-    refreshTile();
+    showSelected(false);
     setAccessibleName(m_titleLabel->text());
     setAccessibleDescription(m_subtitleLabel->text());
-    clickByKey(this, [this] { Q_EMIT clicked(); });
-    KeyboardFocus::setArea(this, this, CornerRadius);
 }
 
 void RoleCard::setupUi()
 {
     setFixedSize(224, 200);
-    setCursor(Qt::PointingHandCursor);
 
     m_iconTile = makeTile(u"🖥️"_s, GlyphPixels, 80, TileRadius, Theme::Colour::Hover);
     m_titleLabel =
@@ -59,55 +55,12 @@ void RoleCard::setupUi()
     layout->addStretch();
 }
 
-void RoleCard::setSelected(bool selected)
-{
-    if (m_selected == selected)
-        return;
-    m_selected = selected;
-    refreshTile();
-    update();
-    notifySelected(this);
-}
-
-void RoleCard::refreshTile()
+void RoleCard::showSelected(bool selected)
 {
     using namespace Theme::Colour;
     const QString roleGradient =
         m_role == OldPC ? Theme::gradient(OrangeLight, Danger) : Theme::gradient(TealLight, TealDark);
-    setTileBackground(m_iconTile, GlyphPixels, TileRadius, m_selected ? roleGradient : QString(Hover));
-}
-
-void RoleCard::mousePressEvent(QMouseEvent *event)
-{
-    if (event->button() == Qt::LeftButton)
-        Q_EMIT clicked();
-    else
-        QWidget::mousePressEvent(event);
-}
-
-void RoleCard::enterEvent(QEnterEvent *)
-{
-    m_hovered = true;
-    update();
-}
-
-void RoleCard::leaveEvent(QEvent *)
-{
-    m_hovered = false;
-    update();
-}
-
-void RoleCard::paintEvent(QPaintEvent *)
-{
-    using namespace Theme::Colour;
-    if (m_selected && m_role == OldPC)
-        paintCard(this, CornerRadius, OrangeTint, Orange);
-    else if (m_selected)
-        paintCard(this, CornerRadius, SuccessTint, Teal);
-    else if (m_hovered)
-        paintCard(this, CornerRadius, CardHover, BorderStrong);
-    else
-        paintCard(this, CornerRadius, White, Border);
+    setTileBackground(m_iconTile, GlyphPixels, TileRadius, selected ? roleGradient : QString(Hover));
 }
 
 } // namespace Zandrove

@@ -21,7 +21,6 @@ SettingListItem::SettingListItem(QWidget *parent)
 
 void SettingListItem::setSettingInfo(const SettingInfo &info)
 {
-    m_info = info;
     m_nameLabel->setText(info.name);
     setBoxName(info.name, info.description);
 }

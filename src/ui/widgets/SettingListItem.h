@@ -16,10 +16,8 @@ public:
     explicit SettingListItem(QWidget *parent = nullptr);
 
     void setSettingInfo(const SettingInfo &info);
-    [[nodiscard]] const SettingInfo &settingInfo() const { return m_info; }
 
 private:
-    SettingInfo m_info;
     ElidedLabel *m_nameLabel = nullptr;
 };
 

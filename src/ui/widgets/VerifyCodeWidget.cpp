@@ -56,7 +56,6 @@ VerifyCodeWidget::VerifyCodeWidget(QWidget *parent)
 
 void VerifyCodeWidget::setCode(const QString &code)
 {
-    m_code = code;
     for (qsizetype i = 0; i < m_codeLabels.size(); ++i)
         m_codeLabels[i]->setText(i < code.size() ? QString(code[i]) : u"-"_s);
 }

@@ -16,12 +16,10 @@ class VerifyCodeWidget final : public QWidget
 public:
     explicit VerifyCodeWidget(QWidget *parent = nullptr);
 
-    [[nodiscard]] QString code() const { return m_code; }
     /// Shows the first four characters; a dash for each that is missing.
     void setCode(const QString &code);
 
 private:
-    QString m_code;
     QList<QLabel *> m_codeLabels;
 };
 

@@ -1,0 +1,315 @@
+#include "pipeline/ReceivingRun.h"
+
+#include "appmigration/AppMessages.h"
+#include "appmigration/AppMigrator.h"
+#include "pipeline/FileReceiverWorker.h"
+#include "pipeline/Log.h"
+#include "pipeline/ReceivedApps.h"
+#include "settings/SettingMigrator.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace Zandrove {
+
+using Protocol::MessageType;
+
+namespace {
+
+constexpr auto AppEndDelay = 300ms;
+
+} // namespace
+
+ReceivingRun::ReceivingRun(RunLink link, const Destination &destination, QObject *parent)
+    : MigrationRun(std::move(link), parent)
+    , m_receiver(new FileReceiverWorker)
+    , m_apps(new ReceivedApps(m_appThread, this))
+{
+    qCDebug(logPipeline) << "  Creating FileReceiverWorker, destRoot:" << destination.root;
+    m_receiver->setDestinationRoot(destination.root);
+    m_receiver->setConflictPolicy(destination.conflictPolicy);
+    connect(m_receiver, &FileReceiverWorker::inflowBelowMark, this, &ReceivingRun::stateChanged);
+    startFileWorker(m_receiver);
+    connect(m_apps, &ReceivedApps::installProgress, this, &ReceivingRun::appInstallProgress);
+    connect(m_apps, &ReceivedApps::installFinished, this, &ReceivingRun::appInstallFinished);
+    connect(m_apps, &ReceivedApps::installed, this,
+            [this](const QString &name, bool success, const QString &error) {
+                ++(success ? m_report.appsSuccess : m_report.appsFailed);
+                Q_EMIT appOutcome(name, success, error);
+            });
+    connect(m_apps, &ReceivedApps::cleanedUp, this, &ReceivingRun::onAppsThrough);
+    m_settingsBound.setSingleShot(true);
+    connect(&m_settingsBound, &QTimer::timeout, this, [this] {
+        m_settings = Settings::Through;
+        Q_EMIT stateChanged();
+    });
+}
+
+ReceivingRun::~ReceivingRun()
+{
+    waitForThreads();
+}
+
+void ReceivingRun::begin()
+{
+    tellReceiver([](FileReceiverWorker &receiver) { receiver.startReceiving(); });
+    beginReceivingSettings();
+    QMetaObject::invokeMethod(m_appMigrator, &AppMigrator::startReceiving, Qt::QueuedConnection);
+}
+
+RunState ReceivingRun::state() const
+{
+    if (isOn())
+        return m_workingOff ? RunState::WorkingOff : RunState::On;
+    return isApplyingSettings() ? RunState::Settling : RunState::None;
+}
+
+/// While the disk is slower than the network the peer is made to wait, so that what has arrived stays
+/// bounded. A paused run reads on: the peer's resume stands behind its data.
+bool ReceivingRun::mayReadLink() const
+{
+    return !isOn() || isPaused() || m_receiver->inflow() <= FileReceiverWorker::InflowMark;
+}
+
+bool ReceivingRun::isApplyingSettings() const
+{
+    return (isOn() || outlivedBySettings()) &&
+           (m_settings == Settings::Arriving || m_settings == Settings::AllHere);
+}
+
+/// They have arrived, and the peer was told so: also where it forgot to close them.
+bool ReceivingRun::owesSettings() const
+{
+    return m_settings == Settings::Arriving || m_settings == Settings::AllHere ||
+           m_settings == Settings::Unclosed;
+}
+
+/// A program of the system that never ends must not keep the peer out for good.
+void ReceivingRun::boundSettings()
+{
+    if (!m_settingsBound.isActive())
+        m_settingsBound.start(SettingsDeadline);
+}
+
+void ReceivingRun::pauseWorkers(bool paused)
+{
+    m_receiver->setPaused(paused);
+}
+
+void ReceivingRun::stopWorkers()
+{
+    m_workingOff = false;
+    m_receiver->disconnect();
+    m_receiver->stop();
+    m_apps->disconnect();
+    MigrationRun::stopWorkers();
+}
+
+void ReceivingRun::tellReceiver(std::function<void(FileReceiverWorker &)> what)
+{
+    QMetaObject::invokeMethod(
+        m_receiver, [receiver = m_receiver, what = std::move(what)] { what(*receiver); },
+        Qt::QueuedConnection);
+}
+
+/// Acts on this thread once the receiver has worked off all that it was given so far. There and back by two
+/// queues: this thread does not wait, and a paused receiver comes to it when it goes on. The run outlives the
+/// receiver's thread.
+void ReceivingRun::behindReceiver(std::function<void()> action)
+{
+    tellReceiver([this, action = std::move(action)](FileReceiverWorker &) {
+        QMetaObject::invokeMethod(
+            this,
+            [this, action] {
+                if (isOn())
+                    action();
+            },
+            Qt::QueuedConnection);
+    });
+}
+
+void ReceivingRun::onTransferStart(const QByteArray &payload)
+{
+    MigrationRun::onTransferStart(payload);
+    tellReceiver([start = TransferMessages::Start::fromPayload(payload)](FileReceiverWorker &receiver) {
+        receiver.setTotalInfo(start.fileCount, start.totalSize);
+    });
+}
+
+void ReceivingRun::onFileHeader(const QByteArray &payload)
+{
+    qCDebug(logPipeline) << ">>> FileHeader CASE ENTERED! payload:" << payload.size();
+    const auto header = TransferMessages::Header::fromPayload(payload);
+    qCDebug(logPipeline) << ">>> FileHeader:" << header.relativePath << header.fileSize << header.taskId;
+    m_apps->countFileIn(header.relativePath);
+    tellReceiver([header](FileReceiverWorker &receiver) {
+        receiver.onFileHeader(header.relativePath, header.fileSize, 0, header.taskId);
+    });
+}
+
+void ReceivingRun::onFileData(const QByteArray &payload)
+{
+    m_receiver->addInflow(payload.size());
+    tellReceiver([payload](FileReceiverWorker &receiver) { receiver.onFileData(payload); });
+}
+
+void ReceivingRun::onFileEnd(const QByteArray &payload)
+{
+    const auto end = TransferMessages::End::fromPayload(payload);
+    tellReceiver([end](FileReceiverWorker &receiver) {
+        receiver.onFileEnd(end.relativePath, end.checksum, end.taskId);
+    });
+    const QString completeApp = m_apps->countFileOut(end.relativePath);
+    if (completeApp.isEmpty())
+        return;
+    // Its last file is still on its way to the disk.
+    behindReceiver([this, completeApp] {
+        if (m_apps->isComplete(completeApp))
+            m_apps->tryInstallApp(completeApp);
+    });
+}
+
+void ReceivingRun::onAnswerRequest(const TransferMessages::Ack &request)
+{
+    qCDebug(logPipeline) << ">>> Calling onBatchAckRequest: batchId=" << request.batchId
+                         << "startTaskId=" << request.startTaskId << "endTaskId=" << request.endTaskId;
+    // Queued, so that the answer stands behind all chunks of the batch.
+    tellReceiver([request](FileReceiverWorker &receiver) {
+        receiver.onBatchAckRequest(request.batchId, request.startTaskId, request.endTaskId);
+    });
+    qCDebug(logPipeline) << ">>> onBatchAckRequest invoked!";
+}
+
+void ReceivingRun::onTransferComplete()
+{
+    qCDebug(logPipeline) << "Receiver: Marking all phases as done";
+    if (m_settings == Settings::Arriving)
+        m_settings = Settings::Unclosed;
+    // Whoever has ended its run has nothing left to resume.
+    if (m_pausedByPeer && isPaused())
+        handle(MessageType::TransferResume, {});
+    qCDebug(logPipeline) << "Calling receiverWorker->onTransferComplete()";
+    m_workingOff = true;
+    tellReceiver([](FileReceiverWorker &receiver) { receiver.onTransferComplete(); });
+}
+
+void ReceivingRun::onFilesThrough(int success, int failed, int skipped, qlonglong bytes)
+{
+    qCDebug(logPipeline) << "[Serial] MigrationManager::onWorkerAllCompleted - success:" << success
+                         << "failed:" << failed << "skipped:" << skipped << "bytes:" << bytes;
+    m_report.filesSuccess = success;
+    m_report.filesFailed = failed;
+    m_report.filesSkipped = skipped;
+    m_report.totalBytes = bytes;
+    m_apps->forceInstallAll();
+    m_apps->cleanUp();
+}
+
+void ReceivingRun::onAppsThrough()
+{
+    finish(RunEnd::Complete);
+}
+
+MigrationReport ReceivingRun::buildReport() const
+{
+    constexpr int SampledFolders = 3;
+
+    MigrationReport report = MigrationRun::buildReport();
+    const ReceivedFolders &received = m_receiver->receivedFolders();
+    report.savedFolderPaths = received.paths;
+    report.savedFolderCounts = received.counts;
+    for (auto entry = received.folders.cbegin(); entry != received.folders.cend(); ++entry) {
+        const QStringList &names = entry.value();
+        if (names.isEmpty())
+            continue;
+        const QString shown =
+            QStringList(names.first(std::min<qsizetype>(names.size(), SampledFolders))).join(u", ");
+        report.savedFolderSamples.insert(
+            entry.key(), u'(' + shown + (names.size() > SampledFolders ? u", ...)"_s : u")"_s));
+    }
+    return report;
+}
+
+void ReceivingRun::onAppStart(const QByteArray &payload)
+{
+    if (!m_apps->begin(payload))
+        return;
+    QMetaObject::invokeMethod(
+        m_appMigrator, [migrator = m_appMigrator, payload] { migrator->onAppPackageReceived(payload); },
+        Qt::QueuedConnection);
+}
+
+void ReceivingRun::onAppEnd(const QByteArray &payload)
+{
+    const QString name = readAppEnd(payload);
+    qCDebug(logPipeline) << "Received AppEnd for:" << name;
+    QTimer::singleShot(AppEndDelay, this, [this, name] {
+        if (isOn())
+            behindReceiver([this, name] { processAppEnd(name); });
+    });
+}
+
+void ReceivingRun::processAppEnd(const QString &appName)
+{
+    qCDebug(logPipeline) << "Processing AppEnd for:" << appName << "(queue flushed)";
+    const int open = m_apps->end(appName);
+    qCDebug(logPipeline) << "AppEnd processed, open file count:" << open;
+    if (open > 0)
+        qCDebug(logPipeline) << "Waiting for" << open << "files to complete before installing" << appName;
+    else
+        m_apps->tryInstallApp(appName);
+    QMetaObject::invokeMethod(
+        m_appMigrator, [migrator = m_appMigrator, appName] { migrator->onAppEndReceived(appName); },
+        Qt::QueuedConnection);
+}
+
+void ReceivingRun::beginReceivingSettings()
+{
+    QMetaObject::invokeMethod(m_settingMigrator, &SettingMigrator::startReceiving, Qt::QueuedConnection);
+}
+
+void ReceivingRun::onSetting(MessageType type, const QByteArray &payload)
+{
+    void (SettingMigrator::*slot)(const QByteArray &) = &SettingMigrator::onSettingData;
+    switch (type) {
+    case MessageType::SettingStart:
+        qCDebug(logPipeline) << ">>> SettingStart received";
+        // Told a second time before it ran, it would count from zero twice.
+        if (m_settings == Settings::AllHere || m_settings == Settings::Through)
+            beginReceivingSettings();
+        m_settings = Settings::Arriving;
+        slot = &SettingMigrator::onSettingStart;
+        break;
+    case MessageType::SettingEnd:
+        qCDebug(logPipeline) << ">>> SettingEnd received";
+        slot = &SettingMigrator::onSettingEnd;
+        break;
+    case MessageType::SettingComplete:
+        qCDebug(logPipeline) << ">>> SettingComplete received";
+        m_settings = m_settings == Settings::Arriving ? Settings::AllHere : Settings::Through;
+        slot = &SettingMigrator::onSettingComplete;
+        break;
+    default:
+        break;
+    }
+    QMetaObject::invokeMethod(
+        m_settingMigrator, [migrator = m_settingMigrator, slot, payload] { (migrator->*slot)(payload); },
+        Qt::QueuedConnection);
+}
+
+void ReceivingRun::onSettingsThrough(int succeeded, int failed)
+{
+    qCDebug(logPipeline) << "[Setting] Migration finished - applied:" << succeeded << "failed:" << failed;
+    m_report.settingsSuccess = succeeded;
+    m_report.settingsFailed = failed;
+    m_settings = Settings::Through;
+    m_settingsBound.stop();
+    Q_EMIT settingsFinished(succeeded, failed);
+    Q_EMIT stateChanged();
+}
+
+} // namespace Zandrove

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "pipeline/MigrationRun.h"
+
+#include <QTimer>
+
+#include <functional>
+
+namespace Zandrove {
+
+class FileReceiverWorker;
+class ReceivedApps;
+
+/// Where a New PC puts what arrives.
+struct Destination
+{
+    QString root; ///< for files that no standard folder is named for
+    int conflictPolicy = int(ConflictPolicy::Skip);
+};
+
+/// A run of the New PC: files are written as they come, an application is installed once it is whole, a
+/// setting is applied once it is. The peer's last message leads to the report, when all that has arrived is
+/// worked off and every application is installed; settings may still be being applied then.
+class ReceivingRun final : public MigrationRun
+{
+    Q_OBJECT
+
+public:
+    ReceivingRun(RunLink link, const Destination &destination, QObject *parent);
+    ~ReceivingRun() override;
+
+    void begin() override;
+    [[nodiscard]] RunState state() const override;
+    [[nodiscard]] bool mayReadLink() const override;
+
+    /// Settings have arrived of which it isn't known yet what became of them.
+    [[nodiscard]] bool isApplyingSettings() const;
+    /// The next run waits for the settings: for a minute at most from now on.
+    void boundSettings();
+
+protected:
+    void pauseWorkers(bool paused) override;
+    void stopWorkers() override;
+    [[nodiscard]] bool owesSettings() const override;
+    [[nodiscard]] MigrationReport buildReport() const override;
+    void onFilesThrough(int success, int failed, int skipped, qlonglong bytes) override;
+    void onSettingsThrough(int succeeded, int failed) override;
+    void onTransferStart(const QByteArray &payload) override;
+    void onFileHeader(const QByteArray &payload) override;
+    void onFileData(const QByteArray &payload) override;
+    void onFileEnd(const QByteArray &payload) override;
+    void onAnswerRequest(const TransferMessages::Ack &request) override;
+    void onTransferComplete() override;
+    void onAppStart(const QByteArray &payload) override;
+    void onAppEnd(const QByteArray &payload) override;
+    void onSetting(Protocol::MessageType type, const QByteArray &payload) override;
+
+private:
+    /// Where the settings of the run are.
+    enum class Settings {
+        None,     ///< none has come
+        Arriving, ///< the peer may send more
+        AllHere,  ///< the peer has no more; they are being applied
+        Unclosed, ///< the run is complete and the peer forgot to say that they are
+        Through,  ///< all are applied, or have failed
+    };
+
+    void beginReceivingSettings();
+    void tellReceiver(std::function<void(FileReceiverWorker &)> what);
+    void behindReceiver(std::function<void()> action);
+    void processAppEnd(const QString &appName);
+    void onAppsThrough();
+
+    FileReceiverWorker *m_receiver;
+    ReceivedApps *m_apps; // child
+    Settings m_settings = Settings::None;
+    bool m_workingOff = false; // all has arrived, the report is due
+    QTimer m_settingsBound;
+};
+
+} // namespace Zandrove

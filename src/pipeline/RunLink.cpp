@@ -1,0 +1,32 @@
+#include "pipeline/RunLink.h"
+
+#include "peer/NetworkManager.h"
+
+#include <QPointer>
+
+namespace Zandrove {
+
+RunLink RunLink::over(NetworkManager *network)
+{
+    RunLink link;
+    if (!network)
+        return link;
+    const QPointer guarded(network);
+    link.send = [guarded](Protocol::MessageType type, const QByteArray &payload) {
+        if (guarded)
+            guarded->sendCommand(type, payload);
+    };
+    link.acceptedNumber = [guarded] { return guarded ? guarded->acceptedLink() : 0; };
+    link.unsentBytes = network->pendingBytes();
+    link.resumeReading = [guarded] {
+        if (guarded)
+            guarded->resumeReading();
+    };
+    link.setGate = [guarded](std::function<bool()> mayRead) {
+        if (guarded)
+            guarded->setReadGate(std::move(mayRead));
+    };
+    return link;
+}
+
+} // namespace Zandrove

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "peer/Protocol.h"
+
+#include <QByteArray>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+
+namespace Zandrove {
+
+class NetworkManager;
+
+/// What a run needs of the link, as a value that a test replaces. An operation that is not set does nothing;
+/// without `acceptedNumber` there is no link. All of them belong to the main thread, but for `unsentBytes`,
+/// which is read anywhere.
+struct RunLink
+{
+    /// Hands a message to the link, in order.
+    std::function<void(Protocol::MessageType type, const QByteArray &payload)> send = {};
+    /// The link that is accepted now: another number for each, 0 while there is none.
+    std::function<quint64()> acceptedNumber = {};
+    /// Bytes that wait in the socket.
+    std::shared_ptr<const std::atomic<qint64>> unsentBytes = {};
+    /// Reads what was held back, when the answer of the gate may have changed.
+    std::function<void()> resumeReading = {};
+    /// Asks `mayRead` before each read of the link; an empty function always reads.
+    std::function<void(std::function<bool()> mayRead)> setGate = {};
+
+    /// The link that `network` keeps, which may die first.
+    [[nodiscard]] static RunLink over(NetworkManager *network);
+
+    [[nodiscard]] quint64 number() const { return acceptedNumber ? acceptedNumber() : 0; }
+};
+
+} // namespace Zandrove

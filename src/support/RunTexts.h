@@ -1,0 +1,36 @@
+#pragma once
+
+#include "core/common/RunSummary.h"
+
+#include <QString>
+#include <QStringList>
+
+/// What both faces and the report say of a run, translated. Names and paths in them are as they came: whoever
+/// shows them makes them fit for the place.
+namespace Zandrove {
+
+/// "Transfer finished, 42 of 65 files did not arrive", or how else the run ended, in one line.
+[[nodiscard]] QString headlineOf(const RunSummary &summary);
+
+/// "42 of 65 files did not arrive", with those that were there with other content; empty when all did.
+[[nodiscard]] QString missingFilesText(const RunSummary &summary);
+
+/// "12 of 40 files arrived; nothing was deleted on the Old PC".
+[[nodiscard]] QString arrivedFilesText(const RunSummary &summary);
+
+/// "no space left on drive D: of NEWBOX: 1,204 files, 3.1 GB did not fit".
+[[nodiscard]] QString fullVolumeText(const FullVolume &volume);
+
+/// What became of an application, a setting or a file, in a word or two.
+[[nodiscard]] QString outcomeText(ItemOutcome outcome);
+
+/// What the user had best do now, a sentence or two each; never empty for a run that is over.
+[[nodiscard]] QStringList nextSteps(const RunSummary &summary);
+
+/// "complete", "cancelledHere" and so on, for programs; not translated.
+[[nodiscard]] QString endName(RunEnd end);
+
+/// `count` with the separators of the user's country.
+[[nodiscard]] QString countText(qint64 count);
+
+} // namespace Zandrove
