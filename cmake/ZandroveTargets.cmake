@@ -43,7 +43,7 @@ function(zandrove_test name)
     target_compile_definitions(${name} PRIVATE QT_FORCE_ASSERTS)
     target_link_libraries(${name} PRIVATE
         zandrove_options zandrove_test_main Qt6::Core Qt6::Test zandrove_platform ${ARG_LINKS})
-    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests/support)
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests/harness)
     add_test(NAME ${name} COMMAND ${name})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)

@@ -1,16 +1,8 @@
 #pragma once
 
 #include "SimulatedPc.h"
-
-#include <QFile>
-#include <QTest>
-
-#include <memory>
-
-QObject *makeAppMigratorTest();
-QObject *makeAppAnalyzerTest();
-QObject *makeAppInstallerTest();
-QObject *makeRegistryFileTest();
+#include "TestFiles.h"
+#include "TestMain.h"
 
 /// A test that has a PC of its own for each of its functions.
 class PcTest : public QObject
@@ -27,12 +19,6 @@ protected Q_SLOTS:
     void cleanup() { m_pc.reset(); }
 
 protected:
-    static QByteArray contentOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArrayLiteral("unreadable");
-    }
-
     /// Expects a line of the log: the test fails where it does not come.
     static void expectLog(const QString &line) { QTest::ignoreMessage(QtDebugMsg, qPrintable(line)); }
 

@@ -242,45 +242,54 @@ void showTab(Stage &stage, int index)
     stage.window.findChild<QTabWidget *>()->setCurrentIndex(index);
 }
 
+/// A picture of what `then` makes of the page that `before` leads to.
+template <typename Before, typename Then>
+Scene scene(const QString &name, Before before, Then then)
+{
+    return {name, [before, then](Stage &stage) {
+                before(stage);
+                then(stage);
+            }};
+}
+
+const auto Nothing = [](Stage &) {};
+
 /// Pages that look the same on both PCs but for their roles.
 QList<Scene> connectionScenes(int role)
 {
-    const QString pc = role == OldPC ? u"old"_s : u"new"_s;
+    const auto connection = [role](const QString &state, auto then) {
+        const QString name = u"2-connection-%1-%2"_s.arg(role == OldPC ? u"old"_s : u"new"_s, state);
+        return scene(
+            name, [role](Stage &stage) { stage.connectTo(role); }, then);
+    };
     return {
-        {u"2-connection-%1-empty"_s.arg(pc), [role](Stage &stage) { stage.connectTo(role); }},
-        {u"2-connection-%1-listing"_s.arg(pc),
-         [role](Stage &stage) {
-             stage.connectTo(role);
-             listPeers(stage);
-         }},
-        {u"2-connection-%1-connecting"_s.arg(pc),
-         [role](Stage &stage) {
-             stage.connectTo(role);
-             stage.dialSilentPeer(role);
-         }},
-        {u"2-connection-%1-failed"_s.arg(pc),
-         [role](Stage &stage) {
-             stage.connectTo(role);
-             listPeers(stage);
-             Q_EMIT stage.engine->connectionFailed(NetworkManager::tr("Connection rejected"));
-         }},
-        {u"2-connection-%1-direct-scan"_s.arg(pc),
-         [role](Stage &stage) {
-             stage.connectTo(role);
-             Q_EMIT stage.engine->directScanStarted();
-             Q_EMIT stage.engine->directScanProgress(96, 254);
-         }},
-        {u"2-connection-%1-question"_s.arg(pc),
-         [role](Stage &stage) {
-             stage.connectTo(role);
-             Q_EMIT stage.engine->connectionRequested(u"<b>ANNAS-LAPTOP</b>"_s, QString());
-         }},
+        connection(u"empty"_s, Nothing),
+        connection(u"listing"_s, listPeers),
+        connection(u"connecting"_s, [role](Stage &stage) { stage.dialSilentPeer(role); }),
+        connection(u"failed"_s,
+                   [](Stage &stage) {
+                       listPeers(stage);
+                       Q_EMIT stage.engine->connectionFailed(NetworkManager::tr("Connection rejected"));
+                   }),
+        connection(u"direct-scan"_s,
+                   [](Stage &stage) {
+                       Q_EMIT stage.engine->directScanStarted();
+                       Q_EMIT stage.engine->directScanProgress(96, 254);
+                   }),
+        connection(u"question"_s,
+                   [](Stage &stage) {
+                       Q_EMIT stage.engine->connectionRequested(u"<b>ANNAS-LAPTOP</b>"_s, QString());
+                   }),
     };
 }
 
 QList<Scene> transferScenes(int role)
 {
     const QString pc = role == OldPC ? u"old"_s : u"new"_s;
+    const auto running = [role, pc](const QString &state, auto then) {
+        return scene(
+            u"5-transfer-%1-%2"_s.arg(pc, state), [role](Stage &stage) { stage.transferSome(role); }, then);
+    };
     return {
         {u"5-transfer-%1-begin"_s.arg(pc),
          [role](Stage &stage) {
@@ -289,74 +298,43 @@ QList<Scene> transferScenes(int role)
              if (role == OldPC)
                  Q_EMIT stage.engine->transferProgressChanged({});
          }},
-        {u"5-transfer-%1-running"_s.arg(pc), [role](Stage &stage) { stage.transferSome(role); }},
-        {u"5-transfer-%1-paused"_s.arg(pc),
-         [role](Stage &stage) {
-             stage.transferSome(role);
-             Q_EMIT stage.engine->pausedByPeer();
-         }},
-        {u"5-transfer-%1-failed"_s.arg(pc),
-         [role](Stage &stage) {
-             stage.transferSome(role);
-             Q_EMIT stage.engine->transferFailed(u"the peer is gone"_s);
-         }},
-        {u"5-transfer-%1-cancel-question"_s.arg(pc),
-         [role](Stage &stage) {
-             stage.transferSome(role);
-             stage.view.click(TransferPage::tr("Cancel"));
-         }},
-        {u"5-transfer-%1-cancelled-by-peer"_s.arg(pc),
-         [role](Stage &stage) {
-             stage.transferSome(role);
-             Q_EMIT stage.engine->peerCancelled();
-         }},
+        running(u"running"_s, Nothing),
+        running(u"paused"_s, [](Stage &stage) { Q_EMIT stage.engine->pausedByPeer(); }),
+        running(u"failed"_s,
+                [](Stage &stage) { Q_EMIT stage.engine->transferFailed(u"the peer is gone"_s); }),
+        running(u"cancel-question"_s, [](Stage &stage) { stage.view.click(TransferPage::tr("Cancel")); }),
+        running(u"cancelled-by-peer"_s, [](Stage &stage) { Q_EMIT stage.engine->peerCancelled(); }),
     };
 }
 
 QList<Scene> scenes()
 {
+    const auto scan = [](Stage &stage) {
+        stage.connectTo(OldPC);
+        Q_EMIT stage.engine->connected();
+    };
+    const auto select = [](Stage &stage) { stage.select(); };
     QList<Scene> scenes = {
-        {u"0-welcome-network"_s, [](Stage &) {}},
+        {u"0-welcome-network"_s, Nothing},
         {u"0-welcome-cable"_s, [](Stage &stage) { stage.view.click(WelcomePage::tr("Cable Mode")); }},
         {u"0-welcome-menu"_s, [](Stage &stage) { stage.view.click(TitleBar::tr("Menu")); }},
         {u"0-welcome-keyboard"_s, [](Stage &stage) { stage.view.press(Qt::Key_Tab); }},
         {u"1-role-none"_s, [](Stage &stage) { stage.view.click(MainWindow::tr("Next")); }},
         {u"1-role-old"_s, [](Stage &stage) { stage.choose(OldPC); }},
         {u"1-role-new"_s, [](Stage &stage) { stage.choose(NewPC); }},
-        {u"3-scanning-begin"_s,
-         [](Stage &stage) {
-             stage.connectTo(OldPC);
-             Q_EMIT stage.engine->connected();
-         }},
-        {u"3-scanning-running"_s,
-         [](Stage &stage) {
-             stage.connectTo(OldPC);
-             Q_EMIT stage.engine->connected();
-             Q_EMIT stage.engine->scanProgress(64, u"Photo Workshop"_s, 23, 0, 2);
-         }},
-        {u"3-scanning-done"_s,
-         [](Stage &stage) {
-             stage.connectTo(OldPC);
-             Q_EMIT stage.engine->connected();
-             Q_EMIT stage.engine->scanCompleted(Stage::scanResult());
-         }},
-        {u"4-selection-apps"_s, [](Stage &stage) { stage.select(); }},
-        {u"4-selection-apps-ticked"_s,
-         [](Stage &stage) {
-             stage.select();
-             stage.view.click(u"Photo Workshop"_s);
-         }},
-        {u"4-selection-files"_s,
-         [](Stage &stage) {
-             showTab(stage, 1);
-             stage.view.clickListEntry(FileBrowserWidget::tr("My Documents"));
-         }},
+        {u"3-scanning-begin"_s, scan},
+        scene(u"3-scanning-running"_s, scan,
+              [](Stage &stage) { Q_EMIT stage.engine->scanProgress(64, u"Photo Workshop"_s, 23, 0, 2); }),
+        scene(u"3-scanning-done"_s, scan,
+              [](Stage &stage) { Q_EMIT stage.engine->scanCompleted(Stage::scanResult()); }),
+        {u"4-selection-apps"_s, select},
+        scene(u"4-selection-apps-ticked"_s, select,
+              [](Stage &stage) { stage.view.click(u"Photo Workshop"_s); }),
+        scene(
+            u"4-selection-files"_s, [](Stage &stage) { showTab(stage, 1); },
+            [](Stage &stage) { stage.view.clickListEntry(FileBrowserWidget::tr("My Documents")); }),
         {u"4-selection-settings"_s, [](Stage &stage) { showTab(stage, 2); }},
-        {u"4-selection-empty"_s,
-         [](Stage &stage) {
-             stage.select();
-             Q_EMIT stage.engine->scanCompleted({});
-         }},
+        scene(u"4-selection-empty"_s, select, [](Stage &stage) { Q_EMIT stage.engine->scanCompleted({}); }),
         {u"6-complete-old"_s, [](Stage &stage) { stage.finish(OldPC, goodReport()); }},
         {u"6-complete-new-folders"_s, [](Stage &stage) { stage.finish(NewPC, reportWithFolders()); }},
         {u"6-complete-new-no-folders"_s, [](Stage &stage) { stage.finish(NewPC, {}); }},
@@ -435,11 +413,11 @@ int main(int argc, char *argv[])
     const QDir folder(arguments.positionalArguments().value(0));
     const QString only = arguments.positionalArguments().value(1);
     int failures = 0;
-    for (const Scene &scene : scenes()) {
-        if (!scene.name.contains(only))
+    for (const Scene &one : scenes()) {
+        if (!one.name.contains(only))
             continue;
-        const QString file = folder.filePath(scene.name + u".png"_s);
-        if (!render(scene, file)) {
+        const QString file = folder.filePath(one.name + u".png"_s);
+        if (!render(one, file)) {
             QTextStream(stderr) << "zandrove-gallery: cannot write " << file << Qt::endl;
             ++failures;
         }

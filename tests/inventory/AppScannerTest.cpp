@@ -120,17 +120,12 @@ private Q_SLOTS:
 
         QVERIFY(std::is_sorted(scan.reports.begin(), scan.reports.end(),
                                [](const auto &a, const auto &b) { return a.first < b.first; }));
-        QHash<QString, int> percents;
+        QStringList items;
         for (const auto &[percent, item] : scan.reports)
-            percents.insert(item, percent);
-        QCOMPARE(percents.value(u"Scanning installed applications..."_s, -1), 0);
-        QCOMPARE(percents.value(u"Scanning user installed applications..."_s), 65);
-        QCOMPARE(percents.value(u"Amber Chat"_s), 65 + 1 * 10 / 2);
-        QCOMPARE(percents.value(u"Scanning Program Files..."_s), 75);
-        QCOMPARE(percents.value(u"Scanning user software registry..."_s), 85);
-        QCOMPARE(percents.value(u"Scan complete"_s), 100);
-        QVERIFY(!percents.contains(u"Matool"_s)); // what is left out isn't reported
-        QVERIFY(percents.contains(QString()));    // a key without a name is
+            items.append(item);
+        QVERIFY(!items.contains(u"Matool"_s)); // what is left out isn't reported
+        QVERIFY(items.contains(QString()));    // a key without a name is
+        QCOMPARE(scan.reports.last(), std::pair(100, u"Scan complete"_s));
     }
 
     void cancelLeavesNothingBehind_data()

@@ -5,7 +5,7 @@
 #include "inventory/FileScanner.h"
 #include "inventory/FolderSize.h"
 #include "inventory/SettingScanner.h"
-#include "platform/Registry.h"
+#include "platform/SystemParameters.h"
 
 #include <QSignalSpy>
 
@@ -63,12 +63,6 @@ class ScannersTest : public QObject
 
     std::unique_ptr<SimulatedPc> m_pc;
 
-    void showWallpaper(QString path)
-    {
-        m_pc->addRegistry(u"[HKEY_CURRENT_USER\\Control Panel\\Desktop]\n\"Wallpaper\"=\"%1\"\n"_s.arg(
-            path.replace(u'\\', u"\\\\"_s)));
-    }
-
 private Q_SLOTS:
     void init() { m_pc = std::make_unique<SimulatedPc>(); }
     void cleanup() { m_pc.reset(); }
@@ -92,7 +86,6 @@ private Q_SLOTS:
         QCOMPARE(found, QStringList({u"Documents 2 8"_s, u"Pictures 0 0"_s, u"Videos 0 0"_s,
                                      u"Downloads 0 0"_s, u"Desktop 0 0"_s}));
         QCOMPARE(progress.last(), QVariantList({100, u"Desktop"_s}));
-        QCOMPARE(progress.at(3), QVariantList({50, u"Music"_s}));
     }
 
     void accountsAreListed()
@@ -100,52 +93,29 @@ private Q_SLOTS:
         for (const QString &name : {u"Default User"_s, u"defaultuser0"_s, u"public"_s})
             m_pc->writeFile(u"C:/Users/%1/ntuser.dat"_s.arg(name), "x");
         AccountScanner scanner;
-        QSignalSpy progress(&scanner, &AccountScanner::progress);
         QStringList names;
         for (const AccountInfo &account : scan<AccountInfo>(scanner)) {
             QCOMPARE(account.profilePath, QDir(u"C:/Users"_s).absoluteFilePath(account.userName));
-            QCOMPARE(account.accountType, u"Local User"_s);
             names.append(account.userName);
         }
         QVERIFY(names.contains(u"defaultuser0"_s) && !names.contains(u"Default User"_s));
         QVERIFY(names.contains(QFileInfo(m_pc->homePath()).fileName()));
-        QCOMPARE(progress.at(1).first().toInt(), 50);
-        const auto profiles = QDir(u"C:/Users"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
-        QCOMPARE(progress.last().first().toInt(), int(names.size() * 100 / profiles));
     }
 
-    void settingsAreTheCatalogue()
+    void wallpaperIsOfferedWhereItsPictureIs()
     {
+        if (!SimulatedPc::isMadeUp())
+            QSKIP("The picture of the PC at hand stays.");
+        m_pc->addRegistry(u"[HKEY_CURRENT_USER\\Environment]\n\"A\"=\"1\"\n\"B\"=\"2\"\n"_s);
         const QString picture = m_pc->writeFile(u"picture.jpg"_s, "12345");
-        const QStringList ids{u"wallpaper"_s, u"taskbar"_s,     u"explorer"_s, u"mouse"_s, u"keyboard"_s,
-                              u"power"_s,     u"environment"_s, u"display"_s,  u"sound"_s};
-        const auto idsOf = [](const QList<SettingInfo> &settings) {
-            QStringList names;
-            for (const SettingInfo &setting : settings)
-                names.append(setting.id);
-            return names;
-        };
+        QVERIFY(Platform::setWallpaper(picture));
         SettingScanner scanner;
-        if (SimulatedPc::isMadeUp()) {
-            showWallpaper(picture);
-            m_pc->addRegistry(u"[HKEY_CURRENT_USER\\Environment]\n\"A\"=\"1\"\n\"B\"=\"2\"\n"_s);
-            const auto settings = scan<SettingInfo>(scanner);
-            QCOMPARE(idsOf(settings), ids);
-            QCOMPARE(settings[0].value, picture);
-            QCOMPARE(settings[0].size, 5);
-            QCOMPARE(settings[6].description, u"User-defined environment variables (2 variables)"_s);
-            showWallpaper(picture + u".gone"_s);
-        }
-        QSignalSpy progress(&scanner, &SettingScanner::progress);
         const auto settings = scan<SettingInfo>(scanner);
-        QCOMPARE(idsOf(settings), ids.mid(1)); // no picture, no row
-        const auto variables = Platform::RegistryKey(u"HKEY_CURRENT_USER\\Environment"_s).valueNames();
-        QCOMPARE(settings[5].size, variables.size() * 256);
-        QVERIFY(settings[4].registryPath.isEmpty() && settings[4].available && !settings[4].selected);
-        QList<int> percents;
-        for (const QVariantList &report : std::as_const(progress))
-            percents.append(report.first().toInt());
-        QCOMPARE(percents, QList<int>({0, 15, 30, 45, 55, 65, 75, 85, 92, 100}));
+        QCOMPARE(settings.value(0).value, picture);
+        QCOMPARE(settings.value(0).size, 5);
+        QCOMPARE(settings.value(6).description, u"User-defined environment variables (2 variables)"_s);
+        QVERIFY(QFile::remove(picture));
+        QCOMPARE(scan<SettingInfo>(scanner).size(), settings.size() - 1);
     }
 
     void cancelledScansSayNothingMore()

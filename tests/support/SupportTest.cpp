@@ -1,6 +1,7 @@
 #include "TestFiles.h"
 #include "TestMain.h"
 #include "core/common/Records.h"
+#include "support/Json.h"
 #include "support/ReportDocument.h"
 #include "support/RunTexts.h"
 #include "support/Utilities.h"
@@ -9,7 +10,6 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -42,6 +42,15 @@ private Q_SLOTS:
         QCOMPARE(calculateChecksum(QByteArray::fromHex("0201")), 10u);
         QCOMPARE(calculateChecksum(QByteArray::fromHex("80")), 0x100u); // a byte is unsigned
         QCOMPARE(calculateChecksum(QByteArray::fromHex("80") + QByteArray(24, '\0')), 1u);
+    }
+
+    void sizesAreNeverBelowZero()
+    {
+        const QJsonObject json = parseJsonObject(R"({"a":-5,"b":-0.6,"c":-1e300,"d":1e300,"e":"7"})").value();
+        for (const QString &key : {u"a"_s, u"b"_s, u"c"_s, u"gone"_s})
+            QVERIFY2(jsonSize(json, key) == 0, qPrintable(key));
+        QCOMPARE(jsonSize(json, u"d"_s), qint64(1) << 53);
+        QCOMPARE(jsonSize(json, u"e"_s), 7);
     }
 
     void valuesAreFormatted_data()
@@ -160,17 +169,6 @@ private Q_SLOTS:
                  u"no space left on drive D: of NEWBOX: 12 files, 1.0 KB did not fit"_s);
         QVERIFY(
             fullVolumeText({u"/home"_s, u"%1"_s, 1, 1}).startsWith(u"no space left on /home of %1: 1 "_s));
-    }
-
-    void thisMachineHasALoopbackAdapter()
-    {
-        const auto adapters = systemNetworkAdapters();
-        const auto loopback = std::find_if(adapters.cbegin(), adapters.cend(),
-                                           [](const NetworkAdapter &one) { return one.loopback; });
-        if (loopback == adapters.cend())
-            QSKIP("this machine has no loopback adapter");
-        QVERIFY(!loopback->name.isEmpty());
-        QVERIFY(!loopback->up || loopback->addresses.constFirst().ip.isLoopback());
     }
 };
 

@@ -15,11 +15,8 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 FACES = ("src/ui/", "src/cli/", "src/support/LinkManager")
 
 NAMES_THAT_STAY = {
-    # Languages by their own names.
-    "🇺🇸  English", "🇹🇼  繁體中文", "🇫🇷  Français", "🇩🇪  Deutsch", "🇯🇵  日本語", "🇪🇸  Español",
-    "🇰🇷  한국어", "🇳🇱  Nederlands", "🇵🇹  Português", "🇮🇹  Italiano",
     # What is typed on the command line.
-    "CODE|NAME|ADDRESS", "DIR", "ID", "NAME",
+    "CODE|NAME|ADDRESS", "DIR", "FILE", "ID", "NAME",
     # Folders and words of software, as they stand on a disk or in a registry.
     "System Volume Information", "Recovery", "$Recycle.Bin", "Config.Msi", "MSOCache", "PerfLogs",
     "update for", "security update",

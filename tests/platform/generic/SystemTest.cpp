@@ -219,15 +219,6 @@ private Q_SLOTS:
         QVERIFY(!Platform::writeShellLink(file, {.path = u"C:\\x.exe"_s, .description = u"two\nlines"_s}));
         QVERIFY(!QFile::exists(u"/zandrove-test.lnk"_s) && !QFile::exists(file));
     }
-
-    void wallpaperIsInTheRegistry()
-    {
-        QCOMPARE(Platform::wallpaper(), u""_s);
-        QVERIFY(Platform::setWallpaper(u"C:\\Pictures\\sea.jpg"_s));
-        QCOMPARE(Platform::wallpaper(), u"C:\\Pictures\\sea.jpg"_s);
-        const RegistryKey desktop(u"HKEY_CURRENT_USER\\Control Panel\\Desktop"_s);
-        QCOMPARE(desktop.text(u"Wallpaper"_s), u"C:\\Pictures\\sea.jpg"_s);
-    }
 };
 
 ZANDROVE_TEST(SystemTest)

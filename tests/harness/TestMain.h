@@ -84,6 +84,3 @@ template <typename... Functions>
 #define ZANDROVE_TEST(TestClass)                                                                             \
     [[maybe_unused]] static const auto &added##TestClass =                                                   \
         Zandrove::TestMain::makers().emplaceBack([] { return std::make_unique<TestClass>(); });
-
-/// The same, where it is the only one.
-#define ZANDROVE_TEST_MAIN(TestClass) ZANDROVE_TEST(TestClass)
