@@ -188,7 +188,8 @@ void MigrationRun::tellSettled()
 void MigrationRun::stopWorkers()
 {
     m_appMigrator->stop();
-    m_settingMigrator->stop();
+    if (!outlivedBySettings())
+        m_settingMigrator->stop();
 }
 
 void MigrationRun::watchThreads()

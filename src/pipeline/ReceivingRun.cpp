@@ -62,8 +62,7 @@ ReceivingRun::ReceivingRun(RunLink link, const Destination &destination, QObject
     m_settingsBound.setSingleShot(true);
     connect(&m_settingsBound, &QTimer::timeout, this, [this] {
         m_settings = Settings::Through;
-        closeLedger();
-        Q_EMIT stateChanged();
+        onSettingsOver();
     });
 }
 
@@ -104,14 +103,17 @@ void ReceivingRun::end(RunEnd how)
         return;
     if (isPaused())
         setPaused(false);
-    if (m_settings == Settings::Arriving)
-        m_settings = Settings::Unclosed;
-    QMetaObject::invokeMethod(
-        m_settingMigrator,
-        [migrator = m_settingMigrator, reason = tr("the link was lost")] {
-            migrator->giveUpReceiving(reason);
-        },
-        Qt::QueuedConnection);
+    if (isApplyingSettings()) {
+        m_settings = Settings::AllHere;
+        boundSettings();
+        QMetaObject::invokeMethod(
+            m_settingMigrator,
+            [migrator = m_settingMigrator, reason = tr("the link was lost")] {
+                migrator->giveUpReceiving(reason);
+                migrator->onSettingComplete({});
+            },
+            Qt::QueuedConnection);
+    }
     behindReceiver([this] { m_apps->cleanUp(); });
 }
 
@@ -288,6 +290,8 @@ void ReceivingRun::onFilesThrough(int success, int failed, int skipped, qlonglon
 
 void ReceivingRun::onAppsThrough()
 {
+    if (m_linkLost && isApplyingSettings())
+        return;
     const ReceivedFolders &received = m_receiver->receivedFolders();
     m_ledger.setSavedFolders(received.paths, received.counts, samplesOf(received));
     finish(m_linkLost ? RunEnd::LinkLost : RunEnd::Complete);
@@ -382,6 +386,15 @@ void ReceivingRun::onSettingsThrough(int succeeded, int failed)
     if (!isOn())
         closeLedger();
     Q_EMIT settingsFinished(succeeded, failed);
+    onSettingsOver();
+}
+
+void ReceivingRun::onSettingsOver()
+{
+    if (!isOn())
+        closeLedger();
+    else if (m_linkLost)
+        m_apps->cleanUp(); // the run has waited for them
     Q_EMIT stateChanged();
 }
 

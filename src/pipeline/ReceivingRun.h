@@ -82,6 +82,7 @@ private:
     void behindReceiver(std::function<void()> action);
     void processAppEnd(const QString &appName);
     void onAppsThrough();
+    void onSettingsOver();
 
     FileReceiverWorker *m_receiver;
     ReceivedApps *m_apps; // child
