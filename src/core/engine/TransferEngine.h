@@ -24,8 +24,8 @@ class SettingScanner;
 /// `connectionFailed` for pairing, `scanFailed` and `transferFailed` for a scan and a transfer that cannot
 /// start, `error` and `warning` for the rest. A scan that started ends by `scanCompleted` or `scanCancelled`.
 /// A transfer that started ends by `transferCompleted`, `transferCancelled` (here), `peerCancelled` or
-/// `transferReset` (there). It does not end by itself when the link goes, which `disconnected` tells, or
-/// `connectionFailed` where the link ended in an error: cancel or reset it then.
+/// `transferReset` (there). It does not end by itself when the link goes, which `disconnected` tells:
+/// cancel or reset it then.
 class TransferEngine : public QObject
 {
     Q_OBJECT
@@ -92,8 +92,8 @@ public:
     /// downloads.
     [[nodiscard]] QString destinationRoot() const { return m_destinationRoot; }
 
-    /// Sends the selection. Emits `transferStarted`, or `transferFailed` when there is no peer, nothing
-    /// selected, or a scan under way.
+    /// Sends the selection. Emits `transferStarted`, or `transferFailed` when no peer is accepted,
+    /// nothing selected, or a scan under way.
     void startTransfer();
     /// Waits, as the New PC, for what the peer sends. Emits `transferStarted`, and again whenever it waits
     /// anew by itself, behind a run that was called off or reset, for as long as the session lasts.
