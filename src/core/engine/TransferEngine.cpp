@@ -82,6 +82,8 @@ void TransferEngine::setupLinkConnections()
     connect(m_networkManager, &Net::connected, this, &TransferEngine::onConnected);
     connect(m_networkManager, &Net::disconnected, this, &TransferEngine::onDisconnected);
     connect(m_networkManager, &Net::connectionFailed, this, &TransferEngine::onConnectionFailed);
+    connect(m_networkManager, &Net::linkSilent, this, &TransferEngine::linkSilent);
+    connect(m_networkManager, &Net::linkAnswers, this, &TransferEngine::linkAnswers);
     connect(m_networkManager, &Net::connectionTimeout, this, &TransferEngine::onConnectionTimeout);
     connect(m_networkManager, &Net::connectionRequested, this, &TransferEngine::connectionRequested);
     connect(m_networkManager, &Net::directScanStarted, this, &TransferEngine::directScanStarted);

@@ -91,8 +91,8 @@ public:
     /// downloads.
     [[nodiscard]] QString destinationRoot() const { return m_destinationRoot; }
 
-    /// Sends the selection. Emits `transferStarted`, or `transferFailed` when there is no peer, nothing
-    /// selected, or a scan under way.
+    /// Sends the selection. Emits `transferStarted`, or `transferFailed` when no peer is accepted,
+    /// nothing selected, or a scan under way.
     void startTransfer();
     /// Waits, as the New PC, for what the peer sends. Emits `transferStarted`, and again whenever it waits
     /// anew by itself, behind a run that was called off or reset, for as long as the session lasts.

@@ -126,7 +126,7 @@ void TransferEngine::startTransfer()
         Q_EMIT warning(tr("Transfer already in progress"));
         return;
     }
-    if (!isConnected() || m_scanning || selectedCount() == 0) {
+    if (!m_networkManager->isAccepted() || m_scanning || selectedCount() == 0) {
         Q_EMIT transferFailed(tr("Cannot start transfer. Check connection and selection."));
         return;
     }
