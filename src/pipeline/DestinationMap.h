@@ -36,6 +36,9 @@ public:
     /// may be empty for a file that was left alone; it is counted, and names no folder. `otherCategory` is
     /// the heading for files outside the standard folders.
     void record(const QString &relativePath, const QString &destinationPath, const QString &otherCategory);
+
+    /// The first few names of each category, as they are shown: "(a, b, c, ...)".
+    [[nodiscard]] QMap<QString, QString> samples() const;
 };
 
 } // namespace Zandrove

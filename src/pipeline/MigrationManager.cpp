@@ -20,17 +20,8 @@ namespace {
 // Gives the peer time to hear of a cancel before what it sends is taken again.
 constexpr auto DelayAfterPeerCancel = 100ms;
 constexpr auto DelayAfterCancel = 200ms;
-constexpr int TracedMessages = 100;
 constexpr int FirstTransferType = int(MessageType::SessionEnd);
 constexpr int LastTransferType = int(MessageType::SettingComplete);
-
-void traceMessage(int count, MessageType type, qsizetype size)
-{
-    if (type == MessageType::FileData || (count > TracedMessages && type != MessageType::FileHeader))
-        return;
-    qCDebug(logPipeline) << "MSG#" << count << "type:" << Qt::showbase << Qt::hex << int(type) << Qt::dec
-                         << int(type) << "size:" << size;
-}
 
 } // namespace
 
@@ -58,12 +49,9 @@ void MigrationManager::setNetworkManager(NetworkManager *networkManager)
         QObject::disconnect(m_networkManager, nullptr, this, nullptr);
     m_networkManager = networkManager;
     setLink(RunLink::over(networkManager));
-    if (!networkManager)
-        return;
-    connect(networkManager, &NetworkManager::commandReceived, this, &MigrationManager::onLinkCommandReceived);
-    connect(networkManager, &NetworkManager::disconnected, this, &MigrationManager::onLinkChanged);
-    connect(networkManager, &NetworkManager::connectionFailed, this, &MigrationManager::onLinkChanged);
-    connect(networkManager, &NetworkManager::connected, this, &MigrationManager::onLinkChanged);
+    if (networkManager)
+        connect(networkManager, &NetworkManager::commandReceived, this,
+                &MigrationManager::onLinkCommandReceived);
 }
 
 void MigrationManager::setLink(RunLink link)
@@ -73,6 +61,8 @@ void MigrationManager::setLink(RunLink link)
     m_link = std::move(link);
     if (m_link.setGate)
         m_link.setGate([this] { return mayReadLink(); });
+    if (m_link.watch)
+        m_link.watch(this, [this] { onLinkChanged(); });
 }
 
 void MigrationManager::setRole(int role)
@@ -92,10 +82,14 @@ RunSummary MigrationManager::summary() const
     return m_run ? m_run->summary() : m_summary;
 }
 
+ReceivingRun *MigrationManager::receivingRun() const
+{
+    return qobject_cast<ReceivingRun *>(m_run);
+}
+
 bool MigrationManager::isApplyingSettings() const
 {
-    const auto *run = qobject_cast<const ReceivingRun *>(m_run);
-    return run && run->isApplyingSettings();
+    return receivingRun() && receivingRun()->isApplyingSettings();
 }
 
 RunState MigrationManager::runState() const
@@ -104,15 +98,12 @@ RunState MigrationManager::runState() const
 }
 
 void MigrationManager::start(const QList<AppInfo> &apps, const QList<FolderInfo> &folders,
-                             const QList<AccountInfo> &accounts, const QList<SettingInfo> &settings)
+                             const QList<AccountInfo> &, const QList<SettingInfo> &settings)
 {
-    Q_UNUSED(accounts)
     if (isMigrating())
         return;
-    if (m_role == NewPC) {
-        startReceiving();
-        return;
-    }
+    if (m_role == NewPC)
+        return startReceiving();
     endSession();
     retire();
     beginRun(new SendingRun(m_link, {apps, folders, settings, m_conflictConfig.policy}, this));
@@ -329,21 +320,25 @@ void MigrationManager::onLinkCommandReceived(MessageType type, const QByteArray 
 
 void MigrationManager::onNetworkCommandReceived(MessageType type, const QByteArray &payload)
 {
-    traceMessage(++m_messageCount, type, payload.size());
-    const RunState state = runState();
-    if (!m_inbox.keep(type, payload, state, m_run && m_run->isPaused()))
+    m_inbox.trace(type, payload.size());
+    if (!m_inbox.keep(type, payload, runState(), m_run && m_run->isPaused()))
         process(type, payload);
-    else if (auto *run = qobject_cast<ReceivingRun *>(m_run); run && state == RunState::Settling)
-        run->boundSettings();
+    else
+        boundWaitForSettings();
+}
+
+/// What waits behind them doesn't wait for ever.
+void MigrationManager::boundWaitForSettings()
+{
+    if (receivingRun() && !m_inbox.isEmpty() && runState() == RunState::Settling)
+        receivingRun()->boundSettings();
 }
 
 void MigrationManager::processInbox()
 {
     while (const std::optional<RunMessage> message = m_inbox.take(runState()))
         process(message->type, message->payload);
-    auto *run = qobject_cast<ReceivingRun *>(m_run);
-    if (run && !m_inbox.isEmpty() && runState() == RunState::Settling)
-        run->boundSettings();
+    boundWaitForSettings();
     resumeReadingLink();
 }
 

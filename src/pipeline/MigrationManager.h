@@ -130,6 +130,7 @@ private:
     void processInbox();
     [[nodiscard]] bool admitWhileIdle(Protocol::MessageType type);
     void dropInbox();
+    void boundWaitForSettings();
 
     void onLinkChanged();
     void beginRun(MigrationRun *run);
@@ -141,6 +142,7 @@ private:
     void retire();
     void waitAgain(std::chrono::milliseconds delay);
 
+    [[nodiscard]] ReceivingRun *receivingRun() const;
     [[nodiscard]] RunState runState() const;
     [[nodiscard]] bool isLinkOfRun() const;
     [[nodiscard]] bool mayReadLink() const;
@@ -155,9 +157,8 @@ private:
     MigrationRun *m_run = nullptr; // child: the one that is on, or whose settings are being applied
     QList<MigrationRun *> m_past;  // children: over, with threads that are still ending
     RunInbox m_inbox;
-    bool m_waits = false;    // New PC: a run that is called off is followed by another
-    QTimer m_waitAgainTimer; // until it is
-    int m_messageCount = 0;
+    bool m_waits = false;          // New PC: a run that is called off is followed by another
+    QTimer m_waitAgainTimer;       // until it is
     bool m_strangerLogged = false; // one log line for what an unaccepted link brings
 };
 

@@ -22,22 +22,6 @@ namespace {
 
 constexpr auto AppEndDelay = 300ms;
 
-/// The first few names of each category, as they are shown: "(a, b, c, ...)".
-QMap<QString, QString> samplesOf(const ReceivedFolders &received)
-{
-    constexpr int SampledFolders = 3;
-    QMap<QString, QString> samples;
-    for (auto entry = received.folders.cbegin(); entry != received.folders.cend(); ++entry) {
-        const QStringList &names = entry.value();
-        if (names.isEmpty())
-            continue;
-        const QString shown =
-            QStringList(names.first(std::min<qsizetype>(names.size(), SampledFolders))).join(u", ");
-        samples.insert(entry.key(), u'(' + shown + (names.size() > SampledFolders ? u", ...)"_s : u")"_s));
-    }
-    return samples;
-}
-
 } // namespace
 
 ReceivingRun::ReceivingRun(RunLink link, const Destination &destination, QObject *parent)
@@ -293,7 +277,7 @@ void ReceivingRun::onAppsThrough()
     if (m_linkLost && isApplyingSettings())
         return;
     const ReceivedFolders &received = m_receiver->receivedFolders();
-    m_ledger.setSavedFolders(received.paths, received.counts, samplesOf(received));
+    m_ledger.setSavedFolders(received.paths, received.counts, received.samples());
     finish(m_linkLost ? RunEnd::LinkLost : RunEnd::Complete);
 }
 
@@ -303,7 +287,7 @@ MigrationReport ReceivingRun::buildReport() const
     const ReceivedFolders &received = m_receiver->receivedFolders();
     report.savedFolderPaths = received.paths;
     report.savedFolderCounts = received.counts;
-    report.savedFolderSamples = samplesOf(received);
+    report.savedFolderSamples = received.samples();
     return report;
 }
 

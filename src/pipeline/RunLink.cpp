@@ -23,6 +23,13 @@ RunLink RunLink::over(NetworkManager *network)
         if (guarded)
             guarded->resumeReading();
     };
+    link.watch = [guarded](const QObject *context, const std::function<void()> &onChange) {
+        if (!guarded)
+            return;
+        QObject::connect(guarded, &NetworkManager::connected, context, onChange);
+        QObject::connect(guarded, &NetworkManager::disconnected, context, onChange);
+        QObject::connect(guarded, &NetworkManager::connectionFailed, context, onChange);
+    };
     link.setGate = [guarded](std::function<bool()> mayRead) {
         if (guarded)
             guarded->setReadGate(std::move(mayRead));

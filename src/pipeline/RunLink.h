@@ -9,6 +9,8 @@
 #include <functional>
 #include <memory>
 
+class QObject;
+
 namespace Zandrove {
 
 class NetworkManager;
@@ -28,6 +30,9 @@ struct RunLink
     std::shared_ptr<const std::atomic<qint64>> unsentBytes = {};
     /// Reads what was held back, when the answer of the gate may have changed.
     std::function<void()> resumeReading = {};
+    /// Has `onChange` called, for as long as `context` lives, whenever the answer of `acceptedNumber` may be
+    /// another one: the link is lost, or there is a new one.
+    std::function<void(const QObject *context, std::function<void()> onChange)> watch = {};
     /// Asks `mayRead` before each read of the link; an empty function always reads.
     std::function<void(std::function<bool()> mayRead)> setGate = {};
 
