@@ -1,6 +1,7 @@
 #include "ui/MainWindow.h"
 
 #include "core/engine/TransferEngine.h"
+#include "ui/LinkWatch.h"
 #include "ui/Log.h"
 #include "ui/ProductDialogs.h"
 #include "ui/Theme.h"
@@ -14,12 +15,26 @@
 #include "ui/pages/WelcomePage.h"
 #include "ui/widgets/ProgressDots.h"
 
+#include <QCloseEvent>
 #include <QPushButton>
 #include <QStackedWidget>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace Zandrove {
+
+namespace {
+
+LinkWatch::Place placeOf(int page)
+{
+    if (page == MainWindow::PageConnection)
+        return LinkWatch::Place::Connections;
+    return page < MainWindow::PageConnection ? LinkWatch::Place::Elsewhere : LinkWatch::Place::Work;
+}
+
+} // namespace
 
 MainWindow::MainWindow(QWidget *parent, License &license, TransferEngine *engine)
     : QMainWindow(parent)
@@ -83,7 +98,7 @@ bool MainWindow::canGoNext() const
     case PageTransfer:
         return false;
     case PageSelection:
-        return isNewPC() || m_selectionPage->hasSelection();
+        return isNewPC() || (m_selectionPage->hasSelection() && !m_linkWatch->isLost());
     default:
         return true;
     }
@@ -94,6 +109,7 @@ void MainWindow::showPage(int index)
     const QWidget *focused = focusWidget();
     m_currentPage = index;
     m_pageStack->setCurrentIndex(index);
+    m_linkWatch->setPlace(placeOf(index));
     updateNavigation();
     // A control that went out of sight or was disabled has handed the focus to any other.
     if (!focused || focusWidget() != focused)
@@ -169,8 +185,7 @@ void MainWindow::onNextClicked()
             qCDebug(logUi) << "New PC flow: Connection → Transfer (receiving)";
             enterTransferPage();
         } else {
-            qCDebug(logUi) << "Old PC flow: Connection → Scanning";
-            beginScanning();
+            leaveConnections();
         }
         return;
     }
@@ -209,12 +224,22 @@ void MainWindow::onConnected()
     qCDebug(logUi) << "MainWindow::onConnected() - Role:" << roleName(m_engine->role());
     if (m_currentPage == PageConnection) {
         m_engine->stopDiscovery();
-        if (!isNewPC()) {
-            qCDebug(logUi) << "Old PC: Auto-advancing to scanning page";
-            beginScanning();
-        }
+        if (!isNewPC())
+            leaveConnections();
     }
     updateNavigation();
+}
+
+/// On the Old PC: to the scan, or past it where a lost link has left a selection.
+void MainWindow::leaveConnections()
+{
+    if (std::exchange(m_keepsSelection, false)) {
+        m_engine->resetForNewConnection();
+        goToPage(PageSelection);
+        return;
+    }
+    qCDebug(logUi) << "Old PC flow: Connection → Scanning";
+    beginScanning();
 }
 
 void MainWindow::onRequestAutoAdvance()
@@ -325,9 +350,10 @@ void MainWindow::onBackToSelection()
 void MainWindow::resetToRolePage()
 {
     qCDebug(logUi) << "Resetting to role selection page";
+    m_keepsSelection = false;
+    goToPage(PageRole); // where a link that ends is nothing to tell
     m_engine->disconnectFromPeer();
     m_engine->reset();
-    goToPage(PageRole);
     updateNavigation();
 }
 
@@ -342,6 +368,42 @@ void MainWindow::onSessionEndReceived()
 {
     qCDebug(logUi) << "Session end received from peer";
     resetToRolePage();
+}
+
+/// Both PCs look for each other at once; the New PC needs no click to be found again.
+void MainWindow::onLinkLost()
+{
+    if (!m_linkWatch->isLost()) // any more
+        return;
+    m_keepsSelection = m_keepsSelection || (!isNewPC() && m_currentPage >= PageSelection);
+    m_connectionPage->startDiscovery();
+    if (isNewPC() && m_currentPage == PageTransfer)
+        goToPage(PageConnection);
+    updateNavigation();
+}
+
+void MainWindow::onLinkRegained()
+{
+    const bool onTheWay = m_currentPage == PageConnection;
+    if (isNewPC() && !onTheWay)
+        goToPage(PageConnection); // which goes on by itself
+    if (!isNewPC() && m_currentPage == PageTransfer)
+        leaveConnections();
+    if (!onTheWay)
+        m_keepsSelection = false;
+    updateNavigation();
+}
+
+void MainWindow::backToConnections()
+{
+    if (m_currentPage == PageScanning)
+        m_engine->cancelScan();
+    goToPage(PageConnection);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(m_transferPage->letGo());
 }
 
 void MainWindow::onMinimize()

@@ -2,6 +2,7 @@
 
 #include "core/common/AppConfig.h"
 #include "core/engine/TransferEngine.h"
+#include "ui/LinkWatch.h"
 #include "ui/MainWindow.h"
 #include "ui/ProductDialogs.h"
 #include "ui/Theme.h"
@@ -14,9 +15,11 @@
 #include "ui/pages/TransferPage.h"
 #include "ui/pages/WelcomePage.h"
 #include "ui/widgets/KeyboardFocus.h"
+#include "ui/widgets/NoticeBar.h"
 #include "ui/widgets/ProgressDots.h"
 
 #include <QGraphicsDropShadowEffect>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QPainter>
@@ -89,13 +92,20 @@ void MainWindow::setupUi()
     m_pageStack = new QStackedWidget;
     m_pageStack->setObjectName(u"PageStack"_s);
     m_navBar = createNavBar();
+    auto *linkBar = new NoticeBar;
+    linkBar->setObjectName(u"LinkBar"_s);
+    m_linkWatch = new LinkWatch(m_engine, linkBar, this);
+    auto *linkRow = new QHBoxLayout;
+    linkRow->setContentsMargins(24, 0, 24, 0);
+    linkRow->addWidget(linkBar);
     auto *contentLayout = new QVBoxLayout(content);
     contentLayout->setContentsMargins(0, 0, 0, 0);
     contentLayout->setSpacing(0);
     // Tab goes by the order of adding: from the end of a page to the navigation and then to the title bar.
     contentLayout->addWidget(m_navBar);
     contentLayout->insertWidget(0, m_titleBar);
-    contentLayout->insertWidget(1, m_pageStack, 1);
+    contentLayout->insertLayout(1, linkRow);
+    contentLayout->insertWidget(2, m_pageStack, 1);
 
     auto *central = new QWidget;
     central->setAttribute(Qt::WA_TranslucentBackground);
@@ -148,6 +158,7 @@ void MainWindow::setupConnections()
     connectTitleBar();
     connectNavigation();
     connectPages();
+    connectLink();
 }
 
 void MainWindow::connectTitleBar()
@@ -185,12 +196,23 @@ void MainWindow::connectPages()
     connect(m_selectionPage, &SelectionPage::selectionChanged, this, &MainWindow::updateNavigation);
     connect(m_scanningPage, &ScanningPage::scanFinished, this, &MainWindow::onScanFinished);
     connect(m_transferPage, &TransferPage::transferFinished, this, &MainWindow::onTransferFinished);
-    connect(m_transferPage, &TransferPage::transferFinishedWithReport, m_completePage,
-            &CompletePage::setReport);
     connect(m_transferPage, &TransferPage::navigateBack, this, &MainWindow::navigateBack);
     connect(m_transferPage, &TransferPage::transferCancelled, this, &MainWindow::onLocalCancel);
     connect(m_engine, &TransferEngine::peerCancelled, this, &MainWindow::onPeerCancelled);
     connect(m_completePage, &CompletePage::backToSelectionRequested, this, &MainWindow::onBackToSelection);
+}
+
+void MainWindow::connectLink()
+{
+    // Queued: the engine is still about to take the link's end in.
+    connect(m_linkWatch, &LinkWatch::lost, this, &MainWindow::onLinkLost, Qt::QueuedConnection);
+    connect(m_linkWatch, &LinkWatch::regained, this, &MainWindow::onLinkRegained);
+    connect(m_linkWatch, &LinkWatch::connectionsWanted, this, &MainWindow::backToConnections);
+    connect(m_linkWatch, &LinkWatch::outcomeWanted, this, [this] { goToPage(PageComplete); });
+    // At once: the system waits for this answer, and for nothing behind it.
+    connect(
+        qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { m_transferPage->cancelRun(); },
+        Qt::DirectConnection);
 }
 
 void MainWindow::paintEvent(QPaintEvent *event)
