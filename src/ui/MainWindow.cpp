@@ -15,7 +15,6 @@
 #include "ui/pages/WelcomePage.h"
 #include "ui/widgets/ProgressDots.h"
 
-#include <QCloseEvent>
 #include <QPushButton>
 #include <QStackedWidget>
 
@@ -368,42 +367,6 @@ void MainWindow::onSessionEndReceived()
 {
     qCDebug(logUi) << "Session end received from peer";
     resetToRolePage();
-}
-
-/// Both PCs look for each other at once; the New PC needs no click to be found again.
-void MainWindow::onLinkLost()
-{
-    if (!m_linkWatch->isLost()) // any more
-        return;
-    m_keepsSelection = m_keepsSelection || (!isNewPC() && m_currentPage >= PageSelection);
-    m_connectionPage->startDiscovery();
-    if (isNewPC() && m_currentPage == PageTransfer)
-        goToPage(PageConnection);
-    updateNavigation();
-}
-
-void MainWindow::onLinkRegained()
-{
-    const bool onTheWay = m_currentPage == PageConnection;
-    if (isNewPC() && !onTheWay)
-        goToPage(PageConnection); // which goes on by itself
-    if (!isNewPC() && m_currentPage == PageTransfer)
-        leaveConnections();
-    if (!onTheWay)
-        m_keepsSelection = false;
-    updateNavigation();
-}
-
-void MainWindow::backToConnections()
-{
-    if (m_currentPage == PageScanning)
-        m_engine->cancelScan();
-    goToPage(PageConnection);
-}
-
-void MainWindow::closeEvent(QCloseEvent *event)
-{
-    event->setAccepted(m_transferPage->letGo());
 }
 
 void MainWindow::onMinimize()

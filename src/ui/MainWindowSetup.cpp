@@ -1,4 +1,5 @@
-// MainWindow: how the window is built, wired and painted.
+// MainWindow: how the window is built, wired and painted, and what it does when its link goes or it is
+// closed.
 
 #include "core/common/AppConfig.h"
 #include "core/engine/TransferEngine.h"
@@ -18,6 +19,7 @@
 #include "ui/widgets/NoticeBar.h"
 #include "ui/widgets/ProgressDots.h"
 
+#include <QCloseEvent>
 #include <QGraphicsDropShadowEffect>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -93,18 +95,15 @@ void MainWindow::setupUi()
     m_pageStack->setObjectName(u"PageStack"_s);
     m_navBar = createNavBar();
     auto *linkBar = new NoticeBar;
-    linkBar->setObjectName(u"LinkBar"_s);
     m_linkWatch = new LinkWatch(m_engine, linkBar, this);
-    auto *linkRow = new QHBoxLayout;
-    linkRow->setContentsMargins(24, 0, 24, 0);
-    linkRow->addWidget(linkBar);
+    linkBar->setContentsMargins(24, 10, 24, 0);
     auto *contentLayout = new QVBoxLayout(content);
     contentLayout->setContentsMargins(0, 0, 0, 0);
     contentLayout->setSpacing(0);
     // Tab goes by the order of adding: from the end of a page to the navigation and then to the title bar.
     contentLayout->addWidget(m_navBar);
     contentLayout->insertWidget(0, m_titleBar);
-    contentLayout->insertLayout(1, linkRow);
+    contentLayout->insertWidget(1, linkBar);
     contentLayout->insertWidget(2, m_pageStack, 1);
 
     auto *central = new QWidget;
@@ -213,6 +212,42 @@ void MainWindow::connectLink()
     connect(
         qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { m_transferPage->cancelRun(); },
         Qt::DirectConnection);
+}
+
+/// Both PCs look for each other at once; the New PC needs no click to be found again.
+void MainWindow::onLinkLost()
+{
+    if (!m_linkWatch->isLost()) // any more
+        return;
+    m_keepsSelection = m_keepsSelection || (!isNewPC() && m_currentPage >= PageSelection);
+    m_connectionPage->startDiscovery();
+    if (isNewPC() && m_currentPage == PageTransfer)
+        goToPage(PageConnection);
+    updateNavigation();
+}
+
+void MainWindow::onLinkRegained()
+{
+    const bool onTheWay = m_currentPage == PageConnection;
+    if (isNewPC() && !onTheWay)
+        goToPage(PageConnection); // which goes on by itself
+    if (!isNewPC() && m_currentPage == PageTransfer)
+        leaveConnections();
+    if (!onTheWay)
+        m_keepsSelection = false;
+    updateNavigation();
+}
+
+void MainWindow::backToConnections()
+{
+    if (m_currentPage == PageScanning)
+        m_engine->cancelScan();
+    goToPage(PageConnection);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(m_transferPage->letGo());
 }
 
 void MainWindow::paintEvent(QPaintEvent *event)

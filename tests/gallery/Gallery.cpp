@@ -112,22 +112,24 @@ struct Stage
     void transferSome(int role)
     {
         transfer(role);
+        settle(); // without a link it has failed by now
+        window.findChild<TransferPage *>()->resetForNewTransfer();
         const auto send = [this](const QString &name) {
             Q_EMIT engine->fileTransferStarted(name);
             Q_EMIT engine->fileTransferCompleted(name);
         };
-        const auto settle = [this](const QString &name, ItemOutcome outcome, const QString &reason = {}) {
+        const auto tell = [this](const QString &name, ItemOutcome outcome, const QString &reason = {}) {
             Q_EMIT engine->itemSettled(
                 {ItemKind::File, outcome, u"/home/anna/Pictures/"_s + name, reason, 1});
         };
         send(u"letter.odt"_s);
-        settle(u"letter.odt"_s, ItemOutcome::Arrived);
+        tell(u"letter.odt"_s, ItemOutcome::Arrived);
         send(u"taxes.ods"_s);
-        settle(u"taxes.ods"_s, ItemOutcome::WasDifferent);
+        tell(u"taxes.ods"_s, ItemOutcome::WasDifferent);
         send(u"写真 2024.jpg"_s);
-        settle(u"写真 2024.jpg"_s, ItemOutcome::WasThere);
-        settle(u"locked.raw"_s, ItemOutcome::Failed,
-               u"No access: the file belongs to another user, and what keeps it goes on for long"_s);
+        tell(u"写真 2024.jpg"_s, ItemOutcome::WasThere);
+        tell(u"locked.raw"_s, ItemOutcome::Failed,
+             u"No access: the file belongs to another user, and what keeps it goes on for long"_s);
         send(u"Größe ä ö ü.txt"_s);
         Q_EMIT engine->fileTransferStarted(u"<b>holiday</b> in the mountains.mp4"_s);
         Q_EMIT engine->fileTransferProgress(u"<b>holiday</b> in the mountains.mp4"_s, 60);

@@ -199,7 +199,7 @@ void TransferPage::onRunEnded(const RunSummary &summary)
 
 void TransferPage::onSpaceShort(qint64 needed, qint64 available, const QString &volume)
 {
-    m_notice->tell(tr("%1 are on their way, but only %2 are free on %3: not everything will fit.")
+    m_notice->tell(tr("%1 are on their way, but only %2 are free on %3. Not everything will fit.")
                        .arg(formatSize(needed), formatSize(available), volume));
 }
 

@@ -33,9 +33,11 @@ QString buttonStyle()
 NoticeBar::NoticeBar(QWidget *parent)
     : QWidget(parent)
 {
-    setObjectName(u"NoticeBar"_s);
-    setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(Theme::boxStyle("#NoticeBar"_L1, Theme::Colour::Amber, 8, Theme::Colour::AmberHover));
+    // A box within, so that margins around the bar go when it is hidden.
+    auto *box = new QWidget;
+    box->setObjectName(u"NoticeBox"_s);
+    box->setAttribute(Qt::WA_StyledBackground);
+    box->setStyleSheet(Theme::boxStyle("#NoticeBox"_L1, Theme::Colour::Amber, 8, Theme::Colour::AmberHover));
 
     m_text = makeLabel(QString(), TextPixels);
     m_text->setWordWrap(true);
@@ -44,7 +46,10 @@ NoticeBar::NoticeBar(QWidget *parent)
     m_button->setStyleSheet(buttonStyle());
     connect(m_button, &QPushButton::clicked, this, &NoticeBar::actionClicked);
 
-    auto *layout = new QHBoxLayout(this);
+    auto *outer = new QHBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(box);
+    auto *layout = new QHBoxLayout(box);
     layout->setContentsMargins(16, 8, 16, 8);
     layout->setSpacing(12);
     layout->addWidget(makeLabel(u"⚠"_s, 16, Theme::Colour::AmberText));
