@@ -238,7 +238,7 @@ class WizardTest(pcs.TestCase):
         self.pair_up(old, new)
         old.wait(page=3)
         self.assertCloses(old)
-        new.wait(page=5)
+        new.wait(page=2, text="^The connection to .* is lost")
         self.assertCloses(new)
 
         old, new = self.both()
@@ -255,7 +255,13 @@ class WizardTest(pcs.TestCase):
                 old.click("Next")
                 old.wait(page=5, text="^Sending Data - [1-9]")
                 new.wait(page=5, text="^Receiving Data - [1-9]")
-                self.assertCloses(*((old, new) if closes_old else (new, old)))
+                first, second = (old, new) if closes_old else (new, old)
+                first.click("Close")
+                first.wait(dialog="Close Zandrove")
+                first._tell("click", "Cancel and Close")
+                self.assertEqual(first.exit_code(), 0)
+                second.wait(text="is lost")
+                self.assertCloses(second)
                 self.pair.free_speed()
 
 

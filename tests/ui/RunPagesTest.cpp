@@ -102,6 +102,7 @@ private Q_SLOTS:
         }
         Q_EMIT m_engine->fileTransferStarted(u"[App] Acme Writer"_s);
         settle(ItemOutcome::Arrived, u"Writer"_s);
+        Q_EMIT m_engine->fileTransferFailed(u"x"_s, u"denied"_s);
         settle(ItemOutcome::Failed, u"/c/x"_s, u"denied"_s);
         for (int index = 30; index < 57; ++index)
             Q_EMIT m_engine->fileTransferStarted(QString::number(index));

@@ -272,9 +272,9 @@ void CompletePage::showHeadline()
     if (done)
         m_subtitle->setText(tr("Your files, apps and settings have been successfully transferred"));
     else if (m_summary.end == RunEnd::Complete)
-        m_subtitle->setText(nextSteps(m_summary).join(u' '));
+        m_subtitle->setText(nextSteps(m_summary).constLast());
     else
-        m_subtitle->setText(arrivedFilesText(m_summary) + u". "_s + nextSteps(m_summary).join(u' '));
+        m_subtitle->setText(arrivedFilesText(m_summary));
     m_missing->setVisible(!done);
     if (!done)
         m_missing->setSummary(m_summary);

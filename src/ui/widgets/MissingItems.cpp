@@ -30,6 +30,13 @@ QString reasonOf(const ItemResult &item)
     return printable(item.reason.isEmpty() ? outcomeText(item.outcome) : item.reason);
 }
 
+QString printableLines(QStringList lines)
+{
+    for (QString &line : lines)
+        line = u"• "_s + printable(line);
+    return lines.join(u'\n');
+}
+
 /// The items of a summary as rows, made into text only where they are looked at.
 class ItemModel final : public QAbstractTableModel
 {
@@ -128,6 +135,9 @@ MissingItems::MissingItems(QWidget *parent)
     layout->addWidget(m_list);
     layout->addWidget(m_more);
     layout->addWidget(createButtons());
+    m_steps = makeLabel(QString(), 13, Theme::Colour::TextSecondary);
+    m_steps->setWordWrap(true);
+    layout->addWidget(m_steps);
 }
 
 QWidget *MissingItems::createButtons()
@@ -170,6 +180,7 @@ void MissingItems::setSummary(const RunSummary &summary)
     const int unnamed = all - items->rowCount();
     m_more->setText(tr("And %1 more.").arg(countText(unnamed)));
     m_more->setVisible(unnamed > 0);
+    m_steps->setText(printableLines(nextSteps(summary)));
     m_status->clear();
 }
 

@@ -29,6 +29,7 @@ private:
     QLabel *m_fullVolumes = nullptr;
     QTreeView *m_list = nullptr;
     QLabel *m_more = nullptr;
+    QLabel *m_steps = nullptr;  ///< what to do now
     QLabel *m_status = nullptr; ///< of copying and saving
 };
 
