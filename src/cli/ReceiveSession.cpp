@@ -218,7 +218,9 @@ void ReceiveSession::afterLink()
     m_drainTimer.stop();
     engine().resetForNewConnection();
     output().disconnected();
-    if (!options().once)
+    if (m_endsThen)
+        finish(m_results.exitCode());
+    else if (!options().once)
         waitForPeer();
     else
         finish(m_reported ? m_results.exitCode() : RunFailed);
@@ -288,8 +290,11 @@ void ReceiveSession::onRunBroken(const RunSummary &summary)
     showReport(summary);
     m_results.record(RunFailed);
     m_receiving = m_expecting = false;
-    if (summary.end != RunEnd::LinkLost)
+    if (summary.end != RunEnd::LinkLost) {
+        if (m_endsThen)
+            finish(m_results.exitCode());
         return;
+    }
     const bool wasUp = link() == Link::Up;
     setLink(Link::None);
     if (wasUp)
@@ -337,7 +342,7 @@ void ReceiveSession::onTransferFailed(const QString &reason)
 void ReceiveSession::runEnded(ExitCode exitCode)
 {
     m_results.record(exitCode);
-    if (options().once)
+    if (options().once || m_endsThen)
         finish(exitCode);
     else
         expectTransfer();
@@ -357,7 +362,7 @@ bool ReceiveSession::obey(const ControlCommand &command)
         }
         return true;
     case ControlCommand::End:
-        m_endsThen = m_heldReport.has_value();
+        m_endsThen = m_receiving || m_heldReport.has_value();
         if (!m_endsThen)
             finish(m_results.exitCode());
         return true;

@@ -67,7 +67,7 @@ private:
     bool m_expecting = false; ///< armed on a fresh link, nothing has arrived
     bool m_receiving = false; ///< something of a run has arrived
     bool m_reported = false;  ///< --once: the one report is out
-    bool m_endsThen = false;  ///< --control: the held report is the last one
+    bool m_endsThen = false;  ///< --control: the run in hand is the last one
 };
 
 } // namespace Zandrove::Cli

@@ -221,7 +221,10 @@ void SendSession::onRunEnded(const RunSummary &summary)
     if (summary.end == RunEnd::CancelledHere || (m_state != State::Running && m_state != State::Parting))
         return;
     m_completed = summary.end == RunEnd::Complete;
-    if (summary.end == RunEnd::LinkLost || m_state == State::Parting) {
+    // The last answers may have come ahead of the end of the link; a further run would need another one.
+    if (m_state == State::Parting)
+        m_staysForMore = false;
+    if (summary.end == RunEnd::LinkLost || (m_state == State::Parting && !m_completed)) {
         linkOver(tr("The link to %1 broke.").arg(m_peerName));
         endBrokenRun(summary);
         return;

@@ -203,6 +203,8 @@ void Session::finish(ExitCode exitCode)
         const bool completed = exitCode == EverythingMoved || exitCode == SomethingMissing;
         connect(&m_engine, &TransferEngine::disconnected, this, &Session::conclude);
         connect(&m_engine, &TransferEngine::connectionFailed, this, &Session::conclude);
+        // A peer that ends the session in the same moment waits for this side as well.
+        connect(&m_engine, &TransferEngine::sessionEndReceived, this, &Session::partNow);
         m_engine.sendSessionEnd();
         QTimer::singleShot(completed ? m_farewellTime : FarewellTime, this, &Session::onNoFarewell);
     } else if (m_link == Link::Pending) {
@@ -220,6 +222,11 @@ void Session::onNoFarewell()
         m_output.error(tr("The other PC did not end the session: not everything may have arrived."));
         m_exitCode = RunFailed;
     }
+    partNow();
+}
+
+void Session::partNow()
+{
     QObject::disconnect(&m_engine, nullptr, this, nullptr);
     hangUp();
 }

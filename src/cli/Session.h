@@ -86,6 +86,7 @@ protected:
 private:
     void hangUp();
     void onNoFarewell();
+    void partNow();
     void showLink();
     void showInstalling(const QString &app, int percent);
     void showProgress(const TransferProgress &progress);
