@@ -6,11 +6,6 @@
 #include <QJsonDocument>
 #include <QThread>
 
-#include <sys/resource.h>
-
-#include <cerrno>
-#include <csignal>
-
 using namespace Qt::StringLiterals;
 using namespace Zandrove;
 
@@ -201,30 +196,6 @@ private Q_SLOTS:
         QCOMPARE(answer.value(u"failedCount"_s).toInt(), 2); // at the header and at the end
         QCOMPARE(answer.value(u"success"_s).toBool(), false);
         QCOMPARE(complete(), (QVariantList{1, 2, 0, 3ll}));
-    }
-
-    void fileWithoutRoomCostsThatFile()
-    {
-        const QByteArray big = someBytes(4194304);
-        struct rlimit before = {};
-        ::getrlimit(RLIMIT_FSIZE, &before);
-        const struct rlimit small = {1000000, before.rlim_max};
-        ::signal(SIGXFSZ, SIG_IGN);
-        ::setrlimit(RLIMIT_FSIZE, &small);
-        QSignalSpy failed(m_receiver.get(), &FileReceiverWorker::fileFailed);
-        header(u"full"_s, 2 * big.size());
-        data(big);
-        const QStringList left = names();
-        data(big);
-        end(u"full"_s, 1);
-        file(u"good"_s, "abc", 2);
-        ::setrlimit(RLIMIT_FSIZE, &before);
-        QCOMPARE(left, QStringList()); // gone at once
-        QCOMPARE(failed.first().at(1).toString(), u"Write error: "_s + qt_error_string(EFBIG));
-        QCOMPARE(m_settled.size(), 2);
-        QCOMPARE(m_settled.first().outcome, ItemOutcome::Failed);
-        QCOMPARE(names(), (QStringList{u"good"_s}));
-        QCOMPARE(complete(), (QVariantList{1, 1, 0, 3ll}));
     }
 
     void standingFileIsCompared_data()
