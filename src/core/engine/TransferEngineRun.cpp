@@ -95,6 +95,7 @@ void TransferEngine::beginTransfer()
 {
     m_transferring = true;
     m_paused = false;
+    m_runHasBegun = false;
     m_report = MigrationReport();
     m_report.startTime = QDateTime::currentDateTime();
     beginSummary();
@@ -286,6 +287,7 @@ void TransferEngine::setPausedByPeer(bool paused)
 void TransferEngine::onMigrationProgress(const TransferProgress &progress)
 {
     m_progress = progress;
+    m_runHasBegun = progress.totalItems > 0 || progress.transferredBytes > 0;
     Q_EMIT transferProgressChanged(progress);
 }
 
