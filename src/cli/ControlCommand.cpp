@@ -21,8 +21,13 @@ std::optional<ControlCommand> parseControlCommand(const QString &line)
     const QString word = text.section(u' ', 0, 0);
     const QString rest = text.mid(word.size()).trimmed();
     for (const auto &[name, kind] : Words) {
-        if (word == name && (rest.isEmpty() || kind == ControlCommand::Again))
+        if (word != name)
+            continue;
+        if (rest.isEmpty() || kind == ControlCommand::Again)
             return ControlCommand{kind, rest};
+        const quint64 question = rest.toULongLong();
+        const bool isAnswer = kind == ControlCommand::Yes || kind == ControlCommand::No;
+        return isAnswer && question > 0 ? std::optional(ControlCommand{kind, {}, question}) : std::nullopt;
     }
     return std::nullopt;
 }

@@ -30,7 +30,7 @@ void DiscoverSession::start()
         output().peerLost(id);
     });
     connect(source, &TransferEngine::connectionRequested, this, [this](const QString &name) {
-        engine().rejectConnection();
+        refuseLastRequest();
         output().refused(name, tr("this PC is only looking around."));
     });
     engine().setRole(options().role);

@@ -169,11 +169,14 @@ void JsonOutput::found(const PCInfo &pc)
     print("found"_L1, toJson(pc));
 }
 
-void JsonOutput::request(const QString &name, bool asks)
+void JsonOutput::request(const ConnectionQuestion &question, bool asks)
 {
-    print("request"_L1, {{u"name"_s, name}, {u"asks"_s, asks}});
+    print("request"_L1, {{u"question"_s, qint64(question.number)},
+                         {u"name"_s, question.name},
+                         {u"ip"_s, question.ip},
+                         {u"asks"_s, asks}});
     if (asks)
-        m_streams.err(questionAbout(name));
+        m_streams.err(questionAbout(question));
 }
 
 void JsonOutput::refused(const QString &name, const QString &why)

@@ -7,11 +7,11 @@ using namespace Qt::StringLiterals;
 
 namespace Zandrove::Cli {
 
-QByteArray questionAbout(const QString &name)
+QByteArray questionAbout(const ConnectionQuestion &question)
 {
-    const QString question =
-        QCoreApplication::translate("Zandrove::Cli::Output", "Allow %1 to connect? [y/N] ");
-    return printable(question.arg(name)).toUtf8();
+    const QString text =
+        QCoreApplication::translate("Zandrove::Cli::Output", "Allow %1 (%2) to connect? [y/N] ");
+    return printable(text.arg(question.name, question.ip)).toUtf8();
 }
 
 QByteArray errorLine(const QString &message)

@@ -37,7 +37,7 @@ public:
     virtual void peerLost(const QString &id) = 0;
     virtual void found(const PCInfo &pc) = 0; ///< the peer that was looked for; its answer is waited for
     /// A peer asks to be let in; `asks` when the user is to answer, else the answer follows by itself.
-    virtual void request(const QString &name, bool asks) = 0;
+    virtual void request(const ConnectionQuestion &question, bool asks) = 0;
     virtual void refused(const QString &name, const QString &why) = 0; ///< a request was turned down
     virtual void connected(const PCInfo &pc) = 0;
     virtual void disconnected() = 0; ///< the link to the peer is over
@@ -58,8 +58,8 @@ public:
     virtual void error(const QString &message) = 0;
 };
 
-/// What the user is asked when `name` wants to be let in; no line end.
-[[nodiscard]] QByteArray questionAbout(const QString &name);
+/// What the user is asked when a PC wants to be let in; no line end.
+[[nodiscard]] QByteArray questionAbout(const ConnectionQuestion &question);
 
 /// One line for standard error.
 [[nodiscard]] QByteArray errorLine(const QString &message);

@@ -35,6 +35,7 @@ bool isYes(const QString &line)
 ReceiveSession::ReceiveSession(const Options &options, TransferEngine &engine, Output &output,
                                QObject *parent)
     : Session(options, engine, output, parent)
+    , m_admission(engine, output, !options.control && canAsk(), this)
 {
     m_timeoutTimer.setSingleShot(true);
     connect(&m_timeoutTimer, &QTimer::timeout, this, &ReceiveSession::onTimeout);
@@ -52,7 +53,7 @@ void ReceiveSession::start()
     showRuns();
     if (options().control)
         readInput();
-    else if (!options().yes && !Platform::isTerminal(Platform::StandardStream::Input))
+    else if (!options().yes && !canAsk())
         output().warning(tr("Nobody can be asked here: every request will be refused without --yes."));
     engine().setRole(options().role);
     engine().setMode(options().mode);
@@ -103,25 +104,30 @@ void ReceiveSession::expectTransfer()
         m_timeoutTimer.start(*options().timeout);
 }
 
-void ReceiveSession::onConnectionRequested(const QString &name)
+void ReceiveSession::onConnectionRequested()
 {
-    m_asker = name;
-    if (link() == Link::Up || m_drainTimer.isActive() || m_heldReport) {
-        // The newest connection wins: the peer of before is gone already.
-        engine().rejectConnection();
-        output().refused(name, tr("this PC is receiving from %1.").arg(m_peerName));
-        onLinkBroken();
+    const QList<ConnectionQuestion> open = engine().openQuestions();
+    if (open.isEmpty())
+        return;
+    const ConnectionQuestion &question = open.last();
+    const bool isTaken = link() == Link::Up && question.ip != connectedPeer().ip;
+    if (canAsk() && !options().yes) {
+        m_admission.put(question);
+        readInput();
         return;
     }
-    setLink(Link::Pending);
-    const bool canAsk = options().control || Platform::isTerminal(Platform::StandardStream::Input);
-    output().request(name, canAsk && !options().yes);
-    if (options().yes)
-        answer(true);
-    else if (canAsk)
-        readInput();
+    output().request(question, false);
+    if (isTaken)
+        m_admission.refuse(question, tr("this PC is receiving from %1.").arg(m_peerName));
+    else if (options().yes)
+        m_admission.admit(question);
     else
-        refuse(tr("nobody can be asked here. Start with --yes to let every PC in."));
+        m_admission.refuse(question, tr("nobody can be asked here. Start with --yes to let every PC in."));
+}
+
+bool ReceiveSession::canAsk() const
+{
+    return options().control || Platform::isTerminal(Platform::StandardStream::Input);
 }
 
 void ReceiveSession::onInput(const QString &line)
@@ -129,44 +135,31 @@ void ReceiveSession::onInput(const QString &line)
     if (options().control)
         Session::onInput(line);
     else
-        answer(isYes(line));
+        m_admission.answer(0, isYes(line));
 }
 
 void ReceiveSession::onInputEnded()
 {
-    if (!options().control)
-        answer(false);
-}
-
-void ReceiveSession::answer(bool admit)
-{
-    if (link() != Link::Pending || isFinishing())
-        return;
-    if (!admit) {
-        refuse({});
-        return;
+    const QList<ConnectionQuestion> open = engine().openQuestions();
+    for (const ConnectionQuestion &question : open) {
+        if (!options().control)
+            m_admission.refuse(question, {});
     }
-    engine().acceptConnection(engine().verifyCode());
-    if (link() == Link::Up)
-        return;
-    output().warning(tr("%1 is not there any more.").arg(m_asker));
-    setLink(Link::None);
-    engine().restartBroadcast();
-}
-
-void ReceiveSession::refuse(const QString &why)
-{
-    setLink(Link::None);
-    engine().rejectConnection();
-    output().refused(m_asker, why);
 }
 
 void ReceiveSession::onConnected()
 {
+    // What a link of before still owes does not come any more.
+    if (m_drainTimer.isActive() && !m_complaint.isEmpty()) {
+        output().error(std::exchange(m_complaint, {}));
+        m_results.record(RunFailed);
+    }
+    m_drainTimer.stop();
     setLink(Link::Up);
     const PCInfo peer = connectedPeer();
     m_peerName = peer.name;
     output().connected(peer);
+    concludeWithoutSettings();
     engine().stopDiscovery();
     engine().startReceiving();
     m_expecting = true;
@@ -174,11 +167,6 @@ void ReceiveSession::onConnected()
 
 void ReceiveSession::onLinkBroken()
 {
-    if (link() == Link::Pending) {
-        setLink(Link::None);
-        output().warning(tr("%1 is not there any more.").arg(m_asker));
-        return;
-    }
     onPeerLeft(tr("The link to %1 broke during a transfer.").arg(m_peerName), PatienceAfterBreak);
 }
 
@@ -353,7 +341,7 @@ bool ReceiveSession::obey(const ControlCommand &command)
     switch (command.kind) {
     case ControlCommand::Yes:
     case ControlCommand::No:
-        answer(command.kind == ControlCommand::Yes);
+        m_admission.answer(command.question, command.kind == ControlCommand::Yes);
         return true;
     case ControlCommand::Cancel:
         if (m_receiving && !m_heldReport) {
@@ -381,8 +369,6 @@ void ReceiveSession::cancelHere()
 
 void ReceiveSession::onTimeout()
 {
-    if (link() == Link::Pending)
-        engine().rejectConnection();
     output().error(tr("Nothing began to arrive within %1 seconds.").arg(options().timeout->count()));
     finish(TimedOut);
 }
@@ -394,8 +380,6 @@ void ReceiveSession::onInterrupt()
         finish(m_results.exitCode());
         return;
     }
-    if (link() == Link::Pending)
-        engine().rejectConnection();
     if (link() == Link::Up && m_receiving)
         cancelHere();
     finish(Cancelled);

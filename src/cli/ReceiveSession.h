@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/Admission.h"
 #include "cli/RunResults.h"
 #include "cli/Session.h"
 
@@ -29,9 +30,8 @@ private:
     void waitForPeer();
     void expectTransfer();
 
-    void onConnectionRequested(const QString &name);
-    void answer(bool admit);
-    void refuse(const QString &why);
+    void onConnectionRequested();
+    [[nodiscard]] bool canAsk() const; ///< whether there is anybody to ask
     void onConnected();
     void onLinkBroken();
     void onSessionEndReceived();
@@ -53,6 +53,7 @@ private:
     void onTimeout();
     void runEnded(ExitCode exitCode);
 
+    Admission m_admission;
     QTimer m_timeoutTimer; ///< runs while nothing is arriving
     QTimer m_goodbyeTimer; ///< --once: after the report, until the peer has ended the session
     /// The peer has left, but the end of the run may still be on its way from the socket to the disk: runs
@@ -61,7 +62,6 @@ private:
     QTimer m_settingsTimer;
     std::optional<RunSummary> m_heldReport; ///< complete but for the settings, which are being applied
     QString m_complaint;                    ///< what is to be said if the end of the run does not come
-    QString m_asker;                        ///< who asks to be let in
     QString m_peerName;
     RunResults m_results;
     bool m_expecting = false; ///< armed on a fresh link, nothing has arrived

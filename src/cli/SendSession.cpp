@@ -138,10 +138,8 @@ void SendSession::onConnectionFailed(const QString &reason)
 
 void SendSession::onConnectionRequested(const QString &name)
 {
-    engine().rejectConnection();
+    refuseLastRequest();
     output().refused(name, tr("this PC is sending to %1.").arg(options().target));
-    if (link() == Link::Up)
-        onDisconnected(); // the newest connection wins: the link of before is gone already
 }
 
 void SendSession::onDisconnected()

@@ -54,6 +54,13 @@ PCInfo Session::connectedPeer() const
     return peer;
 }
 
+void Session::refuseLastRequest()
+{
+    const QList<ConnectionQuestion> open = m_engine.openQuestions();
+    if (!open.isEmpty())
+        m_engine.rejectConnection(open.last().number);
+}
+
 void Session::showRuns()
 {
     connect(&m_engine, &TransferEngine::transferProgressChanged, this, &Session::showProgress);

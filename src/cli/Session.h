@@ -58,6 +58,9 @@ protected:
     /// The peer as the user is to see it.
     [[nodiscard]] PCInfo connectedPeer() const;
 
+    /// Says no to the last request.
+    void refuseLastRequest();
+
     /// Passes progress, single files and pauses on to the output.
     void showRuns();
     /// Whether it is time to show progress again: at most five times a second.

@@ -102,10 +102,10 @@ void TextOutput::found(const PCInfo &pc)
     line(tr("Found %1. Waiting for it to let this PC in.").arg(described(pc)));
 }
 
-void TextOutput::request(const QString &name, bool asks)
+void TextOutput::request(const ConnectionQuestion &question, bool asks)
 {
     if (asks)
-        errorText(questionAbout(name));
+        errorText(questionAbout(question));
 }
 
 void TextOutput::refused(const QString &name, const QString &why)

@@ -21,7 +21,7 @@ public:
     void peer(const PCInfo &pc) override;
     void peerLost(const QString &id) override;
     void found(const PCInfo &pc) override;
-    void request(const QString &name, bool asks) override;
+    void request(const ConnectionQuestion &question, bool asks) override;
     void refused(const QString &name, const QString &why) override;
     void connected(const PCInfo &pc) override;
     void disconnected() override;

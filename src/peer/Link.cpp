@@ -78,7 +78,6 @@ Link::Link(QTcpSocket *socket, Shared shared, QObject *parent)
     connect(m_socket, &QTcpSocket::bytesWritten, this, &Link::onBytesWritten);
     m_heartbeat->setInterval(HeartbeatInterval);
     connect(m_heartbeat, &QTimer::timeout, this, [this] { send(Protocol::MessageType::Heartbeat, {}); });
-    m_seconds->setInterval(m_shared.second);
     connect(m_seconds, &QTimer::timeout, this, &Link::onSecondPassed);
     m_patience->setSingleShot(true);
     connect(m_patience, &QTimer::timeout, this, [this] {
@@ -127,7 +126,7 @@ void Link::sendRaw(const QByteArray &bytes)
 void Link::startHeartbeat()
 {
     m_heartbeat->start();
-    m_seconds->start();
+    m_seconds->start(m_shared.second);
 }
 
 void Link::stopHeartbeat()

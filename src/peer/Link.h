@@ -37,7 +37,13 @@ public:
         Protocol::FrameBuilder *frames = nullptr;         ///< numbers what is sent
         std::shared_ptr<std::atomic<qint64>> unsentBytes; ///< bytes that wait in the socket's write buffer
         std::function<bool()> mayRead;                    ///< asked before each frame
-        std::chrono::milliseconds second;                 ///< how long a second of the link's watch lasts
+        std::chrono::milliseconds second{1000};           ///< how long a second of the link's watch lasts
+
+        /// For a connection beside the one that counts.
+        [[nodiscard]] static Shared apart(Protocol::FrameBuilder *frames)
+        {
+            return {frames, std::make_shared<std::atomic<qint64>>(0), [] { return true; }};
+        }
     };
 
     /// Over a socket that has come in, or a fresh one to dial with, of which it becomes the owner.
@@ -45,9 +51,12 @@ public:
 
     /// Dials. `opened` or `failed` follows; without a limit in time, and perhaps inside the call.
     void dial(const QString &ip, quint16 port);
+    /// Takes over from the connection before from now on.
+    void join(Shared shared) { m_shared = std::move(shared); }
 
     [[nodiscard]] bool isDialling() const;    ///< TCP is not up yet
     [[nodiscard]] bool isEstablished() const; ///< TCP is up
+    [[nodiscard]] bool isSilent() const { return m_watch.silentSeconds() >= LinkWatch::SilentAfter; }
     [[nodiscard]] QHostAddress peerAddress() const;
 
     /// Frames a message and writes it, be it for later while TCP is not up. Dropped when the link is over.

@@ -4,7 +4,7 @@
 #include "peer/CableModeHelper.h"
 #include "peer/Link.h"
 #include "peer/Log.h"
-#include "peer/PeerText.h"
+#include "peer/WaitingRoom.h"
 #include "support/Json.h"
 #include "support/Utilities.h"
 
@@ -15,6 +15,7 @@
 #include <QTcpSocket>
 #include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -27,8 +28,13 @@ namespace {
 constexpr auto ConnectTimeout = 5000ms;
 /// How long the end of the program waits for the last frames to leave.
 constexpr auto FarewellTime = 200ms;
-/// What a peer that nobody has said yes to may keep waiting here in an unfinished frame.
+/// What a peer that has been dialled, and has not said yes, may keep waiting here in an unfinished frame.
 constexpr qsizetype UnacceptedLimitBytes = 16 << 20;
+
+QString addressOf(const Link *link)
+{
+    return CableModeHelper::normalizeIP(link->peerAddress().toString());
+}
 
 } // namespace
 
@@ -42,12 +48,19 @@ NetworkManager::NetworkManager(QObject *parent, LinkEnvironment environment)
     , m_scanDelayTimer(new QTimer(this))
     , m_tcpServer(new QTcpServer(this))
     , m_connectionTimer(new QTimer(this))
+    , m_waitingRoom(new WaitingRoom(
+          m_environment.watchSecond, [this](const QString &ip) { return isBusyFor(ip); }, this))
     , m_pendingBytes(std::make_shared<std::atomic<qint64>>(0))
 {
     setupDiscovery();
     m_connectionTimer->setSingleShot(true);
     m_connectionTimer->setInterval(ConnectTimeout);
     connect(m_connectionTimer, &QTimer::timeout, this, &NetworkManager::onConnectionTimeout);
+    connect(m_waitingRoom, &WaitingRoom::asked, this, &NetworkManager::onAsked);
+    connect(m_waitingRoom, &WaitingRoom::ended, this, [this](quint64 question) {
+        applyPairing();
+        Q_EMIT questionEnded(question);
+    });
     m_tcpServer->setProxy(QNetworkProxy::NoProxy);
     connect(m_tcpServer, &QTcpServer::newConnection, this, &NetworkManager::onNewConnection);
     setupServer();
@@ -59,30 +72,12 @@ NetworkManager::~NetworkManager()
     stopDiscovery();
     if (m_link && !m_link->isDialling())
         sendCommand(Protocol::MessageType::Disconnect);
+    m_waitingRoom->disconnect(this);
+    m_waitingRoom->refuseAll();
     const QDeadlineTimer deadline(FarewellTime);
     const auto links = findChildren<Link *>(Qt::FindDirectChildrenOnly);
     for (Link *link : links)
         link->farewell(deadline);
-}
-
-void NetworkManager::setRole(int role)
-{
-    m_role = role;
-}
-
-void NetworkManager::setMode(int mode)
-{
-    m_mode = mode;
-}
-
-void NetworkManager::setVerifyCode(const QString &code)
-{
-    m_verifyCode = code;
-}
-
-QList<PCInfo> NetworkManager::discoveredPCs() const
-{
-    return m_peers.peers();
 }
 
 bool NetworkManager::isConnected() const
@@ -105,9 +100,9 @@ quint64 NetworkManager::acceptedLink() const
     return m_pairing.acceptedLink();
 }
 
-quint64 NetworkManager::openQuestion() const
+QList<ConnectionQuestion> NetworkManager::openQuestions() const
 {
-    return m_pairing.openQuestion();
+    return m_waitingRoom->questions();
 }
 
 quint16 NetworkManager::serverPort() const
@@ -170,8 +165,9 @@ void NetworkManager::connectToPC(const QString &pcId)
     if (isAccepted())
         endPair(); // a live link is given up for the new one
     drop();
-    Link *link = adopt(new QTcpSocket);
+    Link *link = adopt(new Link(new QTcpSocket, Link::Shared::apart(&m_frames), this));
     m_pairing.dialled(*target);
+    m_dialledIP = ip;
     applyPairing();
     m_connectionTimer->start();
     link->dial(ip, target->port);
@@ -195,36 +191,44 @@ void NetworkManager::disconnect()
 void NetworkManager::acceptConnection(quint64 question)
 {
     qCDebug(logPeer) << "acceptConnection() called";
-    if (!m_link || !m_link->isEstablished() || !m_pairing.answerYes(question))
+    const QList<ConnectionQuestion> open = openQuestions();
+    const auto asker = std::find_if(open.cbegin(), open.cend(), [question](const ConnectionQuestion &each) {
+        return question == 0 || each.number == question;
+    });
+    Link *const link = asker != open.cend() ? m_waitingRoom->take(asker->number) : nullptr;
+    if (!link)
         return;
+    giveWay();
+    adopt(link);
+    PCInfo peer;
+    peer.id = peer.name = asker->name;
+    peer.ip = peer.senderIp = asker->ip;
+    m_pairing.admitted(peer);
     sendCommand(Protocol::MessageType::ConnectAccept);
+    m_waitingRoom->refuseAll();
     pair();
 }
 
-void NetworkManager::rejectConnection(quint64 question)
+/// Ends the current link for another one that this copy's user prefers.
+void NetworkManager::giveWay()
 {
-    if (!m_link || !m_pairing.answerNo(question))
-        return;
-    sendCommand(Protocol::MessageType::ConnectReject);
-    hangUp();
-}
-
-void NetworkManager::onNewConnection()
-{
-    while (QTcpSocket *socket = m_tcpServer->nextPendingConnection()) {
+    if (!isAccepted()) {
         drop();
-        const Link *link = adopt(socket);
-        m_pairing.cameIn();
-        applyPairing();
-        qCDebug(logPeer) << "New TCP connection from:" << link->peerAddress();
+        return;
     }
+    sendCommand(Protocol::MessageType::Disconnect);
+    Link *const link = release();
+    endPair();
+    link->hangUp();
+    tellEnd(link);
+    drop(); // whatever the slots have dialled meanwhile
 }
 
-/// Makes a link over a fresh socket the current one; none is current when it is called.
-Link *NetworkManager::adopt(QTcpSocket *socket)
+/// Makes a link the current one; none is current when it is called.
+Link *NetworkManager::adopt(Link *link)
 {
-    const auto mayRead = [this] { return !m_readGate || m_readGate(); };
-    auto *link = new Link(socket, {&m_frames, m_pendingBytes, mayRead, m_environment.watchSecond}, this);
+    link->join({&m_frames, m_pendingBytes, [this] { return !m_readGate || m_readGate(); },
+                m_environment.watchSecond});
     connect(link, &Link::opened, this, &NetworkManager::onLinkOpened);
     connect(link, &Link::frameReceived, this, &NetworkManager::onFrame);
     connect(link, &Link::closed, this, [this, link] { onLinkClosed(link); });
@@ -287,7 +291,8 @@ void NetworkManager::pair()
 /// What hangs on the state of the handshake besides itself.
 void NetworkManager::applyPairing()
 {
-    m_cableHelper->setHandshakeOpen(m_pairing.isOpen());
+    m_cableHelper->setHandshakeOpen(m_pairing.state() == Pairing::State::Dialling ||
+                                    m_waitingRoom->isOpen(0));
     if (m_link)
         m_link->setFrameLimit(isAccepted() ? FrameReader::NoLimit : UnacceptedLimitBytes);
 }
@@ -324,6 +329,7 @@ void NetworkManager::onLinkFailed(QAbstractSocket::SocketError error, const QStr
     Q_EMIT connectionFailed(reason.isEmpty() ? tr("Unknown error") : reason);
     if (wasAccepted)
         tellEnd(link);
+    askDeferred();
 }
 
 void NetworkManager::onLinkLost()
@@ -339,11 +345,12 @@ void NetworkManager::onFrame(Protocol::MessageType type, const QByteArray &paylo
 {
     switch (type) {
     case Protocol::MessageType::ConnectRequest:
-        onConnectRequest(payload);
-        return;
+        return; // it asks whoever has come in, and that one is no longer asked
     case Protocol::MessageType::ConnectAccept:
-        if (m_pairing.toldYes())
+        if (m_pairing.toldYes(addressOf(m_link))) {
+            m_waitingRoom->refuseAll();
             pair();
+        }
         return;
     case Protocol::MessageType::ConnectReject:
         onConnectReject();
@@ -361,20 +368,6 @@ void NetworkManager::onFrame(Protocol::MessageType type, const QByteArray &paylo
     }
 }
 
-void NetworkManager::onConnectRequest(const QByteArray &payload)
-{
-    const QJsonObject json = parseJsonObject(payload).value_or(QJsonObject());
-    PCInfo asker;
-    asker.name = boundedText(json["name"_L1]);
-    asker.os = boundedText(json["os"_L1]);
-    asker.ip = m_link->peerAddress().toString();
-    asker.id = asker.name;
-    m_pairing.asked(asker);
-    applyPairing();
-    qCDebug(logPeer) << "Received ConnectRequest from:" << asker.name;
-    Q_EMIT connectionRequested(asker.name, m_verifyCode);
-}
-
 void NetworkManager::onConnectReject()
 {
     if (!m_pairing.toldNo())
@@ -382,6 +375,7 @@ void NetworkManager::onConnectReject()
     m_connectionTimer->stop();
     applyPairing();
     Q_EMIT connectionFailed(tr("Connection rejected"));
+    askDeferred();
 }
 
 /// The dial that timed out may have been displaced in the meantime: then only its user hears of it.
@@ -392,6 +386,7 @@ void NetworkManager::onConnectionTimeout()
         drop();
     Q_EMIT connectionTimeout();
     Q_EMIT connectionFailed(tr("Connection timeout"));
+    askDeferred();
 }
 
 } // namespace Zandrove

@@ -23,6 +23,7 @@ namespace Zandrove {
 class Beacon;
 class CableModeHelper;
 class Link;
+class WaitingRoom;
 
 /// The link to other copies: discovery by broadcast, the table of peers, and at most one paired TCP
 /// connection that carries frames. It is the face of the rooms behind it, and joins them: `Beacon` and
@@ -56,8 +57,12 @@ public:
     /// The link that is accepted now: another number for each, 0 while there is none.
     [[nodiscard]] quint64 acceptedLink() const;
 
-    /// The question that waits for the user: another number for each, 0 while there is none.
-    [[nodiscard]] quint64 openQuestion() const;
+    /// The questions that wait for the user, oldest first.
+    [[nodiscard]] QList<ConnectionQuestion> openQuestions() const;
+
+    /// Says whether a run is on. While one is, and its link is not silent, whoever asks is turned down at
+    /// once, but for one at the address of the accepted link.
+    void setBusyCheck(std::function<bool()> isBusy) { m_isBusy = std::move(isBusy); }
 
     /// Bytes that wait in the current socket's write buffer, kept up to date by this object; 0 without a
     /// socket.
@@ -97,9 +102,9 @@ public Q_SLOTS:
     /// `disconnected` follows when the socket has closed, unless another one has taken its place by then.
     /// Hides QObject::disconnect on purpose: always write that one qualified.
     void disconnect();
-    /// The user's yes to `question`, 0 for the open one: tells the peer and emits `connected`. Nothing
-    /// happens when the one that asked has gone or has been replaced, or the question has been answered; ask
-    /// isConnected().
+    /// The user's yes to `question`, 0 for the oldest open one: tells the peer and emits `connected`, after
+    /// `disconnected` where another link was accepted. Whoever else waits is turned down. Nothing happens
+    /// when the one that asked has gone, or the question has been answered.
     void acceptConnection(quint64 question = 0);
     /// The user's no: tells the peer and closes. Nothing happens where a yes would do nothing either.
     void rejectConnection(quint64 question = 0);
@@ -123,11 +128,12 @@ Q_SIGNALS:
     void directScanProgress(int scanned, int total);
     void directScanFinished(bool found);
 
-    /// A peer asks to pair; `verifyCode` is this copy's own code. Answer with acceptConnection or
-    /// rejectConnection.
+    /// A peer asks to pair: the last one of openQuestions(); `verifyCode` is this copy's own code. Answer
+    /// with acceptConnection or rejectConnection.
     void connectionRequested(const QString &pcName, const QString &verifyCode);
-    void connecting(); ///< never emitted
-    void connected();  ///< paired, on either side
+    void questionEnded(quint64 question); ///< unanswered: its asker has left, or another one was chosen
+    void connecting();                    ///< never emitted
+    void connected();                     ///< paired, on either side
     /// The link is over, once for each and after all frames that had come on it: the peer has left, the
     /// connection broke, or nothing came for 120 s. acceptedLink() is 0 from then on.
     void disconnected();
@@ -152,10 +158,15 @@ private:
     [[nodiscard]] QByteArray discoveryFrame();
     [[nodiscard]] std::optional<PCInfo> peerFrom(const QByteArray &payload, const QString &senderIP) const;
     void onDirectScanDeviceFound(const QString &ip);
+    void onNewConnection();
+    void onAsked(const ConnectionQuestion &question);
+    [[nodiscard]] bool isBusyFor(const QString &ip) const;
+    [[nodiscard]] bool isDialling(const QString &ip) const;
+    void askDeferred();
 
     // NetworkManager.cpp: the connection
-    void onNewConnection();
-    Link *adopt(QTcpSocket *socket);
+    void giveWay();
+    Link *adopt(Link *link);
     [[nodiscard]] Link *release();
     void drop();
     void hangUp();
@@ -168,7 +179,6 @@ private:
     void onLinkFailed(QAbstractSocket::SocketError error, const QString &reason);
     void onLinkLost();
     void onFrame(Protocol::MessageType type, const QByteArray &payload);
-    void onConnectRequest(const QByteArray &payload);
     void onConnectReject();
     void onConnectionTimeout();
 
@@ -187,6 +197,10 @@ private:
     QTcpServer *m_tcpServer;
     QTimer *m_connectionTimer; ///< runs from a dial until TCP is up
     Pairing m_pairing;
+    QString m_dialledIP;
+    WaitingRoom *m_waitingRoom;
+    quint64 m_deferredQuestion = 0; ///< of a peer that an own dial is open to
+    std::function<bool()> m_isBusy;
     Link *m_link = nullptr; ///< the current connection; those that are closing are children only
     std::shared_ptr<std::atomic<qint64>> m_pendingBytes;
     std::function<bool()> m_readGate;

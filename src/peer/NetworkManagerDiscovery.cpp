@@ -2,17 +2,21 @@
 
 #include "peer/Beacon.h"
 #include "peer/CableModeHelper.h"
+#include "peer/Link.h"
 #include "peer/Log.h"
 #include "peer/PeerText.h"
+#include "peer/WaitingRoom.h"
 #include "support/Json.h"
 #include "support/Utilities.h"
 
 #include <QJsonObject>
 #include <QTcpServer>
+#include <QTcpSocket>
 #include <QThread>
 #include <QTimer>
 
 #include <limits>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -44,6 +48,26 @@ std::optional<QByteArray> discoveryPayloadOf(const QByteArray &datagram)
 }
 
 } // namespace
+
+void NetworkManager::setRole(int role)
+{
+    m_role = role;
+}
+
+void NetworkManager::setMode(int mode)
+{
+    m_mode = mode;
+}
+
+void NetworkManager::setVerifyCode(const QString &code)
+{
+    m_verifyCode = code;
+}
+
+QList<PCInfo> NetworkManager::discoveredPCs() const
+{
+    return m_peers.peers();
+}
 
 void NetworkManager::setupDiscovery()
 {
@@ -208,6 +232,53 @@ void NetworkManager::onDirectScanDeviceFound(const QString &ip)
     const auto news = m_peers.find(ip, tr("PC at %1").arg(ip), m_environment.tcpPort, m_environment.now());
     if (news)
         Q_EMIT pcDiscovered(*news);
+}
+
+void NetworkManager::rejectConnection(quint64 question)
+{
+    m_waitingRoom->refuse(question);
+    applyPairing();
+}
+
+void NetworkManager::onNewConnection()
+{
+    while (QTcpSocket *socket = m_tcpServer->nextPendingConnection()) {
+        auto *link = new Link(socket, Link::Shared::apart(&m_frames), this);
+        qCDebug(logPeer) << "New TCP connection from:" << link->peerAddress();
+        m_waitingRoom->admit(link);
+    }
+}
+
+/// Two PCs that dial each other at once have both their users' yes: the Old PC's dial goes on, on both.
+void NetworkManager::onAsked(const ConnectionQuestion &question)
+{
+    if (isDialling(question.ip)) {
+        if (m_role == OldPC)
+            m_deferredQuestion = question.number;
+        else
+            acceptConnection(question.number);
+        return;
+    }
+    applyPairing();
+    Q_EMIT connectionRequested(question.name, m_verifyCode);
+}
+
+bool NetworkManager::isBusyFor(const QString &ip) const
+{
+    return isAccepted() && m_isBusy && m_isBusy() && !m_link->isSilent() &&
+           CableModeHelper::normalizeIP(m_link->peerAddress().toString()) != ip;
+}
+
+bool NetworkManager::isDialling(const QString &ip) const
+{
+    return m_pairing.state() == Pairing::State::Dialling && m_dialledIP == ip;
+}
+
+/// The own dial is over: now the question counts that stood back for it.
+void NetworkManager::askDeferred()
+{
+    if (const quint64 question = std::exchange(m_deferredQuestion, 0))
+        m_waitingRoom->askAnew(question);
 }
 
 } // namespace Zandrove

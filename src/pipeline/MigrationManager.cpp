@@ -77,6 +77,11 @@ bool MigrationManager::isMigrating() const
     return m_run && m_run->isOn();
 }
 
+bool MigrationManager::isUnderWay() const
+{
+    return isMigrating() && m_run->hasBegun();
+}
+
 RunSummary MigrationManager::summary() const
 {
     return m_run ? m_run->summary() : m_summary;

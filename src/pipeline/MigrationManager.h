@@ -50,6 +50,8 @@ public:
 
     /// A run is on.
     [[nodiscard]] bool isMigrating() const;
+    /// And something of it has left or come.
+    [[nodiscard]] bool isUnderWay() const;
 
     /// The running or the last run, as its user is told of it.
     [[nodiscard]] RunSummary summary() const;

@@ -21,6 +21,10 @@ enum class StandardStream { Input, Output, Error };
 /// Columns of the terminal on standard output; 0 where standard output is no terminal.
 [[nodiscard]] int terminalColumns();
 
+/// Forgets what was typed at the terminal on standard input and has not been read yet. Without a terminal
+/// nothing happens.
+void discardTypedInput();
+
 /// The last thing a program without a window does: makes sure that all output has left, and gives back
 /// `exitCode` for main to return. On Windows it does not come back: the process ends there and then, because
 /// the ordinary end waits for threads of the system's own libraries, which now and then wait for it.

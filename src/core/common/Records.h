@@ -53,6 +53,14 @@ inline bool operator==(const PCInfo &a, const PCInfo &b)
     return a.id == b.id;
 }
 
+/// A PC asks to be let in.
+struct ConnectionQuestion
+{
+    quint64 number = 0; ///< another one for each question
+    QString name;       ///< as the PC calls itself
+    QString ip;         ///< where its connection comes from
+};
+
 /// One installed application.
 struct AppInfo
 {

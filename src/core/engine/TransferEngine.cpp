@@ -86,6 +86,8 @@ void TransferEngine::setupLinkConnections()
     connect(m_networkManager, &Net::linkAnswers, this, &TransferEngine::linkAnswers);
     connect(m_networkManager, &Net::connectionTimeout, this, &TransferEngine::onConnectionTimeout);
     connect(m_networkManager, &Net::connectionRequested, this, &TransferEngine::connectionRequested);
+    connect(m_networkManager, &Net::questionEnded, this, &TransferEngine::questionEnded);
+    m_networkManager->setBusyCheck([this] { return m_migrationManager->isUnderWay(); });
     connect(m_networkManager, &Net::directScanStarted, this, &TransferEngine::directScanStarted);
     connect(m_networkManager, &Net::directScanProgress, this, &TransferEngine::directScanProgress);
     connect(m_networkManager, &Net::directScanFinished, this, &TransferEngine::directScanFinished);

@@ -53,11 +53,12 @@ public:
     void connectToPC(const PCInfo &pc);
     /// Dials the peer whose screen shows `code`.
     void connectByCode(const QString &code);
-    /// The question of the last `connectionRequested`, 0 when none is open. A face that may show several, one
-    /// after the other, answers with the number of the one it shows.
-    [[nodiscard]] quint64 openQuestion() const;
-    /// The user's yes to a `connectionRequested`, 0 for the open one; `code` must be this PC's own. An answer
-    /// that comes too late does nothing: ask isConnected().
+    /// The questions of PCs that wait for the user's answer, oldest first; the last one is that of the last
+    /// `connectionRequested`. A face answers with the number of the one it shows.
+    [[nodiscard]] QList<ConnectionQuestion> openQuestions() const;
+    /// The user's yes to a question, 0 for the oldest open one; `code` must be this PC's own. Whoever else
+    /// asks is turned down then, and a link that was accepted before ends. An answer that comes too late does
+    /// nothing.
     void acceptConnection(const QString &code, quint64 question = 0);
     /// The user's no.
     void rejectConnection(quint64 question = 0);
@@ -149,6 +150,8 @@ Q_SIGNALS:
     void connectionTimeout(); ///< followed by connectionFailed
     /// A peer asks to pair: answer with acceptConnection(code) or rejectConnection.
     void connectionRequested(const QString &pcName, const QString &code);
+    /// A question has ended unanswered. It may be one that was never told.
+    void questionEnded(quint64 question);
     void scanStarted();
     /// `percent` from 0 to 100, of the part of the scan that reports; `currentItem` is what it is looking at.
     /// The number of applications grows during the scan, those of folders and accounts stay 0.

@@ -117,9 +117,9 @@ void TransferEngine::connectByCode(const QString &code)
     m_networkManager->connectToPC(peer->id);
 }
 
-quint64 TransferEngine::openQuestion() const
+QList<ConnectionQuestion> TransferEngine::openQuestions() const
 {
-    return m_networkManager ? m_networkManager->openQuestion() : 0;
+    return m_networkManager ? m_networkManager->openQuestions() : QList<ConnectionQuestion>();
 }
 
 void TransferEngine::acceptConnection(const QString &code, quint64 question)

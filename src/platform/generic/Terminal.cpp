@@ -8,6 +8,7 @@
 #include <csignal>
 #include <fcntl.h>
 #include <sys/ioctl.h>
+#include <termios.h>
 #include <unistd.h>
 
 namespace Zandrove::Platform {
@@ -80,6 +81,12 @@ int terminalColumns()
         return 0;
     constexpr int UsualColumns = 80; // a terminal that doesn't know its size says 0
     return size.ws_col > 0 ? size.ws_col : UsualColumns;
+}
+
+void discardTypedInput()
+{
+    if (isTerminal(StandardStream::Input))
+        tcflush(STDIN_FILENO, TCIFLUSH);
 }
 
 int endProcess(int exitCode)

@@ -196,6 +196,12 @@ bool isTerminal(StandardStream stream)
     return GetConsoleMode(handleOf(stream), &mode) != 0;
 }
 
+void discardTypedInput()
+{
+    if (isTerminal(StandardStream::Input))
+        FlushConsoleInputBuffer(handleOf(StandardStream::Input));
+}
+
 int terminalColumns()
 {
     CONSOLE_SCREEN_BUFFER_INFO info = {};

@@ -218,17 +218,27 @@ void ConnectionPage::onRefreshClicked()
 /// the next caller replaces.
 void ConnectionPage::onConnectionRequested(const QString &pcName, const QString &)
 {
-    m_nextRequest = Request{pcName, m_engine->openQuestion()};
+    const QList<ConnectionQuestion> open = m_engine->openQuestions();
+    m_requests.append({pcName, open.isEmpty() ? 0 : open.last().number});
     QMetaObject::invokeMethod(this, &ConnectionPage::askNext, Qt::QueuedConnection);
 }
 
 void ConnectionPage::askNext()
 {
-    if (m_questionBox || !m_nextRequest)
-        return;
-    const Request request = *std::exchange(m_nextRequest, std::nullopt);
-    if (request.question == m_engine->openQuestion())
-        ask(request);
+    while (!m_questionBox && !m_requests.isEmpty()) {
+        const Request request = m_requests.takeFirst();
+        if (isOpen(request))
+            ask(request);
+    }
+}
+
+bool ConnectionPage::isOpen(const Request &request) const
+{
+    const QList<ConnectionQuestion> open = m_engine->openQuestions();
+    return (request.question == 0 && open.isEmpty()) ||
+           std::any_of(open.cbegin(), open.cend(), [&request](const ConnectionQuestion &question) {
+               return question.number == request.question;
+           });
 }
 
 void ConnectionPage::ask(const Request &request)
@@ -268,7 +278,7 @@ void ConnectionPage::onAnswered(const Request &request, bool yes)
 
 void ConnectionPage::accept(const Request &request)
 {
-    if (request.question != m_engine->openQuestion()) {
+    if (!isOpen(request)) {
         onConnectionFailed(tr("The other PC is no longer waiting"));
         if (m_contentStack->currentIndex() == RadarView)
             m_radar->start();

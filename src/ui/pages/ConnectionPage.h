@@ -8,8 +8,6 @@
 #include <QString>
 #include <QWidget>
 
-#include <optional>
-
 class QBoxLayout;
 class QLabel;
 class QLineEdit;
@@ -99,6 +97,7 @@ private:
     void onCodeEdited(int index, const QString &text);
     [[nodiscard]] QString enteredCode() const;
     void askNext();
+    [[nodiscard]] bool isOpen(const Request &request) const;
     void ask(const Request &request);
     void onAnswered(const Request &request, bool yes);
     void accept(const Request &request);
@@ -121,7 +120,7 @@ private:
     QLabel *m_directTitle = nullptr;
     QProgressBar *m_directProgress = nullptr;
     QLabel *m_directCount = nullptr;
-    std::optional<Request> m_nextRequest; ///< to be shown once no other one is
+    QList<Request> m_requests; ///< to be shown once no other one is
     QPointer<QMessageBox> m_questionBox;
 };
 
