@@ -247,7 +247,7 @@ void MainWindow::backToConnections()
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    event->setAccepted(m_transferPage->letGo());
+    event->setAccepted(m_currentPage != PageTransfer || m_transferPage->letGo());
 }
 
 void MainWindow::paintEvent(QPaintEvent *event)

@@ -160,7 +160,6 @@ void TransferPage::clearCard(const QString &speed, const QString &total)
 void TransferPage::onProgressChanged(const TransferProgress &progress)
 {
     m_progress = progress;
-    m_running = true;
     const int percent = std::min(progress.overallPercent, MostBeforeTheEnd);
     m_progressCard->setProgress(percent);
     m_progressCard->setSpeed(formatSpeed(progress.bytesPerSecond));
