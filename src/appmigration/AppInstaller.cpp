@@ -89,6 +89,7 @@ QString keepCopyOfKeys(const QString &file, const QString &appName)
 {
     const QString copy = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
                          u"/Zandrove/ImportedKeys/"_s + makeSafeName(appName) + u".reg"_s;
+    removeAbandonedFiles(QFileInfo(copy).path());
     QFile keys(file);
     ReplacingFile kept(copy);
     if (keys.open(QIODevice::ReadOnly) && kept.open() && kept.write(keys.readAll()) && kept.commit()) {

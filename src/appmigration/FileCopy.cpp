@@ -9,6 +9,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QStringList>
 
 #include <algorithm>
@@ -114,10 +115,16 @@ CopyResult copyDirectory(const QString &source, const QString &target, const Cop
         qCDebug(logAppMigration) << "  Failed to create directory:" << target;
     const auto mayGoOn = [&] { return !goOn || goOn(result.copied + result.failed); };
     const QStringList files = filesBelow(source);
+    QSet<QString> tidyFolders;
     for (const QString &file : files) {
         if (!mayGoOn())
             break;
         const QString destination = target + u'/' + sourceFolder.relativeFilePath(file);
+        const QString folder = QFileInfo(destination).path();
+        if (!tidyFolders.contains(folder)) {
+            tidyFolders.insert(folder);
+            removeAbandonedFiles(folder);
+        }
         CopyFailure failure;
         const Outcome outcome = copyFile(file, destination, mayGoOn, failure);
         if (outcome == Outcome::Stopped)

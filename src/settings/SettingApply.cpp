@@ -49,6 +49,7 @@ ApplyResult applyWallpaper(const SettingPackage &package, const KnownSetting &se
         return false;
     }
     const QString path = pictureFolder() + u'/' + package.fileName;
+    removeAbandonedFiles(pictureFolder());
     ReplacingFile picture(path);
     if (!isPlainFileName(package.fileName) || !picture.open() || !picture.write(package.fileData) ||
         !picture.commit()) {

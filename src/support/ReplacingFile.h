@@ -1,31 +1,31 @@
 #pragma once
 
+#include "support/PartialFile.h"
+
 #include <QByteArray>
-#include <QFile>
 #include <QString>
 
 namespace Zandrove {
 
-/// A file that comes to stand in its place whole or not at all. What is written goes beside it under a
-/// temporary name; only commit() gives it its own name, in place of the file or link that may stand there.
-/// Until then, and after any failure, what stands there is as it was, and nothing temporary is left.
+/// A `PartialFile` with a place that is known from the start: what is written comes to stand there whole or
+/// not at all, and only commit() puts it there, instead of the file or link that may stand there. Until then,
+/// and after any failure, what stands there is as it was.
 ///
 /// Each operation returns false where it failed, and reason() says why from then on. One thread at a time.
 class ReplacingFile final
 {
-    Q_DISABLE_COPY_MOVE(ReplacingFile)
-
 public:
     /// Touches nothing yet.
-    explicit ReplacingFile(const QString &path);
-    /// Removes what was not committed.
-    ~ReplacingFile();
+    explicit ReplacingFile(const QString &path)
+        : m_path(path)
+    {
+    }
 
     /// Makes the folders on the way, and the temporary file. Fails for a path where a folder or a read-only
     /// file stands.
     [[nodiscard]] bool open();
     [[nodiscard]] bool write(const QByteArray &bytes);
-    /// Hands everything to the system and renames, once as much stands on the disk as was written.
+    /// Hands everything to the system, and gives it its name.
     [[nodiscard]] bool commit();
 
     /// Why it failed, in the system's words or translated; empty until then.
@@ -35,11 +35,10 @@ public:
 
 private:
     bool fail(const QString &reason);
-    bool failForSystem(qint64 bytes);
+    bool fail(unsigned long code);
 
     QString m_path;
-    QFile m_file; // the temporary one
-    qint64 m_written = 0;
+    PartialFile m_file;
     QString m_reason;
     QString m_fullVolume;
 };

@@ -159,6 +159,7 @@ private Q_SLOTS:
     {
         const QString source = m_pc->writeFile(u"from/a"_s, QByteArray(3 << 20, 'n'));
         QFile old(m_pc->writeFile(u"to/a"_s, "old"));
+        m_pc->writeFile(u"to/.a.7fffffff-0123456789abcdef-1.zandrove-part"_s, "of a killed program");
         const auto outcome = [&](const CopyControl &goOn) {
             const CopyResult result = copyDirectory(m_pc->path(u"from"_s), m_pc->path(u"to"_s), goOn);
             const QStringList files = QDir(m_pc->path(u"to"_s)).entryList(QDir::Files | QDir::Hidden);

@@ -413,7 +413,8 @@ private Q_SLOTS:
 
     void aCancelledExportEndsSilently()
     {
-        addRegistry("[-WINDOWS\\Explorer\\StuckRects3]\n[WINDOWS\\Explorer\\Taskband]\n\"A\"=\"b\"\n");
+        addRegistry("[-WINDOWS\\Explorer\\StuckRects3]\n[WINDOWS\\Explorer\\Taskband]\n\"A\"=\"b\"\n"
+                    "[HKCU\\Environment]\n\"PATH\"=\"mine\"\n");
         const SettingInfo taskbar = chosen(u"taskbar"_s);
         SettingInfo missing = taskbar;
         missing.available = false;
@@ -441,7 +442,7 @@ private Q_SLOTS:
         oldPc.ended.clear(); // nor does it apply any
         oldPc.apply(u"pens"_s, {keyPayload(u"pens"_s, PathKey)});
         QCOMPARE(oldPc.ended[0][2], u"Failed to apply setting: stopped before it was applied"_s);
-        QCOMPARE(found(u"HKCU\\Environment\\PATH=none"_s), u"HKCU\\Environment\\PATH=none"_s);
+        QCOMPARE(found(u"HKCU\\Environment\\PATH=none"_s), u"HKCU\\Environment\\PATH=mine"_s);
         oldPc.hear(112, R"({"key":"pens"})");
         migrator.giveUpReceiving(u"link lost"_s);
         QCOMPARE(oldPc.ended[1][2], u"Failed to apply setting: link lost"_s);
