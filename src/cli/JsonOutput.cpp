@@ -103,10 +103,14 @@ QJsonArray namedItems(const QList<ItemResult> &results, ItemKind kind)
     for (const ItemResult &result : results) {
         const bool isThere =
             result.outcome == ItemOutcome::Arrived || result.outcome == ItemOutcome::WasThere;
-        if (result.kind == kind)
-            items.append(QJsonObject{{u"name"_s, result.path},
-                                     {u"success"_s, isThere},
-                                     {u"error"_s, isThere ? QString() : result.reason}});
+        if (result.kind != kind)
+            continue;
+        QJsonObject item{{u"name"_s, result.path},
+                         {u"success"_s, isThere},
+                         {u"error"_s, isThere ? QString() : result.reason}};
+        if (isThere && !result.reason.isEmpty())
+            item.insert(u"note"_s, result.reason);
+        items.append(item);
     }
     return items;
 }

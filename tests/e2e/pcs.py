@@ -140,6 +140,31 @@ class Program:
                 stream.close()
 
 
+class SmallDisk:
+    """Context manager: a disk that only the programs of one PC find in that folder, in place of what lies there."""
+
+    def __init__(self, folder, megabytes):
+        folder.mkdir(parents=True, exist_ok=True)
+        self.folder = folder
+        self.holder = subprocess.Popen(
+            ["unshare", "--mount", "sh", "-c",
+             'mount -t tmpfs -o "size=$1m" none "$0" && echo ready && exec cat', folder, str(megabytes)],
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE)
+        if self.holder.stdout.readline() != b"ready\n":
+            raise RuntimeError("no small disk can be made")
+        self.enter = ["nsenter", "--target", self.holder.pid, "--mount"]
+        self.root = f"/proc/{self.holder.pid}/root"  # the files of the PC, with the disk
+
+    def grow(self, megabytes):
+        subprocess.run([*map(str, self.enter), "mount", "-o", f"remount,size={megabytes}m", self.folder], check=True)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *exc_info):
+        self.holder.communicate()
+
+
 class Pc:
     """One PC: a host name, a home folder, and programs that run there."""
 
@@ -181,6 +206,12 @@ class Pc:
     def program(self):
         """The words that begin a command line of zandrove-cli."""
         return [cli_path()]
+
+    def small_disk(self, folder, megabytes):
+        """Gives the programs that start from now on a small disk at `folder`."""
+        disk = SmallDisk(folder, megabytes)
+        self.program = lambda: [*disk.enter, f"--wdns={folder.parent}", "--", cli_path()]
+        return disk
 
     def own_path(self, path):
         """The path of a file of this PC as its programs name it."""
@@ -266,6 +297,14 @@ class TwoPcs:
     def free_speed(self):
         for pc in (self.old, self.new):
             pc.run("tc", "qdisc", "delete", "dev", LINK, "root")
+
+
+def wait_until(condition, what, within=10):
+    deadline = time.monotonic() + within
+    while not condition():
+        if time.monotonic() > deadline:
+            raise AssertionError(f"not within {within} s: {what}")
+        time.sleep(0.05)
 
 
 def write_file(path, size, seed=0):
