@@ -353,7 +353,7 @@ void RunLanesTest::nothingLeavesAheadOfTheRunsBeginning()
     app.name = u"Tool"_s;
     app.selected = true;
     SettingInfo setting;
-    setting.id = u"mouse"_s;
+    setting.id = u"none of this PC"_s;
     setting.selected = true;
     QSignalSpy settings(m_manager.get(), &MigrationManager::settingsFinished);
     m_manager->start({app}, {}, {}, {setting});
