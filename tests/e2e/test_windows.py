@@ -64,7 +64,7 @@ class Windows(pcs.TestCase):
         receiver = pair.new.receive("--yes", "--once")
         receiver.wait_for("code", within=60)
         sender = pair.old.send("NewBox", folder)
-        self.assertExits(0, sender)
+        self.assertExits(4, sender)
         report = receiver.wait_for("report")
         arrived = pcs.tree(pair.new.received("names"))
         source = pcs.tree(folder)

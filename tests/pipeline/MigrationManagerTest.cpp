@@ -145,14 +145,15 @@ private Q_SLOTS:
     {
         const auto folders = chosenFolder();
         QElapsedTimer timer;
-        timer.start();
         for (int round = 0; round < 100; ++round) {
+            timer.start();
             m_manager->start({}, folders, {}, {});
             QThread::usleep(static_cast<unsigned long>(round) * 2);
             m_manager->resetAndListen();
+            if (round == 99)
+                m_pc.reset();
+            QVERIFY2(timer.elapsed() < 2500, "a worker missed its stop"); // which costs its round 3 s
         }
-        m_pc.reset();
-        QVERIFY2(timer.elapsed() < 2500, "a worker missed its stop");
     }
 
     void peerCancelRearmsTheNewPC()
