@@ -94,8 +94,8 @@ protected:
     virtual void pauseWorkers(bool paused) = 0;
     /// Stops all work at once and for good; may be called from anywhere in the run.
     virtual void stopWorkers();
-    /// Whether settings have arrived of which it isn't known yet what became of them. They outlive the end of a
-    /// run only where that is complete.
+    /// Whether settings have arrived of which it isn't known yet what became of them. They outlive the end of
+    /// a run only where that is complete.
     [[nodiscard]] virtual bool owesSettings() const { return false; }
     [[nodiscard]] bool outlivedBySettings() const { return m_end == RunEnd::Complete && owesSettings(); }
 
