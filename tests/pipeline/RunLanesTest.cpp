@@ -14,12 +14,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSemaphore>
-#include <QSignalSpy>
-#include <QTest>
 #include <QThread>
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 using Protocol::MessageType;
 
 namespace {
@@ -437,9 +433,5 @@ void RunLanesTest::settingsThatNeverEndAreNotWaitedFor()
     QVERIFY(!m_manager->isApplyingSettings());
 }
 
-QObject *makeRunLanesTest()
-{
-    return new RunLanesTest;
-}
-
+ZANDROVE_TEST(RunLanesTest)
 #include "RunLanesTest.moc"
