@@ -6,10 +6,6 @@
 #include "peer/FrameReader.h"
 #include "support/Json.h"
 
-#include <QSignalSpy>
-
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 using Protocol::MessageType;
 
 /// An address of this machine that the managers take for another one: without adapters only 127.0.0.1 is own.
