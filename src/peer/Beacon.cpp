@@ -54,12 +54,19 @@ Beacon::Beacon(const LinkEnvironment &environment, std::function<QByteArray()> b
     connect(m_burstTimer, &QTimer::timeout, this, &Beacon::sendBurst);
     m_socket->setProxy(QNetworkProxy::NoProxy);
     connect(m_socket, &QUdpSocket::readyRead, this, &Beacon::onReadyRead);
+    bind();
+}
+
+void Beacon::bind()
+{
     m_socket->bind(QHostAddress::Any, m_environment.udpPort,
                    QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint);
 }
 
 void Beacon::start()
 {
+    if (m_socket->state() != QAbstractSocket::BoundState)
+        bind();
     m_timer->start();
 }
 

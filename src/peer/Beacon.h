@@ -13,7 +13,7 @@ namespace Zandrove {
 
 /// The datagrams of discovery: announces this copy to every network it is in, and hears what others announce.
 /// What the datagrams say is not known here. A datagram that cannot be sent, or a port that cannot be bound,
-/// goes without a word.
+/// goes without a word; the port is tried again at each start.
 class Beacon final : public QObject
 {
     Q_OBJECT
@@ -34,6 +34,7 @@ Q_SIGNALS:
     void heard(const QByteArray &datagram, const QHostAddress &sender);
 
 private:
+    void bind();
     void announce();
     void sendBurst();
     void sendDatagram(const QByteArray &datagram, const QHostAddress &target);

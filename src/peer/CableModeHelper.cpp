@@ -225,13 +225,15 @@ QStringList CableModeHelper::getLocalIPs() const
 
 void CableModeHelper::refreshLocalIPs()
 {
-    m_localIPs = {u"127.0.0.1"_s};
+    QSet<QString> ips = {u"127.0.0.1"_s};
     const QList<NetworkAdapter> adapters = m_adapters();
     for (const NetworkAdapter &adapter : adapters) {
         for (const AdapterAddress &entry : adapter.addresses)
-            m_localIPs.insert(normalizeIP(entry.ip.toString()));
+            ips.insert(normalizeIP(entry.ip.toString()));
     }
     m_localIPsValid = true;
+    if (std::exchange(m_localIPs, ips) == ips)
+        return;
     qCDebug(logPeer) << "[CableModeHelper] Local IPs:" << m_localIPs;
 }
 

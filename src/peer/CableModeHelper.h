@@ -37,6 +37,9 @@ public:
     /// initialised before, which is always false.
     bool enableCableMode();
 
+    /// Reads this machine's addresses anew: adapters come and go.
+    void refreshLocalIPs();
+
     /// The address to announce in cable mode: private, else internet-sharing (192.168.137.x), else
     /// link-local, else "127.0.0.1".
     [[nodiscard]] QString getCableIP() const;
@@ -85,7 +88,6 @@ private:
     [[nodiscard]] QString localIPInSubnetOf(const QString &ip) const;
     [[nodiscard]] QString firstReachable(const QString &payloadIP, const QString &senderIP);
     [[nodiscard]] QStringList getLocalIPs() const;
-    void refreshLocalIPs();
 
     void collectScanTargets();
     void scanNextBatch();

@@ -63,6 +63,7 @@ Link::Link(QTcpSocket *socket, Shared shared, QObject *parent)
     , m_socket(socket)
     , m_shared(std::move(shared))
     , m_heartbeat(new QTimer(this))
+    , m_seconds(new QTimer(this))
     , m_patience(new QTimer(this))
 {
     m_socket->setParent(this);
@@ -77,6 +78,8 @@ Link::Link(QTcpSocket *socket, Shared shared, QObject *parent)
     connect(m_socket, &QTcpSocket::bytesWritten, this, &Link::onBytesWritten);
     m_heartbeat->setInterval(HeartbeatInterval);
     connect(m_heartbeat, &QTimer::timeout, this, [this] { send(Protocol::MessageType::Heartbeat, {}); });
+    m_seconds->setInterval(m_shared.second);
+    connect(m_seconds, &QTimer::timeout, this, &Link::onSecondPassed);
     m_patience->setSingleShot(true);
     connect(m_patience, &QTimer::timeout, this, [this] {
         m_socket->abort();
@@ -124,11 +127,13 @@ void Link::sendRaw(const QByteArray &bytes)
 void Link::startHeartbeat()
 {
     m_heartbeat->start();
+    m_seconds->start();
 }
 
 void Link::stopHeartbeat()
 {
     m_heartbeat->stop();
+    m_seconds->stop();
 }
 
 void Link::resumeReading()
@@ -223,10 +228,13 @@ void Link::onSocketError(QAbstractSocket::SocketError error)
 void Link::onReadyRead()
 {
     const Handling handling(*this);
-    if (m_givenUp)
+    if (m_givenUp) {
         m_socket->readAll();
-    else
-        readFrames(true);
+        return;
+    }
+    if (m_watch.came())
+        Q_EMIT answers();
+    readFrames(true);
 }
 
 void Link::onBytesWritten()
@@ -237,6 +245,21 @@ void Link::onBytesWritten()
         noteUnsentBytes();
 }
 
+void Link::onSecondPassed()
+{
+    const Handling handling(*this);
+    switch (m_watch.secondPassed(m_shared.mayRead())) {
+    case LinkWatch::Verdict::Nothing:
+        return;
+    case LinkWatch::Verdict::Silent:
+        Q_EMIT silent(m_watch.silentSeconds());
+        return;
+    case LinkWatch::Verdict::Lost:
+        Q_EMIT lost();
+        return;
+    }
+}
+
 /// The one way in for frames. A layer that seals the connection would stand between the reader and the
 /// socket here, as a device that the reader takes its bytes from.
 void Link::readFrames(bool mindGate)
@@ -245,6 +268,8 @@ void Link::readFrames(bool mindGate)
         const auto frame = m_reader.read(*m_socket, m_frameLimit);
         if (!frame)
             return;
+        if (frame->type == Protocol::MessageType::Heartbeat)
+            m_watch.heartbeatCame();
         Q_EMIT frameReceived(frame->type, frame->payload);
     }
 }
@@ -268,7 +293,7 @@ void Link::giveUp()
 {
     if (std::exchange(m_givenUp, true))
         return;
-    m_heartbeat->stop();
+    stopHeartbeat();
     m_shared.unsentBytes->store(0);
 }
 

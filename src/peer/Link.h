@@ -1,6 +1,7 @@
 #pragma once
 
 #include "peer/FrameReader.h"
+#include "peer/LinkWatch.h"
 #include "peer/Protocol.h"
 
 #include <QAbstractSocket>
@@ -9,8 +10,10 @@
 #include <QObject>
 
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <memory>
+#include <utility>
 
 class QTcpSocket;
 class QTimer;
@@ -34,6 +37,7 @@ public:
         Protocol::FrameBuilder *frames = nullptr;         ///< numbers what is sent
         std::shared_ptr<std::atomic<qint64>> unsentBytes; ///< bytes that wait in the socket's write buffer
         std::function<bool()> mayRead;                    ///< asked before each frame
+        std::chrono::milliseconds second;                 ///< how long a second of the link's watch lasts
     };
 
     /// Over a socket that has come in, or a fresh one to dial with, of which it becomes the owner.
@@ -50,9 +54,12 @@ public:
     void send(Protocol::MessageType type, const QByteArray &payload);
     /// The same for bytes that are no frame.
     void sendRaw(const QByteArray &bytes);
-    /// Begins to send a heartbeat every 5 s.
+    /// Begins to send a heartbeat every 5 s, and to watch whether anything comes from the peer.
     void startHeartbeat();
     void stopHeartbeat();
+
+    /// Says that the end of this link is being told. False where it has been before.
+    [[nodiscard]] bool markEndTold() { return !std::exchange(m_endTold, true); }
 
     /// Bytes that an unfinished frame may keep here, header included; more costs the frame.
     void setFrameLimit(qsizetype bytes) { m_frameLimit = bytes; }
@@ -75,6 +82,10 @@ Q_SIGNALS:
     /// The socket has an error, and the link has not been given up. `closed` follows if TCP was up and the
     /// link is still not given up.
     void failed(QAbstractSocket::SocketError error, const QString &reason);
+    void silent(int seconds); ///< nothing has come for so long: after 15 s, then every 5 s; the link stands
+    void answers();           ///< something has come after that
+    /// Nothing has come for 120 s from a peer that has sent heartbeats. Nothing is ended by that.
+    void lost();
 
 private:
     class Handling;
@@ -84,6 +95,7 @@ private:
     void onSocketError(QAbstractSocket::SocketError error);
     void onReadyRead();
     void onBytesWritten();
+    void onSecondPassed();
     void readFrames(bool mindGate);
     void write(const QByteArray &bytes);
     void noteUnsentBytes();
@@ -96,9 +108,12 @@ private:
     FrameReader m_reader;
     qsizetype m_frameLimit = FrameReader::NoLimit;
     QTimer *m_heartbeat;
+    QTimer *m_seconds; ///< beats the time of the watch
+    LinkWatch m_watch;
     QTimer *m_patience; ///< runs while a link that hangs up stands still
     QDeadlineTimer m_latestEnd;
     bool m_givenUp = false;
+    bool m_endTold = false;
     bool m_readQueued = false;
     int m_handlingDepth = 0;
     bool m_discarded = false; ///< to be deleted as soon as nothing handles it

@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QHostAddress>
 
+#include <chrono>
 #include <functional>
 
 namespace Zandrove {
@@ -20,6 +21,8 @@ struct LinkEnvironment
     quint16 udpPort = UdpPort;
     AdapterSource adapters = systemNetworkAdapters;
     std::function<QDateTime()> now = [] { return QDateTime::currentDateTime(); };
+    /// How long a second lasts of those that tell a silent link.
+    std::chrono::milliseconds watchSecond{1000};
     /// Replaces the UDP socket for outgoing datagrams when set.
     std::function<void(const QByteArray &datagram, const QHostAddress &target, quint16 port)> sendDatagram;
 };

@@ -224,11 +224,14 @@ void NetworkManager::onNewConnection()
 Link *NetworkManager::adopt(QTcpSocket *socket)
 {
     const auto mayRead = [this] { return !m_readGate || m_readGate(); };
-    auto *link = new Link(socket, {&m_frames, m_pendingBytes, mayRead}, this);
+    auto *link = new Link(socket, {&m_frames, m_pendingBytes, mayRead, m_environment.watchSecond}, this);
     connect(link, &Link::opened, this, &NetworkManager::onLinkOpened);
     connect(link, &Link::frameReceived, this, &NetworkManager::onFrame);
     connect(link, &Link::closed, this, [this, link] { onLinkClosed(link); });
     connect(link, &Link::failed, this, &NetworkManager::onLinkFailed);
+    connect(link, &Link::silent, this, &NetworkManager::linkSilent);
+    connect(link, &Link::answers, this, &NetworkManager::linkAnswers);
+    connect(link, &Link::lost, this, &NetworkManager::onLinkLost);
     m_link = link;
     return link;
 }
@@ -266,6 +269,12 @@ void NetworkManager::endPair()
         m_link->stopHeartbeat();
 }
 
+void NetworkManager::tellEnd(Link *link)
+{
+    if (link->markEndTold())
+        Q_EMIT disconnected();
+}
+
 /// Goes on from the handshake's yes.
 void NetworkManager::pair()
 {
@@ -290,14 +299,14 @@ void NetworkManager::onLinkOpened()
     sendCommand(Protocol::MessageType::ConnectRequest, compactJson(json));
 }
 
-void NetworkManager::onLinkClosed(const Link *link)
+void NetworkManager::onLinkClosed(Link *link)
 {
     if (link == m_link) {
         drop();
         endPair();
     }
     if (!m_link)
-        Q_EMIT disconnected();
+        tellEnd(link);
 }
 
 void NetworkManager::onLinkFailed(QAbstractSocket::SocketError error, const QString &reason)
@@ -307,8 +316,23 @@ void NetworkManager::onLinkFailed(QAbstractSocket::SocketError error, const QStr
     if (error == QAbstractSocket::RemoteHostClosedError && m_pairing.state() != Pairing::State::Dialling)
         return;
     m_connectionTimer->stop();
-    drop();
+    const bool wasAccepted = isAccepted();
+    Link *const link = release();
+    link->abandon();
+    if (wasAccepted)
+        endPair();
     Q_EMIT connectionFailed(reason.isEmpty() ? tr("Unknown error") : reason);
+    if (wasAccepted)
+        tellEnd(link);
+}
+
+void NetworkManager::onLinkLost()
+{
+    qCDebug(logPeer) << "Nothing more comes from" << connectedPC().name;
+    Link *const link = release();
+    link->abandon();
+    endPair();
+    tellEnd(link);
 }
 
 void NetworkManager::onFrame(Protocol::MessageType type, const QByteArray &payload)
@@ -328,7 +352,7 @@ void NetworkManager::onFrame(Protocol::MessageType type, const QByteArray &paylo
         m_pairing.peerLeft();
         applyPairing();
         endPair();
-        Q_EMIT disconnected();
+        tellEnd(m_link);
         return;
     case Protocol::MessageType::Heartbeat:
         return;

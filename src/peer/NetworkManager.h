@@ -44,7 +44,7 @@ public:
 
     /// The peers heard or found, in order of discovery.
     [[nodiscard]] QList<PCInfo> discoveredPCs() const;
-    /// Paired. Stays true after a socket error until the next accept or disconnect.
+    /// Paired.
     [[nodiscard]] bool isConnected() const;
     /// The paired peer; a default record when not paired.
     [[nodiscard]] PCInfo connectedPC() const;
@@ -126,12 +126,18 @@ Q_SIGNALS:
     /// A peer asks to pair; `verifyCode` is this copy's own code. Answer with acceptConnection or
     /// rejectConnection.
     void connectionRequested(const QString &pcName, const QString &verifyCode);
-    void connecting();                            ///< never emitted
-    void connected();                             ///< paired, on either side
-    void disconnected();                          ///< the link has closed; may come twice for one link
-    void connectionFailed(const QString &reason); ///< a dial or the link has failed, or the peer said no
-    void connectionTimeout();                     ///< followed by connectionFailed
-    void dataReceived(const QByteArray &data);    ///< never emitted
+    void connecting(); ///< never emitted
+    void connected();  ///< paired, on either side
+    /// The link is over, once for each and after all frames that had come on it: the peer has left, the
+    /// connection broke, or nothing came for 120 s. acceptedLink() is 0 from then on.
+    void disconnected();
+    /// A dial or the link has failed, or the peer said no. For an accepted link `disconnected` follows.
+    void connectionFailed(const QString &reason);
+    /// Nothing has come on the accepted link for so long: after 15 s, then every 5 s. The link stands.
+    void linkSilent(int seconds);
+    void linkAnswers();                        ///< something has come after that
+    void connectionTimeout();                  ///< followed by connectionFailed
+    void dataReceived(const QByteArray &data); ///< never emitted
     /// Every message that the connection layer does not consume itself, in order of arrival, from any peer:
     /// whether the peer was accepted is for the listener to ask.
     void commandReceived(Zandrove::Protocol::MessageType type, const QByteArray &payload);
@@ -154,11 +160,13 @@ private:
     void drop();
     void hangUp();
     void endPair();
+    void tellEnd(Link *link);
     void pair();
     void applyPairing();
     void onLinkOpened();
-    void onLinkClosed(const Link *link);
+    void onLinkClosed(Link *link);
     void onLinkFailed(QAbstractSocket::SocketError error, const QString &reason);
+    void onLinkLost();
     void onFrame(Protocol::MessageType type, const QByteArray &payload);
     void onConnectRequest(const QByteArray &payload);
     void onConnectReject();

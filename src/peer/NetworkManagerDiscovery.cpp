@@ -141,6 +141,7 @@ void NetworkManager::startTimers()
 QByteArray NetworkManager::discoveryFrame()
 {
     qCDebug(logPeer) << "Sending broadcast... Role:" << m_role;
+    m_cableHelper->refreshLocalIPs(); // a peer may have the address by now that this machine had
     const QString name = getComputerName();
     const quint16 port = m_environment.tcpPort == TcpPort ? TcpPort : serverPort();
     const QString ip =

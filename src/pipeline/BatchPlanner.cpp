@@ -15,8 +15,18 @@ void BatchPlanner::addFailed()
     ++m_batchFileCount;
 }
 
+std::optional<BatchRequest> BatchPlanner::cutBefore(qint64 fileSize)
+{
+    if (fileSize <= SingleFileBytes || m_batchFileCount < 1)
+        return std::nullopt;
+    BatchRequest request = close(m_lastTaskId);
+    request.waits = false;
+    return request;
+}
+
 std::optional<BatchRequest> BatchPlanner::closeAfter(int taskId, qint64 fileSize, bool isLast)
 {
+    m_lastTaskId = taskId;
     if (fileSize > SingleFileBytes) {
         BatchRequest request = close(taskId);
         request.startTaskId = taskId;

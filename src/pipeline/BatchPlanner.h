@@ -18,7 +18,8 @@ struct BatchRequest
 };
 
 /// Decides after which files the sender asks for an acknowledgement: after 10 files, after 50 MiB, and at the
-/// end of the list. A file over 1 GiB is asked for by itself, without a wait, and drops the open batch.
+/// end of the list. A file over 1 GiB is asked for by itself, without a wait, and so is, before it, the open
+/// batch that it cuts short.
 class BatchPlanner final
 {
 public:
@@ -34,6 +35,9 @@ public:
     /// A file of the open batch could not be sent; it counts as a file and not by its bytes.
     void addFailed();
 
+    /// Before a file leaves: the request that closes the open batch here, if the file cuts one short.
+    [[nodiscard]] std::optional<BatchRequest> cutBefore(qint64 fileSize);
+
     /// After each file, sent or not: the request that closes a batch here, if one does. `fileSize` in bytes;
     /// `isLast`: the list ends with this file.
     [[nodiscard]] std::optional<BatchRequest> closeAfter(int taskId, qint64 fileSize, bool isLast);
@@ -43,6 +47,7 @@ private:
 
     int m_batchId = 0;
     int m_batchStartTaskId = 0;
+    int m_lastTaskId = 0;
     int m_batchFileCount = 0;
     qint64 m_batchBytes = 0;
 };

@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Zandrove {
@@ -71,6 +73,13 @@ bool isAppPath(const QString &relativePath)
     return relativePath.startsWith(AppsPrefix, Qt::CaseInsensitive);
 }
 
+QString appOfPath(const QString &relativePath)
+{
+    const qsizetype start = relativePath.indexOf(u'/') + 1;
+    const qsizetype end = relativePath.indexOf(u'/', start);
+    return isAppPath(relativePath) && end > start ? relativePath.sliced(start, end - start) : QString();
+}
+
 QString destinationFor(const QString &relativePath, const QString &destinationRoot)
 {
     const QString path = withSlashes(relativePath);
@@ -113,6 +122,21 @@ void ReceivedFolders::record(const QString &relativePath, const QString &destina
         paths.insert(category, shownFolder);
     if (!topFolder.isEmpty() && !folders[category].contains(topFolder))
         folders[category].append(topFolder);
+}
+
+QMap<QString, QString> ReceivedFolders::samples() const
+{
+    constexpr int SampledFolders = 3;
+    QMap<QString, QString> texts;
+    for (auto entry = folders.cbegin(); entry != folders.cend(); ++entry) {
+        const QStringList &names = entry.value();
+        if (names.isEmpty())
+            continue;
+        const QString shown =
+            QStringList(names.first(std::min<qsizetype>(names.size(), SampledFolders))).join(u", ");
+        texts.insert(entry.key(), u'(' + shown + (names.size() > SampledFolders ? u", ...)"_s : u")"_s));
+    }
+    return texts;
 }
 
 } // namespace Zandrove

@@ -14,6 +14,9 @@ namespace Zandrove {
 /// Whether `relativePath`, with '/' between components, belongs to an application.
 [[nodiscard]] bool isAppPath(const QString &relativePath);
 
+/// The application that the file `relativePath` belongs to, as the path names it; empty for another file.
+[[nodiscard]] QString appOfPath(const QString &relativePath);
+
 /// Where the file `relativePath` of the peer belongs on this PC: in the standard folder that its first
 /// component names, in the received-applications folder, or else below `destinationRoot` (empty: "Zandrove"
 /// in the downloads). A plain mapping: nothing is checked or created.
@@ -33,6 +36,9 @@ public:
     /// may be empty for a file that was left alone; it is counted, and names no folder. `otherCategory` is
     /// the heading for files outside the standard folders.
     void record(const QString &relativePath, const QString &destinationPath, const QString &otherCategory);
+
+    /// The first few names of each category, as they are shown: "(a, b, c, ...)".
+    [[nodiscard]] QMap<QString, QString> samples() const;
 };
 
 } // namespace Zandrove

@@ -1,4 +1,4 @@
-// The chunk path of FileReceiverWorker: checks, write buffer and the pace of progress.
+// The chunk path of FileReceiverWorker: checks and the pace of progress.
 
 #include "pipeline/FileProgress.h"
 #include "pipeline/FileReceiverWorker.h"
@@ -15,8 +15,7 @@ using TransferMessages::ChunkHeader;
 namespace {
 
 constexpr unsigned long PausePollMs = 100;
-constexpr qint64 MaxChunkBytes = 0xA00000;   ///< 10 MiB, twenty times what a sender uses
-constexpr qint64 WriteBufferBytes = 4194304; ///< 4 MiB
+constexpr qint64 MaxChunkBytes = 0xA00000; ///< 10 MiB, twenty times what a sender uses
 constexpr int ChunksPerProgress = 16;
 constexpr qint64 DropLogIntervalMs = 5000;
 constexpr int LogEvery = 100;
@@ -49,7 +48,9 @@ void FileReceiverWorker::onFileData(const QByteArray &data)
     while (m_paused && !m_cancelled && !m_stopped)
         QThread::msleep(PausePollMs);
     removeOpenFileIfCancelled();
-    if (!m_running || m_cancelled || !m_currentFile)
+    const auto state = m_incoming.state();
+    if (!m_running || m_cancelled ||
+        (state != IncomingFile::State::Writing && state != IncomingFile::State::Standing))
         return;
     receiveChunk(data);
 }
@@ -88,31 +89,28 @@ void FileReceiverWorker::receiveChunk(const QByteArray &data)
     const ChunkHeader chunk = ChunkHeader::readFrom(data.constData());
     if (!acceptsChunk(data, chunk))
         return;
-    if (chunk.offset != m_currentReceived)
+    const bool isWriting = m_incoming.state() == IncomingFile::State::Writing;
+    if (isWriting && chunk.offset != m_incoming.receivedBytes())
         logOffsetMismatch(chunk); // reports only: chunks are written in order of arrival
 
     const QByteArrayView bytes = QByteArrayView(data).sliced(ChunkHeader::Size, chunk.chunkSize);
-    m_writeBuffer.append(bytes);
-    if (m_writeBuffer.size() >= WriteBufferBytes) {
-        const qsizetype bufferSize = m_writeBuffer.size();
-        if (!flushWriteBuffer()) {
-            qCDebug(logPipeline) << "[FileData] flushWriteBuffer failed! path:" << m_currentPath
-                                 << "bufferSize:" << bufferSize;
-            Q_EMIT fileFailed(bareName(), tr("Write error"));
-            return;
-        }
+    if (!m_incoming.take(bytes)) {
+        qCDebug(logPipeline) << "[FileData] Write failed! path:" << m_currentPath;
+        settle();
+        Q_EMIT fileFailed(bareName(), reasonOfFailure());
+        return;
     }
-    m_currentReceived += bytes.size();
+    if (!isWriting)
+        return;
     m_receivedBytes += bytes.size();
-    m_currentCrc.update(bytes);
     if (++m_chunkCount % ChunksPerProgress == 0)
         reportChunkProgress();
 }
 
 void FileReceiverWorker::reportChunkProgress()
 {
-    Q_EMIT fileProgress(bareName(), filePercent(m_currentReceived, m_currentSize), m_currentReceived,
-                        m_currentSize);
+    Q_EMIT fileProgress(bareName(), filePercent(m_incoming.receivedBytes(), m_currentSize),
+                        m_incoming.receivedBytes(), m_currentSize);
     m_speed.measure(m_receivedBytes, SpeedMeter::Interval);
     reportOverallProgress();
 }
@@ -138,34 +136,10 @@ void FileReceiverWorker::logOffsetMismatch(const ChunkHeader &chunk)
     const int count = ++badChunks().offsetMismatches;
     if (count > OffsetMismatchesLoggedFirst && count % LogEvery != 0)
         return;
-    qCDebug(logPipeline) << "[FileData] Offset mismatch #" << count << "- expected:" << m_currentReceived
-                         << "got:" << chunk.offset
-                         << "diff:" << qint64(quint64(chunk.offset) - quint64(m_currentReceived))
+    qCDebug(logPipeline) << "[FileData] Offset mismatch #" << count
+                         << "- expected:" << m_incoming.receivedBytes() << "got:" << chunk.offset
+                         << "diff:" << qint64(quint64(chunk.offset) - quint64(m_incoming.receivedBytes()))
                          << "taskId:" << chunk.taskId << "path:" << m_currentPath;
-}
-
-bool FileReceiverWorker::flushWriteBuffer()
-{
-    const auto emptied =
-        qScopeGuard([this] { m_writeBuffer.resize(0); }); // keeps its memory for the next bytes
-    if (m_writeBuffer.isEmpty())
-        return true;
-    if (!m_currentFile || !m_currentFile->isOpen()) {
-        qCDebug(logPipeline) << "[flushWriteBuffer] File not open!";
-        return false;
-    }
-    const qint64 total = m_writeBuffer.size();
-    qint64 position = 0;
-    while (position < total) {
-        const qint64 written = m_currentFile->write(m_writeBuffer.constData() + position, total - position);
-        if (written < 1) {
-            qCDebug(logPipeline) << "[flushWriteBuffer] Write failed at" << position << "/" << total
-                                 << "error:" << m_currentFile->errorString() << "path:" << m_currentPath;
-            return false;
-        }
-        position += written;
-    }
-    return true;
 }
 
 } // namespace Zandrove

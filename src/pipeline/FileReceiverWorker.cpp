@@ -1,16 +1,16 @@
 #include "pipeline/FileReceiverWorker.h"
 
 #include "peer/Protocol.h"
-#include "pipeline/DestinationGuard.h"
 #include "pipeline/FileProgress.h"
 #include "pipeline/Log.h"
+#include "support/Volumes.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QThread>
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -18,28 +18,15 @@ namespace Zandrove {
 
 using TransferMessages::FileBatchResult;
 
-namespace {
-
-/// Somebody else may look into a new file just now, a virus scanner say, and on some systems keeps it from
-/// being removed meanwhile.
-void removeFile(const QString &path)
-{
-    constexpr int Attempts = 10;
-    constexpr unsigned long PauseMs = 50;
-    for (int attempt = 0; attempt < Attempts && !QFile::remove(path) && QFile::exists(path); ++attempt)
-        QThread::msleep(PauseMs);
-}
-
-} // namespace
-
 FileReceiverWorker::FileReceiverWorker(QObject *parent)
     : QObject(parent)
 {
+    m_incoming.setCancelTest([this] { return m_cancelled.load(); });
 }
 
 FileReceiverWorker::~FileReceiverWorker()
 {
-    endRun();
+    m_incoming.abandon();
 }
 
 QString FileReceiverWorker::destinationPath(const QString &relativePath) const
@@ -67,7 +54,8 @@ void FileReceiverWorker::startReceiving()
     m_headerCount = m_totalFiles = 0;
     m_totalBytes = 0;
     m_received.clear();
-    m_writeBuffer.clear();
+    m_incoming.forgetFolders();
+    m_spaceCompared = false;
     m_lastHeaderTaskId = -1;
     m_lastHeaderPath.clear();
     m_batchResults.clear();
@@ -106,13 +94,8 @@ void FileReceiverWorker::removeOpenFileIfCancelled()
 
 void FileReceiverWorker::removeOpenFile()
 {
-    if (!m_currentFile)
-        return;
-    m_currentFile->close();
-    removeFile(m_currentDestPath);
-    m_currentFile.reset();
-    m_openedHere = false;
-    m_writeBuffer.resize(0);
+    if (m_incoming.abandon())
+        settle();
 }
 
 void FileReceiverWorker::setTotalInfo(int fileCount, qlonglong totalBytes)
@@ -121,10 +104,17 @@ void FileReceiverWorker::setTotalInfo(int fileCount, qlonglong totalBytes)
     m_totalBytes = saturatingAdd(m_totalBytes, totalBytes);
     qCDebug(logPipeline) << "setTotalInfo: +" << fileCount << totalBytes << "| Total:" << m_totalFiles
                          << m_totalBytes;
+    // Later lists are those of applications, which go elsewhere at first.
+    if (!m_running || std::exchange(m_spaceCompared, true))
+        return;
+    const Volume volume = volumeOf(destinationPath(u"x"_s));
+    if (volume.availableBytes >= 0 && totalBytes > volume.availableBytes)
+        Q_EMIT spaceShort(totalBytes, volume.availableBytes, volume.name);
 }
 
 void FileReceiverWorker::onFileHeader(const QString &relativePath, qlonglong size, uint checksum, int taskId)
 {
+    Q_UNUSED(checksum)
     removeOpenFileIfCancelled();
     if (taskId == m_lastHeaderTaskId && relativePath == m_lastHeaderPath) {
         qCDebug(logPipeline) << "FileReceiverWorker::onFileHeader - DUPLICATE IGNORED:" << relativePath
@@ -138,127 +128,107 @@ void FileReceiverWorker::onFileHeader(const QString &relativePath, qlonglong siz
                              << "cancelled=" << m_cancelled.load();
         return;
     }
+    removeOpenFile(); // its end never came
     m_currentPath = relativePath;
     m_currentSize = size;
-    m_expectedChecksum = checksum;
-    m_currentReceived = 0;
-    m_currentCrc.reset();
     m_currentTaskId = taskId;
     m_chunkCount = 0;
     m_announcedBytes = saturatingAdd(m_announcedBytes, size);
     ++m_headerCount;
 
-    const OpenOutcome outcome = openDestination(relativePath);
-    m_openedHere = outcome == OpenOutcome::Opened;
-    switch (outcome) {
-    case OpenOutcome::Opened:
+    ReceivedFile announced;
+    announced.taskId = taskId;
+    announced.relativePath = relativePath;
+    announced.destination = destinationPath(relativePath);
+    announced.bytes = size;
+    switch (m_incoming.begin(announced)) {
+    case IncomingFile::State::Writing:
         Q_EMIT fileStarted(bareName(), size);
         break;
-    case OpenOutcome::Skipped:
+    case IncomingFile::State::Standing:
+        ++m_skippedCount;
         qCDebug(logPipeline) << "  File skipped:" << relativePath;
         break;
-    case OpenOutcome::Failed:
-        m_batchResults.append({taskId, relativePath, false, tr("Failed to create file")});
-        ++m_failedCount;
-        qCDebug(logPipeline) << "  FAILED to open file for writing:" << relativePath;
-        Q_EMIT fileFailed(bareName(), tr("Failed to create file"));
+    default:
+        failAtHeader(taskId);
         break;
     }
 }
 
-FileReceiverWorker::OpenOutcome FileReceiverWorker::openDestination(const QString &relativePath)
+void FileReceiverWorker::failAtHeader(int taskId)
 {
-    displaceOpenFile();
-    m_currentDestPath.clear();
-    const QString destination = destinationPath(relativePath);
-    if (!isSafeDestination(relativePath, destination)) {
-        qCDebug(logPipeline) << "  Refused, the path leads out of its folder:" << relativePath;
-        return OpenOutcome::Failed;
-    }
-    m_currentDestPath = destination;
-    if (QFile::exists(m_currentDestPath)) {
-        m_currentDestPath = resolveConflict(m_currentDestPath, m_conflictPolicy);
-        if (m_currentDestPath.isEmpty()) {
-            ++m_skippedCount;
-            qCDebug(logPipeline) << "  Skipped due to conflict";
-            return OpenOutcome::Skipped;
-        }
-    }
-    return createFile();
+    const QString reason = reasonOfFailure();
+    m_batchResults.append(
+        {taskId, m_currentPath, false, reason, false, false, m_incoming.record().fullVolume});
+    ++m_failedCount;
+    qCDebug(logPipeline) << "  FAILED to open file for writing:" << m_currentPath << reason;
+    settle();
+    Q_EMIT fileFailed(bareName(), reason);
 }
 
-FileReceiverWorker::OpenOutcome FileReceiverWorker::createFile()
+QString FileReceiverWorker::reasonOfFailure() const
 {
-    const QString directory = QFileInfo(m_currentDestPath).absolutePath();
-    qCDebug(logPipeline) << "  Target directory:" << directory;
-    if (!QDir().mkpath(directory)) {
-        qCDebug(logPipeline) << "  ERROR: Failed to create directory:" << directory;
-        return OpenOutcome::Failed;
+    const auto withSystemText = [this](const QString &text) {
+        return m_incoming.systemText().isEmpty() ? text : text + u": "_s + m_incoming.systemText();
+    };
+    switch (m_incoming.problem()) {
+    case IncomingFile::Problem::None:
+        return {};
+    case IncomingFile::Problem::CannotCreate:
+        return withSystemText(tr("Failed to create file"));
+    case IncomingFile::Problem::WriteError:
+        return withSystemText(tr("Write error"));
+    case IncomingFile::Problem::Mismatch:
+        return tr("Checksum mismatch");
+    case IncomingFile::Problem::Changed:
+        return tr("Changed while it was sent");
+    case IncomingFile::Problem::Unfinished:
+        return tr("It did not arrive whole");
     }
-    qCDebug(logPipeline) << "  Directory ready:" << directory;
-    // What was not there at the first look may have been put there by somebody else since.
-    if (!isSafeDestination(m_currentPath, m_currentDestPath))
-        return OpenOutcome::Failed;
-    auto file = std::make_unique<QFile>(m_currentDestPath);
-    // Unbuffered: the write buffer is this worker's own, and a full disk must show at the write that meets
-    // it.
-    if (!file->open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        qCDebug(logPipeline) << "  ERROR: Failed to open file:" << file->errorString();
-        return OpenOutcome::Failed;
-    }
-    qCDebug(logPipeline) << "  File opened successfully";
-    m_currentFile = std::move(file);
-    return OpenOutcome::Opened;
+    return {};
 }
 
-/// A file that never got its FileEnd gives way to the next; what is on disk of it stays there.
-void FileReceiverWorker::displaceOpenFile()
+/// Tells what became of the file begun last.
+void FileReceiverWorker::settle()
 {
-    m_currentFile.reset();
-    m_writeBuffer.resize(0);
+    ReceivedFile file = m_incoming.record();
+    file.reason = reasonOfFailure();
+    Q_EMIT taskSettled(file);
 }
 
-bool FileReceiverWorker::finalizeFile(quint32 expected)
-{
-    if (!flushWriteBuffer()) {
-        qCDebug(logPipeline) << "[finalizeFile] flushWriteBuffer failed for:" << m_currentPath;
-        return false;
-    }
-    bool written = true;
-    if (m_currentFile) {
-        m_currentFile->flush();
-        m_currentFile->close();
-        // Some file systems tell of a full disk only now.
-        written = m_currentFile->error() == QFileDevice::NoError;
-        m_currentFile.reset();
-    }
-    const quint32 calculated = m_currentCrc.value();
-    if (calculated == expected && written)
-        return true;
-    qCDebug(logPipeline) << "[finalizeFile] Checksum mismatch! expected:" << QString::number(expected, 16)
-                         << "calculated:" << QString::number(calculated, 16) << "fileSize:" << m_currentSize
-                         << "received:" << m_currentReceived << "path:" << m_currentPath;
-    // Only what this header itself wrote: never a file that was there before or that an earlier FileEnd
-    // closed.
-    if (m_openedHere)
-        removeFile(m_currentDestPath);
-    return false;
-}
-
-void FileReceiverWorker::onFileEnd(const QString &relativePath, uint finalChecksum, int taskId)
+void FileReceiverWorker::onFileEnd(const QString &relativePath, uint finalChecksum, int taskId, bool changed)
 {
     removeOpenFileIfCancelled();
     if (!m_running || m_cancelled)
         return;
-    FileBatchResult result{taskId, relativePath, finalizeFile(finalChecksum), QString()};
-    m_openedHere = false;
+    FileBatchResult result{taskId, relativePath, false, tr("Checksum mismatch"), false, false, {}};
+    const auto before = m_incoming.state();
+    if (before == IncomingFile::State::Writing || before == IncomingFile::State::Standing) {
+        result.success = m_incoming.end(finalChecksum, changed);
+        const ItemOutcome outcome = m_incoming.record().outcome;
+        result.skipped = outcome == ItemOutcome::WasThere || outcome == ItemOutcome::WasDifferent;
+        result.identical = m_incoming.isIdentical();
+        if (result.skipped && before == IncomingFile::State::Writing)
+            ++m_skippedCount; // it has come to stand there meanwhile
+        result.fullVolume = m_incoming.record().fullVolume;
+        settle();
+    }
+    finishResult(result);
+}
+
+void FileReceiverWorker::finishResult(FileBatchResult result)
+{
     if (result.success) {
+        result.error.clear();
         ++m_successCount;
         Q_EMIT fileCompleted(bareName());
-        recordReceivedFile(relativePath, m_currentDestPath);
+        recordReceivedFile(result.relativePath, result.skipped ? QString() : m_incoming.record().destination);
     } else {
+        // A file that couldn't even be begun has told its reason at its header.
+        const auto problem = m_incoming.problem();
+        if (problem != IncomingFile::Problem::None && problem != IncomingFile::Problem::CannotCreate)
+            result.error = reasonOfFailure();
         ++m_failedCount;
-        result.error = tr("Checksum mismatch");
         Q_EMIT fileFailed(bareName(), result.error);
     }
     m_batchResults.append(result);
@@ -287,6 +257,7 @@ void FileReceiverWorker::onTransferComplete()
     qCDebug(logPipeline) << "FileReceiverWorker::onTransferComplete() called";
     qCDebug(logPipeline) << "  Success:" << m_successCount << "Failed:" << m_failedCount
                          << "Skipped:" << m_skippedCount << "Bytes:" << m_receivedBytes;
+    removeOpenFile();
     m_running = false;
     Q_EMIT allCompleted(m_successCount, m_failedCount, m_skippedCount, m_receivedBytes);
 }
@@ -307,31 +278,6 @@ void FileReceiverWorker::reportOverallProgress()
     progress.failedItems = m_failedCount;
     progress.currentFile = bareName();
     Q_EMIT overallProgress(progress.toRecord());
-}
-
-QString resolveConflict(const QString &path, int policy)
-{
-    constexpr int MaxRenames = 999;
-    switch (ConflictPolicy(policy)) {
-    case ConflictPolicy::Skip:
-        return {};
-    case ConflictPolicy::Overwrite:
-        QFile::remove(path);
-        return path;
-    case ConflictPolicy::Rename:
-        break;
-    default:
-        return path;
-    }
-    const QFileInfo info(path);
-    const QString stem = info.path() + u'/' + info.completeBaseName() + u'_';
-    const QString suffix = info.suffix().isEmpty() ? QString() : u'.' + info.suffix();
-    for (int counter = 1; counter < MaxRenames; ++counter) {
-        const QString candidate = stem + QString::number(counter) + suffix;
-        if (!QFile::exists(candidate))
-            return candidate;
-    }
-    return stem + QString::number(MaxRenames) + suffix;
 }
 
 } // namespace Zandrove

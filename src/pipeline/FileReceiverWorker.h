@@ -2,22 +2,21 @@
 
 #include "core/common/Records.h"
 #include "pipeline/DestinationMap.h"
-#include "pipeline/FileChecksum.h"
+#include "pipeline/IncomingFile.h"
+#include "pipeline/ReceivedFile.h"
 #include "pipeline/SpeedMeter.h"
 #include "pipeline/TransferMessages.h"
 
 #include <QByteArray>
-#include <QFile>
 #include <QObject>
 
 #include <atomic>
-#include <memory>
 
 namespace Zandrove {
 
 /// Turns the stream of file messages into files on disk, checks each against its checksum and answers
-/// batches. One file is open at a time. What does not fit the stream is dropped; a file that fails costs that
-/// file alone.
+/// batches. One file is open at a time, and has its own name only when it is whole. What does not fit the
+/// stream is dropped; a file that fails costs that file alone.
 ///
 /// Its slots run in order on the thread that it lives in, whose event queue buffers the stream. `cancel`,
 /// `setPaused` and the inflow operations may be called from any thread.
@@ -36,7 +35,7 @@ public:
     /// Where files go that no standard folder is named for. Set before the thread starts.
     void setDestinationRoot(const QString &root) { m_destRoot = root; }
     /// A `ConflictPolicy`. Set before the thread starts.
-    void setConflictPolicy(int policy) { m_conflictPolicy = policy; }
+    void setConflictPolicy(int policy) { m_incoming.setConflictPolicy(policy); }
 
     void setPaused(bool paused) { m_paused = paused; }
     /// A cancel for good: this worker begins no other run.
@@ -61,14 +60,16 @@ public Q_SLOTS:
     /// Ends the run and removes the file in progress: at once on this worker's own thread, otherwise as soon
     /// as this worker gets to it.
     void cancel();
-    /// A list of files is announced; the lists of one run add up. `totalBytes` in bytes.
+    /// A list of files is announced; the lists of one run add up. `totalBytes` in bytes. Emits `spaceShort`
+    /// where the first list doesn't fit.
     void setTotalInfo(int fileCount, qlonglong totalBytes);
     /// A file begins; a repeat of the last header changes nothing. `checksum` is stored and not used.
     void onFileHeader(const QString &relativePath, qlonglong size, uint checksum, int taskId);
     /// A chunk: the raw payload of `FileData`. Waits here while paused.
     void onFileData(const QByteArray &data);
-    /// The file is complete: compared with its checksum, kept or removed.
-    void onFileEnd(const QString &relativePath, uint finalChecksum, int taskId);
+    /// The file is complete: compared with its checksum, kept or removed. Removed also when it has `changed`
+    /// on the other PC while it was sent.
+    void onFileEnd(const QString &relativePath, uint finalChecksum, int taskId, bool changed = false);
     /// Answers with the results since the last answer. Only `batchId` is used.
     void onBatchAckRequest(int batchId, int startTaskId, int endTaskId);
     /// The peer has sent everything: ends the run with `allCompleted`.
@@ -82,6 +83,12 @@ Q_SIGNALS:
     void fileProgress(const QString &fileName, int percent, qlonglong received, qlonglong total);
     void fileCompleted(const QString &fileName);
     void fileFailed(const QString &fileName, const QString &error);
+    /// What became of a file; once for each file whose header was taken, in their order. One whose end never
+    /// came has failed when the next file begins or the run ends.
+    void taskSettled(const Zandrove::ReceivedFile &file);
+    /// The volume that files go to by default has less room than the announced bytes need. Once a run at
+    /// most, which goes on.
+    void spaceShort(qlonglong neededBytes, qlonglong availableBytes, const QString &volume);
     void overallProgress(const Zandrove::TransferProgress &progress);
     void allCompleted(int success, int failed, int skipped, qlonglong totalBytes);
     void error(const QString &msg); ///< never emitted
@@ -90,23 +97,20 @@ Q_SIGNALS:
     void inflowBelowMark();
 
 private:
-    enum class OpenOutcome { Opened, Skipped, Failed };
-
-    [[nodiscard]] OpenOutcome openDestination(const QString &relativePath);
-    [[nodiscard]] OpenOutcome createFile();
-    void displaceOpenFile();
     void removeOpenFile();
     void removeOpenFileIfCancelled();
     void endRun();
     [[nodiscard]] QString bareName() const;
 
+    void failAtHeader(int taskId);
+    void settle();
+    [[nodiscard]] QString reasonOfFailure() const;
+    void finishResult(TransferMessages::FileBatchResult result);
     void receiveChunk(const QByteArray &data);
     [[nodiscard]] bool acceptsChunk(const QByteArray &data, const TransferMessages::ChunkHeader &chunk);
     void logForeignChunk(const TransferMessages::ChunkHeader &chunk);
     void logOffsetMismatch(const TransferMessages::ChunkHeader &chunk);
     void reportChunkProgress();
-    [[nodiscard]] bool flushWriteBuffer();
-    [[nodiscard]] bool finalizeFile(quint32 expected);
     void sendBatchAck(int batchId);
     void reportOverallProgress();
 
@@ -117,22 +121,15 @@ private:
     std::atomic<qint64> m_inflow = 0;
 
     QString m_destRoot;
-    int m_conflictPolicy = int(ConflictPolicy::Skip);
 
     int m_lastHeaderTaskId = -1;
     QString m_lastHeaderPath;
 
-    std::unique_ptr<QFile> m_currentFile;
-    bool m_openedHere = false; // the last header opened the file that m_currentDestPath names
-    QString m_currentPath;
-    QString m_currentDestPath;
+    IncomingFile m_incoming;
+    QString m_currentPath; // of the last header
     qint64 m_currentSize = 0;
-    qint64 m_currentReceived = 0;
-    quint32 m_expectedChecksum = 0;
-    FileChecksum m_currentCrc;
     int m_currentTaskId = -1;
     int m_chunkCount = 0;
-    QByteArray m_writeBuffer;
 
     QList<TransferMessages::FileBatchResult> m_batchResults;
     ReceivedFolders m_received;
@@ -144,12 +141,8 @@ private:
     int m_headerCount = 0;
     int m_totalFiles = 0;
     qint64 m_totalBytes = 0;
+    bool m_spaceCompared = false;
     SpeedMeter m_speed;
 };
-
-/// The path to write when a file exists at `path`; empty when it is to be left alone. Overwriting removes the
-/// existing file. Renaming tries "base_1.suffix" up to 999 and stays at the last. Another policy gives the
-/// same path.
-[[nodiscard]] QString resolveConflict(const QString &path, int policy);
 
 } // namespace Zandrove

@@ -15,6 +15,8 @@
 #include <QMutexLocker>
 #include <QThread>
 
+#include <utility>
+
 using namespace std::chrono_literals;
 
 namespace Zandrove {
@@ -70,19 +72,14 @@ void FileSenderWorker::startSending(QList<FileTransferTask> tasks)
 void FileSenderWorker::beginList(QList<FileTransferTask> tasks)
 {
     m_tasks = std::move(tasks);
-    m_paused = false;
     m_cancelled = false;
     m_successCount = m_failedCount = m_skippedCount = 0;
     m_totalBytes = 0;
     m_sentBytes = 0;
     m_currentIndex = 0;
     m_batches.reset();
-    for (int index = 0; index < m_tasks.size(); ++index) {
-        FileTransferTask &task = m_tasks[index];
-        if (task.taskId < 0)
-            task.taskId = index;
+    for (const FileTransferTask &task : std::as_const(m_tasks))
         m_totalBytes += task.fileSize;
-    }
     m_speed.start();
     qCDebug(logPipeline) << "FileSenderWorker: Starting to send" << m_tasks.size()
                          << "files, total:" << formatSize(m_totalBytes);
@@ -91,64 +88,85 @@ void FileSenderWorker::beginList(QList<FileTransferTask> tasks)
 void FileSenderWorker::sendTask(int index)
 {
     m_currentIndex = index;
-    FileTransferTask &task = m_tasks[index];
-    if (sendFile(task)) {
+    const FileTransferTask &task = m_tasks.at(index);
+    Sending sending{task, task.taskId < 0 ? index : task.taskId, bareName(task), task.fileSize, 0, 0, {}};
+    const bool sent = sendFile(sending);
+    cutBatch(sending.size); // where the file hasn't got as far as that itself
+    if (sent) {
         ++m_successCount;
-        task.status = FileTransferTask::Completed;
-        m_batches.addSent(task.fileSize);
+        m_batches.addSent(sending.size);
     } else if (task.status != FileTransferTask::Skipped) {
         ++m_failedCount;
-        task.status = FileTransferTask::Failed;
         m_batches.addFailed();
     } else {
         ++m_skippedCount;
     }
-    closeBatch(task, index == m_tasks.size() - 1);
+    closeBatch(sending, index == m_tasks.size() - 1);
     reportOverallProgress();
 }
 
-bool FileSenderWorker::failFile(FileTransferTask &task, const QString &reason)
+bool FileSenderWorker::failFile(const Sending &sending, const QString &reason)
 {
-    task.error = reason;
-    Q_EMIT fileFailed(bareName(task), task.error);
+    Q_EMIT taskFailed(sending.taskId, reason);
+    Q_EMIT fileFailed(sending.fileName, reason);
     return false;
 }
 
-bool FileSenderWorker::sendFile(FileTransferTask &task)
+bool FileSenderWorker::sendFile(Sending &sending)
 {
-    QFile file(task.sourcePath);
+    const QString &path = sending.task.sourcePath;
+    QFile file(path);
     if (!file.exists())
-        return failFile(task, tr("File not found: %1").arg(task.sourcePath));
+        return failFile(sending, tr("File not found: %1").arg(path));
     // Opening a pipe or a device could block for ever.
-    if (!Platform::isRegularFile(task.sourcePath))
-        return failFile(task, tr("Cannot open file: %1").arg(tr("not a regular file")));
+    if (!Platform::isRegularFile(path))
+        return failFile(sending, tr("Cannot open file: %1").arg(tr("not a regular file")));
+    const auto before = Platform::fileStamp(path);
     if (!file.open(QIODevice::ReadOnly))
-        return failFile(task, tr("Cannot open file: %1").arg(file.errorString()));
+        return failFile(sending, tr("Cannot open file: %1").arg(file.errorString()));
 
-    const QString fileName = bareName(task);
-    task.fileSize = file.size();
-    Q_EMIT fileStarted(fileName, task.fileSize);
-    const TransferMessages::Header header{task.taskId, task.relativePath, fileName, task.fileSize,
-                                          QFileInfo(task.sourcePath).lastModified().toSecsSinceEpoch()};
+    sending.size = file.size();
+    cutBatch(sending.size);
+    Q_EMIT fileStarted(sending.fileName, sending.size);
+    const TransferMessages::Header header{sending.taskId, sending.task.relativePath, sending.fileName,
+                                          sending.size, QFileInfo(path).lastModified().toSecsSinceEpoch()};
     Q_EMIT requestSendCommand(wireType(Protocol::MessageType::FileHeader), header.toPayload());
 
-    if (sendChunks(file, task) == ChunkLoop::Abandoned)
-        return false;
+    if (sendChunks(file, sending) == ChunkLoop::Abandoned)
+        return failFile(sending, tr("Cancelled before it was sent whole"));
     file.close();
+    return endFile(sending, reasonOfChange(sending, Platform::fileStamp(path) != before));
+}
 
+/// Why the peer must not keep what was sent of the file; empty when it may.
+QString FileSenderWorker::reasonOfChange(const Sending &sending, bool rewritten) const
+{
+    if (!sending.readError.isEmpty())
+        return tr("Cannot read file: %1").arg(sending.readError);
+    if (sending.sentBytes < sending.size && isCancelled())
+        return tr("Cancelled before it was sent whole");
+    return rewritten || sending.sentBytes != sending.size ? tr("Changed while it was sent") : QString();
+}
+
+bool FileSenderWorker::endFile(const Sending &sending, const QString &reasonOfChange)
+{
     m_speed.measure(m_sentBytes, 0ms);
     reportOverallProgress();
-    Q_EMIT fileProgress(fileName, 100, task.transferredBytes, task.fileSize);
-    const TransferMessages::End end{task.taskId, task.relativePath, task.checksum, task.transferredBytes};
+    Q_EMIT fileProgress(sending.fileName, 100, sending.sentBytes, sending.size);
+    const bool changed = !reasonOfChange.isEmpty();
+    const TransferMessages::End end{sending.taskId, sending.task.relativePath, sending.checksum,
+                                    sending.sentBytes, changed};
     Q_EMIT requestSendCommand(wireType(Protocol::MessageType::FileEnd), end.toPayload());
-    Q_EMIT fileCompleted(fileName);
+    Q_EMIT fileEndSent(sending.taskId, changed);
+    if (changed)
+        return failFile(sending, reasonOfChange);
+    Q_EMIT fileCompleted(sending.fileName);
     return true;
 }
 
-FileSenderWorker::ChunkLoop FileSenderWorker::sendChunks(QFile &file, FileTransferTask &task)
+FileSenderWorker::ChunkLoop FileSenderWorker::sendChunks(QFile &file, Sending &sending)
 {
     FileChecksum checksum;
-    task.transferredBytes = 0;
     int chunkCount = 0;
     while (!file.atEnd()) {
         // A cancel seen here ends the file as if it had been read to its end, with a FileEnd for what was
@@ -160,69 +178,83 @@ FileSenderWorker::ChunkLoop FileSenderWorker::sendChunks(QFile &file, FileTransf
             waitForSocket();
         if (isCancelled())
             return ChunkLoop::Abandoned;
-        if (!sendChunk(file, task, checksum))
+        if (!sendChunk(file, sending, checksum))
             break;
         if (++chunkCount % ChunksPerProgress == 0)
-            reportChunkProgress(task);
+            reportChunkProgress(sending);
     }
-    task.checksum = checksum.value();
+    sending.checksum = checksum.value();
     return ChunkLoop::EndOfFile;
 }
 
 /// Reads and hands over the next chunk. False at the end of the file, which a read error counts as.
-bool FileSenderWorker::sendChunk(QFile &file, FileTransferTask &task, FileChecksum &checksum)
+bool FileSenderWorker::sendChunk(QFile &file, Sending &sending, FileChecksum &checksum)
 {
     using TransferMessages::ChunkHeader;
 
     QByteArray payload(ChunkHeader::Size + ChunkBytes, Qt::Uninitialized);
     const qint64 size = file.read(payload.data() + ChunkHeader::Size, ChunkBytes);
+    if (size < 0)
+        sending.readError = file.errorString();
     if (size <= 0)
         return false;
     payload.truncate(ChunkHeader::Size + size);
     if (size < ChunkBytes / 2)
         payload.squeeze(); // many small files may wait for the main thread at once
-    ChunkHeader{task.transferredBytes, qint32(size), task.taskId}.writeTo(payload.data());
+    ChunkHeader{sending.sentBytes, qint32(size), sending.taskId}.writeTo(payload.data());
     checksum.update(QByteArrayView(payload).sliced(ChunkHeader::Size));
     Q_EMIT requestSendCommand(wireType(Protocol::MessageType::FileData), payload);
-    task.transferredBytes += size;
+    sending.sentBytes += size;
     m_sentBytes += size;
     return true;
 }
 
-void FileSenderWorker::reportChunkProgress(const FileTransferTask &task)
+void FileSenderWorker::reportChunkProgress(const Sending &sending)
 {
-    Q_EMIT fileProgress(bareName(task), filePercent(task.transferredBytes, task.fileSize),
-                        task.transferredBytes, task.fileSize);
+    Q_EMIT fileProgress(sending.fileName, filePercent(sending.sentBytes, sending.size), sending.sentBytes,
+                        sending.size);
     m_speed.measure(m_sentBytes, SpeedMeter::Interval);
     reportOverallProgress();
 }
 
-void FileSenderWorker::closeBatch(const FileTransferTask &task, bool isLast)
+void FileSenderWorker::cutBatch(qint64 fileSize)
 {
-    const auto request = m_batches.closeAfter(task.taskId, task.fileSize, isLast);
-    if (!request)
-        return;
-    if (request->waits)
-        requestAndAwaitAck(*request);
-    else
-        Q_EMIT requestSendCommand(wireType(Protocol::MessageType::FileAck),
-                                  TransferMessages::ackRequestPayload(*request));
+    if (const auto cut = m_batches.cutBefore(fileSize))
+        request(*cut);
 }
 
-void FileSenderWorker::requestAndAwaitAck(const BatchRequest &request)
+void FileSenderWorker::closeBatch(const Sending &sending, bool isLast)
+{
+    const auto closed = m_batches.closeAfter(sending.taskId, sending.size, isLast);
+    if (!closed)
+        return;
+    if (closed->waits)
+        awaitAnswer(*closed);
+    else
+        request(*closed);
+}
+
+void FileSenderWorker::request(const BatchRequest &request)
+{
+    // First, so that no answer can come before it is known what it answers.
+    Q_EMIT answerRequested(request.batchId, request.bytes, request.waits);
+    Q_EMIT requestSendCommand(wireType(Protocol::MessageType::FileAck),
+                              TransferMessages::ackRequestPayload(request));
+}
+
+void FileSenderWorker::awaitAnswer(const BatchRequest &awaited)
 {
     {
         // Before the request leaves, so that no answer can come too early to be known.
         const QMutexLocker locker(&m_ackMutex);
-        m_waitingBatchId = request.batchId;
+        m_waitingBatchId = awaited.batchId;
         m_ackReceived = false;
         m_ackSuccess = false;
         m_ackFailedFiles.clear();
     }
-    Q_EMIT requestSendCommand(wireType(Protocol::MessageType::FileAck),
-                              TransferMessages::ackRequestPayload(request));
+    request(awaited);
 
-    const auto timeout = batchAckTimeout(request.bytes);
+    const auto timeout = batchAckTimeout(awaited.bytes);
     QDeadlineTimer deadline(timeout);
     QMutexLocker locker(&m_ackMutex);
     while (!m_ackReceived && !isCancelled() && !deadline.hasExpired()) {
@@ -232,7 +264,7 @@ void FileSenderWorker::requestAndAwaitAck(const BatchRequest &request)
             deadline.setRemainingTime(timeout);
     }
     if (!(m_ackReceived && m_ackSuccess))
-        qCDebug(logPipeline) << "Batch ACK timeout for batch" << request.batchId;
+        qCDebug(logPipeline) << "Batch ACK timeout for batch" << awaited.batchId;
 }
 
 void FileSenderWorker::cancel()

@@ -44,8 +44,8 @@ public:
     void stop();
 
 public Q_SLOTS:
-    /// Sends the list. Ignored while another list is being sent. Ends by `allCompleted`, or silently when
-    /// cancelled.
+    /// Sends the list, which is not modified. Ignored while another list is being sent. Ends by
+    /// `allCompleted`, or silently when cancelled.
     void startSending(QList<Zandrove::FileTransferTask> tasks);
     void pause() { setPaused(true); }
     void resume() { setPaused(false); }
@@ -63,21 +63,43 @@ Q_SIGNALS:
     void overallProgress(const Zandrove::TransferProgress &progress);
     void allCompleted(int success, int failed, int skipped, qlonglong totalBytes);
     void error(const QString &msg); ///< never emitted
+    /// The file was not sent, or not whole. Once for each file that is not, in the order of the list.
+    void taskFailed(int taskId, const QString &reason);
+    /// A `FileEnd` has left, before any request that covers the file. One that has `changed` also fails.
+    void fileEndSent(int taskId, bool changed);
+    /// A request leaves, right behind this signal. `waits`: this worker waits for its answer.
+    void answerRequested(int batchId, qint64 batchBytes, bool waits);
     void requestSendCommand(int type, const QByteArray &payload);
 
 private:
     enum class ChunkLoop { EndOfFile, Abandoned };
 
+    /// The task in work.
+    struct Sending
+    {
+        const FileTransferTask &task;
+        int taskId = -1;
+        QString fileName; // bare
+        qint64 size = 0;  // as announced, bytes
+        qint64 sentBytes = 0;
+        quint32 checksum = 0;
+        QString readError;
+    };
+
     void beginList(QList<FileTransferTask> tasks);
     [[nodiscard]] bool isCancelled() const { return m_cancelled || m_stopped; }
     void sendTask(int index);
-    [[nodiscard]] bool sendFile(FileTransferTask &task);
-    [[nodiscard]] bool failFile(FileTransferTask &task, const QString &reason);
-    [[nodiscard]] ChunkLoop sendChunks(QFile &file, FileTransferTask &task);
-    [[nodiscard]] bool sendChunk(QFile &file, FileTransferTask &task, class FileChecksum &checksum);
-    void reportChunkProgress(const FileTransferTask &task);
-    void closeBatch(const FileTransferTask &task, bool isLast);
-    void requestAndAwaitAck(const BatchRequest &request);
+    [[nodiscard]] bool sendFile(Sending &sending);
+    [[nodiscard]] bool endFile(const Sending &sending, const QString &reasonOfChange);
+    [[nodiscard]] QString reasonOfChange(const Sending &sending, bool rewritten) const;
+    [[nodiscard]] bool failFile(const Sending &sending, const QString &reason);
+    [[nodiscard]] ChunkLoop sendChunks(QFile &file, Sending &sending);
+    [[nodiscard]] bool sendChunk(QFile &file, Sending &sending, class FileChecksum &checksum);
+    void reportChunkProgress(const Sending &sending);
+    void cutBatch(qint64 fileSize);
+    void closeBatch(const Sending &sending, bool isLast);
+    void request(const BatchRequest &request);
+    void awaitAnswer(const BatchRequest &awaited);
     void waitWhilePaused() const;
     void waitForSocket() const;
     void reportOverallProgress();

@@ -20,17 +20,8 @@ namespace {
 // Gives the peer time to hear of a cancel before what it sends is taken again.
 constexpr auto DelayAfterPeerCancel = 100ms;
 constexpr auto DelayAfterCancel = 200ms;
-constexpr int TracedMessages = 100;
 constexpr int FirstTransferType = int(MessageType::SessionEnd);
 constexpr int LastTransferType = int(MessageType::SettingComplete);
-
-void traceMessage(int count, MessageType type, qsizetype size)
-{
-    if (type == MessageType::FileData || (count > TracedMessages && type != MessageType::FileHeader))
-        return;
-    qCDebug(logPipeline) << "MSG#" << count << "type:" << Qt::showbase << Qt::hex << int(type) << Qt::dec
-                         << int(type) << "size:" << size;
-}
 
 } // namespace
 
@@ -70,6 +61,8 @@ void MigrationManager::setLink(RunLink link)
     m_link = std::move(link);
     if (m_link.setGate)
         m_link.setGate([this] { return mayReadLink(); });
+    if (m_link.watch)
+        m_link.watch(this, [this] { onLinkChanged(); });
 }
 
 void MigrationManager::setRole(int role)
@@ -84,10 +77,19 @@ bool MigrationManager::isMigrating() const
     return m_run && m_run->isOn();
 }
 
+RunSummary MigrationManager::summary() const
+{
+    return m_run ? m_run->summary() : m_summary;
+}
+
+ReceivingRun *MigrationManager::receivingRun() const
+{
+    return qobject_cast<ReceivingRun *>(m_run);
+}
+
 bool MigrationManager::isApplyingSettings() const
 {
-    const auto *run = qobject_cast<const ReceivingRun *>(m_run);
-    return run && run->isApplyingSettings();
+    return receivingRun() && receivingRun()->isApplyingSettings();
 }
 
 RunState MigrationManager::runState() const
@@ -96,15 +98,12 @@ RunState MigrationManager::runState() const
 }
 
 void MigrationManager::start(const QList<AppInfo> &apps, const QList<FolderInfo> &folders,
-                             const QList<AccountInfo> &accounts, const QList<SettingInfo> &settings)
+                             const QList<AccountInfo> &, const QList<SettingInfo> &settings)
 {
-    Q_UNUSED(accounts)
     if (isMigrating())
         return;
-    if (m_role == NewPC) {
-        startReceiving();
-        return;
-    }
+    if (m_role == NewPC)
+        return startReceiving();
     endSession();
     retire();
     beginRun(new SendingRun(m_link, {apps, folders, settings, m_conflictConfig.policy}, this));
@@ -112,11 +111,10 @@ void MigrationManager::start(const QList<AppInfo> &apps, const QList<FolderInfo>
 
 void MigrationManager::startReceiving()
 {
-    if (isMigrating())
-        return;
     m_role = NewPC;
     m_waits = true;
-    beginReceiving();
+    if (!isMigrating())
+        beginReceiving();
 }
 
 void MigrationManager::beginReceiving()
@@ -160,6 +158,9 @@ void MigrationManager::forward(const MigrationRun *run)
     connect(run, &Run::appOutcome, this, &Face::appOutcome);
     connect(run, &Run::settingOutcome, this, &Face::settingOutcome);
     connect(run, &Run::settingsFinished, this, &Face::settingsFinished);
+    connect(run, &Run::itemSettled, this, &Face::itemSettled);
+    connect(run, &Run::spaceShort, this, &Face::spaceShort);
+    connect(run, &Run::installing, this, &Face::installing);
 }
 
 /// What the run was is over; what its threads still do, nobody hears of.
@@ -170,6 +171,8 @@ void MigrationManager::retire()
         return;
     QObject::disconnect(run, nullptr, this, nullptr);
     run->end(RunEnd::Reset);
+    run->closeLedger();
+    m_summary = run->summary();
     m_past.append(run);
     connect(run, &MigrationRun::gone, this, [this, run] {
         m_past.removeOne(run);
@@ -179,6 +182,8 @@ void MigrationManager::retire()
 
 void MigrationManager::onRunEnded(RunEnd how, const MigrationReport &report)
 {
+    const bool hasBegun = m_run->hasBegun();
+    const RunSummary summary = m_run->summary();
     if (runState() != RunState::Settling)
         retire();
     resumeReadingLink();
@@ -200,10 +205,14 @@ void MigrationManager::onRunEnded(RunEnd how, const MigrationReport &report)
         waitAgain(0ms);
         Q_EMIT transferReset();
         break;
-    case RunEnd::Running:
     case RunEnd::LinkLost:
+        waitAgain(0ms); // for a peer that has come meanwhile
+        break;
+    case RunEnd::Running:
         break;
     }
+    if (hasBegun)
+        Q_EMIT runEnded(summary);
     processInbox();
 }
 
@@ -268,10 +277,21 @@ void MigrationManager::endSession()
 void MigrationManager::resetAndListen()
 {
     qCDebug(logPipeline) << "MigrationManager::resetAndListen()";
+    if (isMigrating() && m_run->isLinkLost())
+        return;
     dropInbox();
     m_waitAgainTimer.stop();
     retire();
     resumeReadingLink();
+}
+
+/// The run in hand may have lost its link, to nobody or to another peer.
+void MigrationManager::onLinkChanged()
+{
+    if (!isMigrating() || m_run->belongsTo(m_link.number()))
+        return;
+    endSession();
+    m_run->end(RunEnd::LinkLost);
 }
 
 /// Whether there is a peer that this side said yes to, and the run is one with that peer.
@@ -300,21 +320,25 @@ void MigrationManager::onLinkCommandReceived(MessageType type, const QByteArray 
 
 void MigrationManager::onNetworkCommandReceived(MessageType type, const QByteArray &payload)
 {
-    traceMessage(++m_messageCount, type, payload.size());
-    const RunState state = runState();
-    if (!m_inbox.keep(type, payload, state, m_run && m_run->isPaused()))
+    m_inbox.trace(type, payload.size());
+    if (!m_inbox.keep(type, payload, runState(), m_run && m_run->isPaused()))
         process(type, payload);
-    else if (auto *run = qobject_cast<ReceivingRun *>(m_run); run && state == RunState::Settling)
-        run->boundSettings();
+    else
+        boundWaitForSettings();
+}
+
+/// What waits behind them doesn't wait for ever.
+void MigrationManager::boundWaitForSettings()
+{
+    if (receivingRun() && !m_inbox.isEmpty() && runState() == RunState::Settling)
+        receivingRun()->boundSettings();
 }
 
 void MigrationManager::processInbox()
 {
     while (const std::optional<RunMessage> message = m_inbox.take(runState()))
         process(message->type, message->payload);
-    auto *run = qobject_cast<ReceivingRun *>(m_run);
-    if (run && !m_inbox.isEmpty() && runState() == RunState::Settling)
-        run->boundSettings();
+    boundWaitForSettings();
     resumeReadingLink();
 }
 

@@ -23,11 +23,12 @@ class ReceivingRun;
 /// `SendingRun` and `ReceivingRun`.
 ///
 /// Lives on the main thread. A run ends by exactly one of `completed`, `cancelled` (here), `peerCancelled`
-/// and `transferReset`, or silently by `resetAndListen`; a failed file is a count in the report. A lost link
-/// is not noticed here: the run stays on until `cancel` or `resetAndListen`.
+/// and `transferReset`, by `runEnded` alone when its link is lost, or silently by `resetAndListen`; a failed
+/// file is an item of the summary and a count in the report.
 ///
 /// What arrives on a link that is not accepted is ignored, and nothing of a run leaves on such a link. A run
-/// of the Old PC belongs to the link it began on: it has nothing to do with a later one.
+/// of the Old PC belongs to the link it began on, one of the New PC to the link by which its first message
+/// came: it has nothing to do with a later one.
 class MigrationManager : public QObject
 {
     Q_OBJECT
@@ -50,6 +51,9 @@ public:
     /// A run is on.
     [[nodiscard]] bool isMigrating() const;
 
+    /// The running or the last run, as its user is told of it.
+    [[nodiscard]] RunSummary summary() const;
+
     /// New PC: settings have arrived of which it isn't known yet what became of them.
     [[nodiscard]] bool isApplyingSettings() const;
 
@@ -67,7 +71,7 @@ public:
     void cancel();
     /// Does nothing: no item is sent again.
     void retryFailed() {}
-    /// Ends the run without a word to the peer.
+    /// Ends the run without a word to the peer. One whose link is lost is left to work off what has arrived.
     void resetAndListen();
     /// Tells the peer of a cancel, with the reason in `notification`. To be followed by `cancel`.
     void sendCancelNotification(const QJsonObject &notification);
@@ -84,6 +88,15 @@ Q_SIGNALS:
     void completed(const Zandrove::MigrationReport &report);
     void failed(const QString &reason);               ///< no worker causes it
     void bufferStatusChanged(qlonglong bytesToWrite); ///< never emitted
+    /// An item of the run has its outcome.
+    void itemSettled(const Zandrove::ItemResult &item);
+    /// A run in which something was sent or came is over, behind the signal that tells how. On the New PC
+    /// settings may still have no outcome then; `settingsFinished` follows.
+    void runEnded(const Zandrove::RunSummary &summary);
+    /// New PC: the peer has announced more bytes than its destination has room for. The run goes on.
+    void spaceShort(qlonglong needed, qlonglong available, const QString &volume);
+    /// The New PC installs this application; `percent` is 0 on the Old PC, which doesn't know how far it is.
+    void installing(const QString &appName, int percent);
     /// New PC: a run waits for what the peer sends, behind one that was called off.
     void waiting();
     /// The peer began a run while none was on here; it is being received.
@@ -117,7 +130,9 @@ private:
     void processInbox();
     [[nodiscard]] bool admitWhileIdle(Protocol::MessageType type);
     void dropInbox();
+    void boundWaitForSettings();
 
+    void onLinkChanged();
     void beginRun(MigrationRun *run);
     void beginReceiving();
     void wait();
@@ -127,6 +142,7 @@ private:
     void retire();
     void waitAgain(std::chrono::milliseconds delay);
 
+    [[nodiscard]] ReceivingRun *receivingRun() const;
     [[nodiscard]] RunState runState() const;
     [[nodiscard]] bool isLinkOfRun() const;
     [[nodiscard]] bool mayReadLink() const;
@@ -137,12 +153,12 @@ private:
     int m_role = OldPC;
     ConflictConfig m_conflictConfig;
     QString m_destRoot;
+    RunSummary m_summary;          // of the last run that is over
     MigrationRun *m_run = nullptr; // child: the one that is on, or whose settings are being applied
     QList<MigrationRun *> m_past;  // children: over, with threads that are still ending
     RunInbox m_inbox;
-    bool m_waits = false;    // New PC: a run that is called off is followed by another
-    QTimer m_waitAgainTimer; // until it is
-    int m_messageCount = 0;
+    bool m_waits = false;          // New PC: a run that is called off is followed by another
+    QTimer m_waitAgainTimer;       // until it is
     bool m_strangerLogged = false; // one log line for what an unaccepted link brings
 };
 

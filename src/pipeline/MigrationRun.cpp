@@ -3,6 +3,7 @@
 #include "appmigration/AppMigrator.h"
 #include "pipeline/Log.h"
 #include "settings/SettingMigrator.h"
+#include "support/Utilities.h"
 
 #include <QThread>
 
@@ -20,9 +21,10 @@ constexpr qsizetype TracedPayloadBytes = 300;
 
 } // namespace
 
-MigrationRun::MigrationRun(RunLink link, QObject *parent)
+MigrationRun::MigrationRun(int role, RunLink link, QObject *parent)
     : QObject(parent)
     , m_link(std::move(link))
+    , m_ledger(role, getComputerName(), m_link.peer(), QDateTime::currentDateTime())
     , m_appMigrator(new AppMigrator)
     , m_settingMigrator(new SettingMigrator)
     , m_fileThread(u"Worker"_s, WorkerThread::LastResort::Terminate, this)
@@ -154,13 +156,40 @@ void MigrationRun::finish(RunEnd how)
         m_settingMigrator->disconnect();
         m_settingThread.askToEnd();
     }
+    if (!outlivedBySettings())
+        closeLedger();
     Q_EMIT ended(how, how == RunEnd::Complete ? buildReport() : MigrationReport());
+}
+
+void MigrationRun::closeLedger()
+{
+    m_ledger.close(m_end, QDateTime::currentDateTime());
+    tellSettled();
+}
+
+RunSummary MigrationRun::summary() const
+{
+    RunSummary summary = m_ledger.summary();
+    summary.end = m_end; // also while settings are still being applied
+    if (!summary.endTime.isValid() && !isOn())
+        summary.endTime = QDateTime::currentDateTime();
+    return summary;
+}
+
+void MigrationRun::tellSettled()
+{
+    const QList<ItemResult> settled = m_ledger.takeSettled();
+    for (const ItemResult &item : settled) {
+        noteSettled(item);
+        Q_EMIT itemSettled(item);
+    }
 }
 
 void MigrationRun::stopWorkers()
 {
     m_appMigrator->stop();
-    m_settingMigrator->stop();
+    if (!outlivedBySettings())
+        m_settingMigrator->stop();
 }
 
 void MigrationRun::watchThreads()

@@ -4,6 +4,7 @@
 #include "core/common/RunSummary.h"
 #include "peer/Protocol.h"
 #include "pipeline/RunInbox.h"
+#include "pipeline/RunLedger.h"
 #include "pipeline/RunLink.h"
 #include "pipeline/TransferMessages.h"
 #include "pipeline/WorkerThread.h"
@@ -27,7 +28,8 @@ class MigrationRun : public QObject
     Q_OBJECT
 
 public:
-    MigrationRun(RunLink link, QObject *parent);
+    /// `role`: a `Role`, that of this end.
+    MigrationRun(int role, RunLink link, QObject *parent);
     ~MigrationRun() override;
 
     /// Begins its work. Once.
@@ -44,10 +46,19 @@ public:
     /// Holds both sides; the peer is told. Nothing happens in a paused run, or one that is over.
     void pause();
     void resume();
-    /// Ends the run, telling the peer where it ends here.
-    void end(RunEnd how);
+    /// Ends the run, telling the peer where it ends here. One whose link is lost works off first what has
+    /// arrived.
+    virtual void end(RunEnd how);
+    /// Whether anything of it has left or come.
+    [[nodiscard]] virtual bool hasBegun() const { return true; }
+    /// Its link is lost, and what has arrived is still being worked off.
+    [[nodiscard]] virtual bool isLinkLost() const { return false; }
+    /// What its user is told, as far as it is known.
+    [[nodiscard]] RunSummary summary() const;
+    /// Nothing more is told of the run: what has no outcome yet is not confirmed.
+    void closeLedger();
     /// Works off a message of the peer.
-    void handle(Protocol::MessageType type, const QByteArray &payload);
+    virtual void handle(Protocol::MessageType type, const QByteArray &payload);
 
     /// Waits until every thread of the run has ended; settings that are being applied get up to a minute.
     void waitForThreads();
@@ -59,6 +70,13 @@ Q_SIGNALS:
     void stateChanged();
     /// No thread of a run that is over runs any more.
     void gone();
+
+    /// An item has its outcome.
+    void itemSettled(const Zandrove::ItemResult &item);
+    /// New PC: the peer has announced more than fits, in bytes.
+    void spaceShort(qlonglong needed, qlonglong available, const QString &volume);
+    /// An application is being installed on the New PC; `percent` is 0 where only the other PC knows.
+    void installing(const QString &appName, int percent);
 
     // As in MigrationManager.
     void paused();
@@ -88,6 +106,10 @@ protected:
     void sendToPeer(Protocol::MessageType type, const QByteArray &payload = {});
     void setPaused(bool paused);
     void finish(RunEnd how);
+    /// Tells of the items that have their outcome by now; behind each event of the ledger.
+    void tellSettled();
+    /// An item has its outcome, before it is told.
+    virtual void noteSettled(const ItemResult &) {}
     /// Closes the report: end and average speed.
     [[nodiscard]] virtual MigrationReport buildReport() const;
 
@@ -118,6 +140,7 @@ protected:
 
     RunLink m_link;
     MigrationReport m_report; // its counts, as they grow
+    RunLedger m_ledger;
     AppMigrator *m_appMigrator;
     SettingMigrator *m_settingMigrator;
     WorkerThread m_fileThread;

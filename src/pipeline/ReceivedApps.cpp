@@ -18,14 +18,6 @@ QString receivedAppFolder(const QString &appName)
     return receivedAppsFolder() + u'/' + appName;
 }
 
-/// The application that a file belongs to: what stands between the first slash and the next.
-QString appOfFile(const QString &relativePath)
-{
-    const qsizetype start = relativePath.indexOf(u'/') + 1;
-    const qsizetype end = relativePath.indexOf(u'/', start);
-    return isAppPath(relativePath) && end > start ? relativePath.sliced(start, end - start) : QString();
-}
-
 } // namespace
 
 ReceivedApps::ReceivedApps(WorkerThread &thread, QObject *parent)
@@ -39,19 +31,19 @@ ReceivedApps::ReceivedApps(WorkerThread &thread, QObject *parent)
     thread.carry(m_worker);
 }
 
-bool ReceivedApps::begin(const QByteArray &payload)
+QString ReceivedApps::begin(const QByteArray &payload)
 {
     const std::optional<AppPackage> package = readAppStart(payload);
     if (!package) {
         qCDebug(logPipeline) << "Ignoring an application that can't be read or has a name of no use";
-        return false;
+        return {};
     }
     const QString basePath = receivedAppFolder(package->name);
     if (QDir(basePath).exists()) {
         qCDebug(logPipeline) << "Cleaning previous app data:" << basePath;
         if (!removeReceived(basePath)) {
             qCDebug(logPipeline) << "Ignoring an application whose folder can't be cleaned:" << basePath;
-            return false;
+            return {};
         }
     }
     QDir().mkpath(basePath);
@@ -61,12 +53,13 @@ bool ReceivedApps::begin(const QByteArray &payload)
     qCDebug(logPipeline) << "  Original install location:" << info.originalInstallLocation;
     qCDebug(logPipeline) << "  Source user:" << info.sourceUser;
     qCDebug(logPipeline) << "  Saved to receivedBasePath:" << info.receivedBasePath;
-    return true;
+    m_missing.remove(makeSafeName(package->name));
+    return package->name;
 }
 
 void ReceivedApps::countFileIn(const QString &relativePath)
 {
-    const QString name = appOfFile(relativePath);
+    const QString name = appOfPath(relativePath);
     if (name.isEmpty())
         return;
     const int count = ++m_appOpenFiles[name];
@@ -75,12 +68,18 @@ void ReceivedApps::countFileIn(const QString &relativePath)
 
 QString ReceivedApps::countFileOut(const QString &relativePath)
 {
-    const QString name = appOfFile(relativePath);
+    const QString name = appOfPath(relativePath);
     if (name.isEmpty())
         return {};
     const int count = --m_appOpenFiles[name];
     qCDebug(logPipeline) << "App file closed:" << name << "count:" << count;
     return isComplete(name) ? name : QString();
+}
+
+void ReceivedApps::noteMissing(const QString &relativePath)
+{
+    if (const QString name = appOfPath(relativePath); !name.isEmpty())
+        ++m_missing[name];
 }
 
 int ReceivedApps::end(const QString &appName)
@@ -104,6 +103,7 @@ void ReceivedApps::tryInstallApp(const QString &appName)
     }
     AppPackageInfo package = *waiting;
     package.receivedBasePath = receivedAppFolder(appName);
+    package.filesMissing = m_missing.take(makeSafeName(appName));
     qCDebug(logPipeline) << "Installing app:" << appName;
     qCDebug(logPipeline) << "  receivedBasePath:" << package.receivedBasePath;
     qCDebug(logPipeline) << "  originalInstallLocation:" << package.originalInstallLocation;

@@ -27,14 +27,17 @@ public:
     ReceivedApps(WorkerThread &thread, QObject *parent);
 
     /// An application is announced by this message: its folder is made, empty, and it waits to be installed.
-    /// One of the same name is replaced. False, and nothing done, for a message that can't be read, a name
-    /// that would lead out of the folder, or a folder that isn't this user's own.
-    [[nodiscard]] bool begin(const QByteArray &payload);
+    /// One of the same name is replaced. Returns its name; nothing, and nothing done, for a message that
+    /// can't be read, a name that would lead out of the folder, or a folder that isn't this user's own.
+    [[nodiscard]] QString begin(const QByteArray &payload);
 
     /// A file begins. Counted when it belongs to an application, as do all below "Apps/NAME/".
     void countFileIn(const QString &relativePath);
     /// A file has ended. Returns the application that has been waiting for it as its last one; else nothing.
     [[nodiscard]] QString countFileOut(const QString &relativePath);
+
+    /// The file has not arrived whole, which fails the application that it belongs to.
+    void noteMissing(const QString &relativePath);
 
     /// All of `appName` is announced. Returns how many of its files are still on the way.
     int end(const QString &appName);
@@ -64,6 +67,7 @@ private:
     QMap<QString, AppPackageInfo> m_receivedPackages; // by name, not yet installed
     QMap<QString, int> m_appOpenFiles;                // by the name in the path
     QMap<QString, bool> m_appEndReceived;             // by name
+    QMap<QString, int> m_missing;                     // files, by the name in the path
 };
 
 } // namespace Zandrove

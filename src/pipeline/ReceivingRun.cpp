@@ -25,7 +25,7 @@ constexpr auto AppEndDelay = 300ms;
 } // namespace
 
 ReceivingRun::ReceivingRun(RunLink link, const Destination &destination, QObject *parent)
-    : MigrationRun(std::move(link), parent)
+    : MigrationRun(NewPC, std::move(link), parent)
     , m_receiver(new FileReceiverWorker)
     , m_apps(new ReceivedApps(m_appThread, this))
 {
@@ -33,20 +33,72 @@ ReceivingRun::ReceivingRun(RunLink link, const Destination &destination, QObject
     m_receiver->setDestinationRoot(destination.root);
     m_receiver->setConflictPolicy(destination.conflictPolicy);
     connect(m_receiver, &FileReceiverWorker::inflowBelowMark, this, &ReceivingRun::stateChanged);
+    connect(m_receiver, &FileReceiverWorker::taskSettled, this, &ReceivingRun::onReceived);
+    connect(m_receiver, &FileReceiverWorker::spaceShort, this, &ReceivingRun::spaceShort);
     startFileWorker(m_receiver);
+    wireApps();
+    connect(this, &MigrationRun::settingOutcome, this,
+            [this](const QString &name, bool success, const QString &error) {
+                m_ledger.settleItem(ItemKind::Setting, name,
+                                    success ? ItemOutcome::Arrived : ItemOutcome::Failed, error);
+                tellSettled();
+            });
+    m_settingsBound.setSingleShot(true);
+    connect(&m_settingsBound, &QTimer::timeout, this, [this] {
+        m_settings = Settings::Through;
+        onSettingsOver();
+    });
+}
+
+void ReceivingRun::wireApps()
+{
     connect(m_apps, &ReceivedApps::installProgress, this, &ReceivingRun::appInstallProgress);
+    connect(m_apps, &ReceivedApps::installProgress, this, &ReceivingRun::installing);
     connect(m_apps, &ReceivedApps::installFinished, this, &ReceivingRun::appInstallFinished);
     connect(m_apps, &ReceivedApps::installed, this,
             [this](const QString &name, bool success, const QString &error) {
                 ++(success ? m_report.appsSuccess : m_report.appsFailed);
+                m_ledger.settleItem(ItemKind::Application, name,
+                                    success ? ItemOutcome::Arrived : ItemOutcome::Failed, error);
+                tellSettled();
                 Q_EMIT appOutcome(name, success, error);
             });
     connect(m_apps, &ReceivedApps::cleanedUp, this, &ReceivingRun::onAppsThrough);
-    m_settingsBound.setSingleShot(true);
-    connect(&m_settingsBound, &QTimer::timeout, this, [this] {
-        m_settings = Settings::Through;
-        Q_EMIT stateChanged();
-    });
+}
+
+void ReceivingRun::onReceived(const ReceivedFile &file)
+{
+    m_ledger.received(
+        {file.relativePath, file.destination, file.outcome, file.reason, file.bytes, file.fullVolume});
+    if (file.outcome == ItemOutcome::Failed)
+        m_apps->noteMissing(file.relativePath);
+    tellSettled();
+}
+
+/// What had arrived of a lost link is worked off: whole files get their names, an application that is whole
+/// is installed. The others are not: half an application is worse than none.
+void ReceivingRun::end(RunEnd how)
+{
+    if (how != RunEnd::LinkLost || !m_begun) {
+        MigrationRun::end(how);
+        return;
+    }
+    if (!isOn() || m_workingOff || std::exchange(m_linkLost, true))
+        return;
+    if (isPaused())
+        setPaused(false);
+    if (isApplyingSettings()) {
+        m_settings = Settings::AllHere;
+        boundSettings();
+        QMetaObject::invokeMethod(
+            m_settingMigrator,
+            [migrator = m_settingMigrator, reason = tr("the link was lost")] {
+                migrator->giveUpReceiving(reason);
+                migrator->onSettingComplete({});
+            },
+            Qt::QueuedConnection);
+    }
+    behindReceiver([this] { m_apps->cleanUp(); });
 }
 
 ReceivingRun::~ReceivingRun()
@@ -61,10 +113,19 @@ void ReceivingRun::begin()
     QMetaObject::invokeMethod(m_appMigrator, &AppMigrator::startReceiving, Qt::QueuedConnection);
 }
 
+void ReceivingRun::handle(MessageType type, const QByteArray &payload)
+{
+    if (!m_begun && type != MessageType::TransferReset && type != MessageType::TransferCancel) {
+        m_begun = true;
+        m_linkNumber = m_link.number();
+    }
+    MigrationRun::handle(type, payload);
+}
+
 RunState ReceivingRun::state() const
 {
     if (isOn())
-        return m_workingOff ? RunState::WorkingOff : RunState::On;
+        return m_workingOff || m_linkLost ? RunState::WorkingOff : RunState::On;
     return isApplyingSettings() ? RunState::Settling : RunState::None;
 }
 
@@ -102,7 +163,7 @@ void ReceivingRun::pauseWorkers(bool paused)
 
 void ReceivingRun::stopWorkers()
 {
-    m_workingOff = false;
+    m_workingOff = m_linkLost = false;
     m_receiver->disconnect();
     m_receiver->stop();
     m_apps->disconnect();
@@ -135,7 +196,9 @@ void ReceivingRun::behindReceiver(std::function<void()> action)
 void ReceivingRun::onTransferStart(const QByteArray &payload)
 {
     MigrationRun::onTransferStart(payload);
-    tellReceiver([start = TransferMessages::Start::fromPayload(payload)](FileReceiverWorker &receiver) {
+    const auto announced = TransferMessages::Start::fromPayload(payload);
+    m_ledger.announced(announced.fileCount, announced.totalSize);
+    tellReceiver([start = announced](FileReceiverWorker &receiver) {
         receiver.setTotalInfo(start.fileCount, start.totalSize);
     });
 }
@@ -161,7 +224,7 @@ void ReceivingRun::onFileEnd(const QByteArray &payload)
 {
     const auto end = TransferMessages::End::fromPayload(payload);
     tellReceiver([end](FileReceiverWorker &receiver) {
-        receiver.onFileEnd(end.relativePath, end.checksum, end.taskId);
+        receiver.onFileEnd(end.relativePath, end.checksum, end.taskId, end.changed);
     });
     const QString completeApp = m_apps->countFileOut(end.relativePath);
     if (completeApp.isEmpty())
@@ -211,33 +274,29 @@ void ReceivingRun::onFilesThrough(int success, int failed, int skipped, qlonglon
 
 void ReceivingRun::onAppsThrough()
 {
-    finish(RunEnd::Complete);
+    if (m_linkLost && isApplyingSettings())
+        return;
+    const ReceivedFolders &received = m_receiver->receivedFolders();
+    m_ledger.setSavedFolders(received.paths, received.counts, received.samples());
+    finish(m_linkLost ? RunEnd::LinkLost : RunEnd::Complete);
 }
 
 MigrationReport ReceivingRun::buildReport() const
 {
-    constexpr int SampledFolders = 3;
-
     MigrationReport report = MigrationRun::buildReport();
     const ReceivedFolders &received = m_receiver->receivedFolders();
     report.savedFolderPaths = received.paths;
     report.savedFolderCounts = received.counts;
-    for (auto entry = received.folders.cbegin(); entry != received.folders.cend(); ++entry) {
-        const QStringList &names = entry.value();
-        if (names.isEmpty())
-            continue;
-        const QString shown =
-            QStringList(names.first(std::min<qsizetype>(names.size(), SampledFolders))).join(u", ");
-        report.savedFolderSamples.insert(
-            entry.key(), u'(' + shown + (names.size() > SampledFolders ? u", ...)"_s : u")"_s));
-    }
+    report.savedFolderSamples = received.samples();
     return report;
 }
 
 void ReceivingRun::onAppStart(const QByteArray &payload)
 {
-    if (!m_apps->begin(payload))
+    const QString name = m_apps->begin(payload);
+    if (name.isEmpty())
         return;
+    m_ledger.expectItem(ItemKind::Application, name);
     QMetaObject::invokeMethod(
         m_appMigrator, [migrator = m_appMigrator, payload] { migrator->onAppPackageReceived(payload); },
         Qt::QueuedConnection);
@@ -308,7 +367,18 @@ void ReceivingRun::onSettingsThrough(int succeeded, int failed)
     m_report.settingsFailed = failed;
     m_settings = Settings::Through;
     m_settingsBound.stop();
+    if (!isOn())
+        closeLedger();
     Q_EMIT settingsFinished(succeeded, failed);
+    onSettingsOver();
+}
+
+void ReceivingRun::onSettingsOver()
+{
+    if (!isOn())
+        closeLedger();
+    else if (m_linkLost)
+        m_apps->cleanUp(); // the run has waited for them
     Q_EMIT stateChanged();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pipeline/MigrationRun.h"
+#include "pipeline/ReceivedFile.h"
 
 #include <QTimer>
 
@@ -30,6 +31,15 @@ public:
     ~ReceivingRun() override;
 
     void begin() override;
+    void end(RunEnd how) override;
+    [[nodiscard]] bool hasBegun() const override { return m_begun; }
+    [[nodiscard]] bool isLinkLost() const override { return m_linkLost; }
+    void handle(Protocol::MessageType type, const QByteArray &payload) override;
+    /// Before anything of it has come, whoever is accepted; then that peer's link alone.
+    [[nodiscard]] bool belongsTo(quint64 link) const override
+    {
+        return link != 0 && (!m_begun || m_linkLost || link == m_linkNumber);
+    }
     [[nodiscard]] RunState state() const override;
     [[nodiscard]] bool mayReadLink() const override;
 
@@ -65,16 +75,22 @@ private:
         Through,  ///< all are applied, or have failed
     };
 
+    void wireApps();
+    void onReceived(const ReceivedFile &file);
     void beginReceivingSettings();
     void tellReceiver(std::function<void(FileReceiverWorker &)> what);
     void behindReceiver(std::function<void()> action);
     void processAppEnd(const QString &appName);
     void onAppsThrough();
+    void onSettingsOver();
 
     FileReceiverWorker *m_receiver;
     ReceivedApps *m_apps; // child
     Settings m_settings = Settings::None;
+    bool m_begun = false;      // something of it has come
+    quint64 m_linkNumber = 0;  // the link that it came by
     bool m_workingOff = false; // all has arrived, the report is due
+    bool m_linkLost = false;   // what has arrived is worked off, and then the run is over
     QTimer m_settingsBound;
 };
 

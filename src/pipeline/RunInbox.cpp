@@ -1,5 +1,7 @@
 #include "pipeline/RunInbox.h"
 
+#include "pipeline/Log.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -28,6 +30,15 @@ bool RunInbox::keep(MessageType type, const QByteArray &payload, RunState run, b
     if (mustWait)
         m_messages.append({type, payload});
     return mustWait;
+}
+
+void RunInbox::trace(MessageType type, qsizetype size)
+{
+    constexpr int TracedMessages = 100;
+    ++m_traced;
+    if (type != MessageType::FileData && (m_traced <= TracedMessages || type == MessageType::FileHeader))
+        qCDebug(logPipeline) << "MSG#" << m_traced << "type:" << Qt::showbase << Qt::hex << int(type)
+                             << Qt::dec << int(type) << "size:" << size;
 }
 
 std::optional<RunMessage> RunInbox::take(RunState run)

@@ -39,10 +39,14 @@ public:
     /// among them, which stands all the same.
     [[nodiscard]] bool drop();
 
+    /// Logs the message, among the first of them or where it begins a file.
+    void trace(Protocol::MessageType type, qsizetype size);
+
     [[nodiscard]] bool isEmpty() const { return m_messages.isEmpty(); }
 
 private:
     QList<RunMessage> m_messages;
+    int m_traced = 0; // messages so far, kept or not
 };
 
 } // namespace Zandrove

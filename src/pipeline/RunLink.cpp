@@ -17,10 +17,18 @@ RunLink RunLink::over(NetworkManager *network)
             guarded->sendCommand(type, payload);
     };
     link.acceptedNumber = [guarded] { return guarded ? guarded->acceptedLink() : 0; };
+    link.peerName = [guarded] { return guarded ? guarded->connectedPC().name : QString(); };
     link.unsentBytes = network->pendingBytes();
     link.resumeReading = [guarded] {
         if (guarded)
             guarded->resumeReading();
+    };
+    link.watch = [guarded](const QObject *context, const std::function<void()> &onChange) {
+        if (!guarded)
+            return;
+        QObject::connect(guarded, &NetworkManager::connected, context, onChange);
+        QObject::connect(guarded, &NetworkManager::disconnected, context, onChange);
+        QObject::connect(guarded, &NetworkManager::connectionFailed, context, onChange);
     };
     link.setGate = [guarded](std::function<bool()> mayRead) {
         if (guarded)

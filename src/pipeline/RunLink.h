@@ -3,10 +3,13 @@
 #include "peer/Protocol.h"
 
 #include <QByteArray>
+#include <QString>
 
 #include <atomic>
 #include <functional>
 #include <memory>
+
+class QObject;
 
 namespace Zandrove {
 
@@ -21,10 +24,15 @@ struct RunLink
     std::function<void(Protocol::MessageType type, const QByteArray &payload)> send = {};
     /// The link that is accepted now: another number for each, 0 while there is none.
     std::function<quint64()> acceptedNumber = {};
+    /// The name of the PC at its other end.
+    std::function<QString()> peerName = {};
     /// Bytes that wait in the socket.
     std::shared_ptr<const std::atomic<qint64>> unsentBytes = {};
     /// Reads what was held back, when the answer of the gate may have changed.
     std::function<void()> resumeReading = {};
+    /// Has `onChange` called, for as long as `context` lives, whenever the answer of `acceptedNumber` may be
+    /// another one: the link is lost, or there is a new one.
+    std::function<void(const QObject *context, std::function<void()> onChange)> watch = {};
     /// Asks `mayRead` before each read of the link; an empty function always reads.
     std::function<void(std::function<bool()> mayRead)> setGate = {};
 
@@ -32,6 +40,7 @@ struct RunLink
     [[nodiscard]] static RunLink over(NetworkManager *network);
 
     [[nodiscard]] quint64 number() const { return acceptedNumber ? acceptedNumber() : 0; }
+    [[nodiscard]] QString peer() const { return peerName ? peerName() : QString(); }
 };
 
 } // namespace Zandrove

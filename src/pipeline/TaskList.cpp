@@ -2,15 +2,16 @@
 
 #include "pipeline/DestinationMap.h"
 #include "pipeline/Log.h"
+#include "platform/FolderEntries.h"
 
+#include <QCoreApplication>
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
-#include <QPair>
-#include <QSet>
+#include <QHash>
 #include <QStandardPaths>
 
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -18,14 +19,97 @@ namespace Zandrove {
 
 namespace {
 
-using PlacedFile = QPair<QString, QString>; // source path, relative path
-
 void logStandardFolders(const StandardFolders &standard)
 {
     qCDebug(logPipeline) << "Standard folders mapping:";
     for (auto entry = standard.cbegin(); entry != standard.cend(); ++entry)
         qCDebug(logPipeline) << "  " << entry.key() << "->" << entry.value().rootWord;
 }
+
+/// Walks the folders and keeps what it has found.
+class TaskListBuilder
+{
+    Q_DECLARE_TR_FUNCTIONS(TaskList)
+
+public:
+    TaskListBuilder(bool placesMayMeet, int &nextTaskId)
+        : m_placesMayMeet(placesMayMeet)
+        , m_nextTaskId(nextTaskId)
+    {
+    }
+
+    void addTop(const QString &folder, const QString &root)
+    {
+        if (QDir(folder).exists())
+            addFolder(folder, root);
+        else
+            m_list.failures.append({folder, tr("Folder not found")});
+    }
+
+    TaskList takeList()
+    {
+        if (m_repeats > 0)
+            qCDebug(logPipeline) << "Left out" << m_repeats
+                                 << "repeats of files that another folder brings to the same place";
+        qCDebug(logPipeline) << "Built task list with" << m_list.tasks.size() << "files";
+        return std::move(m_list);
+    }
+
+private:
+    void addFolder(const QString &folder, const QString &relativePath)
+    {
+        const Platform::FolderEntries found = Platform::folderEntries(folder);
+        for (const QFileInfo &entry : found.entries) {
+            if (entry.isHidden())
+                continue;
+            const QString place = relativePath + u'/' + entry.fileName();
+            if (!entry.isDir() && entry.isFile())
+                addFile(entry, place);
+            else if (entry.isDir() && !entry.isSymLink())
+                addFolder(entry.filePath(), place);
+        }
+        for (const QString &name : found.unreadableNames)
+            m_list.failures.append({QDir(folder).filePath(name), tr("Its name is not valid text")});
+        if (!found.error.isEmpty())
+            m_list.failures.append({folder, tr("Cannot list folder: %1").arg(found.error)});
+    }
+
+    void addFile(const QFileInfo &file, const QString &place)
+    {
+        const QString path = file.filePath();
+        if (place.contains(u'\\')) {
+            const QString reason = tr("Its path contains a backslash, which separates folders on the New PC");
+            m_list.failures.append({path, reason, file.size()});
+            return;
+        }
+        if (m_placesMayMeet) {
+            const QString source = QDir::cleanPath(path);
+            const QString first = m_placed.value(place);
+            if (first == source) {
+                ++m_repeats;
+                return;
+            }
+            if (!first.isEmpty()) {
+                m_list.failures.append(
+                    {path, tr("Another ticked folder has a file of this name"), file.size()});
+                return;
+            }
+            m_placed.insert(place, source);
+        }
+        FileTransferTask task;
+        task.taskId = m_nextTaskId++;
+        task.sourcePath = path;
+        task.relativePath = place;
+        task.fileSize = file.size();
+        m_list.tasks.append(task);
+    }
+
+    bool m_placesMayMeet;
+    int &m_nextTaskId;
+    TaskList m_list;
+    QHash<QString, QString> m_placed; // relative path to source path
+    qsizetype m_repeats = 0;
+};
 
 } // namespace
 
@@ -65,44 +149,16 @@ QString taskRoot(const QString &folderPath, const StandardFolders &standard)
     return isAppPath(name + u'/') ? name + u'_' : name;
 }
 
-QList<FileTransferTask> taskListFor(const QList<FolderInfo> &folders, int &nextTaskId)
+TaskList taskListFor(const QList<FolderInfo> &folders, int &nextTaskId)
 {
     const StandardFolders standard = standardFolders();
     logStandardFolders(standard);
-
-    QList<FileTransferTask> tasks;
-    QSet<PlacedFile> placed;
-    qsizetype repeats = 0;
+    TaskListBuilder builder(folders.size() > 1, nextTaskId);
     for (const FolderInfo &folder : folders) {
-        const QDir directory(folder.path);
-        if (!folder.selected || !directory.exists())
-            continue;
-        const QString root = taskRoot(folder.path, standard);
-        QDirIterator files(folder.path, QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
-        while (files.hasNext()) {
-            const QString path = files.next();
-            const QString relativePath = root + u'/' + directory.relativeFilePath(path);
-            if (folders.size() > 1) {
-                const PlacedFile file(QDir::cleanPath(path), relativePath);
-                if (placed.contains(file)) {
-                    ++repeats;
-                    continue;
-                }
-                placed.insert(file);
-            }
-            FileTransferTask task;
-            task.taskId = nextTaskId++;
-            task.sourcePath = path;
-            task.relativePath = relativePath;
-            task.fileSize = files.fileInfo().size();
-            tasks.append(task);
-        }
+        if (folder.selected)
+            builder.addTop(folder.path, taskRoot(folder.path, standard));
     }
-    if (repeats > 0)
-        qCDebug(logPipeline) << "Left out" << repeats
-                             << "repeats of files that another folder brings to the same place";
-    qCDebug(logPipeline) << "Built task list with" << tasks.size() << "files";
-    return tasks;
+    return builder.takeList();
 }
 
 } // namespace Zandrove

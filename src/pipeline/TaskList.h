@@ -28,9 +28,25 @@ using StandardFolders = QMap<QString, StandardFolder>;
 /// "_".
 [[nodiscard]] QString taskRoot(const QString &folderPath, const StandardFolders &standard);
 
-/// One task for each file below each selected folder that exists, in the order of the file system. Hidden
-/// files are left out and links to folders are not entered. Ids are taken from `nextTaskId`, which moves on.
-/// A file that two folders bring to the same place is taken once.
-[[nodiscard]] QList<FileTransferTask> taskListFor(const QList<FolderInfo> &folders, int &nextTaskId);
+/// Something below a ticked folder that can't be sent.
+struct TaskFailure
+{
+    QString path;     ///< on this PC; with a mark where its name is no text
+    QString reason;   ///< translated
+    qint64 bytes = 0; ///< of a file, where it is known
+};
+
+struct TaskList
+{
+    QList<FileTransferTask> tasks;
+    QList<TaskFailure> failures; ///< what has no task and is not meant to stay behind
+};
+
+/// One task for each file below each selected folder, in the order of the file system. Hidden files are left
+/// out and links to folders are not entered. Ids are taken from `nextTaskId`, which moves on. A file that two
+/// folders bring to the same place is taken once; of two files for one place the first is. The second is a
+/// failure, and so is a folder that can't be listed and a name that can't be told to the other PC. Whether a
+/// file can be read shows only when it is sent.
+[[nodiscard]] TaskList taskListFor(const QList<FolderInfo> &folders, int &nextTaskId);
 
 } // namespace Zandrove

@@ -5,6 +5,8 @@
 #include <QJsonArray>
 #include <QtEndian>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace Zandrove::TransferMessages {
@@ -14,6 +16,32 @@ namespace {
 QJsonObject readObject(const QByteArray &payload)
 {
     return parseJsonObject(payload).value_or(QJsonObject());
+}
+
+QJsonObject namedFile(const FileBatchResult &result)
+{
+    QJsonObject file{
+        {u"taskId"_s, result.taskId}, {u"relativePath"_s, result.relativePath}, {u"error"_s, result.error}};
+    if (result.skipped) {
+        file.insert(u"skipped"_s, true);
+        file.insert(u"identical"_s, result.identical);
+    }
+    if (!result.fullVolume.isEmpty())
+        file.insert(u"fullVolume"_s, result.fullVolume);
+    return file;
+}
+
+Ack::NamedFile readNamedFile(const QJsonObject &object)
+{
+    constexpr qsizetype MaxErrorLength = 1000;
+    constexpr qsizetype MaxVolumeLength = 255;
+    const bool skipped = object.value("skipped"_L1).toBool();
+    return {object.value("taskId"_L1).toInt(),
+            object.value("relativePath"_L1).toString(),
+            object.value("error"_L1).toString().left(MaxErrorLength),
+            skipped,
+            skipped && object.value("identical"_L1).toBool(),
+            object.value("fullVolume"_L1).toString().left(MaxVolumeLength)};
 }
 
 } // namespace
@@ -64,14 +92,16 @@ QByteArray End::toPayload() const
     return compactJson({{u"taskId"_s, taskId},
                         {u"relativePath"_s, relativePath},
                         {u"checksum"_s, qint64(checksum)},
-                        {u"totalSent"_s, totalSent}});
+                        {u"totalSent"_s, totalSent},
+                        {u"changed"_s, changed}});
 }
 
 End End::fromPayload(const QByteArray &payload)
 {
     const QJsonObject object = readObject(payload);
     return {object.value("taskId"_L1).toInt(), object.value("relativePath"_L1).toString(),
-            jsonUInt32(object, u"checksum"_s), jsonSize(object, u"totalSent"_s)};
+            jsonUInt32(object, u"checksum"_s), jsonSize(object, u"totalSent"_s),
+            object.value("changed"_L1).toBool()};
 }
 
 QByteArray ackRequestPayload(const BatchRequest &request)
@@ -85,21 +115,19 @@ QByteArray ackRequestPayload(const BatchRequest &request)
 
 QByteArray ackPayload(int batchId, const QList<FileBatchResult> &results)
 {
-    QJsonArray failed;
+    QJsonArray named;
+    int failedCount = 0;
     for (const FileBatchResult &result : results) {
-        if (!result.success) {
-            failed.append(QJsonObject{{u"taskId"_s, result.taskId},
-                                      {u"relativePath"_s, result.relativePath},
-                                      {u"error"_s, result.error}});
-        }
+        failedCount += result.success ? 0 : 1;
+        if (!result.success || result.skipped)
+            named.append(namedFile(result));
     }
-    const int failedCount = int(failed.size());
     return compactJson({{u"batchId"_s, batchId},
                         {u"isRequest"_s, false},
                         {u"success"_s, failedCount == 0},
                         {u"successCount"_s, int(results.size()) - failedCount},
                         {u"failedCount"_s, failedCount},
-                        {u"failedFiles"_s, failed}});
+                        {u"failedFiles"_s, named}});
 }
 
 Ack Ack::fromPayload(const QByteArray &payload)
@@ -111,10 +139,18 @@ Ack Ack::fromPayload(const QByteArray &payload)
     ack.startTaskId = object.value("startTaskId"_L1).toInt();
     ack.endTaskId = object.value("endTaskId"_L1).toInt();
     ack.success = object.value("success"_L1).toBool();
-    const QJsonArray failed = object.value("failedFiles"_L1).toArray();
-    for (const QJsonValue &file : failed)
-        ack.failedFiles.append(file.toObject().value("relativePath"_L1).toString());
+    const QJsonArray named = object.value("failedFiles"_L1).toArray();
+    for (qsizetype i = 0; i < std::min(named.size(), MaxNamed); ++i)
+        ack.namedFiles.append(readNamedFile(named.at(i).toObject()));
     return ack;
+}
+
+QStringList Ack::namedPaths() const
+{
+    QStringList paths;
+    for (const NamedFile &file : namedFiles)
+        paths.append(file.relativePath);
+    return paths;
 }
 
 QByteArray completePayload(const MigrationReport &report)

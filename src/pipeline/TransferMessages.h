@@ -60,6 +60,7 @@ struct End
     QString relativePath;
     quint32 checksum = 0;
     qint64 totalSent = 0; ///< bytes
+    bool changed = false; ///< it is not the file that it was when reading began, or not all could be read
 
     [[nodiscard]] QByteArray toPayload() const;
     [[nodiscard]] static End fromPayload(const QByteArray &payload);
@@ -74,7 +75,10 @@ struct FileBatchResult
     int taskId = 0;
     QString relativePath;
     bool success = false;
-    QString error; ///< text for the peer, empty on success
+    QString error;          ///< text for the peer, empty on success
+    bool skipped = false;   ///< something stood in its place, and stays there
+    bool identical = false; ///< and has the same content
+    QString fullVolume;     ///< the volume that had no room for it; else empty
 };
 
 /// `FileAck` as an answer.
@@ -83,12 +87,27 @@ struct FileBatchResult
 /// A `FileAck` as it arrives: a request or an answer.
 struct Ack
 {
+    static constexpr qsizetype MaxNamed = 10000; ///< named files that are read; the rest is ignored
+
+    /// A file that didn't arrive.
+    struct NamedFile
+    {
+        int taskId = 0;
+        QString relativePath;
+        QString error;
+        bool skipped = false;   ///< something stood in its place, and stays there
+        bool identical = false; ///< and has the same content
+        QString fullVolume;     ///< the volume that had no room for it; else empty
+    };
+
     bool isRequest = false;
     int batchId = 0;
     int startTaskId = 0;
     int endTaskId = 0;
     bool success = false;
-    QStringList failedFiles; ///< relative paths
+    QList<NamedFile> namedFiles;
+
+    [[nodiscard]] QStringList namedPaths() const;
 
     [[nodiscard]] static Ack fromPayload(const QByteArray &payload);
 };

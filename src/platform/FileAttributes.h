@@ -26,4 +26,16 @@ namespace Zandrove::Platform {
 /// block for ever.
 [[nodiscard]] bool isRegularFile(const QString &path);
 
+/// What changes with every rewriting of a file.
+struct FileStamp
+{
+    qint64 size = 0;     ///< bytes
+    qint64 modified = 0; ///< time of the last change, in the system's own finest unit
+
+    [[nodiscard]] bool operator==(const FileStamp &) const = default;
+};
+
+/// The stamp of the file at `path` (on Windows that of a symbolic link itself); nothing where there is none.
+[[nodiscard]] std::optional<FileStamp> fileStamp(const QString &path);
+
 } // namespace Zandrove::Platform

@@ -10,4 +10,7 @@ namespace Zandrove::Platform {
 /// The system's words for such a number.
 [[nodiscard]] QString errorText(unsigned long code);
 
+/// Whether such a number says that the volume, or the user's share of it, is full.
+[[nodiscard]] bool isVolumeFull(unsigned long code);
+
 } // namespace Zandrove::Platform

@@ -1,6 +1,7 @@
 #include "ui/MainWindow.h"
 
 #include "core/engine/TransferEngine.h"
+#include "ui/LinkWatch.h"
 #include "ui/Log.h"
 #include "ui/ProductDialogs.h"
 #include "ui/Theme.h"
@@ -17,9 +18,22 @@
 #include <QPushButton>
 #include <QStackedWidget>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace Zandrove {
+
+namespace {
+
+LinkWatch::Place placeOf(int page)
+{
+    if (page == MainWindow::PageConnection)
+        return LinkWatch::Place::Connections;
+    return page < MainWindow::PageConnection ? LinkWatch::Place::Elsewhere : LinkWatch::Place::Work;
+}
+
+} // namespace
 
 MainWindow::MainWindow(QWidget *parent, License &license, TransferEngine *engine)
     : QMainWindow(parent)
@@ -83,7 +97,7 @@ bool MainWindow::canGoNext() const
     case PageTransfer:
         return false;
     case PageSelection:
-        return isNewPC() || m_selectionPage->hasSelection();
+        return isNewPC() || (m_selectionPage->hasSelection() && !m_linkWatch->isLost());
     default:
         return true;
     }
@@ -94,6 +108,7 @@ void MainWindow::showPage(int index)
     const QWidget *focused = focusWidget();
     m_currentPage = index;
     m_pageStack->setCurrentIndex(index);
+    m_linkWatch->setPlace(placeOf(index));
     updateNavigation();
     // A control that went out of sight or was disabled has handed the focus to any other.
     if (!focused || focusWidget() != focused)
@@ -169,8 +184,7 @@ void MainWindow::onNextClicked()
             qCDebug(logUi) << "New PC flow: Connection → Transfer (receiving)";
             enterTransferPage();
         } else {
-            qCDebug(logUi) << "Old PC flow: Connection → Scanning";
-            beginScanning();
+            leaveConnections();
         }
         return;
     }
@@ -209,12 +223,22 @@ void MainWindow::onConnected()
     qCDebug(logUi) << "MainWindow::onConnected() - Role:" << roleName(m_engine->role());
     if (m_currentPage == PageConnection) {
         m_engine->stopDiscovery();
-        if (!isNewPC()) {
-            qCDebug(logUi) << "Old PC: Auto-advancing to scanning page";
-            beginScanning();
-        }
+        if (!isNewPC())
+            leaveConnections();
     }
     updateNavigation();
+}
+
+/// On the Old PC: to the scan, or past it where a lost link has left a selection.
+void MainWindow::leaveConnections()
+{
+    if (std::exchange(m_keepsSelection, false)) {
+        m_engine->resetForNewConnection();
+        goToPage(PageSelection);
+        return;
+    }
+    qCDebug(logUi) << "Old PC flow: Connection → Scanning";
+    beginScanning();
 }
 
 void MainWindow::onRequestAutoAdvance()
@@ -325,9 +349,10 @@ void MainWindow::onBackToSelection()
 void MainWindow::resetToRolePage()
 {
     qCDebug(logUi) << "Resetting to role selection page";
+    m_keepsSelection = false;
+    goToPage(PageRole); // where a link that ends is nothing to tell
     m_engine->disconnectFromPeer();
     m_engine->reset();
-    goToPage(PageRole);
     updateNavigation();
 }
 

@@ -14,6 +14,7 @@ namespace Zandrove {
 
 class CompletePage;
 class ConnectionPage;
+class LinkWatch;
 class ProductDialogs;
 class ProgressDots;
 class RolePage;
@@ -29,7 +30,12 @@ class WelcomePage;
 /// pages' wishes and what the peer does. Its only state is the index of the current page; the role is always
 /// the engine's.
 ///
-/// Closing it ends a running transfer without a question.
+/// When the link goes on a page that needs one, both PCs look for each other again at once; the New PC goes
+/// back to the page of connections by itself, the Old PC keeps its selection and comes back to it once the
+/// two are joined.
+///
+/// Closing it in a running transfer asks first, and then cancels that; the end of the system's session
+/// cancels it without a question.
 class MainWindow final : public QMainWindow
 {
     Q_OBJECT
@@ -54,6 +60,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
 
 private Q_SLOTS:
     void onMinimize();
@@ -79,6 +86,7 @@ private:
     void connectTitleBar();
     void connectNavigation();
     void connectPages();
+    void connectLink();
 
     [[nodiscard]] bool isNewPC() const;
     void updateNavigation();
@@ -90,6 +98,7 @@ private:
     void beginOnTransferPage();
     void beginScanning();
     void beginDiscovery();
+    void leaveConnections();
     void resetToRolePage();
     void navigateBack(const QString &pageName);
 
@@ -100,6 +109,9 @@ private:
     void onLocalCancel();
     void onPeerCancelled();
     void onBackToSelection();
+    void onLinkLost();
+    void onLinkRegained();
+    void backToConnections();
     void returnFromCancel(bool waits);
 
     [[nodiscard]] bool ensureRegistered();
@@ -120,7 +132,9 @@ private:
     SelectionPage *m_selectionPage = nullptr;
     TransferPage *m_transferPage = nullptr;
     CompletePage *m_completePage = nullptr;
+    LinkWatch *m_linkWatch = nullptr;
     int m_currentPage = PageWelcome;
+    bool m_keepsSelection = false; ///< Old PC: a link was lost behind the scan
 };
 
 } // namespace Zandrove

@@ -1,7 +1,9 @@
-// MainWindow: how the window is built, wired and painted.
+// MainWindow: how the window is built, wired and painted, and what it does when its link goes or it is
+// closed.
 
 #include "core/common/AppConfig.h"
 #include "core/engine/TransferEngine.h"
+#include "ui/LinkWatch.h"
 #include "ui/MainWindow.h"
 #include "ui/ProductDialogs.h"
 #include "ui/Theme.h"
@@ -14,9 +16,12 @@
 #include "ui/pages/TransferPage.h"
 #include "ui/pages/WelcomePage.h"
 #include "ui/widgets/KeyboardFocus.h"
+#include "ui/widgets/NoticeBar.h"
 #include "ui/widgets/ProgressDots.h"
 
+#include <QCloseEvent>
 #include <QGraphicsDropShadowEffect>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QPainter>
@@ -89,13 +94,17 @@ void MainWindow::setupUi()
     m_pageStack = new QStackedWidget;
     m_pageStack->setObjectName(u"PageStack"_s);
     m_navBar = createNavBar();
+    auto *linkBar = new NoticeBar;
+    m_linkWatch = new LinkWatch(m_engine, linkBar, this);
+    linkBar->setContentsMargins(24, 10, 24, 0);
     auto *contentLayout = new QVBoxLayout(content);
     contentLayout->setContentsMargins(0, 0, 0, 0);
     contentLayout->setSpacing(0);
     // Tab goes by the order of adding: from the end of a page to the navigation and then to the title bar.
     contentLayout->addWidget(m_navBar);
     contentLayout->insertWidget(0, m_titleBar);
-    contentLayout->insertWidget(1, m_pageStack, 1);
+    contentLayout->insertWidget(1, linkBar);
+    contentLayout->insertWidget(2, m_pageStack, 1);
 
     auto *central = new QWidget;
     central->setAttribute(Qt::WA_TranslucentBackground);
@@ -148,6 +157,7 @@ void MainWindow::setupConnections()
     connectTitleBar();
     connectNavigation();
     connectPages();
+    connectLink();
 }
 
 void MainWindow::connectTitleBar()
@@ -185,12 +195,59 @@ void MainWindow::connectPages()
     connect(m_selectionPage, &SelectionPage::selectionChanged, this, &MainWindow::updateNavigation);
     connect(m_scanningPage, &ScanningPage::scanFinished, this, &MainWindow::onScanFinished);
     connect(m_transferPage, &TransferPage::transferFinished, this, &MainWindow::onTransferFinished);
-    connect(m_transferPage, &TransferPage::transferFinishedWithReport, m_completePage,
-            &CompletePage::setReport);
     connect(m_transferPage, &TransferPage::navigateBack, this, &MainWindow::navigateBack);
     connect(m_transferPage, &TransferPage::transferCancelled, this, &MainWindow::onLocalCancel);
     connect(m_engine, &TransferEngine::peerCancelled, this, &MainWindow::onPeerCancelled);
     connect(m_completePage, &CompletePage::backToSelectionRequested, this, &MainWindow::onBackToSelection);
+}
+
+void MainWindow::connectLink()
+{
+    // Queued: the engine is still about to take the link's end in.
+    connect(m_linkWatch, &LinkWatch::lost, this, &MainWindow::onLinkLost, Qt::QueuedConnection);
+    connect(m_linkWatch, &LinkWatch::regained, this, &MainWindow::onLinkRegained);
+    connect(m_linkWatch, &LinkWatch::connectionsWanted, this, &MainWindow::backToConnections);
+    connect(m_linkWatch, &LinkWatch::outcomeWanted, this, [this] { goToPage(PageComplete); });
+    // At once: the system waits for this answer, and for nothing behind it.
+    connect(
+        qGuiApp, &QGuiApplication::commitDataRequest, this, [this] { m_transferPage->cancelRun(); },
+        Qt::DirectConnection);
+}
+
+/// Both PCs look for each other at once; the New PC needs no click to be found again.
+void MainWindow::onLinkLost()
+{
+    if (!m_linkWatch->isLost()) // any more
+        return;
+    m_keepsSelection = m_keepsSelection || (!isNewPC() && m_currentPage >= PageSelection);
+    m_connectionPage->startDiscovery();
+    if (isNewPC() && m_currentPage == PageTransfer)
+        goToPage(PageConnection);
+    updateNavigation();
+}
+
+void MainWindow::onLinkRegained()
+{
+    const bool onTheWay = m_currentPage == PageConnection;
+    if (isNewPC() && !onTheWay)
+        goToPage(PageConnection); // which goes on by itself
+    if (!isNewPC() && m_currentPage == PageTransfer)
+        leaveConnections();
+    if (!onTheWay)
+        m_keepsSelection = false;
+    updateNavigation();
+}
+
+void MainWindow::backToConnections()
+{
+    if (m_currentPage == PageScanning)
+        m_engine->cancelScan();
+    goToPage(PageConnection);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(m_transferPage->letGo());
 }
 
 void MainWindow::paintEvent(QPaintEvent *event)

@@ -73,7 +73,8 @@ void ProductDialogs::restartIn(const QString &language)
         m_window, MainWindow::tr("Language Changed"),
         MainWindow::tr("Language has been changed.\n\nThe application will restart now."));
     QProcess::startDetached(QCoreApplication::applicationFilePath(), QCoreApplication::arguments().mid(1));
-    QCoreApplication::quit();
+    // Not quit(), which asks the window: the other copy is on its way already.
+    QCoreApplication::exit();
 }
 
 } // namespace Zandrove

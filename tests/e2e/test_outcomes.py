@@ -1,6 +1,7 @@
 """What both sides say and do when not everything can go well."""
 
 import os
+import pathlib
 import pty
 import select
 import subprocess
@@ -30,12 +31,11 @@ class Outcomes(pcs.TestCase):
         receiver = self.pair.new.receive("--yes", "--once")
         sender = self.pair.old.send("NewBox", folder)
 
-        # A skipped file is one that did not arrive, so the New PC counts it as failed, too. The Old PC knows
-        # only what it could read.
-        self.assertReport(receiver.wait_for("report"), success=29, failed=1, skipped=1)
-        self.assertReport(sender.wait_for("report"), success=30)
-        self.assertExits(4, receiver)
-        self.assertExits(0, sender)
+        for program in (receiver, sender):
+            report = program.wait_for("report")
+            self.assertReport(report, success=29, skipped=1)
+            self.assertEqual([pathlib.Path(file["path"]).name for file in report["differentFiles"]], ["file 1.bin"])
+            self.assertExits(4, program)
         self.assertEqual(existing.read_bytes(), before)
         copied, source = pcs.tree(self.pair.new.received("things")), pcs.tree(folder)
         del copied["part 1/file 1.bin"], source["part 1/file 1.bin"]
@@ -48,9 +48,9 @@ class Outcomes(pcs.TestCase):
         sender = self.pair.old.send("NewBox", folder, obeys_permissions=True)
 
         self.assertReport(sender.wait_for("report"), success=29, failed=1)
-        self.assertReport(receiver.wait_for("report"), success=29)
+        self.assertReport(receiver.wait_for("report"), success=29, failed=1)  # announced, and never came
         self.assertExits(4, sender)
-        self.assertExits(0, receiver)
+        self.assertExits(4, receiver)
         failed = [event for event in sender.events if event["event"] == "file" and event["status"] == "failed"]
         self.assertEqual([event["name"] for event in failed], ["file 2.bin"])
         self.assertIn("Cannot open file", failed[0]["reason"])

@@ -10,6 +10,7 @@
 #include "inventory/SettingScanner.h"
 #include "peer/NetworkManager.h"
 #include "support/Utilities.h"
+#include "ui/LinkWatch.h"
 #include "ui/MainWindow.h"
 #include "ui/TitleBar.h"
 #include "ui/pages/ConnectionPage.h"
@@ -111,15 +112,27 @@ struct Stage
     void transferSome(int role)
     {
         transfer(role);
-        for (const char *done :
-             {"Documents/letter.odt", "Documents/Größe ä ö ü.txt", "Pictures/写真 2024.jpg"}) {
-            Q_EMIT engine->fileTransferStarted(QString::fromUtf8(done));
-            Q_EMIT engine->fileTransferCompleted(QString::fromUtf8(done));
-        }
-        Q_EMIT engine->fileTransferStarted(u"Pictures/locked.raw"_s);
-        Q_EMIT engine->fileTransferFailed(u"Pictures/locked.raw"_s, u"unreadable"_s);
-        Q_EMIT engine->fileTransferStarted(u"Videos/<b>holiday</b> in the mountains.mp4"_s);
-        Q_EMIT engine->fileTransferProgress(u"Videos/<b>holiday</b> in the mountains.mp4"_s, 60);
+        settle(); // without a link it has failed by now
+        window.findChild<TransferPage *>()->resetForNewTransfer();
+        const auto send = [this](const QString &name) {
+            Q_EMIT engine->fileTransferStarted(name);
+            Q_EMIT engine->fileTransferCompleted(name);
+        };
+        const auto tell = [this](const QString &name, ItemOutcome outcome, const QString &reason = {}) {
+            Q_EMIT engine->itemSettled(
+                {ItemKind::File, outcome, u"/home/anna/Pictures/"_s + name, reason, 1});
+        };
+        send(u"letter.odt"_s);
+        tell(u"letter.odt"_s, ItemOutcome::Arrived);
+        send(u"taxes.ods"_s);
+        tell(u"taxes.ods"_s, ItemOutcome::WasDifferent);
+        send(u"写真 2024.jpg"_s);
+        tell(u"写真 2024.jpg"_s, ItemOutcome::WasThere);
+        tell(u"locked.raw"_s, ItemOutcome::Failed,
+             u"No access: the file belongs to another user, and what keeps it goes on for long"_s);
+        send(u"Größe ä ö ü.txt"_s);
+        Q_EMIT engine->fileTransferStarted(u"<b>holiday</b> in the mountains.mp4"_s);
+        Q_EMIT engine->fileTransferProgress(u"<b>holiday</b> in the mountains.mp4"_s, 60);
         TransferProgress progress;
         progress.overallPercent = 42;
         progress.bytesPerSecond = 58.3 * 1024 * 1024;
@@ -130,10 +143,14 @@ struct Stage
         Q_EMIT engine->transferProgressChanged(progress);
     }
 
-    void finish(int role, const MigrationReport &report)
+    void finish(int role, const RunSummary &summary)
     {
         transferSome(role);
-        Q_EMIT engine->transferCompleted(report);
+        if (summary.end == RunEnd::Complete)
+            Q_EMIT engine->transferCompleted({});
+        Q_EMIT engine->runEnded(summary);
+        if (summary.end == RunEnd::LinkLost)
+            Q_EMIT engine->disconnected();
     }
 
     /// Finds a PC whose user does not answer, and picks it.
@@ -194,23 +211,45 @@ ScanResult Stage::scanResult()
     return result;
 }
 
-MigrationReport goodReport()
+RunSummary goodSummary(RunEnd end = RunEnd::Complete)
 {
-    MigrationReport report;
-    report.filesSuccess = 1834;
-    report.appsSuccess = 12;
-    report.settingsSuccess = 7;
-    return report;
+    RunSummary summary;
+    summary.end = end;
+    summary.ownName = u"ANNAS-LAPTOP"_s;
+    summary.peerName = u"NEWBOX"_s;
+    summary.startTime = QDateTime(QDate(2026, 11, 20), QTime(14, 12));
+    summary.endTime = summary.startTime.addSecs(4000);
+    summary.files.arrived = 1834;
+    summary.apps.arrived = 12;
+    summary.settings.arrived = 7;
+    return summary;
 }
 
-MigrationReport reportWithFolders()
+RunSummary summaryWithFailures(int role, RunEnd end = RunEnd::Complete)
 {
-    MigrationReport report = goodReport();
-    const auto addFolder = [&report](const QString &name, const QString &path, int count,
-                                     const QString &sample) {
-        report.savedFolderPaths[name] = path;
-        report.savedFolderCounts[name] = count;
-        report.savedFolderSamples[name] = sample;
+    RunSummary summary = goodSummary(end);
+    summary.role = role;
+    summary.files = {1834, 21, 2, 1204, 3, 0};
+    summary.apps.failed = 1;
+    summary.fullVolumes = {{u"D:"_s, u"NEWBOX"_s, 1204, 3100LL << 20}};
+    for (int index = 1; index <= 1207; ++index)
+        summary.notArrived.append({ItemKind::File, ItemOutcome::Failed,
+                                   u"C:/Users/anna/Pictures/Holiday in the mountains/IMG %1.jpg"_s.arg(index),
+                                   u"no space left"_s, 1});
+    summary.notArrived.append({ItemKind::Application, ItemOutcome::Failed, u"Photo Workshop"_s,
+                               u"can't be written: photo.dll"_s, 0});
+    summary.different = {{ItemKind::File, ItemOutcome::WasDifferent, u"C:/Users/anna/taxes.ods"_s, {}, 1}};
+    return summary;
+}
+
+RunSummary summaryWithFolders()
+{
+    RunSummary summary = goodSummary();
+    const auto addFolder = [&summary](const QString &name, const QString &path, int count,
+                                      const QString &sample) {
+        summary.savedFolderPaths[name] = path;
+        summary.savedFolderCounts[name] = count;
+        summary.savedFolderSamples[name] = sample;
     };
     addFolder(u"Documents"_s, u"C:/Users/anna/Documents"_s, 1204,
               u"(letter.odt, taxes.ods, notes.txt, ...)"_s);
@@ -219,7 +258,7 @@ MigrationReport reportWithFolders()
               u"C:/Users/anna/Downloads/Zandrove/a folder that lies deep down/and deeper still/in a tree of "
               "folders/that goes on and on/Projects"_s,
               19, QString());
-    return report;
+    return summary;
 }
 
 struct Scene
@@ -301,7 +340,33 @@ QList<Scene> transferScenes(int role)
         running(u"running"_s, Nothing),
         running(u"paused"_s, [](Stage &stage) { Q_EMIT stage.engine->pausedByPeer(); }),
         running(u"failed"_s,
-                [](Stage &stage) { Q_EMIT stage.engine->transferFailed(u"the peer is gone"_s); }),
+                [](Stage &stage) {
+                    Q_EMIT stage.engine->transferFailed(
+                        TransferEngine::tr("Cannot start transfer. Check connection and selection."));
+                }),
+        running(u"silent"_s, [](Stage &stage) { Q_EMIT stage.engine->linkSilent(20); }),
+        running(u"installing"_s,
+                [role](Stage &stage) {
+                    if (role == NewPC)
+                        Q_EMIT stage.engine->spaceShort(81LL << 30, 3LL << 30, u"D:"_s);
+                    Q_EMIT stage.engine->installing(u"Acme Writer"_s, 40);
+                }),
+        {u"5-transfer-%1-link-lost"_s.arg(pc),
+         [role](Stage &stage) { stage.finish(role, summaryWithFailures(role, RunEnd::LinkLost)); }},
+        running(u"close-question"_s,
+                [](Stage &stage) {
+                    stage.settle();
+                    stage.window.close();
+                }),
+        {u"6-complete-%1-failures"_s.arg(pc),
+         [role](Stage &stage) { stage.finish(role, summaryWithFailures(role)); }},
+        {u"6-complete-%1-link-lost"_s.arg(pc),
+         [role](Stage &stage) {
+             stage.finish(role, summaryWithFailures(role, RunEnd::LinkLost));
+             stage.settle();
+             stage.view.click(LinkWatch::tr("Back to connections"));
+             stage.view.click(LinkWatch::tr("Show report"));
+         }},
         running(u"cancel-question"_s, [](Stage &stage) { stage.view.click(TransferPage::tr("Cancel")); }),
         running(u"cancelled-by-peer"_s, [](Stage &stage) { Q_EMIT stage.engine->peerCancelled(); }),
     };
@@ -334,10 +399,15 @@ QList<Scene> scenes()
             u"4-selection-files"_s, [](Stage &stage) { showTab(stage, 1); },
             [](Stage &stage) { stage.view.clickListEntry(FileBrowserWidget::tr("My Documents")); }),
         {u"4-selection-settings"_s, [](Stage &stage) { showTab(stage, 2); }},
+        scene(u"4-selection-link-lost"_s, select,
+              [](Stage &stage) {
+                  stage.view.click(u"Photo Workshop"_s);
+                  Q_EMIT stage.engine->disconnected();
+              }),
         scene(u"4-selection-empty"_s, select, [](Stage &stage) { Q_EMIT stage.engine->scanCompleted({}); }),
-        {u"6-complete-old"_s, [](Stage &stage) { stage.finish(OldPC, goodReport()); }},
-        {u"6-complete-new-folders"_s, [](Stage &stage) { stage.finish(NewPC, reportWithFolders()); }},
-        {u"6-complete-new-no-folders"_s, [](Stage &stage) { stage.finish(NewPC, {}); }},
+        {u"6-complete-old"_s, [](Stage &stage) { stage.finish(OldPC, goodSummary()); }},
+        {u"6-complete-new-folders"_s, [](Stage &stage) { stage.finish(NewPC, summaryWithFolders()); }},
+        {u"6-complete-new-no-folders"_s, [](Stage &stage) { stage.finish(NewPC, goodSummary()); }},
     };
     for (int role : {OldPC, NewPC})
         scenes += connectionScenes(role) + transferScenes(role);

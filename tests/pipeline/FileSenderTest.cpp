@@ -179,6 +179,22 @@ private Q_SLOTS:
         QCOMPARE(m_completed->size(), 0);
     }
 
+    void fileThatChangesMeanwhileHasFailed()
+    {
+        answerBatches(true);
+        const FileTransferTask task = taskFor(u"a"_s, "abc");
+        onMessage([&task](MessageType type, const QByteArray &) {
+            if (type == MessageType::FileData)
+                writeFile(task.sourcePath, "other words");
+        });
+        QSignalSpy failed(m_sender.get(), &FileSenderWorker::taskFailed);
+        QSignalSpy ended(m_sender.get(), &FileSenderWorker::fileEndSent);
+        m_sender->startSending({task, taskFor(u"b"_s, "abc")});
+        QCOMPARE(failed, (QList<QVariantList>{{0, u"Changed while it was sent"_s}}));
+        QCOMPARE(ended, (QList<QVariantList>{{0, true}, {1, false}}));
+        QCOMPARE(json(m_sent[MessageType::FileEnd].first()).value(u"changed"_s), QJsonValue(true));
+    }
+
     void cancelWakesAWaitingBatch()
     {
         std::atomic<bool> asked = false;

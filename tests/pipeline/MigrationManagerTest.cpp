@@ -62,7 +62,13 @@ class MigrationManagerTest : public QObject
         peer(MessageType::FileEnd,
              TransferMessages::End{taskId, relativePath, checksumOf(content), content.size()}.toPayload());
     }
-    [[nodiscard]] bool isThere(const QString &name) const { return QFile::exists(m_root->filePath(name)); }
+    /// Under its own name or a temporary one.
+    [[nodiscard]] bool isThere(const QString &name) const
+    {
+        return !QDir(m_root->path())
+                    .entryList({name, u".%1.*"_s.arg(name)}, QDir::Files | QDir::Hidden)
+                    .isEmpty();
+    }
 
     /// The folder that this PC sends.
     [[nodiscard]] QList<FolderInfo> chosenFolder()

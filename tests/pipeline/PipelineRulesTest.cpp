@@ -7,6 +7,7 @@
 #include "pipeline/FileReceiverWorker.h"
 #include "pipeline/TaskList.h"
 
+#include <QProcess>
 #include <QStandardPaths>
 
 #include <limits>
@@ -124,9 +125,12 @@ private Q_SLOTS:
         Plan plan;
         QCOMPARE(plan.after(10, false), QString());
         QCOMPARE(plan.after(BatchPlanner::SingleFileBytes, false), u"1: 0-1, 1073741834 bytes"_s);
+        QVERIFY(!plan.planner.cutBefore(BatchPlanner::SingleFileBytes + 1)); // no batch is open
         QCOMPARE(plan.after(10, false), QString());
-        QCOMPARE(plan.after(BatchPlanner::SingleFileBytes + 1, true), u"2: 3-3, 1073741825 bytes alone"_s);
-        QCOMPARE(plan.after(1, true), u"3: 4-4, 1 bytes"_s);
+        const auto cut = plan.planner.cutBefore(BatchPlanner::SingleFileBytes + 1);
+        QVERIFY(cut && cut->startTaskId == 2 && cut->endTaskId == 2 && cut->bytes == 10 && !cut->waits);
+        QCOMPARE(plan.after(BatchPlanner::SingleFileBytes + 1, true), u"3: 3-3, 1073741825 bytes alone"_s);
+        QCOMPARE(plan.after(1, true), u"4: 4-4, 1 bytes"_s);
     }
 
     void ackTimeoutGrowsWithTheBatch()
@@ -173,10 +177,16 @@ private Q_SLOTS:
             info.selected = selected;
             return info;
         };
+        writeFile(scratch.filePath(u"other/Photos/a.jpg"_s), "another");
         int nextTaskId = 5;
-        const auto tasks = taskListFor({folder(top), folder(top), folder(top + u"/2020"_s),
-                                        folder(top, false), folder(top + u"/missing"_s)},
-                                       nextTaskId);
+        const auto [tasks, failures] =
+            taskListFor({folder(top), folder(top), folder(top + u"/2020"_s), folder(top, false),
+                         folder(top + u"/missing"_s), folder(scratch.filePath(u"other/Photos"_s))},
+                        nextTaskId);
+        QCOMPARE(failures.size(), 2);
+        QCOMPARE(failures.first().path, top + u"/missing"_s);
+        QCOMPARE(failures.last().path, scratch.filePath(u"other/Photos/a.jpg"_s));
+        QCOMPARE(failures.last().reason, u"Another ticked folder has a file of this name"_s);
         QStringList places;
         QList<int> ids;
         for (const FileTransferTask &task : tasks) {
@@ -190,6 +200,38 @@ private Q_SLOTS:
         places.sort();
         QCOMPARE(places, (QStringList{u"2020/b.jpg"_s, u"Photos/2020/b.jpg"_s, u"Photos/a.jpg"_s}));
         QCOMPARE(nextTaskId, 8);
+    }
+
+    void whatCannotBeSentIsAFailure()
+    {
+        if (!canLink() || QFile::encodeName(u"\u00e4"_s).size() != 2)
+            QSKIP("names are no bytes here");
+        const QTemporaryDir scratch;
+        writeFile(scratch.filePath(u"good"_s), "x");
+        writeFile(scratch.filePath(u"back\\slash"_s), "xy");
+        QVERIFY(QProcess::execute(u"sh"_s, {u"-c"_s,
+                                            u"cd \"$1\" && : > \"$(printf 'b\\344d')\" && mkdir locked && "
+                                            "chmod 0 locked && ln -s missing broken && mkfifo pipe"_s,
+                                            u"sh"_s, scratch.path()}) == 0);
+        FolderInfo folder;
+        folder.path = scratch.path();
+        folder.selected = true;
+        int nextTaskId = 0;
+        const auto [tasks, failures] = taskListFor({folder}, nextTaskId);
+        QCOMPARE(tasks.size(), 1);
+        QStringList names;
+        for (const TaskFailure &failure : failures)
+            names.append(QFileInfo(failure.path).fileName());
+        names.sort();
+        QStringList expected{u"back\\slash"_s,
+                             u"b\ufffd"
+                             "d"_s,
+                             u"locked"_s};
+        if (QDir(scratch.filePath(u"locked"_s)).isReadable())
+            expected.removeLast(); // nothing is locked for this user
+        QCOMPARE(names, expected);
+        QFile::setPermissions(scratch.filePath(u"locked"_s),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 
     void filesAreFiledByTheirFirstFolder()
@@ -247,12 +289,13 @@ private Q_SLOTS:
 
     void conflicts_data()
     {
-        addColumns<QString, int, QString, bool>("name", "policy", "result", "stays");
-        const auto row = [](const char *what, const QString &name, int policy, const QString &result,
-                            bool stays = true) { QTest::newRow(what) << name << policy << result << stays; };
+        addColumns<QString, int, QString>("name", "policy", "result");
+        const auto row = [](const char *what, const QString &name, int policy, const QString &result) {
+            QTest::newRow(what) << name << policy << result;
+        };
         const int rename = int(ConflictPolicy::Rename);
         row("skip", u"report.pdf"_s, int(ConflictPolicy::Skip), {});
-        row("overwrite", u"report.pdf"_s, int(ConflictPolicy::Overwrite), u"report.pdf"_s, false);
+        row("overwrite", u"report.pdf"_s, int(ConflictPolicy::Overwrite), u"report.pdf"_s);
         row("rename", u"report.pdf"_s, rename, u"report_1.pdf"_s);
         row("rename, no suffix", u"LICENSE"_s, rename, u"LICENSE_1"_s);
         row("rename, two suffixes", u"archive.tar.gz"_s, rename, u"archive.tar_1.gz"_s);
@@ -269,7 +312,7 @@ private Q_SLOTS:
         const QString file = writeFile(folder.filePath(name), "x");
         writeFile(folder.filePath(u"taken_1.txt"_s), "x");
         QCOMPARE(resolveConflict(file, policy), result.isEmpty() ? result : folder.filePath(result));
-        QTEST(QFile::exists(file), "stays");
+        QCOMPARE(contentOf(file), "x"); // what is replaced stays until the other is whole
     }
 
     void hostileNumbersReadAsBounds_data()

@@ -23,7 +23,9 @@ NAMES_THAT_STAY = {
     # Names inside the program.
     "SelectionPage", "WaitingPage", "THIS_PC",
     # Style sheet selectors, one of them by the English text of a button.
-    "QCheckBox::indicator", "QTreeView::indicator", "Yes, Cancel", "Continue Transfer",
+    "QCheckBox::indicator", "QTreeView::indicator", "Yes, Cancel", "Continue Transfer", "Cancel and Close",
+    # The form of a time in a file name.
+    " yyyy-MM-dd HHmm",
 }
 
 TRANSLATED = {"tr", "translate", "QT_TR_NOOP", "QT_TRANSLATE_NOOP"}

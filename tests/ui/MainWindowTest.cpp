@@ -180,6 +180,50 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(view().page(), int(MainWindow::PageSelection), 20'000);
     }
 
+    void lostLinkKeepsTheSelection()
+    {
+        RunSummary lost;
+        lost.end = RunEnd::LinkLost;
+        lost.peerName = u"NEWBOX"_s;
+        lost.files = {12, 0, 0, 1, 27, 0};
+        const QString line =
+            u"The connection to NEWBOX is lost. 12 of 40 files arrived; nothing was deleted on the Old PC."_s;
+        for (const int role : {OldPC, NewPC}) {
+            makeWindow(License::ofThisCopy());
+            offerOneSetting();
+            walkTo(MainWindow::PageTransfer, role);
+            const QSignalSpy searches(m_engine, &TransferEngine::discoveryStarted);
+            Q_EMIT m_engine->runEnded(lost);
+            Q_EMIT m_engine->disconnected();
+            QCoreApplication::processEvents();
+            QVERIFY(view().texts().contains(line));
+            QVERIFY(!searches.isEmpty());
+            if (role == OldPC)
+                QVERIFY(!view().control(u"Pause"_s) && view().click(u"Back to connections"_s));
+            QCOMPARE(view().page(), int(MainWindow::PageConnection));
+            Q_EMIT m_engine->connected();
+            QTRY_COMPARE(view().page(),
+                         int(role == OldPC ? MainWindow::PageSelection : MainWindow::PageTransfer));
+            QVERIFY(!view().texts().contains(line));
+            if (role == OldPC)
+                QVERIFY(the<SettingListItem>().isChecked() && view().control(u"Next"_s)->isEnabled());
+        }
+    }
+
+    void closingAsksInARun()
+    {
+        walkTo(MainWindow::PageTransfer, NewPC);
+        m_engine->startReceiving();
+        Q_EMIT m_engine->fileTransferStarted(u"a"_s);
+        QCoreApplication::processEvents();
+        const QSignalSpy cancelled(m_engine, &TransferEngine::transferCancelled);
+        for (const QString &answer : {u"Continue Transfer"_s, u"Cancel and Close"_s}) {
+            QTimer::singleShot(0, this, [this, &answer] { view().click(answer); });
+            QCOMPARE(m_window->close(), answer != "Continue Transfer"_L1);
+            QCOMPARE(cancelled.count(), answer != "Continue Transfer"_L1 ? 1 : 0);
+        }
+    }
+
     void unregisteredCopyDoesNotSend()
     {
         UnregisteredCopy license;

@@ -196,7 +196,7 @@ struct TransferFileInfo
 /// What the New PC does with a file whose destination exists already.
 enum class ConflictPolicy : int {
     Skip = 0,      ///< leave the existing file alone
-    Overwrite = 1, ///< remove it first
+    Overwrite = 1, ///< replace it
     Rename = 2,    ///< take the first free "name_N.suffix"
 };
 

@@ -82,6 +82,8 @@ void TransferEngine::setupLinkConnections()
     connect(m_networkManager, &Net::connected, this, &TransferEngine::onConnected);
     connect(m_networkManager, &Net::disconnected, this, &TransferEngine::onDisconnected);
     connect(m_networkManager, &Net::connectionFailed, this, &TransferEngine::onConnectionFailed);
+    connect(m_networkManager, &Net::linkSilent, this, &TransferEngine::linkSilent);
+    connect(m_networkManager, &Net::linkAnswers, this, &TransferEngine::linkAnswers);
     connect(m_networkManager, &Net::connectionTimeout, this, &TransferEngine::onConnectionTimeout);
     connect(m_networkManager, &Net::connectionRequested, this, &TransferEngine::connectionRequested);
     connect(m_networkManager, &Net::directScanStarted, this, &TransferEngine::directScanStarted);
@@ -122,17 +124,13 @@ void TransferEngine::setupMigrationConnections()
     connect(m_migrationManager, &Run::fileTransferProgress, this, &TransferEngine::onFileTransferProgress);
     connect(m_migrationManager, &Run::fileTransferCompleted, this, &TransferEngine::onFileTransferCompleted);
     connect(m_migrationManager, &Run::fileTransferFailed, this, &TransferEngine::onFileTransferFailed);
-    connect(m_migrationManager, &Run::appOutcome, this,
-            [this](const QString &name, bool success, const QString &error) {
-                noteItem(ItemKind::Application, name, success, error);
-                Q_EMIT appOutcome(name, success, error);
-            });
-    connect(m_migrationManager, &Run::settingOutcome, this,
-            [this](const QString &name, bool success, const QString &error) {
-                noteItem(ItemKind::Setting, name, success, error);
-                Q_EMIT settingOutcome(name, success, error);
-            });
+    connect(m_migrationManager, &Run::appOutcome, this, &TransferEngine::appOutcome);
+    connect(m_migrationManager, &Run::settingOutcome, this, &TransferEngine::settingOutcome);
     connect(m_migrationManager, &Run::settingsFinished, this, &TransferEngine::settingsFinished);
+    connect(m_migrationManager, &Run::itemSettled, this, &TransferEngine::itemSettled);
+    connect(m_migrationManager, &Run::runEnded, this, &TransferEngine::onRunEnded);
+    connect(m_migrationManager, &Run::spaceShort, this, &TransferEngine::spaceShort);
+    connect(m_migrationManager, &Run::installing, this, &TransferEngine::installing);
 }
 
 void TransferEngine::setRole(int role)

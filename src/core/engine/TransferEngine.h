@@ -24,8 +24,7 @@ class SettingScanner;
 /// `connectionFailed` for pairing, `scanFailed` and `transferFailed` for a scan and a transfer that cannot
 /// start, `error` and `warning` for the rest. A scan that started ends by `scanCompleted` or `scanCancelled`.
 /// A transfer that started ends by `transferCompleted`, `transferCancelled` (here), `peerCancelled` or
-/// `transferReset` (there). It does not end by itself when the link goes, which `disconnected` tells, or
-/// `connectionFailed` where the link ended in an error: cancel or reset it then.
+/// `transferReset` (there), and in any case, also when the link is lost, by `runEnded`.
 class TransferEngine : public QObject
 {
     Q_OBJECT
@@ -92,8 +91,8 @@ public:
     /// downloads.
     [[nodiscard]] QString destinationRoot() const { return m_destinationRoot; }
 
-    /// Sends the selection. Emits `transferStarted`, or `transferFailed` when there is no peer, nothing
-    /// selected, or a scan under way.
+    /// Sends the selection. Emits `transferStarted`, or `transferFailed` when no peer is accepted,
+    /// nothing selected, or a scan under way.
     void startTransfer();
     /// Waits, as the New PC, for what the peer sends. Emits `transferStarted`, and again whenever it waits
     /// anew by itself, behind a run that was called off or reset, for as long as the session lasts.
@@ -112,7 +111,7 @@ public:
     [[nodiscard]] TransferProgress progress() const { return m_progress; }
     [[nodiscard]] MigrationReport report() const { return m_report; }
     /// The running or the last run, as its user is to be told of it.
-    [[nodiscard]] RunSummary summary() const { return m_summary; }
+    [[nodiscard]] RunSummary summary() const;
 
     /// Back to the very start: ends everything, disconnects, clears all state.
     void reset();
@@ -235,10 +234,7 @@ private:
     void onPeerCancelled();
     void onTransferReset();
     void setPausedByPeer(bool paused);
-    void beginSummary();
-    void noteItem(ItemKind kind, const QString &name, bool success, const QString &error);
-    void noteReport(const MigrationReport &report);
-    void endRun(RunEnd end);
+    void onRunEnded(const RunSummary &summary);
     void clearAll();
 
     NetworkManager *m_networkManager = nullptr;
@@ -255,7 +251,6 @@ private:
     ScanResult m_scanResult;
     TransferProgress m_progress;
     MigrationReport m_report;
-    RunSummary m_summary;
     QString m_verifyCode;
     bool m_scanning = false;
     int m_completedScans = 0; // scanners that are through, 0 to 4

@@ -165,8 +165,6 @@ void TransferEngine::onConnected()
 void TransferEngine::onDisconnected()
 {
     m_connectedPC = PCInfo();
-    if (m_role == OldPC && m_transferring)
-        endRun(RunEnd::LinkLost);
     Q_EMIT disconnected();
     Q_EMIT info(tr("Disconnected"));
     Q_EMIT stateChanged();

@@ -4,7 +4,6 @@
 #include "core/engine/TransferEngine.h"
 #include "peer/NetworkManager.h"
 #include "pipeline/MigrationManager.h"
-#include "support/Utilities.h"
 
 #include <QFileInfo>
 
@@ -97,48 +96,20 @@ void TransferEngine::beginTransfer()
     m_paused = false;
     m_report = MigrationReport();
     m_report.startTime = QDateTime::currentDateTime();
-    beginSummary();
 }
 
-void TransferEngine::beginSummary()
+RunSummary TransferEngine::summary() const
 {
-    m_summary = RunSummary();
-    m_summary.role = m_role;
-    m_summary.ownName = getComputerName();
-    m_summary.peerName = m_connectedPC.name;
-    m_summary.startTime = QDateTime::currentDateTime();
+    return m_migrationManager->summary();
 }
 
-void TransferEngine::noteItem(ItemKind kind, const QString &name, bool success, const QString &error)
+void TransferEngine::onRunEnded(const RunSummary &summary)
 {
-    const ItemResult item{kind, success ? ItemOutcome::Arrived : ItemOutcome::Failed, name, error, 0};
-    OutcomeCounts &counts = kind == ItemKind::Application ? m_summary.apps : m_summary.settings;
-    ++(success ? counts.arrived : counts.failed);
-    m_summary.items.append(item);
-    if (!success)
-        m_summary.notArrived.append(item);
-    Q_EMIT itemSettled(item);
-}
-
-void TransferEngine::noteReport(const MigrationReport &report)
-{
-    m_summary.startTime = report.startTime;
-    m_summary.files.arrived = report.filesSuccess;
-    m_summary.files.failed = report.filesFailed;
-    m_summary.files.wasThere = report.filesSkipped;
-    m_summary.arrivedBytes = report.totalBytes;
-    m_summary.savedFolderPaths = report.savedFolderPaths;
-    m_summary.savedFolderCounts = report.savedFolderCounts;
-    m_summary.savedFolderSamples = report.savedFolderSamples;
-}
-
-void TransferEngine::endRun(RunEnd end)
-{
-    if (m_summary.end != RunEnd::Running || !m_summary.startTime.isValid())
-        return;
-    m_summary.end = end;
-    m_summary.endTime = QDateTime::currentDateTime();
-    Q_EMIT runEnded(m_summary);
+    if (summary.end == RunEnd::LinkLost) {
+        m_transferring = false;
+        m_paused = false;
+    }
+    Q_EMIT runEnded(summary);
 }
 
 void TransferEngine::configureMigration(int role)
@@ -155,7 +126,7 @@ void TransferEngine::startTransfer()
         Q_EMIT warning(tr("Transfer already in progress"));
         return;
     }
-    if (!isConnected() || m_scanning || selectedCount() == 0) {
+    if (!m_networkManager->isAccepted() || m_scanning || selectedCount() == 0) {
         Q_EMIT transferFailed(tr("Cannot start transfer. Check connection and selection."));
         return;
     }
@@ -233,7 +204,6 @@ void TransferEngine::cancelTransfer()
     m_transferring = false;
     m_paused = false;
     Q_EMIT transferCancelled();
-    endRun(RunEnd::CancelledHere);
     Q_EMIT info(tr("Transfer cancelled"));
 }
 
@@ -260,9 +230,6 @@ void TransferEngine::onPeerCancelled()
     if (m_role == OldPC)
         m_transferring = false;
     Q_EMIT peerCancelled();
-    endRun(RunEnd::CancelledThere);
-    if (m_role == NewPC)
-        beginSummary();
 }
 
 void TransferEngine::onTransferReset()
@@ -294,9 +261,7 @@ void TransferEngine::onMigrationCompleted(const MigrationReport &report)
     m_report = report;
     m_report.endTime = QDateTime::currentDateTime();
     m_transferring = false;
-    noteReport(report);
     Q_EMIT transferCompleted(report);
-    endRun(RunEnd::Complete);
     Q_EMIT info(
         tr("Transfer completed - Success rate: %1%").arg(QString::number(successRate(report), 'f', 1)));
     Q_EMIT stateChanged();

@@ -38,4 +38,13 @@ bool isRegularFile(const QString &path)
     return QFileInfo(path).isFile();
 }
 
+std::optional<FileStamp> fileStamp(const QString &path)
+{
+    constexpr qint64 Nanoseconds = 1000000000;
+    struct stat status = {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return std::nullopt;
+    return FileStamp{status.st_size, status.st_mtim.tv_sec * Nanoseconds + status.st_mtim.tv_nsec};
+}
+
 } // namespace Zandrove::Platform

@@ -14,4 +14,9 @@ QString errorText(unsigned long code)
     return qt_error_string(static_cast<int>(code));
 }
 
+bool isVolumeFull(unsigned long code)
+{
+    return code == ENOSPC || code == EDQUOT;
+}
+
 } // namespace Zandrove::Platform

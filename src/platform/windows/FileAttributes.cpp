@@ -30,6 +30,11 @@ bool isUnsafeName(const QString &name)
     return name.endsWith(u'.') || name.endsWith(u' ') || isDeviceName(name);
 }
 
+qint64 joined(DWORD high, DWORD low)
+{
+    return qint64(quint64(high) << 32 | low);
+}
+
 std::optional<WIN32_FILE_ATTRIBUTE_DATA> attributesOf(const QString &path)
 {
     WIN32_FILE_ATTRIBUTE_DATA data = {};
@@ -64,13 +69,22 @@ std::optional<qint64> realFileSize(const QString &path)
     const auto data = attributesOf(path);
     if (!data || (data->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
         return std::nullopt;
-    return qint64(quint64(data->nFileSizeHigh) << 32 | data->nFileSizeLow);
+    return joined(data->nFileSizeHigh, data->nFileSizeLow);
 }
 
 bool isRegularFile(const QString &path)
 {
     const auto data = attributesOf(path);
     return data && (data->dwFileAttributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_DEVICE)) == 0;
+}
+
+std::optional<FileStamp> fileStamp(const QString &path)
+{
+    const auto data = attributesOf(path);
+    if (!data)
+        return std::nullopt;
+    return FileStamp{joined(data->nFileSizeHigh, data->nFileSizeLow),
+                     joined(data->ftLastWriteTime.dwHighDateTime, data->ftLastWriteTime.dwLowDateTime)};
 }
 
 } // namespace Zandrove::Platform

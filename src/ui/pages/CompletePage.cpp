@@ -2,9 +2,11 @@
 
 #include "core/engine/TransferEngine.h"
 #include "support/PrintableText.h"
+#include "support/RunTexts.h"
 #include "ui/Theme.h"
 #include "ui/widgets/ElidedLabel.h"
 #include "ui/widgets/Labels.h"
+#include "ui/widgets/MissingItems.h"
 #include "ui/widgets/StatCard.h"
 
 #include <QDesktopServices>
@@ -44,15 +46,30 @@ QHBoxLayout *makeBoxLayout(QWidget *box)
     return layout;
 }
 
-QLabel *makeCircle()
+/// The sign of a run: done, or something to look at.
+void showCircle(QLabel *circle, bool done)
 {
     constexpr int Diameter = 72;
-    QLabel *circle = makeLabel(u"✓"_s, 36, Theme::Colour::Success);
-    circle->setStyleSheet(circle->styleSheet() +
-                          Theme::boxStyle("QLabel"_L1, Theme::Colour::SuccessSoftTint, Diameter / 2));
+    using namespace Theme::Colour;
+    circle->setText(done ? u"✓"_s : u"!"_s);
+    circle->setStyleSheet(Theme::textStyle(36, done ? Success : AmberText) +
+                          Theme::boxStyle("QLabel"_L1, done ? SuccessSoftTint : Amber, Diameter / 2));
     circle->setFixedSize(Diameter, Diameter);
     circle->setAlignment(Qt::AlignCenter);
-    return circle;
+}
+
+/// What a report that counts messages has to say of things.
+RunSummary summaryOf(const MigrationReport &report)
+{
+    RunSummary summary;
+    summary.end = RunEnd::Complete;
+    summary.files.arrived = report.filesSuccess;
+    summary.apps.arrived = report.appsSuccess;
+    summary.settings.arrived = report.settingsSuccess;
+    summary.savedFolderPaths = report.savedFolderPaths;
+    summary.savedFolderCounts = report.savedFolderCounts;
+    summary.savedFolderSamples = report.savedFolderSamples;
+    return summary;
 }
 
 QLabel *makeGlyph(const QString &glyph, int pixels)
@@ -70,9 +87,8 @@ CompletePage::CompletePage(TransferEngine *engine, QWidget *parent)
 {
     setupUi();
     connect(m_engine, &TransferEngine::transferCompleted, this, &CompletePage::setReport);
-    // The last settings may still have been in the works when the report was made.
-    connect(m_engine, &TransferEngine::settingsFinished, this,
-            [this](int succeeded) { m_settingsCard->setValue(QString::number(succeeded)); });
+    connect(m_engine, &TransferEngine::runEnded, this, &CompletePage::setSummary);
+    connect(m_engine, &TransferEngine::settingsFinished, this, &CompletePage::onSettingsFinished);
 }
 
 void CompletePage::setupUi()
@@ -94,6 +110,11 @@ QWidget *CompletePage::createContent()
 {
     setupWaiting();
     setupSavedFolders();
+    m_circle = makeLabel(QString(), 36);
+    m_headline = makeCentredLabel(QString(), 26, Theme::Colour::Text, Theme::Bold);
+    m_subtitle = makeCentredLabel(QString(), 14, Theme::Colour::TextMuted);
+    m_counts = makeCentredLabel(QString(), 13, Theme::Colour::TextSecondary);
+    m_missing = new MissingItems;
 
     auto *centred = new QWidget;
     centred->setMaximumWidth(MaximumContentWidth);
@@ -101,15 +122,18 @@ QWidget *CompletePage::createContent()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addStretch();
-    column->addWidget(makeCircle(), 0, Qt::AlignHCenter);
+    column->addWidget(m_circle, 0, Qt::AlignHCenter);
     column->addSpacing(16);
-    column->addWidget(makeCentredLabel(tr("Transfer Complete!"), 26, Theme::Colour::Text, Theme::Bold));
+    column->addWidget(m_headline);
     column->addSpacing(8);
-    column->addWidget(makeCentredLabel(tr("Your files, apps and settings have been successfully transferred"),
-                                       14, Theme::Colour::TextMuted));
+    column->addWidget(m_subtitle);
     column->addSpacing(24);
     column->addLayout(createCounters());
-    column->addSpacing(20);
+    column->addSpacing(12);
+    column->addWidget(m_counts);
+    column->addSpacing(12);
+    column->addWidget(m_missing);
+    column->addSpacing(8);
     column->addWidget(m_filesSavedWidget);
     column->addSpacing(20);
     column->addLayout(createButtons());
@@ -218,35 +242,92 @@ QBoxLayout *CompletePage::createButtons()
 
 void CompletePage::setReport(const MigrationReport &report)
 {
-    m_report = report;
-    m_filesCard->setValue(QString::number(report.filesSuccess));
-    m_appsCard->setValue(QString::number(report.appsSuccess));
-    m_settingsCard->setValue(QString::number(report.settingsSuccess));
+    setSummary(summaryOf(report));
+}
+
+void CompletePage::setSummary(const RunSummary &summary)
+{
+    m_summary = summary;
+    showHeadline();
+    showCounts();
 
     const bool receives = m_engine->role() == NewPC;
     if (receives) {
-        m_savedFolders = savedFoldersOf(report);
+        m_savedFolders = savedFolders();
         rebuildFolderRows();
     }
     m_filesSavedWidget->setVisible(receives);
-    m_waitingWidget->setVisible(receives);
-    m_sendMoreButton->setVisible(!receives);
+    m_waitingWidget->setVisible(receives && summary.end != RunEnd::LinkLost);
+    m_sendMoreButton->setVisible(!receives && summary.end != RunEnd::LinkLost);
     m_finishButton->setVisible(!receives);
 }
 
-QList<CompletePage::SavedFolderEntry> CompletePage::savedFoldersOf(const MigrationReport &report) const
+void CompletePage::showHeadline()
 {
-    if (report.savedFolderPaths.isEmpty()) {
+    const bool done = m_summary.everythingArrived();
+    showCircle(m_circle, done);
+    m_headline->setText(printable(headlineOf(m_summary)));
+    m_headline->setStyleSheet(
+        Theme::textStyle(26, done ? Theme::Colour::Text : Theme::Colour::AmberText, Theme::Bold));
+    if (done)
+        m_subtitle->setText(tr("Your files, apps and settings have been successfully transferred"));
+    else if (m_summary.end == RunEnd::Complete)
+        m_subtitle->setText(nextSteps(m_summary).join(u' '));
+    else
+        m_subtitle->setText(arrivedFilesText(m_summary) + u". "_s + nextSteps(m_summary).join(u' '));
+    m_missing->setVisible(!done);
+    if (!done)
+        m_missing->setSummary(m_summary);
+}
+
+void CompletePage::showCounts()
+{
+    m_filesCard->setValue(countText(m_summary.files.arrived));
+    m_appsCard->setValue(countText(m_summary.apps.arrived));
+    m_settingsCard->setValue(countText(m_summary.settings.arrived));
+
+    QStringList lines;
+    const OutcomeCounts &files = m_summary.files;
+    if (files.total() > files.arrived) {
+        lines.append(tr("Files: %1 arrived, %2 were there already and identical, %3 were there already and "
+                        "different, %4 failed or are not confirmed")
+                         .arg(countText(files.arrived), countText(files.wasThere),
+                              countText(files.wasDifferent),
+                              countText(files.missing() - files.wasDifferent)));
+    }
+    if (const int missing = m_summary.apps.missing())
+        lines.append(
+            tr("%1 of %2 apps did not arrive").arg(countText(missing), countText(m_summary.apps.total())));
+    if (const int missing = m_summary.settings.missing())
+        lines.append(tr("%1 of %2 settings did not arrive")
+                         .arg(countText(missing), countText(m_summary.settings.total())));
+    m_counts->setText(lines.join(u'\n'));
+    m_counts->setVisible(!lines.isEmpty());
+}
+
+/// The last settings may still have been in the works when the report was made.
+void CompletePage::onSettingsFinished(int succeeded)
+{
+    const RunSummary summary = m_engine->summary();
+    if (summary.end != RunEnd::Running)
+        setSummary(summary);
+    else
+        m_settingsCard->setValue(countText(succeeded));
+}
+
+QList<CompletePage::SavedFolderEntry> CompletePage::savedFolders() const
+{
+    if (m_summary.savedFolderPaths.isEmpty()) {
         const QString target =
             QStandardPaths::writableLocation(QStandardPaths::DownloadLocation) + u"/Zandrove"_s;
         if (!QDir(target).exists())
             return {};
-        return {{tr("Received Files"), target, QString(), report.filesSuccess}};
+        return {{tr("Received Files"), target, QString(), m_summary.files.arrived}};
     }
     QList<SavedFolderEntry> entries;
-    for (auto folder = report.savedFolderPaths.cbegin(); folder != report.savedFolderPaths.cend(); ++folder)
-        entries.append({folder.key(), folder.value(), report.savedFolderSamples.value(folder.key()),
-                        report.savedFolderCounts.value(folder.key())});
+    for (const auto &[name, path] : m_summary.savedFolderPaths.asKeyValueRange())
+        entries.append(
+            {name, path, m_summary.savedFolderSamples.value(name), m_summary.savedFolderCounts.value(name)});
     return entries;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/common/Records.h"
+#include "core/common/RunSummary.h"
 
 #include <QList>
 #include <QString>
@@ -13,11 +14,13 @@ class QVBoxLayout;
 
 namespace Zandrove {
 
+class MissingItems;
 class StatCard;
 class TransferEngine;
 
-/// The page of what a transfer achieved. On the Old PC the user ends the session or sends more from here; the
-/// New PC is told where its files are, and waits for the Old PC.
+/// The page of what a transfer achieved, and of what it did not, also of one that the link has ended. On the
+/// Old PC the user ends the session or sends more from here; the New PC is told where its files are, and
+/// waits for the Old PC.
 class CompletePage final : public QWidget
 {
     Q_OBJECT
@@ -25,8 +28,10 @@ class CompletePage final : public QWidget
 public:
     explicit CompletePage(TransferEngine *engine, QWidget *parent = nullptr);
 
-    /// Shows `report` in the view of the engine's role.
+    /// Shows `report` in the view of the engine's role, for as long as there is no summary of the run.
     void setReport(const Zandrove::MigrationReport &report);
+    /// Shows what became of a run that is over.
+    void setSummary(const Zandrove::RunSummary &summary);
 
 Q_SIGNALS:
     void backToSelectionRequested();
@@ -49,17 +54,25 @@ private:
     void setupUi();
     [[nodiscard]] QWidget *createContent();
     [[nodiscard]] QBoxLayout *createCounters();
+    void showHeadline();
+    void showCounts();
+    void onSettingsFinished(int succeeded);
     void setupSavedFolders();
     void setupWaiting();
     [[nodiscard]] QBoxLayout *createButtons();
 
-    [[nodiscard]] QList<SavedFolderEntry> savedFoldersOf(const MigrationReport &report) const;
+    [[nodiscard]] QList<SavedFolderEntry> savedFolders() const;
     void rebuildFolderRows();
     [[nodiscard]] QWidget *createFolderRow(const SavedFolderEntry &entry);
     [[nodiscard]] QPushButton *createOpenButton(const SavedFolderEntry &entry);
 
     TransferEngine *m_engine;
-    MigrationReport m_report;
+    RunSummary m_summary;
+    QLabel *m_circle = nullptr;
+    QLabel *m_headline = nullptr;
+    QLabel *m_subtitle = nullptr;
+    QLabel *m_counts = nullptr; ///< of what did not simply arrive
+    MissingItems *m_missing = nullptr;
     StatCard *m_filesCard = nullptr;
     StatCard *m_appsCard = nullptr;
     StatCard *m_settingsCard = nullptr;

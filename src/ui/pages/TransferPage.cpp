@@ -1,27 +1,31 @@
 #include "ui/pages/TransferPage.h"
 
 #include "core/engine/TransferEngine.h"
+#include "support/PrintableText.h"
+#include "support/RunTexts.h"
 #include "support/Utilities.h"
 #include "ui/Log.h"
 #include "ui/Theme.h"
+#include "ui/widgets/NoticeBar.h"
 #include "ui/widgets/ProgressCard.h"
+#include "ui/widgets/TransferFileList.h"
 
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QThread>
-#include <QVBoxLayout>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace Zandrove {
 
 namespace {
+
+constexpr int MostBeforeTheEnd = 99; // percent
 
 QString noRemaining()
 {
@@ -41,6 +45,7 @@ QString cancelQuestionStyle()
     using namespace Theme::Colour;
     return u"QMessageBox { background: %1; } QLabel { color: %2; font-size: 13px; }"_s.arg(White, SlateText) +
            button(u"Yes, Cancel"_s, Danger, DangerText, White, Danger) +
+           button(u"Cancel and Close"_s, DangerText, Danger, White, DangerText) +
            button(u"Continue Transfer"_s, Hover, Border, TextSecondary, BorderStrong);
 }
 
@@ -78,26 +83,32 @@ void TransferPage::setupConnections()
     listen(&Engine::fileTransferFailed, &TransferPage::onFileFailed);
     listen(&Engine::pausedByPeer, &TransferPage::onPausedByPeer);
     listen(&Engine::resumedByPeer, &TransferPage::onResumedByPeer);
+    listen(&Engine::itemSettled, &TransferPage::onItemSettled);
+    listen(&Engine::runEnded, &TransferPage::onRunEnded);
+    listen(&Engine::spaceShort, &TransferPage::onSpaceShort);
+    listen(&Engine::installing, &TransferPage::onInstalling);
 
     // At once: an answer that is given to the open question before the queued calls arrive is too late as
     // well.
     for (auto end : {&Engine::peerCancelled, &Engine::transferReset, &Engine::sessionEndReceived})
-        connect(m_engine, end, this, &TransferPage::onRunEnded);
-    connect(m_engine, &Engine::transferCompleted, this, &TransferPage::onRunEnded);
+        connect(m_engine, end, this, &TransferPage::closeQuestion);
+    connect(m_engine, &Engine::transferCompleted, this, &TransferPage::closeQuestion);
+    connect(m_engine, &Engine::runEnded, this, &TransferPage::closeQuestion);
 }
 
 void TransferPage::setRole(int role)
 {
     m_role = role;
     m_titleLabel->setText(isNewPC() ? tr("Receiving Data") : tr("Sending Data"));
+    m_files->setSentText(isNewPC() ? tr("received") : tr("sent"));
 }
 
 void TransferPage::setFiles(const QStringList &files)
 {
-    clearFileItems();
-    const QStringList shown = files.first(std::min<qsizetype>(files.size(), MAX_VISIBLE_FILES));
+    m_files->clear();
+    const QStringList shown = files.first(std::min<qsizetype>(files.size(), TransferFileList::MaxRows));
     for (const QString &file : shown)
-        addFileItem(shortenedPath(file));
+        m_files->add(shortenedPath(file));
     qCDebug(logUi) << "TransferPage: Set" << files.size() << "files for transfer (showing" << shown.size()
                    << ")";
 }
@@ -105,31 +116,37 @@ void TransferPage::setFiles(const QStringList &files)
 void TransferPage::startTransfer()
 {
     qCDebug(logUi) << "TransferPage::startTransfer() - Starting real transfer as sender";
-    clearFileItems();
-    showPaused(false);
+    begin();
     clearCard(u"0 MB/s"_s, u"--"_s);
-    showFailedCount(0);
+    m_running = true;
     m_engine->startTransfer();
 }
 
 void TransferPage::startReceiving()
 {
     qCDebug(logUi) << "TransferPage::startReceiving() - Waiting for incoming data";
-    showPaused(false);
+    begin();
     m_titleLabel->setText(tr("Waiting for Data..."));
     clearCard(tr("Waiting..."), u"-- GB"_s);
-    clearFileItems();
 }
 
 void TransferPage::resetForNewTransfer()
 {
     qCDebug(logUi) << "TransferPage::resetForNewTransfer()";
-    clearFileItems();
+    begin();
     clearCard(tr("Waiting..."), u"-- GB"_s);
     m_titleLabel->setText(tr("Waiting for Data..."));
-    showPaused(false);
-    showFailedCount(0);
     m_progress = TransferProgress();
+}
+
+void TransferPage::begin()
+{
+    m_running = false;
+    m_notice->tell(QString());
+    m_files->clear();
+    showPaused(false);
+    showControls(true);
+    showFailedCount();
 }
 
 void TransferPage::clearCard(const QString &speed, const QString &total)
@@ -143,34 +160,63 @@ void TransferPage::clearCard(const QString &speed, const QString &total)
 void TransferPage::onProgressChanged(const TransferProgress &progress)
 {
     m_progress = progress;
-    m_progressCard->setProgress(progress.overallPercent);
+    m_running = true;
+    const int percent = std::min(progress.overallPercent, MostBeforeTheEnd);
+    m_progressCard->setProgress(percent);
     m_progressCard->setSpeed(formatSpeed(progress.bytesPerSecond));
     m_progressCard->setRemaining(formatTime(progress.remainingSeconds));
     m_progressCard->setSizes(formatSize(progress.transferredBytes), formatSize(progress.totalBytes));
-    m_titleLabel->setText(
-        (isNewPC() ? tr("Receiving Data - %1%") : tr("Sending Data - %1%")).arg(progress.overallPercent));
-    showFailedCount(std::max(progress.failedItems, 0));
+    m_titleLabel->setText((isNewPC() ? tr("Receiving Data - %1%") : tr("Sending Data - %1%")).arg(percent));
+    showFailedCount();
 }
 
 void TransferPage::onTransferCompleted(const MigrationReport &report)
 {
     qCDebug(logUi) << "TransferPage::onTransferCompleted() - Success:" << report.filesSuccess
                    << "Failed:" << report.filesFailed;
+    m_running = false;
     m_progressCard->setProgress(100);
     m_progressCard->setSpeed(u"--"_s);
     m_progressCard->setRemaining(u"00:00"_s);
-    for (TransferFileItem *item : std::as_const(m_fileItems)) {
-        if (item->status() != TransferFileItem::Failed)
-            item->setStatus(TransferFileItem::Success);
-    }
+    m_files->stop();
     Q_EMIT transferFinishedWithReport(report);
     Q_EMIT transferFinished();
+}
+
+/// The window says what was lost, and offers the way back.
+void TransferPage::onRunEnded(const RunSummary &summary)
+{
+    m_running = false;
+    if (summary.end != RunEnd::LinkLost)
+        return;
+    m_titleLabel->setText(tr("Connection lost"));
+    m_progressCard->setSpeed(u"--"_s);
+    m_progressCard->setRemaining(noRemaining());
+    m_files->stop();
+    showFailedCount();
+    showControls(false);
+}
+
+void TransferPage::onSpaceShort(qint64 needed, qint64 available, const QString &volume)
+{
+    m_notice->tell(tr("%1 are on their way, but only %2 are free on %3. Not everything will fit.")
+                       .arg(formatSize(needed), formatSize(available), volume));
+}
+
+void TransferPage::onInstalling(const QString &name, int percent)
+{
+    if (isNewPC())
+        m_titleLabel->setText(tr("Installing %1 - %2 %").arg(printable(name), QString::number(percent)));
+    else
+        m_titleLabel->setText(tr("%1 is installing...").arg(printable(m_engine->connectedPC().name)));
 }
 
 void TransferPage::onTransferFailed(const QString &reason)
 {
     qCDebug(logUi) << "TransferPage::onTransferFailed():" << reason;
+    m_running = false;
     m_titleLabel->setText(tr("Transfer Failed"));
+    m_notice->tell(reason);
 }
 
 void TransferPage::onPauseClicked()
@@ -202,34 +248,58 @@ void TransferPage::onRetryClicked()
 }
 
 /// The user's answer. The run goes on while the question is open; false also when it ended meanwhile.
-bool TransferPage::confirmCancel()
+bool TransferPage::confirm(QMessageBox &question)
 {
-    QMessageBox question(QMessageBox::Warning, tr("Cancel Transfer"),
-                         tr("Are you sure you want to cancel the transfer?"),
-                         QMessageBox::Ok | QMessageBox::Cancel, this);
     question.setTextFormat(Qt::PlainText);
-    question.setInformativeText(
-        tr("All progress will be lost and incomplete files may remain on the destination."));
     question.setDefaultButton(QMessageBox::Cancel);
-    question.button(QMessageBox::Ok)->setText(tr("Yes, Cancel"));
     question.button(QMessageBox::Cancel)->setText(tr("Continue Transfer"));
     question.setStyleSheet(cancelQuestionStyle());
-    m_cancelQuestion = &question;
+    m_question = &question;
     m_runEnded = false;
     return question.exec() == QMessageBox::Ok && !m_runEnded;
 }
 
+bool TransferPage::letGo()
+{
+    if (!m_running)
+        return true;
+    if (m_question)
+        return false;
+    QMessageBox question(QMessageBox::Warning, tr("Close Zandrove"),
+                         tr("A transfer is running. Closing the window cancels it."),
+                         QMessageBox::Ok | QMessageBox::Cancel, this);
+    question.setInformativeText(
+        tr("What has arrived stays on the New PC, and nothing is deleted on the Old PC."));
+    question.button(QMessageBox::Ok)->setText(tr("Cancel and Close"));
+    if (!confirm(question))
+        return false;
+    cancelRun();
+    return true;
+}
+
+void TransferPage::cancelRun()
+{
+    if (std::exchange(m_running, false))
+        m_engine->cancelTransfer();
+}
+
 /// There is nothing left to cancel, and who ended it says what comes next.
-void TransferPage::onRunEnded()
+void TransferPage::closeQuestion()
 {
     m_runEnded = true;
-    if (m_cancelQuestion)
-        m_cancelQuestion->reject();
+    if (m_question)
+        m_question->reject();
 }
 
 void TransferPage::onCancelClicked()
 {
-    if (!confirmCancel())
+    QMessageBox question(QMessageBox::Warning, tr("Cancel Transfer"),
+                         tr("Are you sure you want to cancel the transfer?"),
+                         QMessageBox::Ok | QMessageBox::Cancel, this);
+    question.setInformativeText(
+        tr("All progress will be lost and incomplete files may remain on the destination."));
+    question.button(QMessageBox::Ok)->setText(tr("Yes, Cancel"));
+    if (!confirm(question))
         return;
     qCDebug(logUi) << "[TransferPage] User cancelled transfer - Role:" << roleName(m_role);
     m_engine->cancelTransfer();
@@ -253,102 +323,34 @@ void TransferPage::onPeerCancelled()
     m_titleLabel->setText(tr("Sender cancelled. Waiting..."));
 }
 
-TransferFileItem *TransferPage::findFileItem(const QString &fileName) const
-{
-    const auto found =
-        std::find_if(m_fileItems.cbegin(), m_fileItems.cend(),
-                     [&fileName](const TransferFileItem *item) { return item->fileName() == fileName; });
-    return found == m_fileItems.cend() ? nullptr : *found;
-}
-
-TransferFileItem *TransferPage::addFileItem(const QString &fileName)
-{
-    auto *item = new TransferFileItem(m_fileContainer);
-    item->setFileName(fileName);
-    item->setSizeText(QString());
-    item->setStatus(TransferFileItem::Pending);
-    m_fileListLayout->insertWidget(m_fileListLayout->count() - 1, item);
-    item->show(); // at once, so that the layout counts it before the list scrolls to it
-    m_fileItems.append(item);
-    return item;
-}
-
-TransferFileItem *TransferPage::findOrAddFileItem(const QString &fileName)
-{
-    if (TransferFileItem *item = findFileItem(fileName))
-        return item;
-    trimFileItems();
-    return addFileItem(fileName);
-}
-
-/// Makes room for a new row. Unfinished rows stay, however many there are.
-void TransferPage::trimFileItems()
-{
-    while (m_fileItems.size() >= MAX_VISIBLE_FILES) {
-        auto oldest = m_fileItems.end();
-        for (const auto status : {TransferFileItem::Success, TransferFileItem::Failed}) {
-            if (oldest == m_fileItems.end())
-                oldest =
-                    std::find_if(m_fileItems.begin(), m_fileItems.end(),
-                                 [status](const TransferFileItem *item) { return item->status() == status; });
-        }
-        if (oldest == m_fileItems.end())
-            return;
-        TransferFileItem *item = *oldest;
-        m_fileItems.erase(oldest);
-        m_fileListLayout->removeWidget(item);
-        item->hide();
-        item->deleteLater();
-    }
-}
-
-void TransferPage::clearFileItems()
-{
-    for (TransferFileItem *item : std::as_const(m_fileItems)) {
-        m_fileListLayout->removeWidget(item);
-        item->hide();
-        item->deleteLater();
-    }
-    m_fileItems.clear();
-}
-
 void TransferPage::onFileStarted(const QString &fileName)
 {
     if (QThread::currentThread() != thread()) {
         qCWarning(logUi) << "onFileStarted called from non-GUI thread!";
         return;
     }
-    TransferFileItem *item = findOrAddFileItem(fileName);
-    item->setStatus(TransferFileItem::Active);
-    item->setProgress(0);
-    // The layout makes room for the row first.
-    QMetaObject::invokeMethod(
-        this,
-        [this] { m_fileScroll->verticalScrollBar()->setValue(m_fileScroll->verticalScrollBar()->maximum()); },
-        Qt::QueuedConnection);
+    m_running = true;
+    m_files->begin(fileName);
 }
 
 void TransferPage::onFileProgress(const QString &fileName, int percent)
 {
-    TransferFileItem *item = findFileItem(fileName);
-    if (!item)
-        return;
-    item->setStatus(TransferFileItem::Active);
-    item->setProgress(percent);
+    m_files->advance(fileName, percent);
 }
 
 void TransferPage::onFileCompleted(const QString &fileName)
 {
-    if (TransferFileItem *item = findFileItem(fileName)) {
-        item->setStatus(TransferFileItem::Success);
-        item->setProgress(100);
-    }
+    m_files->markSent(fileName);
 }
 
 void TransferPage::onFileFailed(const QString &fileName, const QString &reason)
 {
-    Q_UNUSED(reason)
-    findOrAddFileItem(fileName)->setStatus(TransferFileItem::Failed);
+    m_files->fail(fileName, reason);
+}
+
+void TransferPage::onItemSettled(const ItemResult &item)
+{
+    m_files->settle(item);
 }
 
 } // namespace Zandrove

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "core/common/Records.h"
-#include "ui/widgets/TransferFileItem.h"
+#include "core/common/RunSummary.h"
 
-#include <QList>
 #include <QPointer>
 #include <QStringList>
 #include <QWidget>
@@ -11,16 +10,17 @@
 class QLabel;
 class QMessageBox;
 class QPushButton;
-class QScrollArea;
-class QVBoxLayout;
 
 namespace Zandrove {
 
+class NoticeBar;
 class ProgressCard;
 class TransferEngine;
+class TransferFileList;
 
 /// The page of a running transfer, on the Old PC what goes out, on the New PC the waiting room and what comes
-/// in: progress, the files at work, and the ways to pause and to cancel.
+/// in: progress, the files at work, and the ways to pause and to cancel. What became of a file it says only
+/// once that is known, and 100 % only of a run that is complete.
 ///
 /// What the engine tells arrives here by queued calls.
 class TransferPage final : public QWidget
@@ -40,6 +40,13 @@ public:
     void startReceiving();
     /// Shows the waiting view of the next transfer; leaves the engine alone.
     void resetForNewTransfer();
+    /// Something has been sent or received, and the end of it has not been told.
+    [[nodiscard]] bool isRunning() const { return m_running; }
+    /// For a window that is to be closed: asks the user whether a running transfer may end, and ends it then
+    /// as a cancel. False when the window is to stay.
+    [[nodiscard]] bool letGo();
+    /// Ends a running transfer as a cancel of the user's, without a question.
+    void cancelRun();
 
 Q_SIGNALS:
     void transferFinished();
@@ -61,48 +68,47 @@ private Q_SLOTS:
     void onFileProgress(const QString &fileName, int percent);
     void onFileCompleted(const QString &fileName);
     void onFileFailed(const QString &fileName, const QString &reason);
+    void onItemSettled(const Zandrove::ItemResult &item);
+    void onRunEnded(const Zandrove::RunSummary &summary);
+    void onSpaceShort(qint64 needed, qint64 available, const QString &volume);
+    void onInstalling(const QString &name, int percent);
     void onPauseClicked();
     void onCancelClicked();
     void onRetryClicked();
 
 private:
-    static constexpr int MAX_VISIBLE_FILES = 30;
-
     void setupUi();
-    void setupFileList();
     [[nodiscard]] QWidget *createControls();
     void setupConnections();
 
     [[nodiscard]] bool isNewPC() const { return m_role == NewPC; }
     void showPaused(bool paused);
-    void showFailedCount(int count);
+    void showFailedCount();
+    void showControls(bool shown);
+    /// Whatever a former run has left on the page goes.
+    void begin();
     /// An empty card with these texts in the places of the speed and the total.
     void clearCard(const QString &speed, const QString &total);
 
-    [[nodiscard]] bool confirmCancel();
-    void onRunEnded();
-
-    [[nodiscard]] TransferFileItem *findFileItem(const QString &fileName) const;
-    TransferFileItem *addFileItem(const QString &fileName);
-    TransferFileItem *findOrAddFileItem(const QString &fileName);
-    void trimFileItems();
-    void clearFileItems();
+    [[nodiscard]] bool confirm(QMessageBox &question);
+    void closeQuestion();
 
     QPointer<TransferEngine> m_engine;
     int m_role = OldPC;
     QLabel *m_titleLabel = nullptr;
     ProgressCard *m_progressCard = nullptr;
-    QScrollArea *m_fileScroll = nullptr;
-    QWidget *m_fileContainer = nullptr;
-    QVBoxLayout *m_fileListLayout = nullptr;
+    NoticeBar *m_notice = nullptr;
+    TransferFileList *m_files = nullptr;
     QPushButton *m_pauseButton = nullptr;
     QPushButton *m_cancelButton = nullptr;
     QLabel *m_failedLabel = nullptr;
-    QList<TransferFileItem *> m_fileItems;
+    QPushButton *m_retryLink = nullptr;
     bool m_isPaused = false;
+    bool m_running = false;
+    int m_failedShown = -1;
     TransferProgress m_progress;
-    QPointer<QMessageBox> m_cancelQuestion; ///< while it is open
-    bool m_runEnded = false;                ///< since the question was asked
+    QPointer<QMessageBox> m_question; ///< while it is open
+    bool m_runEnded = false;          ///< since the question was asked
 };
 
 } // namespace Zandrove

@@ -1,23 +1,26 @@
 // TransferPage: what it is made of, and how it looks.
 
+#include "core/engine/TransferEngine.h"
+#include "support/RunTexts.h"
 #include "ui/Theme.h"
 #include "ui/pages/TransferPage.h"
 #include "ui/widgets/Labels.h"
+#include "ui/widgets/NoticeBar.h"
 #include "ui/widgets/ProgressCard.h"
+#include "ui/widgets/TransferFileList.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace Zandrove {
 
 namespace {
-
-constexpr int FileListHeight = 180;
 
 Theme::ButtonLook controlLook(QLatin1StringView background, QLatin1StringView text, QLatin1StringView hover)
 {
@@ -67,35 +70,21 @@ void TransferPage::setupUi()
 {
     m_titleLabel = makeLabel(tr("Transferring Data"), 20, Theme::Colour::Text, Theme::Bold);
     m_progressCard = new ProgressCard;
-    setupFileList();
+    m_notice = new NoticeBar;
+    m_files = new TransferFileList;
+    m_files->setAccessibleName(tr("Current Files"));
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(40, 32, 40, 32);
     layout->setSpacing(16);
     layout->addWidget(m_titleLabel);
+    layout->addWidget(m_notice);
     layout->addWidget(m_progressCard);
     layout->addSpacing(8);
     layout->addWidget(makeLabel(tr("Current Files"), 14, Theme::Colour::Text, Theme::SemiBold));
-    layout->addWidget(m_fileScroll);
+    layout->addWidget(m_files);
     layout->addWidget(createControls());
     layout->addStretch();
-}
-
-void TransferPage::setupFileList()
-{
-    m_fileContainer = new QWidget;
-    m_fileListLayout = new QVBoxLayout(m_fileContainer);
-    m_fileListLayout->setContentsMargins(0, 0, 8, 0);
-    m_fileListLayout->setSpacing(4);
-    m_fileListLayout->addStretch();
-
-    m_fileScroll = new QScrollArea;
-    m_fileScroll->setFixedHeight(FileListHeight);
-    m_fileScroll->setWidgetResizable(true);
-    m_fileScroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_fileScroll->setStyleSheet(Theme::scrollAreaStyle());
-    m_fileScroll->setAccessibleName(tr("Current Files"));
-    m_fileScroll->setWidget(m_fileContainer);
 }
 
 QWidget *TransferPage::createControls()
@@ -105,12 +94,12 @@ QWidget *TransferPage::createControls()
     m_cancelButton = makeButton(tr("Cancel"), cancelLook());
     connect(m_cancelButton, &QPushButton::clicked, this, &TransferPage::onCancelClicked);
     m_failedLabel = makeLabel(QString(), 13);
-    auto *retryLink = new QPushButton(tr("Retry"));
-    retryLink->setCursor(Qt::PointingHandCursor);
-    retryLink->setStyleSheet(linkStyle());
-    connect(retryLink, &QPushButton::clicked, this, &TransferPage::onRetryClicked);
+    m_retryLink = new QPushButton(tr("Retry"));
+    m_retryLink->setCursor(Qt::PointingHandCursor);
+    m_retryLink->setStyleSheet(linkStyle());
+    connect(m_retryLink, &QPushButton::clicked, this, &TransferPage::onRetryClicked);
     showPaused(false);
-    showFailedCount(0);
+    showFailedCount();
 
     auto *controls = new QWidget;
     auto *layout = new QHBoxLayout(controls);
@@ -120,7 +109,7 @@ QWidget *TransferPage::createControls()
     layout->addWidget(m_cancelButton);
     layout->addStretch();
     layout->addWidget(m_failedLabel);
-    layout->addWidget(retryLink);
+    layout->addWidget(m_retryLink);
     return controls;
 }
 
@@ -132,9 +121,22 @@ void TransferPage::showPaused(bool paused)
     m_pauseButton->setStyleSheet(Theme::buttonStyle(paused ? resumeLook() : pauseLook()));
 }
 
-void TransferPage::showFailedCount(int count)
+void TransferPage::showControls(bool shown)
 {
-    m_failedLabel->setText(tr("%1 failed").arg(count));
+    for (QWidget *control : {m_pauseButton, m_cancelButton, m_retryLink})
+        control->setVisible(shown);
+}
+
+/// What failed of all that is to be moved, which may grow with every snapshot.
+void TransferPage::showFailedCount()
+{
+    const RunSummary summary = m_engine->summary();
+    int count = 0;
+    for (const OutcomeCounts &counts : {summary.files, summary.apps, summary.settings})
+        count += counts.failed + counts.notConfirmed;
+    if (std::exchange(m_failedShown, count) == count)
+        return;
+    m_failedLabel->setText(tr("%1 failed").arg(countText(count)));
     m_failedLabel->setStyleSheet(
         Theme::textStyle(13, count > 0 ? Theme::Colour::DangerText : Theme::Colour::TextMuted));
 }

@@ -1,11 +1,11 @@
 #include "ui/widgets/TransferFileItem.h"
 
 #include "support/PrintableText.h"
-#include "ui/widgets/ElidedLabel.h"
-#include "ui/widgets/Labels.h"
+#include "ui/Theme.h"
 
-#include <QHBoxLayout>
-#include <QProgressBar>
+#include <QPainter>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -13,16 +13,22 @@ namespace Zandrove {
 
 namespace {
 
+constexpr int RowHeight = 48;
+constexpr int Margin = 12;
+constexpr qreal CornerRadius = 8.0;
+constexpr int GlyphSide = 16;
+constexpr int Spacing = 8;
 constexpr int BarHeight = 4;
 constexpr int GlyphPixels = 12;
 constexpr int NamePixels = 13;
+constexpr int TextPixels = 11;
 
 struct StatusLook
 {
-    QString glyph;
+    char16_t glyph;
     QLatin1StringView glyphColour;
+    QLatin1StringView disc; ///< behind the glyph; none when empty
     QLatin1StringView nameColour;
-    int nameWeight;
     QLatin1StringView background;
     QLatin1StringView border;
 };
@@ -32,15 +38,27 @@ StatusLook lookOf(TransferFileItem::Status status)
     using namespace Theme::Colour;
     switch (status) {
     case TransferFileItem::Active:
-        return {u"●"_s, Primary, TextSecondary, Theme::Medium, BlueTint, BlueBorder};
+        return {u'●', Primary, {}, TextSecondary, BlueTint, BlueBorder};
     case TransferFileItem::Success:
-        return {u"✓"_s, Theme::Colour::Success, TextSecondary, Theme::Regular, SuccessTint, {}};
+        return {u'✓', White, SuccessTextDark, TextSecondary, SuccessTint, {}};
     case TransferFileItem::Failed:
-        return {u"✕"_s, Danger, TextSecondary, Theme::Regular, DangerRow, {}};
+        return {u'✕', DangerText, {}, TextSecondary, DangerRow, {}};
+    case TransferFileItem::Sent:
+        return {u'✓', TextMuted, {}, TextSecondary, Panel, {}};
+    case TransferFileItem::WasThere:
+        return {u'=', TextMuted, {}, TextMuted, Panel, {}};
+    case TransferFileItem::WasDifferent:
+        return {u'≠', AmberText, {}, TextSecondary, OrangeTint, {}};
     case TransferFileItem::Pending:
         break;
     }
-    return {u"○"_s, BorderStrong, TextFaint, Theme::Regular, Panel, {}};
+    return {u'○', TextMuted, {}, TextMuted, Panel, {}};
+}
+
+QFont sized(QFont font, int pixels)
+{
+    font.setPixelSize(pixels);
+    return font;
 }
 
 } // namespace
@@ -48,69 +66,90 @@ StatusLook lookOf(TransferFileItem::Status status)
 TransferFileItem::TransferFileItem(QWidget *parent)
     : QWidget(parent)
 {
-    setupUi();
-    setStatus(Pending);
-}
-
-void TransferFileItem::setupUi()
-{
-    setFixedHeight(48);
     setObjectName(u"TransferFileItem"_s);
-    setAttribute(Qt::WA_StyledBackground);
-
-    m_statusLabel = makeLabel(QString(), GlyphPixels);
-    m_statusLabel->setFixedWidth(16);
-    m_nameLabel = new ElidedLabel(QString(), NamePixels);
-    m_nameLabel->setElideMode(Qt::ElideMiddle);
-    m_sizeLabel = makeLabel(QString(), 11, Theme::Colour::TextFaint);
-    m_progressBar = new QProgressBar;
-    m_progressBar->setTextVisible(false);
-    m_progressBar->setStyleSheet(Theme::progressBarStyle(BarHeight));
-    m_progressBar->hide();
-
-    auto *texts = new QHBoxLayout;
-    texts->setSpacing(8);
-    texts->addWidget(m_statusLabel);
-    texts->addWidget(m_nameLabel, 1);
-    texts->addWidget(m_sizeLabel);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(12, 8, 12, 8);
-    layout->setSpacing(4);
-    layout->addLayout(texts);
-    layout->addWidget(m_progressBar);
+    setFixedHeight(RowHeight);
 }
 
 void TransferFileItem::setFileName(const QString &fileName)
 {
+    if (fileName == m_fileName)
+        return;
     m_fileName = fileName;
-    m_nameLabel->setText(printable(fileName));
-    setAccessibleName(m_nameLabel->text());
-    m_progressBar->setAccessibleName(m_nameLabel->text());
+    setAccessibleName(printable(fileName));
+    update();
 }
 
 void TransferFileItem::setSizeText(const QString &text)
 {
-    m_sizeLabel->setText(text);
+    if (text == m_sizeText)
+        return;
+    m_sizeText = text;
+    refreshDescription();
 }
 
 void TransferFileItem::setStatus(Status status)
 {
-    // Progress tells the status again and again, and style sheets are dear.
-    if (status == m_status && !m_statusLabel->text().isEmpty())
+    if (status == m_status)
         return;
     m_status = status;
-    const StatusLook look = lookOf(status);
-    m_statusLabel->setText(look.glyph);
-    m_statusLabel->setStyleSheet(Theme::textStyle(GlyphPixels, look.glyphColour));
-    m_nameLabel->setStyleSheet(Theme::textStyle(NamePixels, look.nameColour, look.nameWeight));
-    setStyleSheet(Theme::boxStyle("#TransferFileItem"_L1, look.background, 8, look.border));
-    m_progressBar->setVisible(status == Active);
+    refreshDescription();
 }
 
 void TransferFileItem::setProgress(int percent)
 {
-    if (m_status == Active)
-        m_progressBar->setValue(percent);
+    if (m_status != Active || percent == m_percent)
+        return;
+    m_percent = percent;
+    refreshDescription();
+}
+
+void TransferFileItem::refreshDescription()
+{
+    setAccessibleDescription(m_status == Active ? u"%1%"_s.arg(m_percent) : printable(m_sizeText));
+    update();
+}
+
+void TransferFileItem::paintEvent(QPaintEvent *)
+{
+    const StatusLook look = lookOf(m_status);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(look.border.isEmpty() ? QPen(Qt::NoPen) : QPen(QColor(look.border)));
+    painter.setBrush(QColor(look.background));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), CornerRadius, CornerRadius);
+
+    QRect line = rect().adjusted(Margin, 0, -Margin, 0);
+    if (m_status == Active) {
+        const QRect bar(Margin, height() - 8 - BarHeight, line.width(), BarHeight);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(Theme::Colour::Border));
+        painter.drawRoundedRect(bar, 2.0, 2.0);
+        painter.setBrush(QColor(Theme::Colour::Primary));
+        painter.drawRoundedRect(QRectF(bar.x(), bar.y(), bar.width() * m_percent / 100.0, BarHeight), 2.0,
+                                2.0);
+        line.setBottom(bar.top());
+    }
+    const QRect glyph(line.left(), line.center().y() - GlyphSide / 2, GlyphSide, GlyphSide);
+    if (!look.disc.isEmpty()) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(look.disc));
+        painter.drawEllipse(glyph);
+    }
+    painter.setPen(QColor(look.glyphColour));
+    painter.setFont(sized(font(), look.disc.isEmpty() ? GlyphPixels : TextPixels));
+    painter.drawText(glyph, Qt::AlignCenter, QString(QChar(look.glyph)));
+    line.setLeft(glyph.right() + Spacing);
+
+    // A reason gives way to the name down to half of the line.
+    painter.setFont(sized(font(), TextPixels));
+    const QString text =
+        painter.fontMetrics().elidedText(printable(m_sizeText), Qt::ElideRight, line.width() / 2);
+    painter.setPen(QColor(look.nameColour));
+    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, text);
+    line.setRight(line.right() - painter.fontMetrics().horizontalAdvance(text) - Spacing);
+    painter.setFont(sized(font(), NamePixels));
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
+                     painter.fontMetrics().elidedText(printable(m_fileName), Qt::ElideMiddle, line.width()));
 }
 
 } // namespace Zandrove

@@ -135,8 +135,11 @@ private Q_SLOTS:
         QVERIFY(pair());
         m_old->engine.setSelectedPaths({});
         m_old->engine.startTransfer();
+        m_old->engine.setSelectedPaths({m_photos});
+        m_old->engine.connectToPC(m_old->engine.discoveredPCs().first());
+        m_old->engine.startTransfer(); // nobody has said yes to that one yet
         const QVariantList failure = {u"Cannot start transfer. Check connection and selection."_s};
-        QCOMPARE(m_old->failed, QList<QVariantList>(2, failure));
+        QCOMPARE(m_old->failed, QList<QVariantList>(3, failure));
     }
 
     void failedDialLeavesNoPeerBehind()
