@@ -1,4 +1,4 @@
-#include "AppMigrationTests.h"
+#include "PcTest.h"
 
 #include "appmigration/AppAnalyzer.h"
 #include "platform/ShellLink.h"
@@ -6,32 +6,29 @@
 
 #include <QDir>
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
-
 using Platform::SpecialFolder;
 using Platform::specialFolder;
 
-class AppAnalyzerTest : public PcTest
+class AppAnalyzerTest : public ScratchPcTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void foldersAreClaimed_data()
     {
-        addColumns<QString, QString, QString, bool, bool>("name", "publisher", "folder", "asAppData",
-                                                          "asProgramData");
-        QTest::newRow("whole name") << u"Zq Xw"_s << u""_s << u"my zq xw 2"_s << true << true;
-        QTest::newRow("a word of three") << u"Zqx Yw"_s << u""_s << u"abzqxcd"_s << true << true;
-        QTest::newRow("a word of two") << u"Zq Xyw"_s << u""_s << u"zq"_s << true << true; // part of the name
-        QTest::newRow("letters of two") << u"Zq Xyw"_s << u""_s << u"azqb"_s << false << false;
-        QTest::newRow("name of two") << u"Zq"_s << u""_s << u"azqb"_s << true << true;
-        QTest::newRow("joined") << u"Zqx.Yw"_s << u""_s << u"ZQX-YW"_s << true << true;
-        QTest::newRow("only separators") << u"Zqx"_s << u""_s << u"-_-"_s << true << true;
-        QTest::newRow("other") << u"Zqx"_s << u""_s << u"Vwv"_s << false << false;
-        QTest::newRow("publisher") << u"Zqx"_s << u"Vwv Inc"_s << u"the vwv inc"_s << true << true;
-        QTest::newRow("word of publisher") << u"Zqx"_s << u"Vwvk Group"_s << u"xvwvkx"_s << true << false;
-        QTest::newRow("no name") << u""_s << u""_s << u"Vwv"_s << false << false;
+        const auto row = addColumns<QString, QString, QString, bool, bool>("name", "publisher", "folder",
+                                                                           "asAppData", "asProgramData");
+        row("whole name", u"Zq Xw"_s, u""_s, u"my zq xw 2"_s, true, true);
+        row("a word of three", u"Zqx Yw"_s, u""_s, u"abzqxcd"_s, true, true);
+        row("a word of two", u"Zq Xyw"_s, u""_s, u"zq"_s, true, true); // part of the name
+        row("letters of two", u"Zq Xyw"_s, u""_s, u"azqb"_s, false, false);
+        row("name of two", u"Zq"_s, u""_s, u"azqb"_s, true, true);
+        row("joined", u"Zqx.Yw"_s, u""_s, u"ZQX-YW"_s, true, true);
+        row("only separators", u"Zqx"_s, u""_s, u"-_-"_s, true, true);
+        row("other", u"Zqx"_s, u""_s, u"Vwv"_s, false, false);
+        row("publisher", u"Zqx"_s, u"Vwv Inc"_s, u"the vwv inc"_s, true, true);
+        row("word of publisher", u"Zqx"_s, u"Vwvk Group"_s, u"xvwvkx"_s, true, false);
+        row("no name", u""_s, u""_s, u"Vwv"_s, false, false);
     }
     void foldersAreClaimed()
     {

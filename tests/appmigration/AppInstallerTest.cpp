@@ -1,4 +1,4 @@
-#include "AppMigrationTests.h"
+#include "PcTest.h"
 
 #include "appmigration/AppInstaller.h"
 #include "appmigration/FileCopy.h"
@@ -10,16 +10,12 @@
 #include "support/Paths.h"
 
 #include <QDir>
-#include <QSignalSpy>
 #include <QStandardPaths>
-
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 
 using Platform::SpecialFolder;
 using Platform::specialFolder;
 
-class AppInstallerTest : public PcTest
+class AppInstallerTest : public ScratchPcTest
 {
     Q_OBJECT
 

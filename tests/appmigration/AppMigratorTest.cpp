@@ -1,4 +1,4 @@
-#include "AppMigrationTests.h"
+#include "PcTest.h"
 
 #include "appmigration/AppMessages.h"
 #include "appmigration/AppMigrator.h"
@@ -8,23 +8,19 @@
 
 #include <QDir>
 #include <QJsonObject>
-#include <QSignalSpy>
 #include <QStandardPaths>
-
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 
 using Platform::SpecialFolder;
 using Platform::specialFolder;
 
-class AppMigratorTest : public PcTest
+class AppMigratorTest : public ScratchPcTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        PcTest::init();
+        ScratchPcTest::init();
         m_migrator = std::make_unique<AppMigrator>();
         m_requests.clear();
         connect(m_migrator.get(), &AppMigrator::requestSendCommand, this,
@@ -44,7 +40,7 @@ private Q_SLOTS:
     void cleanup()
     {
         m_migrator.reset();
-        PcTest::cleanup();
+        ScratchPcTest::cleanup();
     }
 
     void namesBecomeOneComponent()

@@ -1,4 +1,4 @@
-#include "AppMigrationTests.h"
+#include "PcTest.h"
 
 #include "appmigration/AppInstaller.h"
 #include "appmigration/RegistryExport.h"
@@ -10,11 +10,8 @@
 
 #include <functional>
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
-
 /// The registry of an application as one file, out of one PC and into the other.
-class RegistryFileTest : public PcTest
+class RegistryFileTest : public ScratchPcTest
 {
     Q_OBJECT
 

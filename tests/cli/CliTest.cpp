@@ -1,3 +1,4 @@
+#include "TestFiles.h"
 #include "TestMain.h"
 #include "cli/Columns.h"
 #include "cli/ControlCommand.h"
@@ -13,10 +14,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
-#include <QTest>
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 using namespace Zandrove::Cli;
 
 namespace {
@@ -55,26 +53,26 @@ class CliTest : public QObject
 private Q_SLOTS:
     void refusesWrongArguments_data()
     {
-        addColumns<QString, QString>("line", "mentions");
-        QTest::newRow("nothing") << u""_s << u"receive"_s;
-        QTest::newRow("unknown command") << u"fetch"_s << u"fetch"_s;
-        QTest::newRow("second word") << u"receive now"_s << u"now"_s;
-        QTest::newRow("option of another command") << u"receive --folder x"_s << u"--folder"_s;
-        QTest::newRow("no target") << u"send --folder x"_s << u"--to"_s;
-        QTest::newRow("blank target") << u"send --to= --folder x"_s << u"--to"_s;
-        QTest::newRow("no folder") << u"send --to 1234"_s << u"--folder"_s;
-        QTest::newRow("value missing at the end") << u"send --folder x --to"_s << u"--to"_s;
-        QTest::newRow("value for a flag") << u"receive --yes=1"_s << u"--yes"_s;
-        QTest::newRow("no name") << u"send --to x --app="_s << u"--app"_s;
-        QTest::newRow("report of a scan") << u"scan --report x"_s << u"--report"_s;
-        QTest::newRow("items of the other side") << u"receive --all-settings"_s << u"--all-settings"_s;
-        QTest::newRow("no role") << u"discover"_s << u"--role"_s;
-        QTest::newRow("wrong role") << u"discover --role 0"_s << u"0"_s;
-        QTest::newRow("wrong mode") << u"receive --mode wifi"_s << u"wifi"_s;
-        QTest::newRow("network for a scan") << u"scan --mode cable"_s << u"--mode"_s;
-        QTest::newRow("no number") << u"receive --timeout soon"_s << u"soon"_s;
-        QTest::newRow("zero seconds") << u"receive --timeout 0"_s << u"0"_s;
-        QTest::newRow("too long") << u"discover --role old --seconds 99999999"_s << u"99999999"_s;
+        const auto row = addColumns<QString, QString>("line", "mentions");
+        row("nothing", u""_s, u"receive"_s);
+        row("unknown command", u"fetch"_s, u"fetch"_s);
+        row("second word", u"receive now"_s, u"now"_s);
+        row("option of another command", u"receive --folder x"_s, u"--folder"_s);
+        row("no target", u"send --folder x"_s, u"--to"_s);
+        row("blank target", u"send --to= --folder x"_s, u"--to"_s);
+        row("no folder", u"send --to 1234"_s, u"--folder"_s);
+        row("value missing at the end", u"send --folder x --to"_s, u"--to"_s);
+        row("value for a flag", u"receive --yes=1"_s, u"--yes"_s);
+        row("no name", u"send --to x --app="_s, u"--app"_s);
+        row("report of a scan", u"scan --report x"_s, u"--report"_s);
+        row("items of the other side", u"receive --all-settings"_s, u"--all-settings"_s);
+        row("no role", u"discover"_s, u"--role"_s);
+        row("wrong role", u"discover --role 0"_s, u"0"_s);
+        row("wrong mode", u"receive --mode wifi"_s, u"wifi"_s);
+        row("network for a scan", u"scan --mode cable"_s, u"--mode"_s);
+        row("no number", u"receive --timeout soon"_s, u"soon"_s);
+        row("zero seconds", u"receive --timeout 0"_s, u"0"_s);
+        row("too long", u"discover --role old --seconds 99999999"_s, u"99999999"_s);
     }
     void refusesWrongArguments()
     {
@@ -123,17 +121,15 @@ private Q_SLOTS:
 
     void choosesWhatIsMeant_data()
     {
-        addColumns<QString, QList<int>, QList<int>, QString>("items", "apps", "settings", "problem");
-        QTest::newRow("both of one name, once")
-            << u"--app Pad --app Pad"_s << QList{0, 3} << QList<int>() << u""_s;
-        QTest::newRow("one and all") << u"--app=Pen --all-apps"_s << QList{1, 0, 3} << QList<int>() << u""_s;
-        QTest::newRow("another case")
-            << u"--app pad"_s << QList<int>() << QList<int>() << u"no application pad"_s;
-        QTest::newRow("keys only") << u"--app Keys"_s << QList<int>() << QList<int>() << u"cannot be moved"_s;
-        QTest::newRow("setting") << u"--setting mouse"_s << QList<int>() << QList{0} << u""_s;
-        QTest::newRow("not here") << u"--setting sound"_s << QList<int>() << QList<int>()
-                                  << u"no setting sound"_s;
-        QTest::newRow("all") << u"--all-apps --all-settings"_s << QList{0, 1, 3} << QList{0} << u""_s;
+        const auto row =
+            addColumns<QString, QList<int>, QList<int>, QString>("items", "apps", "settings", "problem");
+        row("both of one name, once", u"--app Pad --app Pad"_s, QList{0, 3}, QList<int>(), u""_s);
+        row("one and all", u"--app=Pen --all-apps"_s, QList{1, 0, 3}, QList<int>(), u""_s);
+        row("another case", u"--app pad"_s, QList<int>(), QList<int>(), u"no application pad"_s);
+        row("keys only", u"--app Keys"_s, QList<int>(), QList<int>(), u"cannot be moved"_s);
+        row("setting", u"--setting mouse"_s, QList<int>(), QList{0}, u""_s);
+        row("not here", u"--setting sound"_s, QList<int>(), QList<int>(), u"no setting sound"_s);
+        row("all", u"--all-apps --all-settings"_s, QList{0, 1, 3}, QList{0}, u""_s);
     }
     void choosesWhatIsMeant()
     {
@@ -158,52 +154,49 @@ private Q_SLOTS:
 
     void wrapsAtTheEndOfTheLine_data()
     {
-        addColumns<QString, QString>("text", "lines");
-        QTest::newRow("words") << u"one two three four"_s << u"one two\n  three\n  four"_s;
-        QTest::newRow("a word too long") << u"a incomprehensible b"_s << u"a\n  incomprehensible\n  b"_s;
-        QTest::newRow("an option stays whole") << u"it is --timeout"_s << u"it is\n  --timeout"_s;
-        QTest::newRow("wide characters") << u"旧電腦新電腦"_s << u"旧電腦新\n  電腦"_s;
-        QTest::newRow("no line begins with a full stop") << u"旧電腦新。電"_s << u"旧電腦\n  新。電"_s;
+        const auto row = addColumns<QString, QString>("text", "lines");
+        row("words", u"one two three four"_s, u"one two\n  three\n  four"_s);
+        row("a word too long", u"a incomprehensible b"_s, u"a\n  incomprehensible\n  b"_s);
+        row("an option stays whole", u"it is --timeout"_s, u"it is\n  --timeout"_s);
+        row("wide characters", u"旧電腦新電腦"_s, u"旧電腦新\n  電腦"_s);
+        row("no line begins with a full stop", u"旧電腦新。電"_s, u"旧電腦\n  新。電"_s);
     }
     void wrapsAtTheEndOfTheLine()
     {
         QFETCH(QString, text);
-        QFETCH(QString, lines);
-        QCOMPARE(wrapped(text, 2, 10), lines);
+        QTEST(wrapped(text, 2, 10), "lines");
     }
 
     void findsThePeerThatIsMeant_data()
     {
-        addColumns<QString, QString>("target", "expected");
-        QTest::newRow("code") << u"0427"_s << u"Blue"_s;
-        QTest::newRow("code before a name of four digits") << u"2024"_s << u"Green"_s;
-        QTest::newRow("name of four digits") << u"1999"_s << u"1999"_s;
-        QTest::newRow("name in another case") << u"gReEn"_s << u"Green"_s;
-        QTest::newRow("announced address") << u"10.0.0.1"_s << u"Blue"_s;
-        QTest::newRow("address it spoke from") << u"192.168.1.9"_s << u"Green"_s;
-        QTest::newRow("part of a name") << u"Gre"_s << QString();
-        QTest::newRow("nobody") << u"7777"_s << QString();
+        const auto row = addColumns<QString, QString>("target", "expected");
+        row("code", u"0427"_s, u"Blue"_s);
+        row("code before a name of four digits", u"2024"_s, u"Green"_s);
+        row("name of four digits", u"1999"_s, u"1999"_s);
+        row("name in another case", u"gReEn"_s, u"Green"_s);
+        row("announced address", u"10.0.0.1"_s, u"Blue"_s);
+        row("address it spoke from", u"192.168.1.9"_s, u"Green"_s);
+        row("part of a name", u"Gre"_s, QString());
+        row("nobody", u"7777"_s, QString());
     }
     void findsThePeerThatIsMeant()
     {
         QFETCH(QString, target);
-        QFETCH(QString, expected);
         const QList<PCInfo> peers = {peer(u"2024"_s, u"10.0.0.5"_s, u"10.0.0.5"_s, u"1111"_s),
                                      peer(u"Blue"_s, u"10.0.0.1"_s, u"192.168.1.8"_s, u"0427"_s),
                                      peer(u"Green"_s, u"10.0.0.2"_s, u"192.168.1.9"_s, u"2024"_s),
                                      peer(u"1999"_s, u"10.0.0.6"_s, u"10.0.0.6"_s, {})};
         const std::optional<PCInfo> found = findPeer(peers, target);
-        QCOMPARE(found ? found->name : QString(), expected);
+        QTEST(found ? found->name : QString(), "expected");
     }
 
     void readsControlLines_data()
     {
-        addColumns<QString, int, QString>("line", "kind", "folder");
-        QTest::newRow("word") << u" pause \t"_s << int(ControlCommand::Pause) << QString();
-        QTest::newRow("again") << u"again"_s << int(ControlCommand::Again) << QString();
-        QTest::newRow("folder with blanks")
-            << u"again  /a b/c "_s << int(ControlCommand::Again) << u"/a b/c"_s;
-        QTest::newRow("too much") << u"cancel all"_s << -1 << QString();
+        const auto row = addColumns<QString, int, QString>("line", "kind", "folder");
+        row("word", u" pause \t"_s, int(ControlCommand::Pause), QString());
+        row("again", u"again"_s, int(ControlCommand::Again), QString());
+        row("folder with blanks", u"again  /a b/c "_s, int(ControlCommand::Again), u"/a b/c"_s);
+        row("too much", u"cancel all"_s, -1, QString());
     }
     void readsControlLines()
     {
@@ -217,13 +210,10 @@ private Q_SLOTS:
 
     void namesWhatIsWrongWithAFolder()
     {
-        QTemporaryDir scratch;
-        QVERIFY(scratch.isValid());
-        QFile file(scratch.filePath(u"file"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-
+        const QTemporaryDir scratch;
+        const QString file = writeFile(scratch.filePath(u"file"_s), {});
         QVERIFY(folderProblem(scratch.path()).isEmpty());
-        QVERIFY(folderProblem(file.fileName()).contains(u"not a folder"_s));
+        QVERIFY(folderProblem(file).contains(u"not a folder"_s));
         QVERIFY(folderProblem(scratch.filePath(u"missing"_s)).contains(u"no folder"_s));
         QCOMPARE(absoluteFolder(scratch.path() + u"/a/../b//"_s), scratch.path() + u"/b"_s);
     }

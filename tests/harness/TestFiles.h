@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-/// Files as tests make and judge them.
+/// Files as tests make and judge them, and what is in them.
 namespace Zandrove {
 
 /// What the file holds; "<no file>" where it can't be read.
@@ -22,6 +22,18 @@ inline QString writeFile(const QString &path, const QByteArray &content)
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("%s can't be written.", qPrintable(path));
     return path;
+}
+
+/// `size` bytes without a pattern that a chunk size could hide.
+inline QByteArray someBytes(qsizetype size)
+{
+    quint32 seed = 1;
+    QByteArray bytes(size, Qt::Uninitialized);
+    for (char &byte : bytes) {
+        seed = seed * 1664525u + 1013904223u;
+        byte = char(seed >> 24);
+    }
+    return bytes;
 }
 
 } // namespace Zandrove

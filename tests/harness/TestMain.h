@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -12,11 +13,14 @@
 
 namespace Zandrove {
 
-/// Declares the columns of a test's table, in their order: addColumns<int, QString>("seconds", "text").
+/// Declares the columns of a test's table, in their order, and returns what adds a row:
+///   const auto row = addColumns<int, QString>("seconds", "text");
+///   row("a minute", 60, u"1 min"_s);
 template <typename... Types, typename... Names>
-void addColumns(Names... names)
+auto addColumns(Names... names)
 {
     (QTest::addColumn<Types>(names), ...);
+    return [](const char *row, const Types &...values) { (QTest::newRow(row) << ... << values); };
 }
 
 } // namespace Zandrove
@@ -57,25 +61,19 @@ private:
 
 /// Runs the test objects one after the other; one alone, with QtTest's own arguments after it, when its class
 /// name is the first argument. Returns the number of failures.
-[[nodiscard]] inline int runTests(const Makers &all = makers())
+[[nodiscard]] inline int runTests()
 {
     // Else the log goes to the debugger on Windows.
     qputenv("QT_ASSUME_STDERR_HAS_CONSOLE", "1");
     QStringList arguments = QCoreApplication::arguments();
     const QString only = arguments.value(1).endsWith(QLatin1String("Test")) ? arguments.takeAt(1) : QString();
     int failures = 0;
-    for (const auto &maker : all) {
+    for (const auto &maker : makers()) {
         const std::unique_ptr<QObject> test = maker();
         if (only.isEmpty() || only == QLatin1String(test->metaObject()->className()))
             failures += QTest::qExec(test.get(), arguments);
     }
     return failures;
-}
-
-template <typename... Functions>
-[[nodiscard]] int runTests(Functions... functions)
-{
-    return runTests(Makers{[functions] { return std::unique_ptr<QObject>(functions()); }...});
 }
 
 } // namespace Zandrove::TestMain
@@ -84,3 +82,7 @@ template <typename... Functions>
 #define ZANDROVE_TEST(TestClass)                                                                             \
     [[maybe_unused]] static const auto &added##TestClass =                                                   \
         Zandrove::TestMain::makers().emplaceBack([] { return std::make_unique<TestClass>(); });
+
+// What nearly every test speaks of.
+using namespace Qt::StringLiterals;
+using namespace Zandrove;

@@ -4,9 +4,6 @@
 #include "inventory/AppList.h"
 #include "inventory/PathExclusion.h"
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
-
 namespace {
 
 /// The items of a table: one or several a line, with semicolons between them.
@@ -104,12 +101,8 @@ private Q_SLOTS:
 
     void keepsTheBiggerOfTwoFinds_data()
     {
-        addColumns<QString, QString, qint64, bool, QString>("name", "location", "measured", "isAdded",
-                                                            "remaining");
-        const auto row = [](const char *what, const QString &name, const QString &location, qint64 measured,
-                            bool isAdded, const QString &remaining) {
-            QTest::newRow(what) << name << location << measured << isAdded << remaining;
-        };
+        const auto row = addColumns<QString, QString, qint64, bool, QString>("name", "location", "measured",
+                                                                             "isAdded", "remaining");
         const QString all = u"Photo Lab, Mail"_s;
         row("a new one", u"Chess"_s, u"C:\\Chess"_s, 1, true, all);
         row("equal name, however big", u"photo lab"_s, u"D:\\x"_s, 999, false, all);

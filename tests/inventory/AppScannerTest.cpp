@@ -3,14 +3,10 @@
 
 #include "inventory/AppScanner.h"
 
-#include <QSignalSpy>
 #include <QThread>
 
 #include <algorithm>
 #include <atomic>
-
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 
 namespace {
 

@@ -1,5 +1,4 @@
-#include "SimulatedPc.h"
-#include "TestMain.h"
+#include "PcTest.h"
 
 #include "inventory/AccountScanner.h"
 #include "inventory/FileScanner.h"
@@ -7,12 +6,7 @@
 #include "inventory/SettingScanner.h"
 #include "platform/SystemParameters.h"
 
-#include <QSignalSpy>
-
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 
 namespace {
 
@@ -57,16 +51,11 @@ void checkCancel(int announcements)
 } // namespace
 
 /// The scanners that work on the calling thread, and the measuring of folders.
-class ScannersTest : public QObject
+class ScannersTest : public PcTest
 {
     Q_OBJECT
 
-    std::unique_ptr<SimulatedPc> m_pc;
-
 private Q_SLOTS:
-    void init() { m_pc = std::make_unique<SimulatedPc>(); }
-    void cleanup() { m_pc.reset(); }
-
     void foldersAreMeasured()
     {
         if (!SimulatedPc::isMadeUp())

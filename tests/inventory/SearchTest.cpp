@@ -4,9 +4,6 @@
 
 #include <algorithm>
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
-
 namespace {
 
 /// A PC that is nothing but a list of its files.
@@ -55,29 +52,27 @@ private Q_SLOTS:
 
     void findsTheFolder_data()
     {
-        addColumns<QString, QString, QString, QString>("files", "name", "publisher", "found");
-        const auto row = [](const char *what, const QString &files, const QString &name, const QString &found,
-                            const QString &publisher = {}) {
-            QTest::newRow(what) << files << name << publisher << found;
-        };
-        row("exact", u"P/foo/a.exe|P/Foo/a.exe"_s, u"Foo"_s, u"P/Foo"_s);
+        const auto row =
+            addColumns<QString, QString, QString, QString>("files", "name", "found", "publisher");
+        row("exact", u"P/foo/a.exe|P/Foo/a.exe"_s, u"Foo"_s, u"P/Foo"_s, {});
         row("by publisher and name", u"P/Halden/Foo/a.exe"_s, u"Foo"_s, u"P/Halden/Foo"_s, u"Halden"_s);
         row("by publisher alone", u"P/Halden/a.exe"_s, u"Qux"_s, u"P/Halden"_s, u"Halden"_s);
-        row("without its version", u"P/Foo Bar/a.exe"_s, u"Foo Bar v2"_s, u"P/Foo Bar"_s);
-        row("no program directly in it", u"P/Foo/bin/a.exe|P/x/Foo.txt"_s, u"Foo"_s, {});
-        row("letter case, after one without a program", u"P/Foo/a.txt|P/FOO/a.exe"_s, u"Foo"_s, u"P/FOO"_s);
-        row("punctuation", u"P/F.o_o-7/a.exe"_s, u"Foo 7"_s, u"P/F.o_o-7"_s);
-        row("punctuation, too short", u"P/F.o_o/a.exe"_s, u"F-oo"_s, {});
+        row("without its version", u"P/Foo Bar/a.exe"_s, u"Foo Bar v2"_s, u"P/Foo Bar"_s, {});
+        row("no program directly in it", u"P/Foo/bin/a.exe|P/x/Foo.txt"_s, u"Foo"_s, {}, {});
+        row("letter case, after one without a program", u"P/Foo/a.txt|P/FOO/a.exe"_s, u"Foo"_s, u"P/FOO"_s,
+            {});
+        row("punctuation", u"P/F.o_o-7/a.exe"_s, u"Foo 7"_s, u"P/F.o_o-7"_s, {});
+        row("punctuation, too short", u"P/F.o_o/a.exe"_s, u"F-oo"_s, {}, {});
         row("alike below the first root, exact below the second", u"P/My Foobar/a.exe|Q/Foobar/a.exe"_s,
-            u"Foobar"_s, u"P/My Foobar"_s);
-        row("the second root", u"P/Other/a.exe|Q/Foobar/a.exe"_s, u"Foobar"_s, u"Q/Foobar"_s);
-        row("folder contains the name", u"P/The foo app/a.exe"_s, u"Foo"_s, u"P/The foo app"_s);
-        row("name contains the folder, two letters", u"P/oo/a.exe"_s, u"Foo Bar"_s, u"P/oo"_s);
-        row("eight characters", u"P/old abcdefgh 1/a.exe"_s, u"Abcdefgh-ijk"_s, u"P/old abcdefgh 1"_s);
-        row("seven characters are too few", u"P/old abcdefg 1/a.exe"_s, u"Abcdefgh-ijk"_s, {});
-        row("six tenths", u"P/ab.c-def/a.exe"_s, u"Zz Abcdef 7q"_s, u"P/ab.c-def"_s);
-        row("less than six tenths", u"P/ab.c-def/a.exe"_s, u"Zz Abcdef 7qq"_s, {});
-        row("no Latin letters", u"P/天气预报 2/a.exe"_s, u"天气预报"_s, u"P/天气预报 2"_s);
+            u"Foobar"_s, u"P/My Foobar"_s, {});
+        row("the second root", u"P/Other/a.exe|Q/Foobar/a.exe"_s, u"Foobar"_s, u"Q/Foobar"_s, {});
+        row("folder contains the name", u"P/The foo app/a.exe"_s, u"Foo"_s, u"P/The foo app"_s, {});
+        row("name contains the folder, two letters", u"P/oo/a.exe"_s, u"Foo Bar"_s, u"P/oo"_s, {});
+        row("eight characters", u"P/old abcdefgh 1/a.exe"_s, u"Abcdefgh-ijk"_s, u"P/old abcdefgh 1"_s, {});
+        row("seven characters are too few", u"P/old abcdefg 1/a.exe"_s, u"Abcdefgh-ijk"_s, {}, {});
+        row("six tenths", u"P/ab.c-def/a.exe"_s, u"Zz Abcdef 7q"_s, u"P/ab.c-def"_s, {});
+        row("less than six tenths", u"P/ab.c-def/a.exe"_s, u"Zz Abcdef 7qq"_s, {}, {});
+        row("no Latin letters", u"P/天气预报 2/a.exe"_s, u"天气预报"_s, u"P/天气预报 2"_s, {});
     }
     void findsTheFolder()
     {
@@ -91,9 +86,7 @@ private Q_SLOTS:
 
     void picksTheIcon_data()
     {
-        addColumns<QString, QString, QString>("displayIcon", "files", "icon");
-        const auto row = [](const char *what, const QString &displayIcon, const QString &files,
-                            const QString &icon) { QTest::newRow(what) << displayIcon << files << icon; };
+        const auto row = addColumns<QString, QString, QString>("displayIcon", "files", "icon");
         row("what the registry names", u" \"P/Photo Lab/x.dll\" ,-101"_s, u"x.dll|lab.exe"_s, u"x.dll"_s);
         row("nothing but an index", u",0"_s, u"a.exe"_s, u"a.exe"_s);
         row("missing, so the program of that name", u"P/gone.ico"_s, u"zz.exe|Photo-Lab!.exe"_s,

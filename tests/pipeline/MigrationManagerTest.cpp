@@ -7,8 +7,6 @@
 #include <QThread>
 #include <QUuid>
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 using Protocol::MessageType;
 
 namespace {
@@ -177,10 +175,7 @@ private Q_SLOTS:
 
     void rearmingIsDroppedWhenNoLongerWanted_data()
     {
-        addColumns<std::function<void(MigrationManager &)>>("event");
-        const auto row = [](const char *name, const std::function<void(MigrationManager &)> &event) {
-            QTest::newRow(name) << event;
-        };
+        const auto row = addColumns<std::function<void(MigrationManager &)>>("event");
         row("session ended by the peer",
             [](MigrationManager &manager) { manager.onNetworkCommandReceived(MessageType::SessionEnd, {}); });
         row("session ended here", [](MigrationManager &manager) { manager.endSession(); });

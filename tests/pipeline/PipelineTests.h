@@ -6,20 +6,6 @@
 #include "pipeline/FileChecksum.h"
 #include "pipeline/TransferMessages.h"
 
-#include <QSignalSpy>
-
-/// `size` bytes without a pattern that a chunk size could hide.
-inline QByteArray someBytes(qsizetype size)
-{
-    quint32 seed = 1;
-    QByteArray bytes(size, Qt::Uninitialized);
-    for (char &byte : bytes) {
-        seed = seed * 1664525u + 1013904223u;
-        byte = char(seed >> 24);
-    }
-    return bytes;
-}
-
 inline quint32 checksumOf(const QByteArray &bytes)
 {
     Zandrove::FileChecksum sum;

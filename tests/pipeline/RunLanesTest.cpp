@@ -14,15 +14,11 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSemaphore>
-#include <QSignalSpy>
-#include <QTest>
 #include <QThread>
 
 #include <algorithm>
 #include <memory>
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 using Protocol::MessageType;
 
 namespace {
@@ -442,9 +438,5 @@ void RunLanesTest::settingsThatNeverEndAreNotWaitedFor()
     QVERIFY(!m_manager->isApplyingSettings());
 }
 
-QObject *makeRunLanesTest()
-{
-    return new RunLanesTest;
-}
-
+ZANDROVE_TEST(RunLanesTest)
 #include "RunLanesTest.moc"

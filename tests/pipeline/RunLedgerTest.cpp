@@ -3,10 +3,7 @@
 #include "pipeline/RunLedger.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 using namespace std::chrono_literals;
 
 namespace {
@@ -124,10 +121,7 @@ class RunLedgerTest : public QObject
 private Q_SLOTS:
     void answersDecideWhatArrived_data()
     {
-        addColumns<QString, QString>("events", "outcomes");
-        const auto row = [](const char *name, const QString &events, const QString &outcomes) {
-            QTest::newRow(name) << events << outcomes;
-        };
+        const auto row = addColumns<QString, QString>("events", "outcomes");
         row("nothing is known before the answer", u"l0 l1 l2 l3 q1"_s, u"PPPP"_s);
         row("the answer covers what left before", u"l0 l1 q1 l2 a1 l3"_s, u"AAPP"_s);
         row("and from the request before on", u"l0 q1 l1 q2 l2 l3 q3 a1 a2 a3"_s, u"AAAA."_s);

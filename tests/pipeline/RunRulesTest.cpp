@@ -3,8 +3,6 @@
 #include "pipeline/RunInbox.h"
 #include "pipeline/SendPhases.h"
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 using Protocol::MessageType;
 
 /// What decides the order of a run, without threads and sockets.
@@ -17,11 +15,8 @@ private Q_SLOTS:
     {
         // Events: q an application's file is queued, p packed, l a list is through, s settings through.
         // Actions: F send the applications' files, E send their held ends, C complete.
-        addColumns<bool, bool, QString, QString>("withApps", "withSettings", "events", "actions");
-        const auto row = [](const char *name, bool apps, bool settings, const QString &events,
-                            const QString &actions) {
-            QTest::newRow(name) << apps << settings << events << actions;
-        };
+        const auto row =
+            addColumns<bool, bool, QString, QString>("withApps", "withSettings", "events", "actions");
         row("nothing selected", false, false, u"l"_s, u"C"_s);
         row("settings last", false, true, u"ls"_s, u"-C"_s);
         row("settings first", false, true, u"sl"_s, u"-C"_s);
@@ -60,11 +55,8 @@ private Q_SLOTS:
 
     void messagesWaitForTheRunInFront_data()
     {
-        addColumns<RunState, bool, MessageType, bool>("run", "paused", "type", "waits");
         using Type = MessageType;
-        const auto row = [](const char *name, RunState run, bool paused, Type type, bool waits) {
-            QTest::newRow(name) << run << paused << type << waits;
-        };
+        const auto row = addColumns<RunState, bool, Type, bool>("run", "paused", "type", "waits");
         row("idle", RunState::None, false, Type::TransferStart, false);
         row("a second list", RunState::On, false, Type::TransferStart, false);
         row("a run behind one that is worked off", RunState::WorkingOff, false, Type::TransferStart, true);

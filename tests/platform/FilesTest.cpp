@@ -1,15 +1,10 @@
 #include "PlatformTests.h"
 
-class FilesTest : public QObject
+class FilesTest : public PcTest
 {
     Q_OBJECT
 
-    std::unique_ptr<SimulatedPc> m_pc;
-
 private Q_SLOTS:
-    void init() { m_pc = std::make_unique<SimulatedPc>(); }
-    void cleanup() { m_pc.reset(); }
-
     void pathThatMeansSomethingElseIsUnsafe()
     {
         const auto judge = [](const QString &paths, bool isUnsafe) {
@@ -48,18 +43,15 @@ private Q_SLOTS:
 
     void shellLinkComesBackAsItWasWritten_data()
     {
-        addColumns<ShellLink>("link");
-        QTest::newRow("path alone") << ShellLink{.path = u"C:\\Program Files\\Foo\\foo.exe"_s};
-        QTest::newRow("everything") << ShellLink{u"C:\\Föö\\foo.exe"_s,
-                                                 u"--name \"a b\" =x"_s,
-                                                 u"C:\\Program Files\\Föö"_s,
-                                                 u"C:\\Icons\\foo.dll"_s,
-                                                 -7,
-                                                 u"Starts = Föö 日本"_s};
-        QTest::newRow("variables") << ShellLink{.path = u"C:\\Windows\\foo.exe"_s,
-                                                .workingDirectory = u"%USERPROFILE%"_s,
-                                                .iconPath = u"%SystemRoot%\\foo.dll"_s,
-                                                .iconIndex = 3};
+        const auto row = addColumns<ShellLink>("link");
+        row("path alone", ShellLink{.path = u"C:\\Program Files\\Foo\\foo.exe"_s});
+        row("everything",
+            ShellLink{u"C:\\Föö\\foo.exe"_s, u"--name \"a b\" =x"_s, u"C:\\Program Files\\Föö"_s,
+                      u"C:\\Icons\\foo.dll"_s, -7, u"Starts = Föö 日本"_s});
+        row("variables", ShellLink{.path = u"C:\\Windows\\foo.exe"_s,
+                                   .workingDirectory = u"%USERPROFILE%"_s,
+                                   .iconPath = u"%SystemRoot%\\foo.dll"_s,
+                                   .iconIndex = 3});
     }
     void shellLinkComesBackAsItWasWritten()
     {

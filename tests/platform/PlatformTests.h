@@ -1,16 +1,12 @@
 #pragma once
 
-#include "SimulatedPc.h"
-#include "TestFiles.h"
-#include "TestMain.h"
+#include "PcTest.h"
 
 #include "platform/ExternalProgram.h"
 #include "platform/FileAttributes.h"
 #include "platform/Registry.h"
 #include "platform/ShellLink.h"
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 using Platform::RegistryKey;
 using Platform::ShellLink;
 

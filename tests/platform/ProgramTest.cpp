@@ -21,15 +21,12 @@ class ProgramTest : public QObject
 private Q_SLOTS:
     void resultTellsHowTheProgramEnded_data()
     {
-        addColumns<QString, int, QByteArray, QByteArray>("words", "exitCode", "output", "complaint");
-        QTest::newRow("output and exit code") << u"say two exit 3"_s << 3 << "two"_ba
-                                              << ""_ba;
-        QTest::newRow("longer than one wait") << u"wait 500 say x"_s << 0 << "x"_ba
-                                              << ""_ba;
-        QTest::newRow("reads nothing") << u"copy"_s << 0 << ""_ba
-                                       << ""_ba;
-        QTest::newRow("complaints apart") << u"complain no exit 1"_s << 1 << ""_ba
-                                          << "no"_ba;
+        const auto row =
+            addColumns<QString, int, QByteArray, QByteArray>("words", "exitCode", "output", "complaint");
+        row("output and exit code", u"say two exit 3"_s, 3, "two"_ba, ""_ba);
+        row("longer than one wait", u"wait 500 say x"_s, 0, "x"_ba, ""_ba);
+        row("reads nothing", u"copy"_s, 0, ""_ba, ""_ba);
+        row("complaints apart", u"complain no exit 1"_s, 1, ""_ba, "no"_ba);
     }
     void resultTellsHowTheProgramEnded()
     {
@@ -69,11 +66,8 @@ private Q_SLOTS:
 
     void linesComeAsTheyAreWritten_data()
     {
-        addColumns<QByteArray, QByteArray>("input", "printed");
+        const auto row = addColumns<QByteArray, QByteArray>("input", "printed");
         const QByteArray tooLong(70000, 'x');
-        const auto row = [](const char *name, const QByteArray &input, const QByteArray &printed) {
-            QTest::newRow(name) << input << printed;
-        };
         row("nothing", "", ".");
         row("both line ends", "one\ntwo\r\n\nü\n", "[one][two][][ü].");
         row("without the last line end", "one\ntwo", "[one][two].");

@@ -1,24 +1,14 @@
 #include "PlatformTests.h"
 
-namespace {
-
-const QString Key = u"HKEY_CURRENT_USER\\Software\\ZandroveTest"_s;
-const QString Header = u"Windows Registry Editor Version 5.00\r\n\r\n"_s;
-
-} // namespace
+static const QString Header = u"Windows Registry Editor Version 5.00\r\n\r\n"_s;
 
 /// The same on the real registry and on the simulated one: what is there comes by `reg import`, what was
 /// written is judged by `reg export`.
-class RegistryTest : public QObject
+class RegistryTest : public PcTest
 {
     Q_OBJECT
 
-    std::unique_ptr<SimulatedPc> m_pc;
-
 private Q_SLOTS:
-    void init() { m_pc = std::make_unique<SimulatedPc>(); }
-    void cleanup() { m_pc.reset(); }
-
     void valuesAreReadByType_data();
     void valuesAreReadByType()
     {

@@ -5,9 +5,6 @@
 
 #include <QDataStream>
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
-
 namespace {
 
 constexpr int Side = 32; // pixels, the shell's large icon
@@ -40,10 +37,10 @@ class ShellIconsTest : public QObject
 private Q_SLOTS:
     void iconKeepsColoursAndTransparency_data()
     {
-        addColumns<int>("bitsPerPixel");
-        QTest::newRow("levels of transparency") << 32;
+        const auto row = addColumns<int>("bitsPerPixel");
+        row("levels of transparency", 32);
         if (!SimulatedPc::isMadeUp())
-            QTest::newRow("mask") << 24;
+            row("mask", 24);
     }
     void iconKeepsColoursAndTransparency()
     {

@@ -1,7 +1,5 @@
+#include "PcTest.h"
 #include "SettingHalf.h"
-#include "SimulatedPc.h"
-#include "TestFiles.h"
-#include "TestMain.h"
 
 #include "inventory/SettingScanner.h"
 #include "platform/Registry.h"
@@ -11,9 +9,6 @@
 
 #include <limits>
 #include <numeric>
-
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 
 namespace {
 
@@ -90,25 +85,17 @@ QStringList temporaryFiles()
 } // namespace
 
 /// Settings from one PC to another: its registry, programs and files, the messages, and the other's.
-class SettingsTest final : public QObject
+class SettingsTest final : public ScratchPcTest
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        if (!SimulatedPc::isMadeUp() && !qEnvironmentVariableIsSet("ZANDROVE_SCRATCH_PC"))
-            QSKIP("Needs a PC that ZANDROVE_SCRATCH_PC gives away for tests");
-        qInstallMessageHandler(recordLine);
-        if (!SimulatedPc::isMadeUp())
-            m_foreignFiles = temporaryFiles();
-    }
-
     /// Also makes the next PC of one test.
     void init()
     {
         m_pc.reset();
-        m_pc = std::make_unique<SimulatedPc>();
+        PcTest::init();
+        qInstallMessageHandler(recordLine);
         logged.clear();
     }
 
@@ -206,11 +193,11 @@ private Q_SLOTS:
     void picturesMoveInChunks_data()
     {
         constexpr qsizetype Chunk = 524288;
-        addColumns<QList<qsizetype>>("chunks");
-        QTest::newRow("empty") << QList<qsizetype>();
-        QTest::newRow("one chunk") << QList<qsizetype>{Chunk};
-        QTest::newRow("a byte more") << QList<qsizetype>{Chunk, 1};
-        QTest::newRow("6 MiB") << QList<qsizetype>(12, Chunk);
+        const auto row = addColumns<QList<qsizetype>>("chunks");
+        row("empty", QList<qsizetype>());
+        row("one chunk", QList<qsizetype>{Chunk});
+        row("a byte more", QList<qsizetype>{Chunk, 1});
+        row("6 MiB", QList<qsizetype>(12, Chunk));
     }
     void picturesMoveInChunks()
     {
@@ -271,13 +258,7 @@ private Q_SLOTS:
 
     void contentsDecide_data()
     {
-        QTest::addColumn<QByteArray>("key");
-        QTest::addColumn<Values>("metadata");
-        QTest::addColumn<QString>("outcome"); // and calls
-        const auto row = [](const char *name, const QByteArray &key, const Values &metadata,
-                            const char *outcome) {
-            QTest::newRow(name) << key << metadata << QString::fromLatin1(outcome);
-        };
+        const auto row = addColumns<QByteArray, Values, QByteArray>("key", "metadata", "outcomeAndCalls");
         const Values advanced = {{u"AdvancedSettings"_s, QString::fromLatin1(PathKey.toBase64())}};
         row("taskbar, only the extra", {}, advanced, "failed; ");
         row("taskbar", NoKey, advanced,
@@ -303,17 +284,13 @@ private Q_SLOTS:
         const QString id = QString::fromLatin1(QTest::currentDataTag()).section(u',', 0, 0);
         const QByteArrayList data(key.isEmpty() ? 0 : 1, keyPayload(id, key));
         const QString outcome = Half().apply(id, data, metadata);
-        QTEST(outcome + u"; "_s + calls(), "outcome");
+        QTEST((outcome + u"; "_s + calls()).toLatin1(), "outcomeAndCalls");
     }
 
     void programsFail_data()
     {
-        QTest::addColumn<bool>("isExport");
-        QTest::addColumn<QByteArray>("script"); // of the program; empty where it is missing
-        QTest::addColumn<QString>("log");
-        const auto row = [](const char *name, bool isExport, const QByteArray &script, const char *log) {
-            QTest::newRow(name) << isExport << script << QString::fromLatin1(log);
-        };
+        // The script of the program is empty where that is missing.
+        const auto row = addColumns<bool, QByteArray, QByteArray>("isExport", "script", "log");
         row("sound, missing", true, "", R"([Registry] Export timeout for: "HKCU\\AppEvents\\Schemes")");
         row("sound, failing", true, "echo x > $3; echo no >&2; exit 3", R"(  Error: "no\n")");
         row("sound, empty", true, ": > $3", R"([Registry] Exported: "HKCU\\AppEvents\\Schemes" size: 0)");
@@ -330,7 +307,7 @@ private Q_SLOTS:
             QSKIP("The programs of the PC at hand stay.");
         QFETCH(const bool, isExport);
         QFETCH(const QByteArray, script);
-        QFETCH(const QString, log);
+        QFETCH(const QByteArray, log);
         const QString id = QString::fromLatin1(QTest::currentDataTag()).section(u',', 0, 0);
         const QString program = id == "power"_L1 ? u"powercfg"_s : u"reg"_s;
         m_pc->removeProgram(program);
@@ -341,7 +318,7 @@ private Q_SLOTS:
             half.migrator.start({chosen(id)});
         else
             half.apply(id, {keyPayload(id, PathKey), filePayload(id, u"../not written"_s, "x")});
-        QVERIFY2(logged.contains(log), qPrintable(logged.join(u'\n')));
+        QVERIFY2(logged.contains(QString::fromLatin1(log)), qPrintable(logged.join(u'\n')));
         const QString error = isExport ? u"Export failed"_s : u"Failed to apply setting"_s;
         QCOMPARE(half.ended[0], (QVariantList{isExport ? id : QString(), false, error}));
     }
@@ -467,8 +444,8 @@ private:
         return m_pc->homePath(u"Pictures/Zandrove/"_s + name);
     }
 
-    std::unique_ptr<SimulatedPc> m_pc;
-    QStringList m_foreignFiles; // what others had left in the temporary folder of the PC at hand
+    /// What others had left in the temporary folder of the PC at hand.
+    const QStringList m_foreignFiles = SimulatedPc::isMadeUp() ? QStringList() : temporaryFiles();
 };
 
 ZANDROVE_TEST(SettingsTest)

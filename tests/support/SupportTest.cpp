@@ -12,9 +12,6 @@
 
 #include <limits>
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
-
 namespace {
 
 NetworkAdapter adapter(const QString &name, const QStringList &addresses)

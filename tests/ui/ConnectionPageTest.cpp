@@ -12,14 +12,11 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTcpSocket>
 
 #include <memory>
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 using Protocol::MessageType;
 
 /// The page on a real engine, with bare sockets for the PCs that dial it.

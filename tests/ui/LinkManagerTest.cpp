@@ -8,11 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSettings>
-#include <QSignalSpy>
 #include <QTemporaryDir>
-
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 
 /// The web links: the ones that come with the program, and what happens when one is missing.
 class LinkManagerTest : public QObject
@@ -53,19 +49,19 @@ private Q_SLOTS:
 
     void poorDocumentGivesWhatItHas_data()
     {
-        addColumns<QByteArray, QString>("document", "link");
+        const auto row = addColumns<QByteArray, QString>("document", "link");
         const QByteArray start =
             R"({"metadata": {"supported_languages": ["en", "fr"], "fallback_language": "fr"})";
-        QTest::newRow("missing") << QByteArray() << QString();
-        QTest::newRow("no JSON") << QByteArray("{") << QString();
-        QTest::newRow("no object") << QByteArray("[]") << QString();
-        QTest::newRow("other types") << QByteArray(R"({"metadata": 1, "c": {"k": ["en"]}})") << QString();
-        QTest::newRow("no category") << start + "}" << QString();
-        QTest::newRow("no key") << start + R"(, "c": {}})" << QString();
-        QTest::newRow("neither language") << start + R"(, "c": {"k": {"it": "i"}}})" << QString();
-        QTest::newRow("fallback") << start + R"(, "c": {"k": {"fr": "f"}}})" << u"f"_s;
-        QTest::newRow("empty address") << start + R"(, "c": {"k": {"en": "", "fr": "f"}}})" << u"f"_s;
-        QTest::newRow("language in use") << start + R"(, "c": {"k": {"en": "e", "fr": "f"}}})" << u"e"_s;
+        row("missing", QByteArray(), QString());
+        row("no JSON", QByteArray("{"), QString());
+        row("no object", QByteArray("[]"), QString());
+        row("other types", QByteArray(R"({"metadata": 1, "c": {"k": ["en"]}})"), QString());
+        row("no category", start + "}", QString());
+        row("no key", start + R"(, "c": {}})", QString());
+        row("neither language", start + R"(, "c": {"k": {"it": "i"}}})", QString());
+        row("fallback", start + R"(, "c": {"k": {"fr": "f"}}})", u"f"_s);
+        row("empty address", start + R"(, "c": {"k": {"en": "", "fr": "f"}}})", u"f"_s);
+        row("language in use", start + R"(, "c": {"k": {"en": "e", "fr": "f"}}})", u"e"_s);
     }
 
     void poorDocumentGivesWhatItHas()

@@ -16,14 +16,10 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QRegularExpression>
-#include <QSignalSpy>
 #include <QTabWidget>
 #include <QTreeWidget>
 
 #include <ctime>
-
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 
 namespace {
 
@@ -177,14 +173,14 @@ private Q_SLOTS:
     void ticksMakeTheSelection_data()
     {
         // Each step: "+" ticks, "-" unticks, ">" opens; then the folder's path, "." for Documents.
-        addColumns<QString, QString, Qt::CheckState>("steps", "selected", "rootState");
-        QTest::newRow("folder stands for what is not open") << u"+a"_s << u"a"_s << Qt::PartiallyChecked;
-        QTest::newRow("opened below a tick") << u"+a >a"_s << u"a a/x a/y"_s << Qt::PartiallyChecked;
-        QTest::newRow("parent by its children is not entered") << u"+a +b"_s << u"a b"_s << Qt::Checked;
-        QTest::newRow("parent takes its children along") << u">a +."_s << u". a a/x a/y b"_s << Qt::Checked;
-        QTest::newRow("parent stays when a child goes") << u"+. -b"_s << u". a"_s << Qt::PartiallyChecked;
-        QTest::newRow("partly ticked child") << u">a +a/x"_s << u"a/x"_s << Qt::PartiallyChecked;
-        QTest::newRow("all gone") << u"+. -."_s << QString() << Qt::Unchecked;
+        const auto row = addColumns<QString, QString, Qt::CheckState>("steps", "selected", "rootState");
+        row("folder stands for what is not open", u"+a"_s, u"a"_s, Qt::PartiallyChecked);
+        row("opened below a tick", u"+a >a"_s, u"a a/x a/y"_s, Qt::PartiallyChecked);
+        row("parent by its children is not entered", u"+a +b"_s, u"a b"_s, Qt::Checked);
+        row("parent takes its children along", u">a +."_s, u". a a/x a/y b"_s, Qt::Checked);
+        row("parent stays when a child goes", u"+. -b"_s, u". a"_s, Qt::PartiallyChecked);
+        row("partly ticked child", u">a +a/x"_s, u"a/x"_s, Qt::PartiallyChecked);
+        row("all gone", u"+. -."_s, QString(), Qt::Unchecked);
     }
 
     void ticksMakeTheSelection()

@@ -18,15 +18,11 @@
 #include <QLabel>
 #include <QPropertyAnimation>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QVBoxLayout>
 #include <QWindow>
 
 #include <memory>
-
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 
 namespace {
 

@@ -6,9 +6,6 @@
 
 #include <QSettings>
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
-
 namespace {
 
 QStringList logged; // by the work that runs
@@ -49,11 +46,11 @@ private Q_SLOTS:
 
     void firewallRulesAreAddedOnce_data()
     {
-        addColumns<QByteArray, bool>("shown", "adds");
-        QTest::newRow("both there") << "Rule Name: Zandrove TCP\nRule Name: Zandrove UDP"_ba << false;
-        QTest::newRow("UDP missing") << "Rule Name: Zandrove TCP"_ba << false;
-        QTest::newRow("TCP missing") << "Rule Name: Zandrove UDP"_ba << true;
-        QTest::newRow("other case") << "Rule Name: zandrove tcp"_ba << true;
+        const auto row = addColumns<QByteArray, bool>("shown", "adds");
+        row("both there", "Rule Name: Zandrove TCP\nRule Name: Zandrove UDP"_ba, false);
+        row("UDP missing", "Rule Name: Zandrove TCP"_ba, false);
+        row("TCP missing", "Rule Name: Zandrove UDP"_ba, true);
+        row("other case", "Rule Name: zandrove tcp"_ba, true);
     }
     void firewallRulesAreAddedOnce()
     {
@@ -86,20 +83,19 @@ private Q_SLOTS:
 
     void systemLocaleChoosesTheLanguage_data()
     {
-        addColumns<QString, QString>("locale", "language");
+        const auto row = addColumns<QString, QString>("locale", "language");
         for (const char *code : {"en", "fr", "de", "ja", "es", "ko", "nl", "pt", "it"})
-            QTest::newRow(code) << QString::fromLatin1(code) << QString::fromLatin1(code);
-        QTest::newRow("pt_BR") << u"pt_BR"_s << u"pt"_s;
-        QTest::newRow("zh_CN") << u"zh_CN"_s << u"zh_TW"_s;
-        QTest::newRow("sv_SE") << u"sv_SE"_s << u"en"_s;
-        QTest::newRow("C") << u"C"_s << u"en"_s;
-        QTest::newRow("three letters") << u"deu_DE"_s << u"de"_s;
+            row(code, QString::fromLatin1(code), QString::fromLatin1(code));
+        row("pt_BR", u"pt_BR"_s, u"pt"_s);
+        row("zh_CN", u"zh_CN"_s, u"zh_TW"_s);
+        row("sv_SE", u"sv_SE"_s, u"en"_s);
+        row("C", u"C"_s, u"en"_s);
+        row("three letters", u"deu_DE"_s, u"de"_s);
     }
     void systemLocaleChoosesTheLanguage()
     {
         QFETCH(QString, locale);
-        QFETCH(QString, language);
-        QCOMPARE(StartUp::chooseLanguage({}, locale), language);
+        QTEST(StartUp::chooseLanguage({}, locale), "language");
     }
 
     void unknownStoredLanguageStaysAndShowsEnglish()

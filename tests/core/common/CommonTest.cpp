@@ -1,9 +1,6 @@
 #include "TestMain.h"
 #include "core/common/Records.h"
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
-
 namespace {
 
 QString remaining(int seconds)

@@ -5,11 +5,6 @@
 #include "inventory/AppScanner.h"
 #include "inventory/FileScanner.h"
 
-#include <QSignalSpy>
-
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
-
 namespace {
 
 constexpr int LongestScan = 60000;  // milliseconds
@@ -97,10 +92,10 @@ private Q_SLOTS:
 
     void cancelledScanGivesNoResult_data()
     {
-        addColumns<QString>("end");
+        const auto row = addColumns<QString>("end");
         for (const char *end :
              {"cancel", "reset", "cancel from a scanner's progress", "reset behind the join"})
-            QTest::newRow(end) << QString::fromLatin1(end);
+            row(end, QString::fromLatin1(end));
     }
     void cancelledScanGivesNoResult()
     {

@@ -5,11 +5,8 @@
 #include "pipeline/MigrationManager.h"
 
 #include <QDirIterator>
-#include <QSignalSpy>
 #include <QTcpSocket>
 
-using namespace Qt::StringLiterals;
-using namespace Zandrove;
 using Protocol::MessageType;
 
 namespace {

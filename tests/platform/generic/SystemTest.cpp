@@ -26,16 +26,11 @@ QByteArray registryFile(const QString &text)
 } // namespace
 
 /// The simulated PC: a registry in a file, folders from the environment, links as texts, programs on PATH.
-class SystemTest : public QObject
+class SystemTest : public PcTest
 {
     Q_OBJECT
 
-    std::unique_ptr<SimulatedPc> m_pc;
-
 private Q_SLOTS:
-    void init() { m_pc = std::make_unique<SimulatedPc>(); }
-    void cleanup() { m_pc.reset(); }
-
     void linksPipesAndForeignFilesAreTold()
     {
         const QString own = m_pc->writeFile(u"own"_s, "");
@@ -65,9 +60,9 @@ private Q_SLOTS:
 
     void registryFileIsReadAsItMayBeWritten_data()
     {
-        addColumns<QString, QString>("text", "value");
-        const auto row = [](const char *name, const QString &lines, const QString &value) {
-            QTest::newRow(name) << Header + lines << value;
+        const auto whole = addColumns<QString, QString>("text", "value");
+        const auto row = [&](const char *name, const QString &lines, const QString &value) {
+            whole(name, Header + lines, value);
         };
         const QString key = u"[HKCU\\K]\n"_s;
         const QString x = key + u"\"v\"=\"x\"\n"_s;
@@ -90,8 +85,8 @@ private Q_SLOTS:
         row("value before any key", u"\"v\"=\"x\"\n"_s + key, u"none"_s);
         row("value below no known root", key + u"[HKEY_NOWHERE\\K]\n\"v\"=\"x\"\n[\n[]\n"_s, u"none"_s);
         row("key too deep", key + u"[HKCU"_s + u"\\K"_s.repeated(2000) + u"]\n\"v\"=\"x\"\n"_s, u"none"_s);
-        QTest::newRow("other header") << u"REGEDIT4\n\n"_s + x << u"none"_s;
-        QTest::newRow("header alone") << u"Windows Registry Editor Version 5.00"_s << u"none"_s;
+        whole("other header", u"REGEDIT4\n\n"_s + x, u"none"_s);
+        whole("header alone", u"Windows Registry Editor Version 5.00"_s, u"none"_s);
     }
     void registryFileIsReadAsItMayBeWritten()
     {

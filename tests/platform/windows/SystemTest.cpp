@@ -15,16 +15,11 @@
 using Platform::SpecialFolder;
 
 /// What the calls of Windows do on the PC at hand.
-class SystemTest : public QObject
+class SystemTest : public PcTest
 {
     Q_OBJECT
 
-    std::unique_ptr<SimulatedPc> m_pc;
-
 private Q_SLOTS:
-    void init() { m_pc = std::make_unique<SimulatedPc>(); }
-    void cleanup() { m_pc.reset(); }
-
     void programBesideThisOneIsNeverStarted()
     {
         const QString place = QCoreApplication::applicationDirPath() + u'/';
@@ -47,10 +42,10 @@ private Q_SLOTS:
 
     void shellLinkWorksOnAThreadOfAnyMode_data()
     {
-        addColumns<int>("mode");
-        QTest::newRow("multi-threaded") << 0;
-        QTest::newRow("apartment") << 2;
-        QTest::newRow("none") << -1;
+        const auto row = addColumns<int>("mode");
+        row("multi-threaded", 0);
+        row("apartment", 2);
+        row("none", -1);
     }
     void shellLinkWorksOnAThreadOfAnyMode()
     {
