@@ -200,6 +200,29 @@
     </message>
 </context>
 <context>
+    <name>TaskList</name>
+    <message>
+        <source>Folder not found</source>
+        <translation>Ordner nicht gefunden</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>Der Name ist kein gültiger Text</translation>
+    </message>
+    <message>
+        <source>Cannot list folder: %1</source>
+        <translation>Der Inhalt des Ordners kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Its path contains a backslash, which separates folders on the New PC</source>
+        <translation>Der Pfad enthält einen umgekehrten Schrägstrich, der auf dem neuen PC Ordner voneinander trennt</translation>
+    </message>
+    <message>
+        <source>Another ticked folder has a file of this name</source>
+        <translation>Ein anderer ausgewählter Ordner enthält eine Datei mit diesem Namen</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::AccountScanner</name>
     <message>
         <source>Scanning user accounts...</source>
@@ -235,6 +258,22 @@
     <message>
         <source>Failed to copy install files</source>
         <translation>Die Installationsdateien konnten nicht kopiert werden</translation>
+    </message>
+    <message>
+        <source>Stopped: %1 of %2 files copied</source>
+        <translation>Abgebrochen: %1 von %2 Dateien kopiert</translation>
+    </message>
+    <message>
+        <source>Stopped before all of its keys and shortcuts were there</source>
+        <translation>Abgebrochen, bevor alle Registrierungsschlüssel und Verknüpfungen der App angelegt waren</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>Nicht angekommene Dateien von %1: %2</translation>
+    </message>
+    <message>
+        <source>Files that could not be copied: %1 of %2 (%3: %4)</source>
+        <translation>Nicht kopierte Dateien: %1 von %2 (%3: %4)</translation>
     </message>
 </context>
 <context>
@@ -300,6 +339,17 @@
     <message>
         <source>Scan complete</source>
         <translation>Suche abgeschlossen</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Admission</name>
+    <message>
+        <source>No request is open that this could answer.</source>
+        <translation>Es ist keine Anfrage offen, die damit beantwortet werden könnte.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 ist nicht mehr da.</translation>
     </message>
 </context>
 <context>
@@ -426,10 +476,6 @@
         <translation>Auflisten, was von diesem PC übertragen werden kann: Apps, Ordner, Konten und Einstellungen.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Exitcodes: 0 alles übertragen oder aufgelistet; 1 Verbindung oder Lauf fehlgeschlagen oder abgelehnt; 2 falscher Aufruf; 3 Zeitüberschreitung; 4 beendet, aber etwas ist fehlgeschlagen oder wurde übersprungen; 130 mit Strg+C abgebrochen (der andere PC erfährt davon; ein zweites Strg+C beendet sofort).</translation>
-    </message>
-    <message>
         <source>This text; after a command, the help of that command.</source>
         <translation>Dieser Text; nach einem Befehl die Hilfe zu diesem Befehl.</translation>
     </message>
@@ -501,12 +547,27 @@
         <source>send needs something to move: a --folder, an --app or a --setting.</source>
         <translation>send braucht etwas zum Übertragen: --folder, --app oder --setting.</translation>
     </message>
+    <message>
+        <source>Write the report of each transfer to FILE, in place of the one before: a page to read or, for a name that ends in .json, JSON.</source>
+        <translation>Den Bericht jeder Übertragung in FILE schreiben, anstelle des vorherigen: als Seite zum Lesen oder, wenn der Name auf .json endet, als JSON.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Exitcodes: 0 alles übertragen oder aufgelistet; 1 Verbindung oder Lauf fehlgeschlagen oder abgelehnt; 2 falscher Aufruf; 3 Zeitüberschreitung; 4 beendet, aber etwas ist fehlgeschlagen oder war schon vorhanden; 130 mit Strg+C abgebrochen (der andere PC erfährt davon; ein zweites Strg+C beendet sofort).</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Output</name>
     <message>
-        <source>Allow %1 to connect? [y/N] </source>
-        <translation>Darf %1 sich verbinden? [y/N] </translation>
+        <source>Allow %1 (%2) to connect? [y/N] </source>
+        <translation>Darf %1 (%2) sich verbinden? [y/N] </translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Program</name>
+    <message>
+        <source>The report can&apos;t be written: %1 is a folder.</source>
+        <translation>Der Bericht kann nicht geschrieben werden: %1 ist ein Ordner.</translation>
     </message>
 </context>
 <context>
@@ -524,10 +585,6 @@
         <translation>hier kann niemand gefragt werden. Mit --yes starten, um jeden PC zuzulassen.</translation>
     </message>
     <message>
-        <source>%1 is not there any more.</source>
-        <translation>%1 ist nicht mehr da.</translation>
-    </message>
-    <message>
         <source>The link to %1 broke during a transfer.</source>
         <translation>Die Verbindung zu %1 ist während einer Übertragung abgebrochen.</translation>
     </message>
@@ -542,6 +599,10 @@
     <message>
         <source>Some settings are still being applied; the report is without them.</source>
         <translation>Einige Einstellungen werden noch angewendet; im Bericht fehlen sie.</translation>
+    </message>
+    <message>
+        <source>The transfer from %1 broke off.</source>
+        <translation>Die Übertragung von %1 ist abgebrochen.</translation>
     </message>
 </context>
 <context>
@@ -570,6 +631,10 @@
         <source>%1 did not answer within %2 seconds.</source>
         <translation>%1 hat innerhalb von %2&#xa0;s nicht geantwortet.</translation>
     </message>
+    <message>
+        <source>%1 ended the transfer.</source>
+        <translation>%1 hat die Übertragung beendet.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -580,6 +645,18 @@
     <message>
         <source>The other PC did not end the session: not everything may have arrived.</source>
         <translation>Der andere PC hat die Sitzung nicht beendet: Möglicherweise ist nicht alles angekommen.</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
+        <translation>%1 sind unterwegs, aber auf %3 sind nur %2 frei: Es wird nicht alles passen.</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>Keine Antwort von %1 seit %2 s</translation>
+    </message>
+    <message>
+        <source>%1 answers again</source>
+        <translation>%1 antwortet wieder</translation>
     </message>
 </context>
 <context>
@@ -653,14 +730,6 @@
         <translation>Von %1 abgebrochen.</translation>
     </message>
     <message>
-        <source>Files: %1 received, %2 failed, %3 skipped.</source>
-        <translation>Dateien: %1 empfangen, %2 fehlgeschlagen, %3 übersprungen.</translation>
-    </message>
-    <message>
-        <source>Files: %1 sent, %2 failed, %3 skipped.</source>
-        <translation>Dateien: %1 gesendet, %2 fehlgeschlagen, %3 übersprungen.</translation>
-    </message>
-    <message>
         <source>Files saved:</source>
         <translation>Gespeicherte Dateien:</translation>
     </message>
@@ -725,20 +794,24 @@
         <translation>angewendet</translation>
     </message>
     <message>
-        <source>failed</source>
-        <translation>fehlgeschlagen</translation>
+        <source>%1 is installing %2...</source>
+        <translation>%1 installiert %2...</translation>
     </message>
     <message>
-        <source>failed: %1</source>
-        <translation>fehlgeschlagen: %1</translation>
+        <source>Installing %1</source>
+        <translation>%1 wird installiert</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 failed, %3 were there before.</source>
+        <translation>Dateien: %1 angekommen, %2 fehlgeschlagen, %3 schon vorhanden.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::CompletePage</name>
-    <message>
-        <source>Transfer Complete!</source>
-        <translation>Übertragung abgeschlossen!</translation>
-    </message>
     <message>
         <source>Your files, apps and settings have been successfully transferred</source>
         <translation>Ihre Dateien, Apps und Einstellungen wurden erfolgreich übertragen</translation>
@@ -790,6 +863,18 @@
     <message>
         <source>Open</source>
         <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 were there already and identical, %3 were there already and different, %4 failed or are not confirmed</source>
+        <translation>Dateien: %1 angekommen, %2 schon vorhanden und identisch, %3 schon vorhanden und anders, %4 fehlgeschlagen oder nicht bestätigt</translation>
+    </message>
+    <message>
+        <source>%1 of %2 apps did not arrive</source>
+        <translation>%1 von %2 Apps nicht angekommen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 settings did not arrive</source>
+        <translation>%1 von %2 Einstellungen nicht angekommen</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1060,13 @@ Möchten Sie das zulassen?</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::FileCopy</name>
+    <message>
+        <source>it became shorter meanwhile</source>
+        <translation>sie ist inzwischen kürzer geworden</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::FileReceiverWorker</name>
     <message>
         <source>Write error</source>
@@ -991,6 +1083,14 @@ Möchten Sie das zulassen?</translation>
     <message>
         <source>Checksum mismatch</source>
         <translation>Die Prüfsumme stimmt nicht überein</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>Während des Sendens geändert</translation>
+    </message>
+    <message>
+        <source>It did not arrive whole</source>
+        <translation>Nicht vollständig angekommen</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1113,18 @@ Möchten Sie das zulassen?</translation>
     <message>
         <source>not a regular file</source>
         <translation>keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>Cancelled before it was sent whole</source>
+        <translation>Abgebrochen, bevor alles gesendet war</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Datei kann nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>Während des Sendens geändert</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1161,33 @@ Wenden Sie sich an den technischen Support, oder installieren Sie die App neu.</
 
 Kopieren Sie den Link, und öffnen Sie ihn selbst:
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::LinkWatch</name>
+    <message>
+        <source>No answer from the other PC for %1 s</source>
+        <translation>Keine Antwort vom anderen PC seit %1 s</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>Keine Antwort von %1 seit %2 s</translation>
+    </message>
+    <message>
+        <source>The connection to %1 is lost.</source>
+        <translation>Die Verbindung zu %1 ist verloren gegangen.</translation>
+    </message>
+    <message>
+        <source>The connection to the other PC is lost.</source>
+        <translation>Die Verbindung zum anderen PC ist verloren gegangen.</translation>
+    </message>
+    <message>
+        <source>Back to connections</source>
+        <translation>Zurück zu den Verbindungen</translation>
+    </message>
+    <message>
+        <source>Show report</source>
+        <translation>Bericht anzeigen</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1269,49 @@ Die App wird jetzt neu gestartet.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::MissingItems</name>
+    <message>
+        <source>Did not arrive</source>
+        <translation>Nicht angekommen</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>Copy list</source>
+        <translation>Liste kopieren</translation>
+    </message>
+    <message>
+        <source>Save report…</source>
+        <translation>Bericht speichern…</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Und %1 weitere.</translation>
+    </message>
+    <message>
+        <source>The list is on the clipboard.</source>
+        <translation>Die Liste ist in der Zwischenablage.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Zandrove-Bericht</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>Bericht speichern</translation>
+    </message>
+    <message>
+        <source>Page (*.html);;JSON (*.json)</source>
+        <translation>Webseite (*.html);;JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>The report is saved.</source>
+        <translation>Der Bericht ist gespeichert.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::NetworkManager</name>
     <message>
         <source>PC not found</source>
@@ -1190,6 +1372,176 @@ Die App wird jetzt neu gestartet.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::ReceivingRun</name>
+    <message>
+        <source>the link was lost</source>
+        <translation>die Verbindung ging verloren</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReplacingFile</name>
+    <message>
+        <source>a folder of this name stands in its place</source>
+        <translation>an dieser Stelle liegt ein Ordner mit diesem Namen</translation>
+    </message>
+    <message>
+        <source>the file that stands there is read-only</source>
+        <translation>die dort vorhandene Datei ist schreibgeschützt</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReportDocument</name>
+    <message>
+        <source>Old PC</source>
+        <translation>Alter PC</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>Neuer PC</translation>
+    </message>
+    <message>
+        <source>Began</source>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Took</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>Übertragen</translation>
+    </message>
+    <message>
+        <source>Not moved</source>
+        <translation>Nicht übertragen</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Apps</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>There already</source>
+        <translation>Schon vorhanden</translation>
+    </message>
+    <message>
+        <source>There, but different</source>
+        <translation>Vorhanden, aber anders</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Gesamt</translation>
+    </message>
+    <message>
+        <source>What to do next</source>
+        <translation>Was Sie als Nächstes tun können</translation>
+    </message>
+    <message>
+        <source>Where the files lie</source>
+        <translation>Wo die Dateien liegen</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Place on %1</source>
+        <translation>Speicherort auf %1</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <translation>App</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Apps and settings</source>
+        <translation>Apps und Einstellungen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>What became of it</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>%1 files, which only the report of the Old PC can name.</source>
+        <translation>Dateien: %1, namentlich nur im Bericht des alten PCs.</translation>
+    </message>
+    <message>
+        <source>And %1 more, which only the report of the Old PC can name.</source>
+        <translation>Und %1 weitere, namentlich nur im Bericht des alten PCs.</translation>
+    </message>
+    <message>
+        <source>%1 files.</source>
+        <translation>Dateien: %1.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Und %1 weitere.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <source>%1 were there already.</source>
+        <translation>Schon vorhanden: %1.</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language of this translation, as in &quot;de&quot; or &quot;zh-TW&quot;.</extracomment>
+        <translation>de</translation>
+    </message>
+    <message>
+        <source>%1 report</source>
+        <translation>%1-Bericht</translation>
+    </message>
+    <message>
+        <source>This transfer</source>
+        <translation>Diese Übertragung</translation>
+    </message>
+    <message>
+        <source>Files that did not arrive</source>
+        <translation>Nicht angekommene Dateien</translation>
+    </message>
+    <message>
+        <source>Files that were there already, with other content</source>
+        <translation>Dateien, die schon mit anderem Inhalt vorhanden waren</translation>
+    </message>
+    <message>
+        <source>The report %1 can&apos;t be written: %2</source>
+        <translation>Der Bericht %1 kann nicht geschrieben werden: %2</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::RoleCard</name>
     <message>
         <source>Old PC</source>
@@ -1221,6 +1573,136 @@ Die App wird jetzt neu gestartet.</translation>
     <message>
         <source>Both computers need Zandrove installed and running</source>
         <translation>Auf beiden PCs muss Zandrove installiert sein und laufen</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunLedger</name>
+    <message>
+        <source>changed while it was sent</source>
+        <translation>während des Sendens geändert</translation>
+    </message>
+    <message>
+        <source>%1 does not say why</source>
+        <translation>%1 nennt keinen Grund</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>gesendet, aber %1 hat die Ankunft nicht bestätigt</translation>
+    </message>
+    <message>
+        <source>not moved: the transfer ended before its turn</source>
+        <translation>nicht übertragen: Die Übertragung endete vorher</translation>
+    </message>
+    <message>
+        <source>there already</source>
+        <translation>schon vorhanden</translation>
+    </message>
+    <message>
+        <source>there already, identical</source>
+        <translation>schon vorhanden, identisch</translation>
+    </message>
+    <message>
+        <source>there already, and different: the one from the Old PC was not moved</source>
+        <translation>schon vorhanden, aber anders: Die Version vom alten PC wurde nicht übertragen</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunTexts</name>
+    <message>
+        <source>drive %1</source>
+        <translation>Laufwerk %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files did not arrive</source>
+        <translation>%1 von %2 Dateien nicht angekommen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files arrived; nothing was deleted on the Old PC</source>
+        <translation>%1 von %2 Dateien angekommen; auf dem alten PC wurde nichts gelöscht</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled</source>
+        <translation>Übertragung abgebrochen</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled by %1</source>
+        <translation>Übertragung durch %1 abgebrochen</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost</source>
+        <translation>Verbindung zu %1 verloren</translation>
+    </message>
+    <message>
+        <source>Transfer ended by %1</source>
+        <translation>Übertragung durch %1 beendet</translation>
+    </message>
+    <message>
+        <source>Transfer not finished</source>
+        <translation>Übertragung nicht beendet</translation>
+    </message>
+    <message>
+        <source>Transfer finished, %1</source>
+        <translation>Übertragung beendet, %1</translation>
+    </message>
+    <message>
+        <source>Transfer finished, but not everything was moved</source>
+        <translation>Übertragung beendet, aber es wurde nicht alles übertragen</translation>
+    </message>
+    <message>
+        <source>Transfer Complete!</source>
+        <translation>Übertragung abgeschlossen!</translation>
+    </message>
+    <message>
+        <source>no space left on %1 of %2: %3 files, %4 did not fit</source>
+        <translation>kein Platz mehr auf %1 von %2: nicht untergebrachte Dateien: %3 (%4)</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>übertragen</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>war schon vorhanden</translation>
+    </message>
+    <message>
+        <source>was there already, and different</source>
+        <translation>war schon vorhanden, aber anders</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>nicht bestätigt</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>noch nicht bekannt</translation>
+    </message>
+    <message>
+        <source>Open a few of the files on %1 before you part with the Old PC. Nothing was deleted there.</source>
+        <translation>Öffnen Sie einige der Dateien auf %1, bevor Sie sich vom alten PC trennen. Dort wurde nichts gelöscht.</translation>
+    </message>
+    <message>
+        <source>Make room for %1 on %2 of %3, or move less.</source>
+        <translation>Schaffen Sie auf %2 von %3 Platz für %1, oder übertragen Sie weniger.</translation>
+    </message>
+    <message>
+        <source>Some files stood on %1 before, with other content. Compare the two versions. To get the one from the Old PC, rename or move the one on %1, and move the same folder again.</source>
+        <translation>Einige Dateien waren auf %1 schon mit anderem Inhalt vorhanden. Vergleichen Sie die beiden Versionen. Wenn Sie die vom alten PC haben möchten, benennen Sie die auf %1 um oder verschieben Sie sie, und übertragen Sie denselben Ordner noch einmal.</translation>
+    </message>
+    <message>
+        <source>Connect the two PCs again and start the same transfer: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Verbinden Sie die beiden PCs wieder, und starten Sie dieselbe Übertragung: Was angekommen ist, wird übersprungen, nur was fehlt, wird übertragen.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Lesen Sie die Gründe in der Liste. Sobald sie behoben sind, starten Sie dieselbe Übertragung noch einmal: Was angekommen ist, wird übersprungen, nur was fehlt, wird übertragen.</translation>
+    </message>
+    <message>
+        <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
+        <translation>Lassen Sie den alten PC, wie er ist, bis nichts mehr fehlt. Dort wurde nichts gelöscht.</translation>
     </message>
 </context>
 <context>
@@ -1330,6 +1812,21 @@ Die App wird jetzt neu gestartet.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::SendingRun</name>
+    <message>
+        <source>File not found: %1</source>
+        <translation>Datei nicht gefunden: %1</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>Nicht angekommene Dateien von %1: %2</translation>
+    </message>
+    <message>
+        <source>sent; what became of it stands in the report of %1</source>
+        <translation>gesendet; das Ergebnis steht im Bericht von %1</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::SettingMigrator</name>
     <message>
         <source>Export failed</source>
@@ -1338,6 +1835,18 @@ Die App wird jetzt neu gestartet.</translation>
     <message>
         <source>Failed to apply setting</source>
         <translation>Die Einstellung konnte nicht angewendet werden</translation>
+    </message>
+    <message>
+        <source>stopped before it was applied</source>
+        <translation>abgebrochen, bevor die Einstellung angewendet wurde</translation>
+    </message>
+    <message>
+        <source>it did not arrive whole</source>
+        <translation>nicht vollständig angekommen</translation>
+    </message>
+    <message>
+        <source>stopped while it was being applied</source>
+        <translation>abgebrochen, während die Einstellung angewendet wurde</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +2254,46 @@ Die App wird jetzt neu gestartet.</translation>
     <message>
         <source>%1 failed</source>
         <translation>%1 fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>empfangen</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>gesendet</translation>
+    </message>
+    <message>
+        <source>Connection lost</source>
+        <translation>Verbindung verloren</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>%1 sind unterwegs, aber auf %3 sind nur %2 frei: Es wird nicht alles passen.</translation>
+    </message>
+    <message>
+        <source>Installing %1 - %2 %</source>
+        <translation>%1 wird installiert – %2 %</translation>
+    </message>
+    <message>
+        <source>%1 is installing...</source>
+        <translation>%1 installiert...</translation>
+    </message>
+    <message>
+        <source>Close Zandrove</source>
+        <translation>Zandrove schließen</translation>
+    </message>
+    <message>
+        <source>A transfer is running. Closing the window cancels it.</source>
+        <translation>Es läuft eine Übertragung. Wenn Sie das Fenster schließen, wird sie abgebrochen.</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
+        <translation>Was angekommen ist, bleibt auf dem neuen PC, und auf dem alten PC wird nichts gelöscht.</translation>
+    </message>
+    <message>
+        <source>Cancel and Close</source>
+        <translation>Abbrechen und schließen</translation>
     </message>
 </context>
 <context>

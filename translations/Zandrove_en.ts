@@ -200,6 +200,29 @@
     </message>
 </context>
 <context>
+    <name>TaskList</name>
+    <message>
+        <source>Folder not found</source>
+        <translation>Folder not found</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>Its name is not valid text</translation>
+    </message>
+    <message>
+        <source>Cannot list folder: %1</source>
+        <translation>Cannot list folder: %1</translation>
+    </message>
+    <message>
+        <source>Its path contains a backslash, which separates folders on the New PC</source>
+        <translation>Its path contains a backslash, which separates folders on the New PC</translation>
+    </message>
+    <message>
+        <source>Another ticked folder has a file of this name</source>
+        <translation>Another ticked folder has a file of this name</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::AccountScanner</name>
     <message>
         <source>Scanning user accounts...</source>
@@ -235,6 +258,22 @@
     <message>
         <source>Failed to copy install files</source>
         <translation>Failed to copy install files</translation>
+    </message>
+    <message>
+        <source>Stopped: %1 of %2 files copied</source>
+        <translation>Stopped: %1 of %2 files copied</translation>
+    </message>
+    <message>
+        <source>Stopped before all of its keys and shortcuts were there</source>
+        <translation>Stopped before all of its keys and shortcuts were there</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>Files of %1 that did not arrive: %2</translation>
+    </message>
+    <message>
+        <source>Files that could not be copied: %1 of %2 (%3: %4)</source>
+        <translation>Files that could not be copied: %1 of %2 (%3: %4)</translation>
     </message>
 </context>
 <context>
@@ -300,6 +339,17 @@
     <message>
         <source>Scan complete</source>
         <translation>Scan complete</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Admission</name>
+    <message>
+        <source>No request is open that this could answer.</source>
+        <translation>No request is open that this could answer.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 is not there any more.</translation>
     </message>
 </context>
 <context>
@@ -426,10 +476,6 @@
         <translation>List what can be moved from this PC: applications, folders, accounts and settings.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</translation>
-    </message>
-    <message>
         <source>This text; after a command, the help of that command.</source>
         <translation>This text; after a command, the help of that command.</translation>
     </message>
@@ -501,12 +547,27 @@
         <source>send needs something to move: a --folder, an --app or a --setting.</source>
         <translation>send needs something to move: a --folder, an --app or a --setting.</translation>
     </message>
+    <message>
+        <source>Write the report of each transfer to FILE, in place of the one before: a page to read or, for a name that ends in .json, JSON.</source>
+        <translation>Write the report of each transfer to FILE, in place of the one before: a page to read or, for a name that ends in .json, JSON.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Output</name>
     <message>
-        <source>Allow %1 to connect? [y/N] </source>
-        <translation>Allow %1 to connect? [y/N] </translation>
+        <source>Allow %1 (%2) to connect? [y/N] </source>
+        <translation>Allow %1 (%2) to connect? [y/N] </translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Program</name>
+    <message>
+        <source>The report can&apos;t be written: %1 is a folder.</source>
+        <translation>The report can&apos;t be written: %1 is a folder.</translation>
     </message>
 </context>
 <context>
@@ -524,10 +585,6 @@
         <translation>nobody can be asked here. Start with --yes to let every PC in.</translation>
     </message>
     <message>
-        <source>%1 is not there any more.</source>
-        <translation>%1 is not there any more.</translation>
-    </message>
-    <message>
         <source>The link to %1 broke during a transfer.</source>
         <translation>The link to %1 broke during a transfer.</translation>
     </message>
@@ -542,6 +599,10 @@
     <message>
         <source>Some settings are still being applied; the report is without them.</source>
         <translation>Some settings are still being applied; the report is without them.</translation>
+    </message>
+    <message>
+        <source>The transfer from %1 broke off.</source>
+        <translation>The transfer from %1 broke off.</translation>
     </message>
 </context>
 <context>
@@ -570,6 +631,10 @@
         <source>%1 did not answer within %2 seconds.</source>
         <translation>%1 did not answer within %2 seconds.</translation>
     </message>
+    <message>
+        <source>%1 ended the transfer.</source>
+        <translation>%1 ended the transfer.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -580,6 +645,18 @@
     <message>
         <source>The other PC did not end the session: not everything may have arrived.</source>
         <translation>The other PC did not end the session: not everything may have arrived.</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
+        <translation>%1 are on their way, but only %2 are free on %3: not everything will fit.</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>No answer from %1 for %2 s</translation>
+    </message>
+    <message>
+        <source>%1 answers again</source>
+        <translation>%1 answers again</translation>
     </message>
 </context>
 <context>
@@ -653,14 +730,6 @@
         <translation>Cancelled by %1.</translation>
     </message>
     <message>
-        <source>Files: %1 received, %2 failed, %3 skipped.</source>
-        <translation>Files: %1 received, %2 failed, %3 skipped.</translation>
-    </message>
-    <message>
-        <source>Files: %1 sent, %2 failed, %3 skipped.</source>
-        <translation>Files: %1 sent, %2 failed, %3 skipped.</translation>
-    </message>
-    <message>
         <source>Files saved:</source>
         <translation>Files saved:</translation>
     </message>
@@ -725,20 +794,24 @@
         <translation>applied</translation>
     </message>
     <message>
-        <source>failed</source>
-        <translation>failed</translation>
+        <source>%1 is installing %2...</source>
+        <translation>%1 is installing %2...</translation>
     </message>
     <message>
-        <source>failed: %1</source>
-        <translation>failed: %1</translation>
+        <source>Installing %1</source>
+        <translation>Installing %1</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 failed, %3 were there before.</source>
+        <translation>Files: %1 arrived, %2 failed, %3 were there before.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>and %1 more</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::CompletePage</name>
-    <message>
-        <source>Transfer Complete!</source>
-        <translation>Transfer Complete!</translation>
-    </message>
     <message>
         <source>Your files, apps and settings have been successfully transferred</source>
         <translation>Your files, apps and settings have been successfully transferred</translation>
@@ -790,6 +863,18 @@
     <message>
         <source>Open</source>
         <translation>Open</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 were there already and identical, %3 were there already and different, %4 failed or are not confirmed</source>
+        <translation>Files: %1 arrived, %2 were there already and identical, %3 were there already and different, %4 failed or are not confirmed</translation>
+    </message>
+    <message>
+        <source>%1 of %2 apps did not arrive</source>
+        <translation>%1 of %2 apps did not arrive</translation>
+    </message>
+    <message>
+        <source>%1 of %2 settings did not arrive</source>
+        <translation>%1 of %2 settings did not arrive</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1060,13 @@ Do you want to accept?</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::FileCopy</name>
+    <message>
+        <source>it became shorter meanwhile</source>
+        <translation>it became shorter meanwhile</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::FileReceiverWorker</name>
     <message>
         <source>Write error</source>
@@ -991,6 +1083,14 @@ Do you want to accept?</translation>
     <message>
         <source>Checksum mismatch</source>
         <translation>Checksum mismatch</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>Changed while it was sent</translation>
+    </message>
+    <message>
+        <source>It did not arrive whole</source>
+        <translation>It did not arrive whole</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1113,18 @@ Do you want to accept?</translation>
     <message>
         <source>not a regular file</source>
         <translation>not a regular file</translation>
+    </message>
+    <message>
+        <source>Cancelled before it was sent whole</source>
+        <translation>Cancelled before it was sent whole</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Cannot read file: %1</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>Changed while it was sent</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1161,33 @@ Please contact technical support or install the program again.</translation>
 
 Please copy the link and open it yourself:
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::LinkWatch</name>
+    <message>
+        <source>No answer from the other PC for %1 s</source>
+        <translation>No answer from the other PC for %1 s</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>No answer from %1 for %2 s</translation>
+    </message>
+    <message>
+        <source>The connection to %1 is lost.</source>
+        <translation>The connection to %1 is lost.</translation>
+    </message>
+    <message>
+        <source>The connection to the other PC is lost.</source>
+        <translation>The connection to the other PC is lost.</translation>
+    </message>
+    <message>
+        <source>Back to connections</source>
+        <translation>Back to connections</translation>
+    </message>
+    <message>
+        <source>Show report</source>
+        <translation>Show report</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1269,49 @@ The application will restart now.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::MissingItems</name>
+    <message>
+        <source>Did not arrive</source>
+        <translation>Did not arrive</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Reason</translation>
+    </message>
+    <message>
+        <source>Copy list</source>
+        <translation>Copy list</translation>
+    </message>
+    <message>
+        <source>Save report…</source>
+        <translation>Save report…</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>And %1 more.</translation>
+    </message>
+    <message>
+        <source>The list is on the clipboard.</source>
+        <translation>The list is on the clipboard.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Zandrove report</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>Save report</translation>
+    </message>
+    <message>
+        <source>Page (*.html);;JSON (*.json)</source>
+        <translation>Page (*.html);;JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>The report is saved.</source>
+        <translation>The report is saved.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::NetworkManager</name>
     <message>
         <source>PC not found</source>
@@ -1190,6 +1372,176 @@ The application will restart now.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::ReceivingRun</name>
+    <message>
+        <source>the link was lost</source>
+        <translation>the link was lost</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReplacingFile</name>
+    <message>
+        <source>a folder of this name stands in its place</source>
+        <translation>a folder of this name stands in its place</translation>
+    </message>
+    <message>
+        <source>the file that stands there is read-only</source>
+        <translation>the file that stands there is read-only</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReportDocument</name>
+    <message>
+        <source>Old PC</source>
+        <translation>Old PC</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>New PC</translation>
+    </message>
+    <message>
+        <source>Began</source>
+        <translation>Began</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Ended</translation>
+    </message>
+    <message>
+        <source>Took</source>
+        <translation>Took</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>Moved</translation>
+    </message>
+    <message>
+        <source>Not moved</source>
+        <translation>Not moved</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Apps</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>There already</source>
+        <translation>There already</translation>
+    </message>
+    <message>
+        <source>There, but different</source>
+        <translation>There, but different</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Failed</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>All</translation>
+    </message>
+    <message>
+        <source>What to do next</source>
+        <translation>What to do next</translation>
+    </message>
+    <message>
+        <source>Where the files lie</source>
+        <translation>Where the files lie</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>Place on %1</source>
+        <translation>Place on %1</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <translation>App</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Setting</translation>
+    </message>
+    <message>
+        <source>Apps and settings</source>
+        <translation>Apps and settings</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>What became of it</source>
+        <translation>What became of it</translation>
+    </message>
+    <message>
+        <source>%1 files, which only the report of the Old PC can name.</source>
+        <translation>%1 files, which only the report of the Old PC can name.</translation>
+    </message>
+    <message>
+        <source>And %1 more, which only the report of the Old PC can name.</source>
+        <translation>And %1 more, which only the report of the Old PC can name.</translation>
+    </message>
+    <message>
+        <source>%1 files.</source>
+        <translation>%1 files.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>And %1 more.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Reason</translation>
+    </message>
+    <message>
+        <source>%1 were there already.</source>
+        <translation>%1 were there already.</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language of this translation, as in &quot;de&quot; or &quot;zh-TW&quot;.</extracomment>
+        <translation>en</translation>
+    </message>
+    <message>
+        <source>%1 report</source>
+        <translation>%1 report</translation>
+    </message>
+    <message>
+        <source>This transfer</source>
+        <translation>This transfer</translation>
+    </message>
+    <message>
+        <source>Files that did not arrive</source>
+        <translation>Files that did not arrive</translation>
+    </message>
+    <message>
+        <source>Files that were there already, with other content</source>
+        <translation>Files that were there already, with other content</translation>
+    </message>
+    <message>
+        <source>The report %1 can&apos;t be written: %2</source>
+        <translation>The report %1 can&apos;t be written: %2</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>it is no ordinary file</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::RoleCard</name>
     <message>
         <source>Old PC</source>
@@ -1221,6 +1573,136 @@ The application will restart now.</translation>
     <message>
         <source>Both computers need Zandrove installed and running</source>
         <translation>Both computers need Zandrove installed and running</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunLedger</name>
+    <message>
+        <source>changed while it was sent</source>
+        <translation>changed while it was sent</translation>
+    </message>
+    <message>
+        <source>%1 does not say why</source>
+        <translation>%1 does not say why</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>sent, but %1 has not confirmed that it arrived</translation>
+    </message>
+    <message>
+        <source>not moved: the transfer ended before its turn</source>
+        <translation>not moved: the transfer ended before its turn</translation>
+    </message>
+    <message>
+        <source>there already</source>
+        <translation>there already</translation>
+    </message>
+    <message>
+        <source>there already, identical</source>
+        <translation>there already, identical</translation>
+    </message>
+    <message>
+        <source>there already, and different: the one from the Old PC was not moved</source>
+        <translation>there already, and different: the one from the Old PC was not moved</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunTexts</name>
+    <message>
+        <source>drive %1</source>
+        <translation>drive %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files did not arrive</source>
+        <translation>%1 of %2 files did not arrive</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files arrived; nothing was deleted on the Old PC</source>
+        <translation>%1 of %2 files arrived; nothing was deleted on the Old PC</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled</source>
+        <translation>Transfer cancelled</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled by %1</source>
+        <translation>Transfer cancelled by %1</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost</source>
+        <translation>The connection to %1 was lost</translation>
+    </message>
+    <message>
+        <source>Transfer ended by %1</source>
+        <translation>Transfer ended by %1</translation>
+    </message>
+    <message>
+        <source>Transfer not finished</source>
+        <translation>Transfer not finished</translation>
+    </message>
+    <message>
+        <source>Transfer finished, %1</source>
+        <translation>Transfer finished, %1</translation>
+    </message>
+    <message>
+        <source>Transfer finished, but not everything was moved</source>
+        <translation>Transfer finished, but not everything was moved</translation>
+    </message>
+    <message>
+        <source>Transfer Complete!</source>
+        <translation>Transfer Complete!</translation>
+    </message>
+    <message>
+        <source>no space left on %1 of %2: %3 files, %4 did not fit</source>
+        <translation>no space left on %1 of %2: %3 files, %4 did not fit</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>moved</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>was there already</translation>
+    </message>
+    <message>
+        <source>was there already, and different</source>
+        <translation>was there already, and different</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>failed</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>not confirmed</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>not known yet</translation>
+    </message>
+    <message>
+        <source>Open a few of the files on %1 before you part with the Old PC. Nothing was deleted there.</source>
+        <translation>Open a few of the files on %1 before you part with the Old PC. Nothing was deleted there.</translation>
+    </message>
+    <message>
+        <source>Make room for %1 on %2 of %3, or move less.</source>
+        <translation>Make room for %1 on %2 of %3, or move less.</translation>
+    </message>
+    <message>
+        <source>Some files stood on %1 before, with other content. Compare the two versions. To get the one from the Old PC, rename or move the one on %1, and move the same folder again.</source>
+        <translation>Some files stood on %1 before, with other content. Compare the two versions. To get the one from the Old PC, rename or move the one on %1, and move the same folder again.</translation>
+    </message>
+    <message>
+        <source>Connect the two PCs again and start the same transfer: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Connect the two PCs again and start the same transfer: what has arrived is skipped, only what is missing is moved.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</translation>
+    </message>
+    <message>
+        <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
+        <translation>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</translation>
     </message>
 </context>
 <context>
@@ -1330,6 +1812,21 @@ The application will restart now.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::SendingRun</name>
+    <message>
+        <source>File not found: %1</source>
+        <translation>File not found: %1</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>Files of %1 that did not arrive: %2</translation>
+    </message>
+    <message>
+        <source>sent; what became of it stands in the report of %1</source>
+        <translation>sent; what became of it stands in the report of %1</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::SettingMigrator</name>
     <message>
         <source>Export failed</source>
@@ -1338,6 +1835,18 @@ The application will restart now.</translation>
     <message>
         <source>Failed to apply setting</source>
         <translation>Failed to apply setting</translation>
+    </message>
+    <message>
+        <source>stopped before it was applied</source>
+        <translation>stopped before it was applied</translation>
+    </message>
+    <message>
+        <source>it did not arrive whole</source>
+        <translation>it did not arrive whole</translation>
+    </message>
+    <message>
+        <source>stopped while it was being applied</source>
+        <translation>stopped while it was being applied</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +2254,46 @@ The application will restart now.</translation>
     <message>
         <source>%1 failed</source>
         <translation>%1 failed</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>received</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>sent</translation>
+    </message>
+    <message>
+        <source>Connection lost</source>
+        <translation>Connection lost</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>%1 are on their way, but only %2 are free on %3. Not everything will fit.</translation>
+    </message>
+    <message>
+        <source>Installing %1 - %2 %</source>
+        <translation>Installing %1 - %2 %</translation>
+    </message>
+    <message>
+        <source>%1 is installing...</source>
+        <translation>%1 is installing...</translation>
+    </message>
+    <message>
+        <source>Close Zandrove</source>
+        <translation>Close Zandrove</translation>
+    </message>
+    <message>
+        <source>A transfer is running. Closing the window cancels it.</source>
+        <translation>A transfer is running. Closing the window cancels it.</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
+        <translation>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</translation>
+    </message>
+    <message>
+        <source>Cancel and Close</source>
+        <translation>Cancel and Close</translation>
     </message>
 </context>
 <context>

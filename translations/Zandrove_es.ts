@@ -200,6 +200,29 @@
     </message>
 </context>
 <context>
+    <name>TaskList</name>
+    <message>
+        <source>Folder not found</source>
+        <translation>No se encontró la carpeta</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>Su nombre no es un texto válido</translation>
+    </message>
+    <message>
+        <source>Cannot list folder: %1</source>
+        <translation>No se puede leer el contenido de la carpeta: %1</translation>
+    </message>
+    <message>
+        <source>Its path contains a backslash, which separates folders on the New PC</source>
+        <translation>Su ruta contiene una barra diagonal inversa, que en el PC nuevo separa las carpetas</translation>
+    </message>
+    <message>
+        <source>Another ticked folder has a file of this name</source>
+        <translation>Otra carpeta marcada contiene un archivo con este nombre</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::AccountScanner</name>
     <message>
         <source>Scanning user accounts...</source>
@@ -235,6 +258,22 @@
     <message>
         <source>Failed to copy install files</source>
         <translation>No se pudieron copiar los archivos de instalación</translation>
+    </message>
+    <message>
+        <source>Stopped: %1 of %2 files copied</source>
+        <translation>Instalación interrumpida, archivos copiados: %1 de %2</translation>
+    </message>
+    <message>
+        <source>Stopped before all of its keys and shortcuts were there</source>
+        <translation>Instalación interrumpida antes de crear todas las claves del Registro y todos los accesos directos</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>Archivos de %1 que no han llegado: %2</translation>
+    </message>
+    <message>
+        <source>Files that could not be copied: %1 of %2 (%3: %4)</source>
+        <translation>Archivos que no se pudieron copiar: %1 de %2 (%3: %4)</translation>
     </message>
 </context>
 <context>
@@ -300,6 +339,17 @@
     <message>
         <source>Scan complete</source>
         <translation>Análisis completado</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Admission</name>
+    <message>
+        <source>No request is open that this could answer.</source>
+        <translation>No hay ninguna solicitud abierta a la que esto pueda responder.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 ya no está disponible.</translation>
     </message>
 </context>
 <context>
@@ -426,10 +476,6 @@
         <translation>Mostrar lo que se puede transferir desde este PC: aplicaciones, carpetas, cuentas y configuración.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Códigos de salida: 0 todo se ha transferido o mostrado; 1 la conexión o la ejecución ha fallado o se ha rechazado; 2 uso incorrecto; 3 tiempo de espera agotado; 4 terminado, pero algo ha fallado o se ha omitido; 130 cancelado con Ctrl-C (se avisa al otro PC; un segundo Ctrl-C termina de inmediato).</translation>
-    </message>
-    <message>
         <source>This text; after a command, the help of that command.</source>
         <translation>Este texto; después de una orden, la ayuda de esa orden.</translation>
     </message>
@@ -501,12 +547,27 @@
         <source>send needs something to move: a --folder, an --app or a --setting.</source>
         <translation>send requiere algo que transferir: --folder, --app o --setting.</translation>
     </message>
+    <message>
+        <source>Write the report of each transfer to FILE, in place of the one before: a page to read or, for a name that ends in .json, JSON.</source>
+        <translation>Escribir el informe de cada transferencia en FILE, en lugar del anterior: una página para leer o, si el nombre termina en .json, JSON.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Códigos de salida: 0 todo se ha transferido o mostrado; 1 la conexión o la ejecución ha fallado o se ha rechazado; 2 uso incorrecto; 3 tiempo de espera agotado; 4 terminado, pero algo ha fallado o ya existía; 130 cancelado con Ctrl-C (se avisa al otro PC; un segundo Ctrl-C termina de inmediato).</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Output</name>
     <message>
-        <source>Allow %1 to connect? [y/N] </source>
-        <translation>¿Permitir que %1 se conecte? [y/N] </translation>
+        <source>Allow %1 (%2) to connect? [y/N] </source>
+        <translation>¿Permitir que %1 (%2) se conecte? [y/N] </translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Program</name>
+    <message>
+        <source>The report can&apos;t be written: %1 is a folder.</source>
+        <translation>No se puede escribir el informe: %1 es una carpeta.</translation>
     </message>
 </context>
 <context>
@@ -524,10 +585,6 @@
         <translation>aquí no hay a quién preguntar. Inicie el programa con --yes para aceptar todos los PC.</translation>
     </message>
     <message>
-        <source>%1 is not there any more.</source>
-        <translation>%1 ya no está disponible.</translation>
-    </message>
-    <message>
         <source>The link to %1 broke during a transfer.</source>
         <translation>Se ha cortado la conexión con %1 durante una transferencia.</translation>
     </message>
@@ -542,6 +599,10 @@
     <message>
         <source>Some settings are still being applied; the report is without them.</source>
         <translation>Aún se están aplicando algunas opciones de configuración; faltan en el informe.</translation>
+    </message>
+    <message>
+        <source>The transfer from %1 broke off.</source>
+        <translation>Se ha interrumpido la transferencia desde %1.</translation>
     </message>
 </context>
 <context>
@@ -570,6 +631,10 @@
         <source>%1 did not answer within %2 seconds.</source>
         <translation>%1 no ha respondido en %2&#xa0;s.</translation>
     </message>
+    <message>
+        <source>%1 ended the transfer.</source>
+        <translation>%1 ha finalizado la transferencia.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -580,6 +645,18 @@
     <message>
         <source>The other PC did not end the session: not everything may have arrived.</source>
         <translation>El otro PC no ha finalizado la sesión: es posible que no haya llegado todo.</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
+        <translation>Hay %1 en camino, pero el espacio libre en %3 es de solo %2: no cabrá todo.</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>Sin respuesta de %1 desde hace %2 s</translation>
+    </message>
+    <message>
+        <source>%1 answers again</source>
+        <translation>%1 vuelve a responder</translation>
     </message>
 </context>
 <context>
@@ -653,14 +730,6 @@
         <translation>Transferencia cancelada por %1.</translation>
     </message>
     <message>
-        <source>Files: %1 received, %2 failed, %3 skipped.</source>
-        <translation>Archivos recibidos: %1, con error: %2, omitidos: %3.</translation>
-    </message>
-    <message>
-        <source>Files: %1 sent, %2 failed, %3 skipped.</source>
-        <translation>Archivos enviados: %1, con error: %2, omitidos: %3.</translation>
-    </message>
-    <message>
         <source>Files saved:</source>
         <translation>Archivos guardados:</translation>
     </message>
@@ -725,20 +794,24 @@
         <translation>aplicada</translation>
     </message>
     <message>
-        <source>failed</source>
-        <translation>error</translation>
+        <source>%1 is installing %2...</source>
+        <translation>%1 está instalando %2...</translation>
     </message>
     <message>
-        <source>failed: %1</source>
-        <translation>error: %1</translation>
+        <source>Installing %1</source>
+        <translation>Instalando %1</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 failed, %3 were there before.</source>
+        <translation>Archivos que han llegado: %1, con error: %2, ya existentes: %3.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::CompletePage</name>
-    <message>
-        <source>Transfer Complete!</source>
-        <translation>¡Transferencia completada!</translation>
-    </message>
     <message>
         <source>Your files, apps and settings have been successfully transferred</source>
         <translation>Los archivos, las aplicaciones y la configuración se han transferido correctamente</translation>
@@ -790,6 +863,18 @@
     <message>
         <source>Open</source>
         <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 were there already and identical, %3 were there already and different, %4 failed or are not confirmed</source>
+        <translation>Archivos que han llegado: %1, ya existentes e idénticos: %2, ya existentes y distintos: %3, con error o sin confirmar: %4</translation>
+    </message>
+    <message>
+        <source>%1 of %2 apps did not arrive</source>
+        <translation>Aplicaciones que no han llegado: %1 de %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 settings did not arrive</source>
+        <translation>Opciones de configuración que no han llegado: %1 de %2</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1060,13 @@ Do you want to accept?</source>
     </message>
 </context>
 <context>
+    <name>Zandrove::FileCopy</name>
+    <message>
+        <source>it became shorter meanwhile</source>
+        <translation>se ha acortado entretanto</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::FileReceiverWorker</name>
     <message>
         <source>Write error</source>
@@ -991,6 +1083,14 @@ Do you want to accept?</source>
     <message>
         <source>Checksum mismatch</source>
         <translation>La suma de comprobación no coincide</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>Ha cambiado durante el envío</translation>
+    </message>
+    <message>
+        <source>It did not arrive whole</source>
+        <translation>No ha llegado por completo</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1113,18 @@ Do you want to accept?</source>
     <message>
         <source>not a regular file</source>
         <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>Cancelled before it was sent whole</source>
+        <translation>Cancelado antes de terminar el envío</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>No se puede leer el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>Ha cambiado durante el envío</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1161,33 @@ Póngase en contacto con el soporte técnico o vuelva a instalar el software.</t
 
 Copie el vínculo y ábralo manualmente:
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::LinkWatch</name>
+    <message>
+        <source>No answer from the other PC for %1 s</source>
+        <translation>Sin respuesta del otro PC desde hace %1 s</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>Sin respuesta de %1 desde hace %2 s</translation>
+    </message>
+    <message>
+        <source>The connection to %1 is lost.</source>
+        <translation>Se ha perdido la conexión con %1.</translation>
+    </message>
+    <message>
+        <source>The connection to the other PC is lost.</source>
+        <translation>Se ha perdido la conexión con el otro PC.</translation>
+    </message>
+    <message>
+        <source>Back to connections</source>
+        <translation>Volver a las conexiones</translation>
+    </message>
+    <message>
+        <source>Show report</source>
+        <translation>Mostrar el informe</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1269,49 @@ La aplicación se reiniciará ahora.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::MissingItems</name>
+    <message>
+        <source>Did not arrive</source>
+        <translation>No ha llegado</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Copy list</source>
+        <translation>Copiar la lista</translation>
+    </message>
+    <message>
+        <source>Save report…</source>
+        <translation>Guardar el informe…</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Y %1 más.</translation>
+    </message>
+    <message>
+        <source>The list is on the clipboard.</source>
+        <translation>La lista está en el Portapapeles.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Informe de Zandrove</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>Guardar el informe</translation>
+    </message>
+    <message>
+        <source>Page (*.html);;JSON (*.json)</source>
+        <translation>Página web (*.html);;JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>The report is saved.</source>
+        <translation>El informe se ha guardado.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::NetworkManager</name>
     <message>
         <source>PC not found</source>
@@ -1190,6 +1372,176 @@ La aplicación se reiniciará ahora.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::ReceivingRun</name>
+    <message>
+        <source>the link was lost</source>
+        <translation>se ha perdido la conexión</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReplacingFile</name>
+    <message>
+        <source>a folder of this name stands in its place</source>
+        <translation>en su lugar hay una carpeta con este nombre</translation>
+    </message>
+    <message>
+        <source>the file that stands there is read-only</source>
+        <translation>el archivo que hay allí es de solo lectura</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReportDocument</name>
+    <message>
+        <source>Old PC</source>
+        <translation>PC antiguo</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>PC nuevo</translation>
+    </message>
+    <message>
+        <source>Began</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Took</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>Transferido</translation>
+    </message>
+    <message>
+        <source>Not moved</source>
+        <translation>No transferido</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Aplicaciones</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>There already</source>
+        <translation>Ya existía</translation>
+    </message>
+    <message>
+        <source>There, but different</source>
+        <translation>Existía, pero distinto</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Con error</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>What to do next</source>
+        <translation>Qué hacer a continuación</translation>
+    </message>
+    <message>
+        <source>Where the files lie</source>
+        <translation>Dónde están los archivos</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Place on %1</source>
+        <translation>Ubicación en %1</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <translation>Aplicación</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Configuración</translation>
+    </message>
+    <message>
+        <source>Apps and settings</source>
+        <translation>Aplicaciones y configuración</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>What became of it</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>%1 files, which only the report of the Old PC can name.</source>
+        <translation>Archivos: %1; solo el informe del PC antiguo puede dar los nombres.</translation>
+    </message>
+    <message>
+        <source>And %1 more, which only the report of the Old PC can name.</source>
+        <translation>Y %1 más; solo el informe del PC antiguo puede dar los nombres.</translation>
+    </message>
+    <message>
+        <source>%1 files.</source>
+        <translation>Archivos: %1.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Y %1 más.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>%1 were there already.</source>
+        <translation>Ya existentes: %1.</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language of this translation, as in &quot;de&quot; or &quot;zh-TW&quot;.</extracomment>
+        <translation>es</translation>
+    </message>
+    <message>
+        <source>%1 report</source>
+        <translation>Informe de %1</translation>
+    </message>
+    <message>
+        <source>This transfer</source>
+        <translation>Esta transferencia</translation>
+    </message>
+    <message>
+        <source>Files that did not arrive</source>
+        <translation>Archivos que no han llegado</translation>
+    </message>
+    <message>
+        <source>Files that were there already, with other content</source>
+        <translation>Archivos que ya existían, con otro contenido</translation>
+    </message>
+    <message>
+        <source>The report %1 can&apos;t be written: %2</source>
+        <translation>No se puede escribir el informe %1: %2</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::RoleCard</name>
     <message>
         <source>Old PC</source>
@@ -1221,6 +1573,136 @@ La aplicación se reiniciará ahora.</translation>
     <message>
         <source>Both computers need Zandrove installed and running</source>
         <translation>Zandrove debe estar instalado y abierto en los dos equipos</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunLedger</name>
+    <message>
+        <source>changed while it was sent</source>
+        <translation>ha cambiado durante el envío</translation>
+    </message>
+    <message>
+        <source>%1 does not say why</source>
+        <translation>%1 no indica el motivo</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>se ha enviado, pero %1 no ha confirmado que haya llegado</translation>
+    </message>
+    <message>
+        <source>not moved: the transfer ended before its turn</source>
+        <translation>no se ha transferido: la transferencia terminó antes de su turno</translation>
+    </message>
+    <message>
+        <source>there already</source>
+        <translation>ya existía</translation>
+    </message>
+    <message>
+        <source>there already, identical</source>
+        <translation>ya existía, idéntico</translation>
+    </message>
+    <message>
+        <source>there already, and different: the one from the Old PC was not moved</source>
+        <translation>ya existía, pero distinto: la versión del PC antiguo no se ha transferido</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunTexts</name>
+    <message>
+        <source>drive %1</source>
+        <translation>la unidad %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files did not arrive</source>
+        <translation>Archivos que no han llegado (%1 de %2)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files arrived; nothing was deleted on the Old PC</source>
+        <translation>Archivos que han llegado: %1 de %2; no se ha eliminado nada en el PC antiguo</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled</source>
+        <translation>Transferencia cancelada</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled by %1</source>
+        <translation>Transferencia cancelada por %1</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost</source>
+        <translation>Se ha perdido la conexión con %1</translation>
+    </message>
+    <message>
+        <source>Transfer ended by %1</source>
+        <translation>Transferencia finalizada por %1</translation>
+    </message>
+    <message>
+        <source>Transfer not finished</source>
+        <translation>Transferencia sin terminar</translation>
+    </message>
+    <message>
+        <source>Transfer finished, %1</source>
+        <translation>Transferencia finalizada. %1</translation>
+    </message>
+    <message>
+        <source>Transfer finished, but not everything was moved</source>
+        <translation>Transferencia finalizada, pero no se ha transferido todo</translation>
+    </message>
+    <message>
+        <source>Transfer Complete!</source>
+        <translation>¡Transferencia completada!</translation>
+    </message>
+    <message>
+        <source>no space left on %1 of %2: %3 files, %4 did not fit</source>
+        <translation>no queda espacio en %1 de %2; archivos que no cabían: %3 (%4)</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>se ha transferido</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>ya existía</translation>
+    </message>
+    <message>
+        <source>was there already, and different</source>
+        <translation>ya existía, con otro contenido</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>error</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>sin confirmar</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>aún no se sabe</translation>
+    </message>
+    <message>
+        <source>Open a few of the files on %1 before you part with the Old PC. Nothing was deleted there.</source>
+        <translation>Abra algunos de los archivos en %1 antes de desprenderse del PC antiguo. En él no se ha eliminado nada.</translation>
+    </message>
+    <message>
+        <source>Make room for %1 on %2 of %3, or move less.</source>
+        <translation>Libere %1 en %2 de %3 o transfiera menos datos.</translation>
+    </message>
+    <message>
+        <source>Some files stood on %1 before, with other content. Compare the two versions. To get the one from the Old PC, rename or move the one on %1, and move the same folder again.</source>
+        <translation>Algunos archivos ya existían en %1, con otro contenido. Compare las dos versiones. Para obtener la del PC antiguo, cambie el nombre de la que está en %1 o muévala, y vuelva a transferir la misma carpeta.</translation>
+    </message>
+    <message>
+        <source>Connect the two PCs again and start the same transfer: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Vuelva a conectar los dos PC e inicie la misma transferencia: lo que ya ha llegado se omite y solo se transfiere lo que falta.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Lea los motivos en la lista. Cuando estén resueltos, inicie de nuevo la misma transferencia: lo que ya ha llegado se omite y solo se transfiere lo que falta.</translation>
+    </message>
+    <message>
+        <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
+        <translation>Conserve el PC antiguo tal como está hasta que no falte nada. En él no se ha eliminado nada.</translation>
     </message>
 </context>
 <context>
@@ -1330,6 +1812,21 @@ La aplicación se reiniciará ahora.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::SendingRun</name>
+    <message>
+        <source>File not found: %1</source>
+        <translation>No se encontró el archivo: %1</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>Archivos de %1 que no han llegado: %2</translation>
+    </message>
+    <message>
+        <source>sent; what became of it stands in the report of %1</source>
+        <translation>se ha enviado; el resultado figura en el informe de %1</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::SettingMigrator</name>
     <message>
         <source>Export failed</source>
@@ -1338,6 +1835,18 @@ La aplicación se reiniciará ahora.</translation>
     <message>
         <source>Failed to apply setting</source>
         <translation>No se pudo aplicar la configuración</translation>
+    </message>
+    <message>
+        <source>stopped before it was applied</source>
+        <translation>se interrumpió antes de aplicar la configuración</translation>
+    </message>
+    <message>
+        <source>it did not arrive whole</source>
+        <translation>no ha llegado por completo</translation>
+    </message>
+    <message>
+        <source>stopped while it was being applied</source>
+        <translation>se interrumpió mientras se aplicaba la configuración</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +2254,46 @@ La aplicación se reiniciará ahora.</translation>
     <message>
         <source>%1 failed</source>
         <translation>Con error: %1</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>recibido</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>enviada</translation>
+    </message>
+    <message>
+        <source>Connection lost</source>
+        <translation>Conexión perdida</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>Hay %1 en camino, pero el espacio libre en %3 es de solo %2: no cabrá todo.</translation>
+    </message>
+    <message>
+        <source>Installing %1 - %2 %</source>
+        <translation>Instalando %1 – %2 %</translation>
+    </message>
+    <message>
+        <source>%1 is installing...</source>
+        <translation>%1 está instalando...</translation>
+    </message>
+    <message>
+        <source>Close Zandrove</source>
+        <translation>Cerrar Zandrove</translation>
+    </message>
+    <message>
+        <source>A transfer is running. Closing the window cancels it.</source>
+        <translation>Hay una transferencia en curso. Si cierra la ventana, se cancelará.</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
+        <translation>Lo que ha llegado se queda en el PC nuevo y en el PC antiguo no se elimina nada.</translation>
+    </message>
+    <message>
+        <source>Cancel and Close</source>
+        <translation>Cancelar y cerrar</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,29 @@
     </message>
 </context>
 <context>
+    <name>TaskList</name>
+    <message>
+        <source>Folder not found</source>
+        <translation>Dossier introuvable</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>Son nom n’est pas un texte valide</translation>
+    </message>
+    <message>
+        <source>Cannot list folder: %1</source>
+        <translation>Impossible de lire le contenu du dossier : %1</translation>
+    </message>
+    <message>
+        <source>Its path contains a backslash, which separates folders on the New PC</source>
+        <translation>Son chemin contient une barre oblique inverse, qui sépare les dossiers sur le Nouveau PC</translation>
+    </message>
+    <message>
+        <source>Another ticked folder has a file of this name</source>
+        <translation>Un autre dossier coché contient un fichier de ce nom</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::AccountScanner</name>
     <message>
         <source>Scanning user accounts...</source>
@@ -235,6 +258,22 @@
     <message>
         <source>Failed to copy install files</source>
         <translation>Impossible de copier les fichiers d’installation</translation>
+    </message>
+    <message>
+        <source>Stopped: %1 of %2 files copied</source>
+        <translation>Installation interrompue, fichiers copiés : %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Stopped before all of its keys and shortcuts were there</source>
+        <translation>Installation interrompue avant que toutes les clés de Registre et tous les raccourcis soient en place</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>Fichiers de %1 qui ne sont pas arrivés : %2</translation>
+    </message>
+    <message>
+        <source>Files that could not be copied: %1 of %2 (%3: %4)</source>
+        <translation>Fichiers qui n’ont pas pu être copiés : %1 sur %2 (%3 : %4)</translation>
     </message>
 </context>
 <context>
@@ -300,6 +339,17 @@
     <message>
         <source>Scan complete</source>
         <translation>Analyse terminée</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Admission</name>
+    <message>
+        <source>No request is open that this could answer.</source>
+        <translation>Aucune demande en attente à laquelle cela pourrait répondre.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 n’est plus là.</translation>
     </message>
 </context>
 <context>
@@ -426,10 +476,6 @@
         <translation>Afficher ce qui peut être transféré de ce PC&#xa0;: applications, dossiers, comptes et paramètres.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Codes de sortie&#xa0;: 0 tout a été transféré ou affiché&#xa0;; 1 la connexion ou l’exécution a échoué ou a été refusée&#xa0;; 2 utilisation incorrecte&#xa0;; 3 délai dépassé&#xa0;; 4 terminé, mais des éléments ont échoué ou ont été ignorés&#xa0;; 130 annulé par Ctrl-C (l’autre PC en est informé&#xa0;; un second Ctrl-C arrête immédiatement).</translation>
-    </message>
-    <message>
         <source>This text; after a command, the help of that command.</source>
         <translation>Ce texte&#xa0;; après une commande, l’aide de cette commande.</translation>
     </message>
@@ -501,12 +547,27 @@
         <source>send needs something to move: a --folder, an --app or a --setting.</source>
         <translation>send demande quelque chose à transférer&#xa0;: --folder, --app ou --setting.</translation>
     </message>
+    <message>
+        <source>Write the report of each transfer to FILE, in place of the one before: a page to read or, for a name that ends in .json, JSON.</source>
+        <translation>Écrire le rapport de chaque transfert dans FILE, à la place du précédent : une page à lire ou, si le nom se termine par .json, du JSON.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Codes de sortie : 0 tout a été transféré ou affiché ; 1 la connexion ou l’exécution a échoué ou a été refusée ; 2 utilisation incorrecte ; 3 délai dépassé ; 4 terminé, mais des éléments ont échoué ou existaient déjà ; 130 annulé par Ctrl-C (l’autre PC en est informé ; un second Ctrl-C arrête immédiatement).</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Output</name>
     <message>
-        <source>Allow %1 to connect? [y/N] </source>
-        <translation>Autoriser %1 à se connecter&#xa0;? [y/N] </translation>
+        <source>Allow %1 (%2) to connect? [y/N] </source>
+        <translation>Autoriser %1 (%2) à se connecter ? [y/N] </translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Program</name>
+    <message>
+        <source>The report can&apos;t be written: %1 is a folder.</source>
+        <translation>Impossible d’écrire le rapport : %1 est un dossier.</translation>
     </message>
 </context>
 <context>
@@ -524,10 +585,6 @@
         <translation>personne ne peut répondre ici. Lancez le programme avec --yes pour accepter tous les PC.</translation>
     </message>
     <message>
-        <source>%1 is not there any more.</source>
-        <translation>%1 n’est plus là.</translation>
-    </message>
-    <message>
         <source>The link to %1 broke during a transfer.</source>
         <translation>La liaison avec %1 a été coupée pendant un transfert.</translation>
     </message>
@@ -542,6 +599,10 @@
     <message>
         <source>Some settings are still being applied; the report is without them.</source>
         <translation>Certains paramètres sont encore en cours d’application&#xa0;; ils manquent dans le rapport.</translation>
+    </message>
+    <message>
+        <source>The transfer from %1 broke off.</source>
+        <translation>Le transfert depuis %1 a été interrompu.</translation>
     </message>
 </context>
 <context>
@@ -570,6 +631,10 @@
         <source>%1 did not answer within %2 seconds.</source>
         <translation>%1 n’a pas répondu en %2&#xa0;s.</translation>
     </message>
+    <message>
+        <source>%1 ended the transfer.</source>
+        <translation>%1 a mis fin au transfert.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -580,6 +645,18 @@
     <message>
         <source>The other PC did not end the session: not everything may have arrived.</source>
         <translation>L’autre PC n’a pas mis fin à la session&#xa0;: il se peut que tout ne soit pas arrivé.</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
+        <translation>Le transfert compte %1, mais il n’y a que %2 de libre sur %3 : tout ne tiendra pas.</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>Aucune réponse de %1 depuis %2 s</translation>
+    </message>
+    <message>
+        <source>%1 answers again</source>
+        <translation>%1 répond à nouveau</translation>
     </message>
 </context>
 <context>
@@ -653,14 +730,6 @@
         <translation>Transfert annulé par %1.</translation>
     </message>
     <message>
-        <source>Files: %1 received, %2 failed, %3 skipped.</source>
-        <translation>Fichiers reçus&#xa0;: %1, en échec&#xa0;: %2, ignorés&#xa0;: %3.</translation>
-    </message>
-    <message>
-        <source>Files: %1 sent, %2 failed, %3 skipped.</source>
-        <translation>Fichiers envoyés&#xa0;: %1, en échec&#xa0;: %2, ignorés&#xa0;: %3.</translation>
-    </message>
-    <message>
         <source>Files saved:</source>
         <translation>Fichiers enregistrés&#xa0;:</translation>
     </message>
@@ -725,20 +794,24 @@
         <translation>appliqué</translation>
     </message>
     <message>
-        <source>failed</source>
-        <translation>échec</translation>
+        <source>%1 is installing %2...</source>
+        <translation>%1 installe %2...</translation>
     </message>
     <message>
-        <source>failed: %1</source>
-        <translation>échec&#xa0;: %1</translation>
+        <source>Installing %1</source>
+        <translation>Installation de %1</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 failed, %3 were there before.</source>
+        <translation>Fichiers arrivés : %1, en échec : %2, existant déjà : %3.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>et %1 de plus</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::CompletePage</name>
-    <message>
-        <source>Transfer Complete!</source>
-        <translation>Transfert terminé&#xa0;!</translation>
-    </message>
     <message>
         <source>Your files, apps and settings have been successfully transferred</source>
         <translation>Vos fichiers, applications et paramètres ont bien été transférés</translation>
@@ -790,6 +863,18 @@
     <message>
         <source>Open</source>
         <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 were there already and identical, %3 were there already and different, %4 failed or are not confirmed</source>
+        <translation>Fichiers arrivés : %1, existant déjà à l’identique : %2, existant déjà avec un autre contenu : %3, en échec ou non confirmés : %4</translation>
+    </message>
+    <message>
+        <source>%1 of %2 apps did not arrive</source>
+        <translation>Applications non arrivées : %1 sur %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 settings did not arrive</source>
+        <translation>Paramètres non arrivés : %1 sur %2</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1060,13 @@ Voulez-vous accepter cette demande&#xa0;?</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::FileCopy</name>
+    <message>
+        <source>it became shorter meanwhile</source>
+        <translation>il est devenu plus court entre-temps</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::FileReceiverWorker</name>
     <message>
         <source>Write error</source>
@@ -991,6 +1083,14 @@ Voulez-vous accepter cette demande&#xa0;?</translation>
     <message>
         <source>Checksum mismatch</source>
         <translation>Somme de contrôle incorrecte</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>Modifié pendant l’envoi</translation>
+    </message>
+    <message>
+        <source>It did not arrive whole</source>
+        <translation>Arrivée incomplète</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1113,18 @@ Voulez-vous accepter cette demande&#xa0;?</translation>
     <message>
         <source>not a regular file</source>
         <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>Cancelled before it was sent whole</source>
+        <translation>Annulation avant la fin de l’envoi</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Impossible de lire le fichier : %1</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>Modifié pendant l’envoi</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1161,33 @@ Contactez l’assistance technique ou réinstallez le logiciel.</translation>
 
 Copiez le lien et ouvrez-le manuellement&#xa0;:
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::LinkWatch</name>
+    <message>
+        <source>No answer from the other PC for %1 s</source>
+        <translation>Aucune réponse de l’autre PC depuis %1 s</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>Aucune réponse de %1 depuis %2 s</translation>
+    </message>
+    <message>
+        <source>The connection to %1 is lost.</source>
+        <translation>La connexion avec %1 est perdue.</translation>
+    </message>
+    <message>
+        <source>The connection to the other PC is lost.</source>
+        <translation>La connexion avec l’autre PC est perdue.</translation>
+    </message>
+    <message>
+        <source>Back to connections</source>
+        <translation>Retour aux connexions</translation>
+    </message>
+    <message>
+        <source>Show report</source>
+        <translation>Afficher le rapport</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1269,49 @@ L’application va maintenant redémarrer.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::MissingItems</name>
+    <message>
+        <source>Did not arrive</source>
+        <translation>Éléments non arrivés</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Raison</translation>
+    </message>
+    <message>
+        <source>Copy list</source>
+        <translation>Copier la liste</translation>
+    </message>
+    <message>
+        <source>Save report…</source>
+        <translation>Enregistrer le rapport…</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Et %1 de plus.</translation>
+    </message>
+    <message>
+        <source>The list is on the clipboard.</source>
+        <translation>La liste est dans le Presse-papiers.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Rapport Zandrove</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>Enregistrer le rapport</translation>
+    </message>
+    <message>
+        <source>Page (*.html);;JSON (*.json)</source>
+        <translation>Page web (*.html);;JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>The report is saved.</source>
+        <translation>Le rapport est enregistré.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::NetworkManager</name>
     <message>
         <source>PC not found</source>
@@ -1190,6 +1372,176 @@ L’application va maintenant redémarrer.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::ReceivingRun</name>
+    <message>
+        <source>the link was lost</source>
+        <translation>la connexion a été perdue</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReplacingFile</name>
+    <message>
+        <source>a folder of this name stands in its place</source>
+        <translation>un dossier de ce nom se trouve à cet emplacement</translation>
+    </message>
+    <message>
+        <source>the file that stands there is read-only</source>
+        <translation>le fichier qui s’y trouve est en lecture seule</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReportDocument</name>
+    <message>
+        <source>Old PC</source>
+        <translation>Ancien PC</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>Nouveau PC</translation>
+    </message>
+    <message>
+        <source>Began</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>Took</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>Transférés</translation>
+    </message>
+    <message>
+        <source>Not moved</source>
+        <translation>Non transférés</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Applications</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>There already</source>
+        <translation>Existaient déjà</translation>
+    </message>
+    <message>
+        <source>There, but different</source>
+        <translation>Existaient, mais différents</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Échecs</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>What to do next</source>
+        <translation>Que faire ensuite</translation>
+    </message>
+    <message>
+        <source>Where the files lie</source>
+        <translation>Où se trouvent les fichiers</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Place on %1</source>
+        <translation>Emplacement sur %1</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <translation>Application</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Paramètre</translation>
+    </message>
+    <message>
+        <source>Apps and settings</source>
+        <translation>Applications et paramètres</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>What became of it</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>%1 files, which only the report of the Old PC can name.</source>
+        <translation>Fichiers : %1 ; seul le rapport de l’Ancien PC peut en donner le détail.</translation>
+    </message>
+    <message>
+        <source>And %1 more, which only the report of the Old PC can name.</source>
+        <translation>Et %1 de plus ; seul le rapport de l’Ancien PC peut en donner le détail.</translation>
+    </message>
+    <message>
+        <source>%1 files.</source>
+        <translation>Fichiers : %1.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Et %1 de plus.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Raison</translation>
+    </message>
+    <message>
+        <source>%1 were there already.</source>
+        <translation>Existaient déjà : %1.</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language of this translation, as in &quot;de&quot; or &quot;zh-TW&quot;.</extracomment>
+        <translation>fr</translation>
+    </message>
+    <message>
+        <source>%1 report</source>
+        <translation>Rapport %1</translation>
+    </message>
+    <message>
+        <source>This transfer</source>
+        <translation>Ce transfert</translation>
+    </message>
+    <message>
+        <source>Files that did not arrive</source>
+        <translation>Fichiers non arrivés</translation>
+    </message>
+    <message>
+        <source>Files that were there already, with other content</source>
+        <translation>Fichiers qui existaient déjà, avec un autre contenu</translation>
+    </message>
+    <message>
+        <source>The report %1 can&apos;t be written: %2</source>
+        <translation>Impossible d’écrire le rapport %1 : %2</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::RoleCard</name>
     <message>
         <source>Old PC</source>
@@ -1221,6 +1573,136 @@ L’application va maintenant redémarrer.</translation>
     <message>
         <source>Both computers need Zandrove installed and running</source>
         <translation>Zandrove doit être installé et ouvert sur les deux ordinateurs</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunLedger</name>
+    <message>
+        <source>changed while it was sent</source>
+        <translation>modifié pendant l’envoi</translation>
+    </message>
+    <message>
+        <source>%1 does not say why</source>
+        <translation>%1 n’indique pas la raison</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>envoi effectué, mais %1 n’en a pas confirmé l’arrivée</translation>
+    </message>
+    <message>
+        <source>not moved: the transfer ended before its turn</source>
+        <translation>transfert non effectué : l’opération s’est terminée avant son tour</translation>
+    </message>
+    <message>
+        <source>there already</source>
+        <translation>existait déjà</translation>
+    </message>
+    <message>
+        <source>there already, identical</source>
+        <translation>existait déjà, à l’identique</translation>
+    </message>
+    <message>
+        <source>there already, and different: the one from the Old PC was not moved</source>
+        <translation>existait déjà, mais différent : la version de l’Ancien PC n’a pas été transférée</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunTexts</name>
+    <message>
+        <source>drive %1</source>
+        <translation>le lecteur %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files did not arrive</source>
+        <translation>Fichiers non arrivés (%1 sur %2)</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files arrived; nothing was deleted on the Old PC</source>
+        <translation>Fichiers arrivés : %1 sur %2 ; rien n’a été supprimé sur l’Ancien PC</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled</source>
+        <translation>Transfert annulé</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled by %1</source>
+        <translation>Transfert annulé par %1</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost</source>
+        <translation>Connexion avec %1 perdue</translation>
+    </message>
+    <message>
+        <source>Transfer ended by %1</source>
+        <translation>Transfert arrêté par %1</translation>
+    </message>
+    <message>
+        <source>Transfer not finished</source>
+        <translation>Transfert non terminé</translation>
+    </message>
+    <message>
+        <source>Transfer finished, %1</source>
+        <translation>Transfert terminé. %1</translation>
+    </message>
+    <message>
+        <source>Transfer finished, but not everything was moved</source>
+        <translation>Transfert terminé, mais tout n’a pas été transféré</translation>
+    </message>
+    <message>
+        <source>Transfer Complete!</source>
+        <translation>Transfert terminé&#xa0;!</translation>
+    </message>
+    <message>
+        <source>no space left on %1 of %2: %3 files, %4 did not fit</source>
+        <translation>plus de place sur %1 de %2, fichiers restés sans place : %3 (%4)</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>transfert effectué</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>existait déjà</translation>
+    </message>
+    <message>
+        <source>was there already, and different</source>
+        <translation>existait déjà, avec un autre contenu</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>échec</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>sans confirmation</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>résultat pas encore connu</translation>
+    </message>
+    <message>
+        <source>Open a few of the files on %1 before you part with the Old PC. Nothing was deleted there.</source>
+        <translation>Ouvrez quelques fichiers sur %1 avant de vous séparer de l’Ancien PC. Rien n’y a été supprimé.</translation>
+    </message>
+    <message>
+        <source>Make room for %1 on %2 of %3, or move less.</source>
+        <translation>Libérez %1 sur %2 de %3, ou transférez moins de données.</translation>
+    </message>
+    <message>
+        <source>Some files stood on %1 before, with other content. Compare the two versions. To get the one from the Old PC, rename or move the one on %1, and move the same folder again.</source>
+        <translation>Certains fichiers existaient déjà sur %1, avec un autre contenu. Comparez les deux versions. Pour obtenir celle de l’Ancien PC, renommez ou déplacez celle qui se trouve sur %1, puis transférez de nouveau le même dossier.</translation>
+    </message>
+    <message>
+        <source>Connect the two PCs again and start the same transfer: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Reconnectez les deux PC et lancez le même transfert : ce qui est arrivé est ignoré, seul ce qui manque est transféré.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Lisez les raisons dans la liste. Une fois les problèmes résolus, relancez le même transfert : ce qui est arrivé est ignoré, seul ce qui manque est transféré.</translation>
+    </message>
+    <message>
+        <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
+        <translation>Conservez l’Ancien PC tel quel jusqu’à ce qu’il ne manque plus rien. Rien n’y a été supprimé.</translation>
     </message>
 </context>
 <context>
@@ -1330,6 +1812,21 @@ L’application va maintenant redémarrer.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::SendingRun</name>
+    <message>
+        <source>File not found: %1</source>
+        <translation>Fichier introuvable&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>Fichiers de %1 qui ne sont pas arrivés : %2</translation>
+    </message>
+    <message>
+        <source>sent; what became of it stands in the report of %1</source>
+        <translation>envoi effectué ; le résultat figure dans le rapport de %1</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::SettingMigrator</name>
     <message>
         <source>Export failed</source>
@@ -1338,6 +1835,18 @@ L’application va maintenant redémarrer.</translation>
     <message>
         <source>Failed to apply setting</source>
         <translation>Impossible d’appliquer le paramètre</translation>
+    </message>
+    <message>
+        <source>stopped before it was applied</source>
+        <translation>interruption avant l’application du paramètre</translation>
+    </message>
+    <message>
+        <source>it did not arrive whole</source>
+        <translation>arrivée incomplète</translation>
+    </message>
+    <message>
+        <source>stopped while it was being applied</source>
+        <translation>interruption pendant l’application du paramètre</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +2254,46 @@ L’application va maintenant redémarrer.</translation>
     <message>
         <source>%1 failed</source>
         <translation>Échecs&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>reçu</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>envoi effectué</translation>
+    </message>
+    <message>
+        <source>Connection lost</source>
+        <translation>Connexion perdue</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>Le transfert compte %1, mais il n’y a que %2 de libre sur %3 : tout ne tiendra pas.</translation>
+    </message>
+    <message>
+        <source>Installing %1 - %2 %</source>
+        <translation>Installation de %1 – %2 %</translation>
+    </message>
+    <message>
+        <source>%1 is installing...</source>
+        <translation>Installation en cours sur %1...</translation>
+    </message>
+    <message>
+        <source>Close Zandrove</source>
+        <translation>Fermer Zandrove</translation>
+    </message>
+    <message>
+        <source>A transfer is running. Closing the window cancels it.</source>
+        <translation>Un transfert est en cours. Fermer la fenêtre l’annule.</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
+        <translation>Ce qui est arrivé reste sur le Nouveau PC, et rien n’est supprimé sur l’Ancien PC.</translation>
+    </message>
+    <message>
+        <source>Cancel and Close</source>
+        <translation>Annuler et fermer</translation>
     </message>
 </context>
 <context>

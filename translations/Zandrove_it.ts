@@ -200,6 +200,29 @@
     </message>
 </context>
 <context>
+    <name>TaskList</name>
+    <message>
+        <source>Folder not found</source>
+        <translation>Cartella non trovata</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>Il nome non è un testo valido</translation>
+    </message>
+    <message>
+        <source>Cannot list folder: %1</source>
+        <translation>Impossibile leggere il contenuto della cartella: %1</translation>
+    </message>
+    <message>
+        <source>Its path contains a backslash, which separates folders on the New PC</source>
+        <translation>Il percorso contiene una barra rovesciata, che nel Nuovo PC separa le cartelle</translation>
+    </message>
+    <message>
+        <source>Another ticked folder has a file of this name</source>
+        <translation>Un’altra cartella selezionata contiene un file con questo nome</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::AccountScanner</name>
     <message>
         <source>Scanning user accounts...</source>
@@ -235,6 +258,22 @@
     <message>
         <source>Failed to copy install files</source>
         <translation>Impossibile copiare i file di installazione</translation>
+    </message>
+    <message>
+        <source>Stopped: %1 of %2 files copied</source>
+        <translation>Installazione interrotta – file copiati: %1 su %2</translation>
+    </message>
+    <message>
+        <source>Stopped before all of its keys and shortcuts were there</source>
+        <translation>Installazione interrotta prima che ci fossero tutte le sue chiavi e tutti i suoi collegamenti</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>File di %1 non arrivati: %2</translation>
+    </message>
+    <message>
+        <source>Files that could not be copied: %1 of %2 (%3: %4)</source>
+        <translation>File che non è stato possibile copiare: %1 su %2 (%3: %4)</translation>
     </message>
 </context>
 <context>
@@ -300,6 +339,17 @@
     <message>
         <source>Scan complete</source>
         <translation>Analisi completata</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Admission</name>
+    <message>
+        <source>No request is open that this could answer.</source>
+        <translation>Non c’è nessuna richiesta aperta a cui rispondere.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 non è più disponibile.</translation>
     </message>
 </context>
 <context>
@@ -426,10 +476,6 @@
         <translation>Elenca ciò che si può trasferire da questo PC: app, cartelle, account e impostazioni.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Codici di uscita: 0 tutto è stato trasferito o elencato; 1 la connessione o l’esecuzione non è riuscita o è stata rifiutata; 2 uso errato; 3 tempo scaduto; 4 terminato, ma qualcosa non è riuscito o è stato ignorato; 130 annullato con Ctrl-C (l’altro PC viene avvisato; un secondo Ctrl-C termina subito).</translation>
-    </message>
-    <message>
         <source>This text; after a command, the help of that command.</source>
         <translation>Questo testo; dopo un comando, la guida di quel comando.</translation>
     </message>
@@ -501,12 +547,27 @@
         <source>send needs something to move: a --folder, an --app or a --setting.</source>
         <translation>send richiede qualcosa da trasferire: --folder, --app o --setting.</translation>
     </message>
+    <message>
+        <source>Write the report of each transfer to FILE, in place of the one before: a page to read or, for a name that ends in .json, JSON.</source>
+        <translation>Scrivi il report di ogni trasferimento in FILE, al posto di quello precedente: una pagina da leggere oppure, se il nome termina con .json, JSON.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Codici di uscita: 0 tutto è stato trasferito o elencato; 1 la connessione o l’esecuzione non è riuscita o è stata rifiutata; 2 uso errato; 3 tempo scaduto; 4 terminato, ma qualcosa non è riuscito o era già presente; 130 annullato con Ctrl-C (l’altro PC viene avvisato; un secondo Ctrl-C termina subito).</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Output</name>
     <message>
-        <source>Allow %1 to connect? [y/N] </source>
-        <translation>Consentire a %1 di connettersi? [y/N] </translation>
+        <source>Allow %1 (%2) to connect? [y/N] </source>
+        <translation>Consentire a %1 (%2) di connettersi? [y/N] </translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Program</name>
+    <message>
+        <source>The report can&apos;t be written: %1 is a folder.</source>
+        <translation>Impossibile scrivere il report: %1 è una cartella.</translation>
     </message>
 </context>
 <context>
@@ -524,10 +585,6 @@
         <translation>qui non c’è nessuno che possa rispondere. Avvia il programma con --yes per accettare ogni PC.</translation>
     </message>
     <message>
-        <source>%1 is not there any more.</source>
-        <translation>%1 non è più disponibile.</translation>
-    </message>
-    <message>
         <source>The link to %1 broke during a transfer.</source>
         <translation>La connessione a %1 si è interrotta durante un trasferimento.</translation>
     </message>
@@ -542,6 +599,10 @@
     <message>
         <source>Some settings are still being applied; the report is without them.</source>
         <translation>Alcune impostazioni sono ancora in corso di applicazione; mancano nel report.</translation>
+    </message>
+    <message>
+        <source>The transfer from %1 broke off.</source>
+        <translation>Il trasferimento da %1 si è interrotto.</translation>
     </message>
 </context>
 <context>
@@ -570,6 +631,10 @@
         <source>%1 did not answer within %2 seconds.</source>
         <translation>%1 non ha risposto entro %2&#xa0;s.</translation>
     </message>
+    <message>
+        <source>%1 ended the transfer.</source>
+        <translation>%1 ha terminato il trasferimento.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -580,6 +645,18 @@
     <message>
         <source>The other PC did not end the session: not everything may have arrived.</source>
         <translation>L’altro PC non ha terminato la sessione: è possibile che non sia arrivato tutto.</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
+        <translation>In arrivo %1, ma lo spazio disponibile su %3 è solo %2: non ci sarà posto per tutto.</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>%1 non risponde da %2 s</translation>
+    </message>
+    <message>
+        <source>%1 answers again</source>
+        <translation>%1 risponde di nuovo</translation>
     </message>
 </context>
 <context>
@@ -653,14 +730,6 @@
         <translation>Trasferimento annullato da %1.</translation>
     </message>
     <message>
-        <source>Files: %1 received, %2 failed, %3 skipped.</source>
-        <translation>File ricevuti: %1, non riusciti: %2, ignorati: %3.</translation>
-    </message>
-    <message>
-        <source>Files: %1 sent, %2 failed, %3 skipped.</source>
-        <translation>File inviati: %1, non riusciti: %2, ignorati: %3.</translation>
-    </message>
-    <message>
         <source>Files saved:</source>
         <translation>File salvati:</translation>
     </message>
@@ -725,20 +794,24 @@
         <translation>applicata</translation>
     </message>
     <message>
-        <source>failed</source>
-        <translation>non riuscita</translation>
+        <source>%1 is installing %2...</source>
+        <translation>%1 sta installando %2...</translation>
     </message>
     <message>
-        <source>failed: %1</source>
-        <translation>non riuscita: %1</translation>
+        <source>Installing %1</source>
+        <translation>Installazione di %1</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 failed, %3 were there before.</source>
+        <translation>File arrivati: %1, non riusciti: %2, già presenti: %3.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>e ancora %1</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::CompletePage</name>
-    <message>
-        <source>Transfer Complete!</source>
-        <translation>Trasferimento completato!</translation>
-    </message>
     <message>
         <source>Your files, apps and settings have been successfully transferred</source>
         <translation>File, app e impostazioni sono stati trasferiti correttamente</translation>
@@ -790,6 +863,18 @@
     <message>
         <source>Open</source>
         <translation>Apri</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 were there already and identical, %3 were there already and different, %4 failed or are not confirmed</source>
+        <translation>File arrivati: %1, già presenti e identici: %2, già presenti ma diversi: %3, non riusciti o non confermati: %4</translation>
+    </message>
+    <message>
+        <source>%1 of %2 apps did not arrive</source>
+        <translation>App non arrivate: %1 su %2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 settings did not arrive</source>
+        <translation>Impostazioni non arrivate: %1 su %2</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1060,13 @@ Vuoi accettare la richiesta?</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::FileCopy</name>
+    <message>
+        <source>it became shorter meanwhile</source>
+        <translation>nel frattempo si è accorciato</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::FileReceiverWorker</name>
     <message>
         <source>Write error</source>
@@ -991,6 +1083,14 @@ Vuoi accettare la richiesta?</translation>
     <message>
         <source>Checksum mismatch</source>
         <translation>Il checksum non corrisponde</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>Modificato durante l’invio</translation>
+    </message>
+    <message>
+        <source>It did not arrive whole</source>
+        <translation>Non è arrivato per intero</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1113,18 @@ Vuoi accettare la richiesta?</translation>
     <message>
         <source>not a regular file</source>
         <translation>non è un file normale</translation>
+    </message>
+    <message>
+        <source>Cancelled before it was sent whole</source>
+        <translation>Annullato prima dell’invio completo</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Impossibile leggere il file: %1</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>Modificato durante l’invio</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1161,33 @@ Contatta il supporto tecnico o reinstalla il software.</translation>
 
 Copia il collegamento e aprilo manualmente:
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::LinkWatch</name>
+    <message>
+        <source>No answer from the other PC for %1 s</source>
+        <translation>L’altro PC non risponde da %1 s</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>%1 non risponde da %2 s</translation>
+    </message>
+    <message>
+        <source>The connection to %1 is lost.</source>
+        <translation>La connessione a %1 si è interrotta.</translation>
+    </message>
+    <message>
+        <source>The connection to the other PC is lost.</source>
+        <translation>La connessione all’altro PC si è interrotta.</translation>
+    </message>
+    <message>
+        <source>Back to connections</source>
+        <translation>Torna alle connessioni</translation>
+    </message>
+    <message>
+        <source>Show report</source>
+        <translation>Mostra report</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1269,49 @@ L’app verrà ora riavviata.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::MissingItems</name>
+    <message>
+        <source>Did not arrive</source>
+        <translation>Non arrivati</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Copy list</source>
+        <translation>Copia elenco</translation>
+    </message>
+    <message>
+        <source>Save report…</source>
+        <translation>Salva report…</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>E ancora %1.</translation>
+    </message>
+    <message>
+        <source>The list is on the clipboard.</source>
+        <translation>L’elenco è stato copiato negli Appunti.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Report di Zandrove</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>Salva report</translation>
+    </message>
+    <message>
+        <source>Page (*.html);;JSON (*.json)</source>
+        <translation>Pagina (*.html);;JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>The report is saved.</source>
+        <translation>Il report è stato salvato.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::NetworkManager</name>
     <message>
         <source>PC not found</source>
@@ -1190,6 +1372,176 @@ L’app verrà ora riavviata.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::ReceivingRun</name>
+    <message>
+        <source>the link was lost</source>
+        <translation>la connessione si è interrotta</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReplacingFile</name>
+    <message>
+        <source>a folder of this name stands in its place</source>
+        <translation>al suo posto c’è una cartella con questo nome</translation>
+    </message>
+    <message>
+        <source>the file that stands there is read-only</source>
+        <translation>il file già presente è di sola lettura</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReportDocument</name>
+    <message>
+        <source>Old PC</source>
+        <translation>Vecchio PC</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>Nuovo PC</translation>
+    </message>
+    <message>
+        <source>Began</source>
+        <translation>Inizio</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>Took</source>
+        <translation>Durata</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>Trasferiti</translation>
+    </message>
+    <message>
+        <source>Not moved</source>
+        <translation>Non trasferiti</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>App</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>There already</source>
+        <translation>Già presenti</translation>
+    </message>
+    <message>
+        <source>There, but different</source>
+        <translation>Presenti, ma diversi</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Non riusciti</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Totale</translation>
+    </message>
+    <message>
+        <source>What to do next</source>
+        <translation>Che cosa fare ora</translation>
+    </message>
+    <message>
+        <source>Where the files lie</source>
+        <translation>Dove si trovano i file</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Cartella</translation>
+    </message>
+    <message>
+        <source>Place on %1</source>
+        <translation>Posizione su %1</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <translation>App</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Impostazione</translation>
+    </message>
+    <message>
+        <source>Apps and settings</source>
+        <translation>App e impostazioni</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>What became of it</source>
+        <translation>Esito</translation>
+    </message>
+    <message>
+        <source>%1 files, which only the report of the Old PC can name.</source>
+        <translation>File: %1. I nomi si trovano solo nel report del Vecchio PC.</translation>
+    </message>
+    <message>
+        <source>And %1 more, which only the report of the Old PC can name.</source>
+        <translation>E ancora %1: i nomi si trovano solo nel report del Vecchio PC.</translation>
+    </message>
+    <message>
+        <source>%1 files.</source>
+        <translation>File: %1.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>E ancora %1.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>%1 were there already.</source>
+        <translation>Già presenti: %1.</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language of this translation, as in &quot;de&quot; or &quot;zh-TW&quot;.</extracomment>
+        <translation>it</translation>
+    </message>
+    <message>
+        <source>%1 report</source>
+        <translation>Report di %1</translation>
+    </message>
+    <message>
+        <source>This transfer</source>
+        <translation>Questo trasferimento</translation>
+    </message>
+    <message>
+        <source>Files that did not arrive</source>
+        <translation>File non arrivati</translation>
+    </message>
+    <message>
+        <source>Files that were there already, with other content</source>
+        <translation>File già presenti con un contenuto diverso</translation>
+    </message>
+    <message>
+        <source>The report %1 can&apos;t be written: %2</source>
+        <translation>Impossibile scrivere il report %1: %2</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>non è un file normale</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::RoleCard</name>
     <message>
         <source>Old PC</source>
@@ -1221,6 +1573,136 @@ L’app verrà ora riavviata.</translation>
     <message>
         <source>Both computers need Zandrove installed and running</source>
         <translation>Zandrove deve essere installato e aperto in entrambi i computer</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunLedger</name>
+    <message>
+        <source>changed while it was sent</source>
+        <translation>modificato durante l’invio</translation>
+    </message>
+    <message>
+        <source>%1 does not say why</source>
+        <translation>%1 non ne indica il motivo</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>inviato, ma %1 non ne ha confermato l’arrivo</translation>
+    </message>
+    <message>
+        <source>not moved: the transfer ended before its turn</source>
+        <translation>ancora da trasferire: il trasferimento è terminato prima del suo turno</translation>
+    </message>
+    <message>
+        <source>there already</source>
+        <translation>già presente</translation>
+    </message>
+    <message>
+        <source>there already, identical</source>
+        <translation>già presente, identico</translation>
+    </message>
+    <message>
+        <source>there already, and different: the one from the Old PC was not moved</source>
+        <translation>già presente, ma diverso: quello del Vecchio PC non è stato trasferito</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunTexts</name>
+    <message>
+        <source>drive %1</source>
+        <translation>unità %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files did not arrive</source>
+        <translation>%1 file su %2 ancora da trasferire</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files arrived; nothing was deleted on the Old PC</source>
+        <translation>%1 file su %2 a destinazione; nel Vecchio PC non è stato eliminato nulla</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled</source>
+        <translation>Trasferimento annullato</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled by %1</source>
+        <translation>Trasferimento annullato da %1</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost</source>
+        <translation>La connessione a %1 si è interrotta</translation>
+    </message>
+    <message>
+        <source>Transfer ended by %1</source>
+        <translation>Trasferimento terminato da %1</translation>
+    </message>
+    <message>
+        <source>Transfer not finished</source>
+        <translation>Trasferimento non terminato</translation>
+    </message>
+    <message>
+        <source>Transfer finished, %1</source>
+        <translation>Trasferimento terminato, %1</translation>
+    </message>
+    <message>
+        <source>Transfer finished, but not everything was moved</source>
+        <translation>Trasferimento terminato, ma non tutto è stato trasferito</translation>
+    </message>
+    <message>
+        <source>Transfer Complete!</source>
+        <translation>Trasferimento completato!</translation>
+    </message>
+    <message>
+        <source>no space left on %1 of %2: %3 files, %4 did not fit</source>
+        <translation>spazio esaurito (%1 di %2): non c’era posto per %3 file, %4</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>a destinazione</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>c’era già</translation>
+    </message>
+    <message>
+        <source>was there already, and different</source>
+        <translation>c’era già, in una versione diversa</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>non riuscita</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>senza conferma</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>esito non ancora noto</translation>
+    </message>
+    <message>
+        <source>Open a few of the files on %1 before you part with the Old PC. Nothing was deleted there.</source>
+        <translation>Apri alcuni file su %1 prima di separarti dal Vecchio PC. Lì non è stato eliminato nulla.</translation>
+    </message>
+    <message>
+        <source>Make room for %1 on %2 of %3, or move less.</source>
+        <translation>Fai spazio per %1 (%2 di %3) o trasferisci meno dati.</translation>
+    </message>
+    <message>
+        <source>Some files stood on %1 before, with other content. Compare the two versions. To get the one from the Old PC, rename or move the one on %1, and move the same folder again.</source>
+        <translation>Su %1 c’erano già dei file con un contenuto diverso. Confronta le due versioni. Per avere quella del Vecchio PC, rinomina o sposta quella che si trova su %1 e trasferisci di nuovo la stessa cartella.</translation>
+    </message>
+    <message>
+        <source>Connect the two PCs again and start the same transfer: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Connetti di nuovo i due PC e avvia lo stesso trasferimento: ciò che è già arrivato viene ignorato, si trasferisce solo ciò che manca.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Leggi i motivi nell’elenco. Quando non ci sono più, avvia di nuovo lo stesso trasferimento: ciò che è già arrivato viene ignorato, si trasferisce solo ciò che manca.</translation>
+    </message>
+    <message>
+        <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
+        <translation>Lascia il Vecchio PC così com’è finché non manca più nulla. Lì non è stato eliminato nulla.</translation>
     </message>
 </context>
 <context>
@@ -1330,6 +1812,21 @@ L’app verrà ora riavviata.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::SendingRun</name>
+    <message>
+        <source>File not found: %1</source>
+        <translation>File non trovato: %1</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>File di %1 non arrivati: %2</translation>
+    </message>
+    <message>
+        <source>sent; what became of it stands in the report of %1</source>
+        <translation>inviata; l’esito è indicato nel report di %1</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::SettingMigrator</name>
     <message>
         <source>Export failed</source>
@@ -1338,6 +1835,18 @@ L’app verrà ora riavviata.</translation>
     <message>
         <source>Failed to apply setting</source>
         <translation>Impossibile applicare l’impostazione</translation>
+    </message>
+    <message>
+        <source>stopped before it was applied</source>
+        <translation>interrotta prima di essere applicata</translation>
+    </message>
+    <message>
+        <source>it did not arrive whole</source>
+        <translation>non è arrivata per intero</translation>
+    </message>
+    <message>
+        <source>stopped while it was being applied</source>
+        <translation>interrotta durante l’applicazione</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +2254,46 @@ L’app verrà ora riavviata.</translation>
     <message>
         <source>%1 failed</source>
         <translation>Non riusciti: %1</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>ricevuto</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>inviata</translation>
+    </message>
+    <message>
+        <source>Connection lost</source>
+        <translation>Connessione interrotta</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>In arrivo %1, ma lo spazio disponibile su %3 è solo %2: non ci sarà posto per tutto.</translation>
+    </message>
+    <message>
+        <source>Installing %1 - %2 %</source>
+        <translation>Installazione di %1 – %2%</translation>
+    </message>
+    <message>
+        <source>%1 is installing...</source>
+        <translation>%1 sta installando...</translation>
+    </message>
+    <message>
+        <source>Close Zandrove</source>
+        <translation>Chiudi Zandrove</translation>
+    </message>
+    <message>
+        <source>A transfer is running. Closing the window cancels it.</source>
+        <translation>È in corso un trasferimento. Se chiudi la finestra, viene annullato.</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
+        <translation>Ciò che è arrivato rimane nel Nuovo PC e nel Vecchio PC non viene eliminato nulla.</translation>
+    </message>
+    <message>
+        <source>Cancel and Close</source>
+        <translation>Annulla e chiudi</translation>
     </message>
 </context>
 <context>

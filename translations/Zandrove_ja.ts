@@ -200,6 +200,29 @@
     </message>
 </context>
 <context>
+    <name>TaskList</name>
+    <message>
+        <source>Folder not found</source>
+        <translation>フォルダーが見つかりません</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>名前が正しい文字列ではありません</translation>
+    </message>
+    <message>
+        <source>Cannot list folder: %1</source>
+        <translation>フォルダーの内容を一覧表示できません: %1</translation>
+    </message>
+    <message>
+        <source>Its path contains a backslash, which separates folders on the New PC</source>
+        <translation>新 PC ではフォルダーの区切りになるバックスラッシュがパスに含まれています</translation>
+    </message>
+    <message>
+        <source>Another ticked folder has a file of this name</source>
+        <translation>選択した別のフォルダーに同じ名前のファイルがあります</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::AccountScanner</name>
     <message>
         <source>Scanning user accounts...</source>
@@ -235,6 +258,22 @@
     <message>
         <source>Failed to copy install files</source>
         <translation>インストール ファイルをコピーできませんでした</translation>
+    </message>
+    <message>
+        <source>Stopped: %1 of %2 files copied</source>
+        <translation>中止しました: ファイル %2 個のうち %1 個をコピー</translation>
+    </message>
+    <message>
+        <source>Stopped before all of its keys and shortcuts were there</source>
+        <translation>レジストリ キーとショートカットがすべてそろう前に中止しました</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>%1 のファイルのうち届かなかったもの: %2</translation>
+    </message>
+    <message>
+        <source>Files that could not be copied: %1 of %2 (%3: %4)</source>
+        <translation>コピーできなかったファイル: %2 個中 %1 個 (%3: %4)</translation>
     </message>
 </context>
 <context>
@@ -300,6 +339,17 @@
     <message>
         <source>Scan complete</source>
         <translation>スキャンが完了しました</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Admission</name>
+    <message>
+        <source>No request is open that this could answer.</source>
+        <translation>これで回答できる要求はありません。</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 はもう接続していません。</translation>
     </message>
 </context>
 <context>
@@ -426,10 +476,6 @@
         <translation>この PC から移行できるもの (アプリ、フォルダー、アカウント、設定) を一覧表示します。</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>終了コード: 0 すべて移行または一覧表示した、1 接続または実行が失敗したか拒否された、2 使い方の誤り、3 タイムアウト、4 終了したが、失敗またはスキップしたものがある、130 Ctrl-C でキャンセルした (もう一方の PC に通知します。もう一度 Ctrl-C を押すとすぐに終了します)。</translation>
-    </message>
-    <message>
         <source>This text; after a command, the help of that command.</source>
         <translation>この説明を表示します。コマンドの後では、そのコマンドの説明を表示します。</translation>
     </message>
@@ -501,12 +547,27 @@
         <source>send needs something to move: a --folder, an --app or a --setting.</source>
         <translation>send には移行するもの (--folder、--app、--setting のいずれか) が必要です。</translation>
     </message>
+    <message>
+        <source>Write the report of each transfer to FILE, in place of the one before: a page to read or, for a name that ends in .json, JSON.</source>
+        <translation>転送ごとにレポートを FILE に書き込み、前のレポートと置き換えます。読むためのページになり、名前が .json で終わる場合は JSON になります。</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>終了コード: 0 すべて移行または一覧表示した、1 接続または実行が失敗したか拒否された、2 使い方の誤り、3 タイムアウト、4 終了したが、失敗したものまたは既にあったものがある、130 Ctrl-C でキャンセルした (もう一方の PC に通知します。もう一度 Ctrl-C を押すとすぐに終了します)。</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Output</name>
     <message>
-        <source>Allow %1 to connect? [y/N] </source>
-        <translation>%1 の接続を許可しますか？ [y/N] </translation>
+        <source>Allow %1 (%2) to connect? [y/N] </source>
+        <translation>%1 (%2) の接続を許可しますか？ [y/N] </translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Program</name>
+    <message>
+        <source>The report can&apos;t be written: %1 is a folder.</source>
+        <translation>レポートを書き込めません: %1 はフォルダーです。</translation>
     </message>
 </context>
 <context>
@@ -524,10 +585,6 @@
         <translation>ここでは確認に答えられる人がいません。すべての PC を許可するには --yes を付けて起動してください。</translation>
     </message>
     <message>
-        <source>%1 is not there any more.</source>
-        <translation>%1 はもう接続していません。</translation>
-    </message>
-    <message>
         <source>The link to %1 broke during a transfer.</source>
         <translation>転送中に %1 との接続が切れました。</translation>
     </message>
@@ -542,6 +599,10 @@
     <message>
         <source>Some settings are still being applied; the report is without them.</source>
         <translation>一部の設定はまだ適用中のため、レポートに含まれていません。</translation>
+    </message>
+    <message>
+        <source>The transfer from %1 broke off.</source>
+        <translation>%1 からの転送が途中で切れました。</translation>
     </message>
 </context>
 <context>
@@ -570,6 +631,10 @@
         <source>%1 did not answer within %2 seconds.</source>
         <translation>%2 秒以内に %1 から応答がありませんでした。</translation>
     </message>
+    <message>
+        <source>%1 ended the transfer.</source>
+        <translation>%1 が転送を終了しました。</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -580,6 +645,18 @@
     <message>
         <source>The other PC did not end the session: not everything may have arrived.</source>
         <translation>もう一方の PC がセッションを終了しませんでした。一部が届いていない可能性があります。</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
+        <translation>転送するデータは %1 ですが、%3 の空き領域は %2 しかないため、すべては収まりません。</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>%1 から %2 秒間応答がありません</translation>
+    </message>
+    <message>
+        <source>%1 answers again</source>
+        <translation>%1 が再び応答しています</translation>
     </message>
 </context>
 <context>
@@ -653,14 +730,6 @@
         <translation>%1 がキャンセルしました。</translation>
     </message>
     <message>
-        <source>Files: %1 received, %2 failed, %3 skipped.</source>
-        <translation>ファイル: 受信 %1、失敗 %2、スキップ %3。</translation>
-    </message>
-    <message>
-        <source>Files: %1 sent, %2 failed, %3 skipped.</source>
-        <translation>ファイル: 送信 %1、失敗 %2、スキップ %3。</translation>
-    </message>
-    <message>
         <source>Files saved:</source>
         <translation>ファイルの保存先:</translation>
     </message>
@@ -725,20 +794,24 @@
         <translation>適用済み</translation>
     </message>
     <message>
-        <source>failed</source>
-        <translation>失敗</translation>
+        <source>%1 is installing %2...</source>
+        <translation>%1 が %2 をインストールしています...</translation>
     </message>
     <message>
-        <source>failed: %1</source>
-        <translation>失敗: %1</translation>
+        <source>Installing %1</source>
+        <translation>%1 をインストール中</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 failed, %3 were there before.</source>
+        <translation>ファイル: 到着 %1、失敗 %2、既存 %3。</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>ほか %1 件</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::CompletePage</name>
-    <message>
-        <source>Transfer Complete!</source>
-        <translation>転送が完了しました</translation>
-    </message>
     <message>
         <source>Your files, apps and settings have been successfully transferred</source>
         <translation>ファイル、アプリ、設定が正常に転送されました</translation>
@@ -790,6 +863,18 @@
     <message>
         <source>Open</source>
         <translation>開く</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 were there already and identical, %3 were there already and different, %4 failed or are not confirmed</source>
+        <translation>ファイル: 到着 %1、既存で内容が同じ %2、既存で内容が異なる %3、失敗または未確認 %4</translation>
+    </message>
+    <message>
+        <source>%1 of %2 apps did not arrive</source>
+        <translation>アプリ %2 個のうち %1 個が届いていません</translation>
+    </message>
+    <message>
+        <source>%1 of %2 settings did not arrive</source>
+        <translation>設定 %2 件のうち %1 件が届いていません</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1060,13 @@ Do you want to accept?</source>
     </message>
 </context>
 <context>
+    <name>Zandrove::FileCopy</name>
+    <message>
+        <source>it became shorter meanwhile</source>
+        <translation>コピー中にファイルが小さくなりました</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::FileReceiverWorker</name>
     <message>
         <source>Write error</source>
@@ -991,6 +1083,14 @@ Do you want to accept?</source>
     <message>
         <source>Checksum mismatch</source>
         <translation>チェックサムが一致しません</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>送信中に変更されました</translation>
+    </message>
+    <message>
+        <source>It did not arrive whole</source>
+        <translation>完全には届きませんでした</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1113,18 @@ Do you want to accept?</source>
     <message>
         <source>not a regular file</source>
         <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>Cancelled before it was sent whole</source>
+        <translation>送信が終わる前にキャンセルされました</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>ファイルを読み取れません: %1</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>送信中に変更されました</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1161,33 @@ Do you want to accept?</source>
 
 次のリンクをコピーして開いてください:
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::LinkWatch</name>
+    <message>
+        <source>No answer from the other PC for %1 s</source>
+        <translation>もう一方の PC から %1 秒間応答がありません</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>%1 から %2 秒間応答がありません</translation>
+    </message>
+    <message>
+        <source>The connection to %1 is lost.</source>
+        <translation>%1 との接続が切れました。</translation>
+    </message>
+    <message>
+        <source>The connection to the other PC is lost.</source>
+        <translation>もう一方の PC との接続が切れました。</translation>
+    </message>
+    <message>
+        <source>Back to connections</source>
+        <translation>接続に戻る</translation>
+    </message>
+    <message>
+        <source>Show report</source>
+        <translation>レポートを表示</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1269,49 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
+    <name>Zandrove::MissingItems</name>
+    <message>
+        <source>Did not arrive</source>
+        <translation>届かなかったもの</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>Copy list</source>
+        <translation>一覧をコピー</translation>
+    </message>
+    <message>
+        <source>Save report…</source>
+        <translation>レポートを保存…</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>ほか %1 件。</translation>
+    </message>
+    <message>
+        <source>The list is on the clipboard.</source>
+        <translation>一覧をクリップボードにコピーしました。</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Zandrove レポート</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>レポートを保存</translation>
+    </message>
+    <message>
+        <source>Page (*.html);;JSON (*.json)</source>
+        <translation>Web ページ (*.html);;JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>The report is saved.</source>
+        <translation>レポートを保存しました。</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::NetworkManager</name>
     <message>
         <source>PC not found</source>
@@ -1190,6 +1372,176 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
+    <name>Zandrove::ReceivingRun</name>
+    <message>
+        <source>the link was lost</source>
+        <translation>接続が切れました</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReplacingFile</name>
+    <message>
+        <source>a folder of this name stands in its place</source>
+        <translation>同じ名前のフォルダーがその場所にあります</translation>
+    </message>
+    <message>
+        <source>the file that stands there is read-only</source>
+        <translation>その場所にあるファイルは読み取り専用です</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReportDocument</name>
+    <message>
+        <source>Old PC</source>
+        <translation>旧 PC</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>新 PC</translation>
+    </message>
+    <message>
+        <source>Began</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Took</source>
+        <translation>所要時間</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>移行済み</translation>
+    </message>
+    <message>
+        <source>Not moved</source>
+        <translation>未移行</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>アプリ</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>There already</source>
+        <translation>既存</translation>
+    </message>
+    <message>
+        <source>There, but different</source>
+        <translation>既存 (内容が異なる)</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>合計</translation>
+    </message>
+    <message>
+        <source>What to do next</source>
+        <translation>次にすること</translation>
+    </message>
+    <message>
+        <source>Where the files lie</source>
+        <translation>ファイルの保存先</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Place on %1</source>
+        <translation>%1 での場所</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <translation>アプリ</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Apps and settings</source>
+        <translation>アプリと設定</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>What became of it</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>%1 files, which only the report of the Old PC can name.</source>
+        <translation>ファイル %1 個。名前は旧 PC のレポートにのみ載っています。</translation>
+    </message>
+    <message>
+        <source>And %1 more, which only the report of the Old PC can name.</source>
+        <translation>ほか %1 件。名前は旧 PC のレポートにのみ載っています。</translation>
+    </message>
+    <message>
+        <source>%1 files.</source>
+        <translation>ファイル %1 個。</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>ほか %1 件。</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <source>%1 were there already.</source>
+        <translation>%1 個は既にありました。</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language of this translation, as in &quot;de&quot; or &quot;zh-TW&quot;.</extracomment>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>%1 report</source>
+        <translation>%1 レポート</translation>
+    </message>
+    <message>
+        <source>This transfer</source>
+        <translation>今回の転送</translation>
+    </message>
+    <message>
+        <source>Files that did not arrive</source>
+        <translation>届かなかったファイル</translation>
+    </message>
+    <message>
+        <source>Files that were there already, with other content</source>
+        <translation>内容の異なるものが既にあったファイル</translation>
+    </message>
+    <message>
+        <source>The report %1 can&apos;t be written: %2</source>
+        <translation>レポート %1 を書き込めません: %2</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>通常のファイルではありません</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::RoleCard</name>
     <message>
         <source>Old PC</source>
@@ -1221,6 +1573,136 @@ The application will restart now.</source>
     <message>
         <source>Both computers need Zandrove installed and running</source>
         <translation>どちらのコンピューターでも Zandrove をインストールして実行してください</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunLedger</name>
+    <message>
+        <source>changed while it was sent</source>
+        <translation>送信中に変更されました</translation>
+    </message>
+    <message>
+        <source>%1 does not say why</source>
+        <translation>%1 から理由の通知がありません</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>送信しましたが、%1 から到着の確認がありません</translation>
+    </message>
+    <message>
+        <source>not moved: the transfer ended before its turn</source>
+        <translation>未移行: 順番が来る前に転送が終わりました</translation>
+    </message>
+    <message>
+        <source>there already</source>
+        <translation>既にあります</translation>
+    </message>
+    <message>
+        <source>there already, identical</source>
+        <translation>既に同じものがあります</translation>
+    </message>
+    <message>
+        <source>there already, and different: the one from the Old PC was not moved</source>
+        <translation>既に内容の異なるものがあります: 旧 PC のものは移行していません</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunTexts</name>
+    <message>
+        <source>drive %1</source>
+        <translation>ドライブ %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files did not arrive</source>
+        <translation>ファイル %2 個のうち %1 個が届いていません</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files arrived; nothing was deleted on the Old PC</source>
+        <translation>ファイル %2 個のうち %1 個が届きました。旧 PC からは何も削除されていません</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled</source>
+        <translation>転送をキャンセルしました</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled by %1</source>
+        <translation>%1 が転送をキャンセルしました</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost</source>
+        <translation>%1 との接続が切れました</translation>
+    </message>
+    <message>
+        <source>Transfer ended by %1</source>
+        <translation>%1 が転送を終了しました</translation>
+    </message>
+    <message>
+        <source>Transfer not finished</source>
+        <translation>転送は終わっていません</translation>
+    </message>
+    <message>
+        <source>Transfer finished, %1</source>
+        <translation>転送は終了しましたが、%1</translation>
+    </message>
+    <message>
+        <source>Transfer finished, but not everything was moved</source>
+        <translation>転送は終了しましたが、移行されなかったものがあります</translation>
+    </message>
+    <message>
+        <source>Transfer Complete!</source>
+        <translation>転送が完了しました</translation>
+    </message>
+    <message>
+        <source>no space left on %1 of %2: %3 files, %4 did not fit</source>
+        <translation>%2 (%1) に空き領域がありません: ファイル %3 個、%4 が収まりませんでした</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>移行済み</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>既にありました</translation>
+    </message>
+    <message>
+        <source>was there already, and different</source>
+        <translation>既に内容の異なるものがありました</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>未確認</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>まだ不明</translation>
+    </message>
+    <message>
+        <source>Open a few of the files on %1 before you part with the Old PC. Nothing was deleted there.</source>
+        <translation>旧 PC を手放す前に、%1 でファイルをいくつか開いて確認してください。旧 PC からは何も削除されていません。</translation>
+    </message>
+    <message>
+        <source>Make room for %1 on %2 of %3, or move less.</source>
+        <translation>%3 (%2) に %1 の空き領域を作るか、移行するものを減らしてください。</translation>
+    </message>
+    <message>
+        <source>Some files stood on %1 before, with other content. Compare the two versions. To get the one from the Old PC, rename or move the one on %1, and move the same folder again.</source>
+        <translation>%1 には、内容の異なるファイルが以前からありました。2 つのバージョンを見比べてください。旧 PC のものが必要な場合は、%1 にあるファイルの名前を変更するか別の場所に移してから、同じフォルダーをもう一度移行してください。</translation>
+    </message>
+    <message>
+        <source>Connect the two PCs again and start the same transfer: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>2 台の PC をもう一度接続し、同じ転送を開始してください。届いているものはスキップされ、足りないものだけが移行されます。</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>一覧で理由を確認してください。原因を取り除いたら、同じ転送をもう一度開始してください。届いているものはスキップされ、足りないものだけが移行されます。</translation>
+    </message>
+    <message>
+        <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
+        <translation>足りないものがなくなるまで、旧 PC はそのままにしておいてください。旧 PC からは何も削除されていません。</translation>
     </message>
 </context>
 <context>
@@ -1330,6 +1812,21 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
+    <name>Zandrove::SendingRun</name>
+    <message>
+        <source>File not found: %1</source>
+        <translation>ファイルが見つかりません: %1</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>%1 のファイルのうち届かなかったもの: %2</translation>
+    </message>
+    <message>
+        <source>sent; what became of it stands in the report of %1</source>
+        <translation>送信しました。結果は %1 のレポートにあります</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::SettingMigrator</name>
     <message>
         <source>Export failed</source>
@@ -1338,6 +1835,18 @@ The application will restart now.</source>
     <message>
         <source>Failed to apply setting</source>
         <translation>設定を適用できませんでした</translation>
+    </message>
+    <message>
+        <source>stopped before it was applied</source>
+        <translation>適用する前に中止されました</translation>
+    </message>
+    <message>
+        <source>it did not arrive whole</source>
+        <translation>完全には届きませんでした</translation>
+    </message>
+    <message>
+        <source>stopped while it was being applied</source>
+        <translation>適用中に中止されました</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +2254,46 @@ The application will restart now.</source>
     <message>
         <source>%1 failed</source>
         <translation>%1 件失敗</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>受信済み</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>送信済み</translation>
+    </message>
+    <message>
+        <source>Connection lost</source>
+        <translation>接続が切れました</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>転送するデータは %1 ですが、%3 の空き領域は %2 しかないため、すべては収まりません。</translation>
+    </message>
+    <message>
+        <source>Installing %1 - %2 %</source>
+        <translation>%1 をインストール中 - %2 %</translation>
+    </message>
+    <message>
+        <source>%1 is installing...</source>
+        <translation>%1 がインストールしています...</translation>
+    </message>
+    <message>
+        <source>Close Zandrove</source>
+        <translation>Zandrove を閉じる</translation>
+    </message>
+    <message>
+        <source>A transfer is running. Closing the window cancels it.</source>
+        <translation>転送を実行中です。ウィンドウを閉じると転送はキャンセルされます。</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
+        <translation>届いたものは新 PC に残り、旧 PC からは何も削除されません。</translation>
+    </message>
+    <message>
+        <source>Cancel and Close</source>
+        <translation>キャンセルして閉じる</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,29 @@
     </message>
 </context>
 <context>
+    <name>TaskList</name>
+    <message>
+        <source>Folder not found</source>
+        <translation>폴더를 찾을 수 없습니다</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>이름이 올바른 텍스트가 아닙니다</translation>
+    </message>
+    <message>
+        <source>Cannot list folder: %1</source>
+        <translation>폴더의 내용을 나열할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Its path contains a backslash, which separates folders on the New PC</source>
+        <translation>새 PC에서 폴더를 구분하는 백슬래시가 경로에 들어 있습니다</translation>
+    </message>
+    <message>
+        <source>Another ticked folder has a file of this name</source>
+        <translation>선택한 다른 폴더에 이름이 같은 파일이 있습니다</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::AccountScanner</name>
     <message>
         <source>Scanning user accounts...</source>
@@ -235,6 +258,22 @@
     <message>
         <source>Failed to copy install files</source>
         <translation>설치 파일을 복사하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>Stopped: %1 of %2 files copied</source>
+        <translation>중지됨: 파일 %2개 중 %1개 복사</translation>
+    </message>
+    <message>
+        <source>Stopped before all of its keys and shortcuts were there</source>
+        <translation>레지스트리 키와 바로 가기를 모두 만들기 전에 중지되었습니다</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>%1의 파일 중 도착하지 않은 것: %2</translation>
+    </message>
+    <message>
+        <source>Files that could not be copied: %1 of %2 (%3: %4)</source>
+        <translation>복사하지 못한 파일: %2개 중 %1개(%3: %4)</translation>
     </message>
 </context>
 <context>
@@ -300,6 +339,17 @@
     <message>
         <source>Scan complete</source>
         <translation>검색 완료</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Admission</name>
+    <message>
+        <source>No request is open that this could answer.</source>
+        <translation>이것으로 응답할 수 있는 요청이 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>연결을 요청한 PC가 더 이상 없습니다: %1.</translation>
     </message>
 </context>
 <context>
@@ -426,10 +476,6 @@
         <translation>이 PC에서 옮길 수 있는 앱, 폴더, 계정, 설정을 나열합니다.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>종료 코드: 0 모두 옮겼거나 나열함, 1 연결 또는 실행이 실패했거나 거부됨, 2 잘못된 사용법, 3 시간 초과, 4 끝났으나 실패하거나 건너뛴 항목이 있음, 130 Ctrl-C로 취소됨(다른 PC에 알립니다. Ctrl-C를 한 번 더 누르면 바로 종료합니다).</translation>
-    </message>
-    <message>
         <source>This text; after a command, the help of that command.</source>
         <translation>이 도움말을 표시합니다. 명령 뒤에 쓰면 그 명령의 도움말을 표시합니다.</translation>
     </message>
@@ -501,12 +547,27 @@
         <source>send needs something to move: a --folder, an --app or a --setting.</source>
         <translation>send에는 옮길 것(--folder, --app 또는 --setting)이 필요합니다.</translation>
     </message>
+    <message>
+        <source>Write the report of each transfer to FILE, in place of the one before: a page to read or, for a name that ends in .json, JSON.</source>
+        <translation>전송할 때마다 보고서를 FILE에 쓰고 이전 보고서를 대체합니다. 읽기용 페이지로 쓰며, 이름이 .json으로 끝나면 JSON으로 씁니다.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>종료 코드: 0 모두 옮겼거나 나열함, 1 연결 또는 실행이 실패했거나 거부됨, 2 잘못된 사용법, 3 시간 초과, 4 끝났으나 실패했거나 이미 있던 항목이 있음, 130 Ctrl-C로 취소됨(다른 PC에 알립니다. Ctrl-C를 한 번 더 누르면 바로 종료합니다).</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Output</name>
     <message>
-        <source>Allow %1 to connect? [y/N] </source>
-        <translation>연결을 허용하시겠습니까? %1 [y/N] </translation>
+        <source>Allow %1 (%2) to connect? [y/N] </source>
+        <translation>연결을 허용하시겠습니까? %1 (%2) [y/N] </translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Program</name>
+    <message>
+        <source>The report can&apos;t be written: %1 is a folder.</source>
+        <translation>보고서를 쓸 수 없습니다. %1은(는) 폴더입니다.</translation>
     </message>
 </context>
 <context>
@@ -524,10 +585,6 @@
         <translation>여기서는 물어볼 사람이 없습니다. 모든 PC를 허용하려면 --yes로 시작하십시오.</translation>
     </message>
     <message>
-        <source>%1 is not there any more.</source>
-        <translation>연결을 요청한 PC가 더 이상 없습니다: %1.</translation>
-    </message>
-    <message>
         <source>The link to %1 broke during a transfer.</source>
         <translation>전송 중에 연결이 끊어졌습니다: %1.</translation>
     </message>
@@ -542,6 +599,10 @@
     <message>
         <source>Some settings are still being applied; the report is without them.</source>
         <translation>일부 설정이 아직 적용 중이며 보고서에는 빠져 있습니다.</translation>
+    </message>
+    <message>
+        <source>The transfer from %1 broke off.</source>
+        <translation>%1에서 오던 전송이 도중에 끊어졌습니다.</translation>
     </message>
 </context>
 <context>
@@ -570,6 +631,10 @@
         <source>%1 did not answer within %2 seconds.</source>
         <translation>%2초 안에 응답이 없었습니다: %1.</translation>
     </message>
+    <message>
+        <source>%1 ended the transfer.</source>
+        <translation>%1에서 전송을 끝냈습니다.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -580,6 +645,18 @@
     <message>
         <source>The other PC did not end the session: not everything may have arrived.</source>
         <translation>다른 PC가 세션을 끝내지 않았습니다. 일부가 도착하지 않았을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
+        <translation>전송할 데이터는 %1인데 %3의 사용 가능한 공간은 %2뿐이므로 모두 담을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>%1에서 %2초 동안 응답이 없습니다</translation>
+    </message>
+    <message>
+        <source>%1 answers again</source>
+        <translation>%1에서 다시 응답합니다</translation>
     </message>
 </context>
 <context>
@@ -653,14 +730,6 @@
         <translation>상대 PC가 취소했습니다: %1.</translation>
     </message>
     <message>
-        <source>Files: %1 received, %2 failed, %3 skipped.</source>
-        <translation>파일: 받음 %1, 실패 %2, 건너뜀 %3.</translation>
-    </message>
-    <message>
-        <source>Files: %1 sent, %2 failed, %3 skipped.</source>
-        <translation>파일: 보냄 %1, 실패 %2, 건너뜀 %3.</translation>
-    </message>
-    <message>
         <source>Files saved:</source>
         <translation>파일 저장 위치:</translation>
     </message>
@@ -725,20 +794,24 @@
         <translation>적용됨</translation>
     </message>
     <message>
-        <source>failed</source>
-        <translation>실패</translation>
+        <source>%1 is installing %2...</source>
+        <translation>%1에서 %2 설치 중...</translation>
     </message>
     <message>
-        <source>failed: %1</source>
-        <translation>실패: %1</translation>
+        <source>Installing %1</source>
+        <translation>%1 설치 중</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 failed, %3 were there before.</source>
+        <translation>파일: 도착 %1, 실패 %2, 이미 있음 %3.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>그 외 %1개</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::CompletePage</name>
-    <message>
-        <source>Transfer Complete!</source>
-        <translation>전송 완료!</translation>
-    </message>
     <message>
         <source>Your files, apps and settings have been successfully transferred</source>
         <translation>파일, 앱, 설정을 모두 전송했습니다</translation>
@@ -790,6 +863,18 @@
     <message>
         <source>Open</source>
         <translation>열기</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 were there already and identical, %3 were there already and different, %4 failed or are not confirmed</source>
+        <translation>파일: 도착 %1, 이미 있고 내용이 같음 %2, 이미 있으나 내용이 다름 %3, 실패했거나 확인되지 않음 %4</translation>
+    </message>
+    <message>
+        <source>%1 of %2 apps did not arrive</source>
+        <translation>앱 %2개 중 %1개가 도착하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>%1 of %2 settings did not arrive</source>
+        <translation>설정 %2개 중 %1개가 도착하지 않았습니다</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1060,13 @@ Do you want to accept?</source>
     </message>
 </context>
 <context>
+    <name>Zandrove::FileCopy</name>
+    <message>
+        <source>it became shorter meanwhile</source>
+        <translation>복사하는 동안 파일 크기가 줄었습니다</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::FileReceiverWorker</name>
     <message>
         <source>Write error</source>
@@ -991,6 +1083,14 @@ Do you want to accept?</source>
     <message>
         <source>Checksum mismatch</source>
         <translation>체크섬이 일치하지 않습니다</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>보내는 동안 변경되었습니다</translation>
+    </message>
+    <message>
+        <source>It did not arrive whole</source>
+        <translation>일부가 도착하지 않았습니다</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1113,18 @@ Do you want to accept?</source>
     <message>
         <source>not a regular file</source>
         <translation>일반 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>Cancelled before it was sent whole</source>
+        <translation>다 보내기 전에 취소되었습니다</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>파일을 읽을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>보내는 동안 변경되었습니다</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1161,33 @@ Do you want to accept?</source>
 
 다음 링크를 복사하여 직접 여십시오:
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::LinkWatch</name>
+    <message>
+        <source>No answer from the other PC for %1 s</source>
+        <translation>다른 PC에서 %1초 동안 응답이 없습니다</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>%1에서 %2초 동안 응답이 없습니다</translation>
+    </message>
+    <message>
+        <source>The connection to %1 is lost.</source>
+        <translation>%1과(와)의 연결이 끊어졌습니다.</translation>
+    </message>
+    <message>
+        <source>The connection to the other PC is lost.</source>
+        <translation>다른 PC와의 연결이 끊어졌습니다.</translation>
+    </message>
+    <message>
+        <source>Back to connections</source>
+        <translation>연결로 돌아가기</translation>
+    </message>
+    <message>
+        <source>Show report</source>
+        <translation>보고서 보기</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1269,49 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
+    <name>Zandrove::MissingItems</name>
+    <message>
+        <source>Did not arrive</source>
+        <translation>도착하지 않음</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>이유</translation>
+    </message>
+    <message>
+        <source>Copy list</source>
+        <translation>목록 복사</translation>
+    </message>
+    <message>
+        <source>Save report…</source>
+        <translation>보고서 저장…</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>그 외 %1개.</translation>
+    </message>
+    <message>
+        <source>The list is on the clipboard.</source>
+        <translation>목록을 클립보드에 복사했습니다.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Zandrove 보고서</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>보고서 저장</translation>
+    </message>
+    <message>
+        <source>Page (*.html);;JSON (*.json)</source>
+        <translation>웹 페이지 (*.html);;JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>The report is saved.</source>
+        <translation>보고서를 저장했습니다.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::NetworkManager</name>
     <message>
         <source>PC not found</source>
@@ -1190,6 +1372,176 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
+    <name>Zandrove::ReceivingRun</name>
+    <message>
+        <source>the link was lost</source>
+        <translation>연결이 끊어졌습니다</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReplacingFile</name>
+    <message>
+        <source>a folder of this name stands in its place</source>
+        <translation>그 자리에 이름이 같은 폴더가 있습니다</translation>
+    </message>
+    <message>
+        <source>the file that stands there is read-only</source>
+        <translation>그 자리에 있는 파일이 읽기 전용입니다</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReportDocument</name>
+    <message>
+        <source>Old PC</source>
+        <translation>이전 PC</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>새 PC</translation>
+    </message>
+    <message>
+        <source>Began</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>종료</translation>
+    </message>
+    <message>
+        <source>Took</source>
+        <translation>걸린 시간</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>옮김</translation>
+    </message>
+    <message>
+        <source>Not moved</source>
+        <translation>옮기지 못함</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>앱</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>There already</source>
+        <translation>이미 있음</translation>
+    </message>
+    <message>
+        <source>There, but different</source>
+        <translation>있으나 다름</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>실패</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>합계</translation>
+    </message>
+    <message>
+        <source>What to do next</source>
+        <translation>다음에 할 일</translation>
+    </message>
+    <message>
+        <source>Where the files lie</source>
+        <translation>파일 저장 위치</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>폴더</translation>
+    </message>
+    <message>
+        <source>Place on %1</source>
+        <translation>%1에서의 위치</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <translation>앱</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>Apps and settings</source>
+        <translation>앱 및 설정</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>What became of it</source>
+        <translation>결과</translation>
+    </message>
+    <message>
+        <source>%1 files, which only the report of the Old PC can name.</source>
+        <translation>파일 %1개. 이름은 이전 PC의 보고서에만 나옵니다.</translation>
+    </message>
+    <message>
+        <source>And %1 more, which only the report of the Old PC can name.</source>
+        <translation>그 외 %1개. 이름은 이전 PC의 보고서에만 나옵니다.</translation>
+    </message>
+    <message>
+        <source>%1 files.</source>
+        <translation>파일 %1개.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>그 외 %1개.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>이유</translation>
+    </message>
+    <message>
+        <source>%1 were there already.</source>
+        <translation>%1개는 이미 있었습니다.</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language of this translation, as in &quot;de&quot; or &quot;zh-TW&quot;.</extracomment>
+        <translation>ko</translation>
+    </message>
+    <message>
+        <source>%1 report</source>
+        <translation>%1 보고서</translation>
+    </message>
+    <message>
+        <source>This transfer</source>
+        <translation>이번 전송</translation>
+    </message>
+    <message>
+        <source>Files that did not arrive</source>
+        <translation>도착하지 않은 파일</translation>
+    </message>
+    <message>
+        <source>Files that were there already, with other content</source>
+        <translation>다른 내용으로 이미 있던 파일</translation>
+    </message>
+    <message>
+        <source>The report %1 can&apos;t be written: %2</source>
+        <translation>보고서 %1을(를) 쓸 수 없습니다: %2</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>일반 파일이 아닙니다</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::RoleCard</name>
     <message>
         <source>Old PC</source>
@@ -1221,6 +1573,136 @@ The application will restart now.</source>
     <message>
         <source>Both computers need Zandrove installed and running</source>
         <translation>두 컴퓨터 모두에 Zandrove가 설치되어 실행 중이어야 합니다</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunLedger</name>
+    <message>
+        <source>changed while it was sent</source>
+        <translation>보내는 동안 변경되었습니다</translation>
+    </message>
+    <message>
+        <source>%1 does not say why</source>
+        <translation>%1에서 이유를 알리지 않았습니다</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>보냈지만 %1에서 도착을 확인하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>not moved: the transfer ended before its turn</source>
+        <translation>옮기지 못함: 차례가 오기 전에 전송이 끝났습니다</translation>
+    </message>
+    <message>
+        <source>there already</source>
+        <translation>이미 있음</translation>
+    </message>
+    <message>
+        <source>there already, identical</source>
+        <translation>이미 있음, 내용이 같음</translation>
+    </message>
+    <message>
+        <source>there already, and different: the one from the Old PC was not moved</source>
+        <translation>이미 있으나 내용이 다름: 이전 PC의 것은 옮기지 않았습니다</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunTexts</name>
+    <message>
+        <source>drive %1</source>
+        <translation>드라이브 %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files did not arrive</source>
+        <translation>파일 %2개 중 %1개가 도착하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files arrived; nothing was deleted on the Old PC</source>
+        <translation>파일 %2개 중 %1개가 도착했습니다. 이전 PC에서는 아무것도 삭제되지 않았습니다</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled</source>
+        <translation>전송 취소됨</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled by %1</source>
+        <translation>%1에서 전송을 취소했습니다</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost</source>
+        <translation>%1과(와)의 연결이 끊어졌습니다</translation>
+    </message>
+    <message>
+        <source>Transfer ended by %1</source>
+        <translation>%1에서 전송을 끝냈습니다</translation>
+    </message>
+    <message>
+        <source>Transfer not finished</source>
+        <translation>전송이 끝나지 않았습니다</translation>
+    </message>
+    <message>
+        <source>Transfer finished, %1</source>
+        <translation>전송은 끝났지만 %1</translation>
+    </message>
+    <message>
+        <source>Transfer finished, but not everything was moved</source>
+        <translation>전송은 끝났지만 옮기지 못한 것이 있습니다</translation>
+    </message>
+    <message>
+        <source>Transfer Complete!</source>
+        <translation>전송 완료!</translation>
+    </message>
+    <message>
+        <source>no space left on %1 of %2: %3 files, %4 did not fit</source>
+        <translation>%2의 %1에 남은 공간이 없습니다: 담지 못한 파일 %3개, %4</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>옮김</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>이미 있었음</translation>
+    </message>
+    <message>
+        <source>was there already, and different</source>
+        <translation>이미 있었으나 내용이 다름</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>실패</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>확인되지 않음</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>아직 알 수 없음</translation>
+    </message>
+    <message>
+        <source>Open a few of the files on %1 before you part with the Old PC. Nothing was deleted there.</source>
+        <translation>이전 PC를 처분하기 전에 %1에서 파일을 몇 개 열어 보십시오. 이전 PC에서는 아무것도 삭제되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Make room for %1 on %2 of %3, or move less.</source>
+        <translation>%3의 %2에 %1의 공간을 마련하거나 옮길 것을 줄이십시오.</translation>
+    </message>
+    <message>
+        <source>Some files stood on %1 before, with other content. Compare the two versions. To get the one from the Old PC, rename or move the one on %1, and move the same folder again.</source>
+        <translation>일부 파일은 %1에 다른 내용으로 이미 있었습니다. 두 버전을 비교해 보십시오. 이전 PC의 파일이 필요하면 %1에 있는 파일의 이름을 바꾸거나 다른 곳으로 옮긴 다음 같은 폴더를 다시 옮기십시오.</translation>
+    </message>
+    <message>
+        <source>Connect the two PCs again and start the same transfer: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>두 PC를 다시 연결하고 같은 전송을 시작하십시오. 이미 도착한 것은 건너뛰고 빠진 것만 옮깁니다.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>목록에서 이유를 확인하십시오. 원인을 해결한 다음 같은 전송을 다시 시작하십시오. 이미 도착한 것은 건너뛰고 빠진 것만 옮깁니다.</translation>
+    </message>
+    <message>
+        <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
+        <translation>빠진 것이 없을 때까지 이전 PC를 그대로 두십시오. 이전 PC에서는 아무것도 삭제되지 않았습니다.</translation>
     </message>
 </context>
 <context>
@@ -1330,6 +1812,21 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
+    <name>Zandrove::SendingRun</name>
+    <message>
+        <source>File not found: %1</source>
+        <translation>파일을 찾을 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>%1의 파일 중 도착하지 않은 것: %2</translation>
+    </message>
+    <message>
+        <source>sent; what became of it stands in the report of %1</source>
+        <translation>보냈습니다. 결과는 %1의 보고서에 있습니다</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::SettingMigrator</name>
     <message>
         <source>Export failed</source>
@@ -1338,6 +1835,18 @@ The application will restart now.</source>
     <message>
         <source>Failed to apply setting</source>
         <translation>설정을 적용하지 못했습니다</translation>
+    </message>
+    <message>
+        <source>stopped before it was applied</source>
+        <translation>적용하기 전에 중지되었습니다</translation>
+    </message>
+    <message>
+        <source>it did not arrive whole</source>
+        <translation>일부가 도착하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>stopped while it was being applied</source>
+        <translation>적용하는 동안 중지되었습니다</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +2254,46 @@ The application will restart now.</source>
     <message>
         <source>%1 failed</source>
         <translation>%1개 실패</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>받음</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>보냄</translation>
+    </message>
+    <message>
+        <source>Connection lost</source>
+        <translation>연결이 끊어졌습니다</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>전송할 데이터는 %1인데 %3의 사용 가능한 공간은 %2뿐이므로 모두 담을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Installing %1 - %2 %</source>
+        <translation>%1 설치 중 - %2 %</translation>
+    </message>
+    <message>
+        <source>%1 is installing...</source>
+        <translation>%1에서 설치 중...</translation>
+    </message>
+    <message>
+        <source>Close Zandrove</source>
+        <translation>Zandrove 닫기</translation>
+    </message>
+    <message>
+        <source>A transfer is running. Closing the window cancels it.</source>
+        <translation>전송이 진행 중입니다. 창을 닫으면 전송이 취소됩니다.</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
+        <translation>이미 도착한 것은 새 PC에 남으며, 이전 PC에서는 아무것도 삭제되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Cancel and Close</source>
+        <translation>취소하고 닫기</translation>
     </message>
 </context>
 <context>

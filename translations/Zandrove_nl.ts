@@ -200,6 +200,29 @@
     </message>
 </context>
 <context>
+    <name>TaskList</name>
+    <message>
+        <source>Folder not found</source>
+        <translation>Map niet gevonden</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>De naam is geen geldige tekst</translation>
+    </message>
+    <message>
+        <source>Cannot list folder: %1</source>
+        <translation>Kan de inhoud van de map niet lezen: %1</translation>
+    </message>
+    <message>
+        <source>Its path contains a backslash, which separates folders on the New PC</source>
+        <translation>Het pad bevat een backslash, die op de nieuwe pc mappen van elkaar scheidt</translation>
+    </message>
+    <message>
+        <source>Another ticked folder has a file of this name</source>
+        <translation>Een andere aangevinkte map bevat een bestand met deze naam</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::AccountScanner</name>
     <message>
         <source>Scanning user accounts...</source>
@@ -235,6 +258,22 @@
     <message>
         <source>Failed to copy install files</source>
         <translation>Kan de installatiebestanden niet kopiëren</translation>
+    </message>
+    <message>
+        <source>Stopped: %1 of %2 files copied</source>
+        <translation>Gestopt: %1 van %2 bestanden gekopieerd</translation>
+    </message>
+    <message>
+        <source>Stopped before all of its keys and shortcuts were there</source>
+        <translation>Gestopt voordat alle bijbehorende sleutels en snelkoppelingen er waren</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>Bestanden van %1 die niet zijn aangekomen: %2</translation>
+    </message>
+    <message>
+        <source>Files that could not be copied: %1 of %2 (%3: %4)</source>
+        <translation>Bestanden die niet konden worden gekopieerd: %1 van %2 (%3: %4)</translation>
     </message>
 </context>
 <context>
@@ -300,6 +339,17 @@
     <message>
         <source>Scan complete</source>
         <translation>Scan voltooid</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Admission</name>
+    <message>
+        <source>No request is open that this could answer.</source>
+        <translation>Er staat geen verzoek open dat hiermee beantwoord kan worden.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 is er niet meer.</translation>
     </message>
 </context>
 <context>
@@ -426,10 +476,6 @@
         <translation>Tonen wat van deze pc kan worden overgezet: apps, mappen, accounts en instellingen.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Afsluitcodes: 0 alles overgezet of getoond; 1 de verbinding of de overdracht is mislukt of geweigerd; 2 verkeerd gebruik; 3 time-out; 4 voltooid, maar er is iets mislukt of overgeslagen; 130 geannuleerd met Ctrl+C (de andere pc krijgt bericht; een tweede Ctrl+C stopt meteen).</translation>
-    </message>
-    <message>
         <source>This text; after a command, the help of that command.</source>
         <translation>Deze tekst; na een opdracht de Help van die opdracht.</translation>
     </message>
@@ -501,12 +547,27 @@
         <source>send needs something to move: a --folder, an --app or a --setting.</source>
         <translation>send heeft iets nodig om over te zetten: een --folder, een --app of een --setting.</translation>
     </message>
+    <message>
+        <source>Write the report of each transfer to FILE, in place of the one before: a page to read or, for a name that ends in .json, JSON.</source>
+        <translation>Het rapport van elke overdracht naar FILE schrijven, in plaats van het vorige: een pagina om te lezen of, bij een naam die op .json eindigt, JSON.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Afsluitcodes: 0 alles overgezet of getoond; 1 de verbinding of de overdracht is mislukt of geweigerd; 2 verkeerd gebruik; 3 time-out; 4 voltooid, maar er is iets mislukt of er was al iets aanwezig; 130 geannuleerd met Ctrl+C (de andere pc krijgt bericht; een tweede Ctrl+C stopt meteen).</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Output</name>
     <message>
-        <source>Allow %1 to connect? [y/N] </source>
-        <translation>Mag %1 verbinding maken? [y/N] </translation>
+        <source>Allow %1 (%2) to connect? [y/N] </source>
+        <translation>Mag %1 (%2) verbinding maken? [y/N] </translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Program</name>
+    <message>
+        <source>The report can&apos;t be written: %1 is a folder.</source>
+        <translation>Het rapport kan niet worden geschreven: %1 is een map.</translation>
     </message>
 </context>
 <context>
@@ -524,10 +585,6 @@
         <translation>hier kan niemand iets worden gevraagd. Start met --yes om elke pc toe te laten.</translation>
     </message>
     <message>
-        <source>%1 is not there any more.</source>
-        <translation>%1 is er niet meer.</translation>
-    </message>
-    <message>
         <source>The link to %1 broke during a transfer.</source>
         <translation>De verbinding met %1 is tijdens een overdracht verbroken.</translation>
     </message>
@@ -542,6 +599,10 @@
     <message>
         <source>Some settings are still being applied; the report is without them.</source>
         <translation>Sommige instellingen worden nog toegepast; ze ontbreken in het rapport.</translation>
+    </message>
+    <message>
+        <source>The transfer from %1 broke off.</source>
+        <translation>De overdracht van %1 is afgebroken.</translation>
     </message>
 </context>
 <context>
@@ -570,6 +631,10 @@
         <source>%1 did not answer within %2 seconds.</source>
         <translation>%1 heeft niet binnen %2&#xa0;s geantwoord.</translation>
     </message>
+    <message>
+        <source>%1 ended the transfer.</source>
+        <translation>%1 heeft de overdracht beëindigd.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -580,6 +645,18 @@
     <message>
         <source>The other PC did not end the session: not everything may have arrived.</source>
         <translation>De andere pc heeft de sessie niet beëindigd: mogelijk is niet alles aangekomen.</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
+        <translation>Er is %1 onderweg, maar op %3 is maar %2 vrij: niet alles past.</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>Al %2 s geen antwoord van %1</translation>
+    </message>
+    <message>
+        <source>%1 answers again</source>
+        <translation>%1 antwoordt weer</translation>
     </message>
 </context>
 <context>
@@ -653,14 +730,6 @@
         <translation>Geannuleerd door %1.</translation>
     </message>
     <message>
-        <source>Files: %1 received, %2 failed, %3 skipped.</source>
-        <translation>Bestanden: %1 ontvangen, %2 mislukt, %3 overgeslagen.</translation>
-    </message>
-    <message>
-        <source>Files: %1 sent, %2 failed, %3 skipped.</source>
-        <translation>Bestanden: %1 verzonden, %2 mislukt, %3 overgeslagen.</translation>
-    </message>
-    <message>
         <source>Files saved:</source>
         <translation>Opgeslagen bestanden:</translation>
     </message>
@@ -725,20 +794,24 @@
         <translation>toegepast</translation>
     </message>
     <message>
-        <source>failed</source>
-        <translation>mislukt</translation>
+        <source>%1 is installing %2...</source>
+        <translation>%1 installeert %2...</translation>
     </message>
     <message>
-        <source>failed: %1</source>
-        <translation>mislukt: %1</translation>
+        <source>Installing %1</source>
+        <translation>%1 installeren</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 failed, %3 were there before.</source>
+        <translation>Bestanden: %1 aangekomen, %2 mislukt, %3 al aanwezig.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>en nog %1</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::CompletePage</name>
-    <message>
-        <source>Transfer Complete!</source>
-        <translation>Overdracht voltooid!</translation>
-    </message>
     <message>
         <source>Your files, apps and settings have been successfully transferred</source>
         <translation>Uw bestanden, apps en instellingen zijn overgezet</translation>
@@ -790,6 +863,18 @@
     <message>
         <source>Open</source>
         <translation>Openen</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 were there already and identical, %3 were there already and different, %4 failed or are not confirmed</source>
+        <translation>Bestanden: %1 aangekomen, %2 al aanwezig en identiek, %3 al aanwezig maar anders, %4 mislukt of niet bevestigd</translation>
+    </message>
+    <message>
+        <source>%1 of %2 apps did not arrive</source>
+        <translation>%1 van %2 apps niet aangekomen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 settings did not arrive</source>
+        <translation>%1 van %2 instellingen niet aangekomen</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1060,13 @@ Wilt u dit toestaan?</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::FileCopy</name>
+    <message>
+        <source>it became shorter meanwhile</source>
+        <translation>intussen is het korter geworden</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::FileReceiverWorker</name>
     <message>
         <source>Write error</source>
@@ -991,6 +1083,14 @@ Wilt u dit toestaan?</translation>
     <message>
         <source>Checksum mismatch</source>
         <translation>De controlesom klopt niet</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>Gewijzigd tijdens het verzenden</translation>
+    </message>
+    <message>
+        <source>It did not arrive whole</source>
+        <translation>Niet volledig aangekomen</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1113,18 @@ Wilt u dit toestaan?</translation>
     <message>
         <source>not a regular file</source>
         <translation>geen gewoon bestand</translation>
+    </message>
+    <message>
+        <source>Cancelled before it was sent whole</source>
+        <translation>Geannuleerd voordat het volledig was verzonden</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Kan bestand niet lezen: %1</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>Gewijzigd tijdens het verzenden</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1161,33 @@ Neem contact op met de technische ondersteuning of installeer de app opnieuw.</t
 
 Kopieer de koppeling en open deze zelf:
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::LinkWatch</name>
+    <message>
+        <source>No answer from the other PC for %1 s</source>
+        <translation>Al %1 s geen antwoord van de andere pc</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>Al %2 s geen antwoord van %1</translation>
+    </message>
+    <message>
+        <source>The connection to %1 is lost.</source>
+        <translation>De verbinding met %1 is verbroken.</translation>
+    </message>
+    <message>
+        <source>The connection to the other PC is lost.</source>
+        <translation>De verbinding met de andere pc is verbroken.</translation>
+    </message>
+    <message>
+        <source>Back to connections</source>
+        <translation>Terug naar verbindingen</translation>
+    </message>
+    <message>
+        <source>Show report</source>
+        <translation>Rapport weergeven</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1269,49 @@ De app wordt nu opnieuw gestart.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::MissingItems</name>
+    <message>
+        <source>Did not arrive</source>
+        <translation>Niet aangekomen</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Reden</translation>
+    </message>
+    <message>
+        <source>Copy list</source>
+        <translation>Lijst kopiëren</translation>
+    </message>
+    <message>
+        <source>Save report…</source>
+        <translation>Rapport opslaan…</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>En nog %1.</translation>
+    </message>
+    <message>
+        <source>The list is on the clipboard.</source>
+        <translation>De lijst staat op het klembord.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Zandrove-rapport</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>Rapport opslaan</translation>
+    </message>
+    <message>
+        <source>Page (*.html);;JSON (*.json)</source>
+        <translation>Pagina (*.html);;JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>The report is saved.</source>
+        <translation>Het rapport is opgeslagen.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::NetworkManager</name>
     <message>
         <source>PC not found</source>
@@ -1190,6 +1372,176 @@ De app wordt nu opnieuw gestart.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::ReceivingRun</name>
+    <message>
+        <source>the link was lost</source>
+        <translation>de verbinding is verbroken</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReplacingFile</name>
+    <message>
+        <source>a folder of this name stands in its place</source>
+        <translation>op die plaats staat een map met deze naam</translation>
+    </message>
+    <message>
+        <source>the file that stands there is read-only</source>
+        <translation>het bestand dat daar staat, is alleen-lezen</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReportDocument</name>
+    <message>
+        <source>Old PC</source>
+        <translation>Oude pc</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>Nieuwe pc</translation>
+    </message>
+    <message>
+        <source>Began</source>
+        <translation>Begin</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Einde</translation>
+    </message>
+    <message>
+        <source>Took</source>
+        <translation>Duur</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>Overgezet</translation>
+    </message>
+    <message>
+        <source>Not moved</source>
+        <translation>Niet overgezet</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Bestanden</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Apps</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Instellingen</translation>
+    </message>
+    <message>
+        <source>There already</source>
+        <translation>Al aanwezig</translation>
+    </message>
+    <message>
+        <source>There, but different</source>
+        <translation>Aanwezig, maar anders</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Mislukt</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Totaal</translation>
+    </message>
+    <message>
+        <source>What to do next</source>
+        <translation>Wat u nu kunt doen</translation>
+    </message>
+    <message>
+        <source>Where the files lie</source>
+        <translation>Waar de bestanden staan</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Map</translation>
+    </message>
+    <message>
+        <source>Place on %1</source>
+        <translation>Locatie op %1</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <translation>App</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Instelling</translation>
+    </message>
+    <message>
+        <source>Apps and settings</source>
+        <translation>Apps en instellingen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Naam</translation>
+    </message>
+    <message>
+        <source>What became of it</source>
+        <translation>Resultaat</translation>
+    </message>
+    <message>
+        <source>%1 files, which only the report of the Old PC can name.</source>
+        <translation>Bestanden: %1. Welke dat zijn, staat alleen in het rapport van de oude pc.</translation>
+    </message>
+    <message>
+        <source>And %1 more, which only the report of the Old PC can name.</source>
+        <translation>En nog %1; welke dat zijn, staat alleen in het rapport van de oude pc.</translation>
+    </message>
+    <message>
+        <source>%1 files.</source>
+        <translation>Bestanden: %1.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>En nog %1.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Bestand</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Reden</translation>
+    </message>
+    <message>
+        <source>%1 were there already.</source>
+        <translation>Al aanwezig: %1.</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language of this translation, as in &quot;de&quot; or &quot;zh-TW&quot;.</extracomment>
+        <translation>nl</translation>
+    </message>
+    <message>
+        <source>%1 report</source>
+        <translation>%1-rapport</translation>
+    </message>
+    <message>
+        <source>This transfer</source>
+        <translation>Deze overdracht</translation>
+    </message>
+    <message>
+        <source>Files that did not arrive</source>
+        <translation>Bestanden die niet zijn aangekomen</translation>
+    </message>
+    <message>
+        <source>Files that were there already, with other content</source>
+        <translation>Bestanden die al aanwezig waren, met andere inhoud</translation>
+    </message>
+    <message>
+        <source>The report %1 can&apos;t be written: %2</source>
+        <translation>Het rapport %1 kan niet worden geschreven: %2</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>het is geen gewoon bestand</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::RoleCard</name>
     <message>
         <source>Old PC</source>
@@ -1221,6 +1573,136 @@ De app wordt nu opnieuw gestart.</translation>
     <message>
         <source>Both computers need Zandrove installed and running</source>
         <translation>Zandrove moet op beide pc’s geïnstalleerd en actief zijn</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunLedger</name>
+    <message>
+        <source>changed while it was sent</source>
+        <translation>gewijzigd tijdens het verzenden</translation>
+    </message>
+    <message>
+        <source>%1 does not say why</source>
+        <translation>%1 geeft geen reden op</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>verzonden, maar %1 heeft de aankomst niet bevestigd</translation>
+    </message>
+    <message>
+        <source>not moved: the transfer ended before its turn</source>
+        <translation>niet overgezet: de overdracht eindigde voordat dit aan de beurt was</translation>
+    </message>
+    <message>
+        <source>there already</source>
+        <translation>al aanwezig</translation>
+    </message>
+    <message>
+        <source>there already, identical</source>
+        <translation>al aanwezig, identiek</translation>
+    </message>
+    <message>
+        <source>there already, and different: the one from the Old PC was not moved</source>
+        <translation>al aanwezig, maar anders: dat van de oude pc is niet overgezet</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunTexts</name>
+    <message>
+        <source>drive %1</source>
+        <translation>station %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files did not arrive</source>
+        <translation>%1 van %2 bestanden niet aangekomen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files arrived; nothing was deleted on the Old PC</source>
+        <translation>%1 van %2 bestanden aangekomen; op de oude pc is niets verwijderd</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled</source>
+        <translation>Overdracht geannuleerd</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled by %1</source>
+        <translation>Overdracht geannuleerd door %1</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost</source>
+        <translation>De verbinding met %1 is verbroken</translation>
+    </message>
+    <message>
+        <source>Transfer ended by %1</source>
+        <translation>Overdracht beëindigd door %1</translation>
+    </message>
+    <message>
+        <source>Transfer not finished</source>
+        <translation>Overdracht niet voltooid</translation>
+    </message>
+    <message>
+        <source>Transfer finished, %1</source>
+        <translation>Overdracht voltooid, %1</translation>
+    </message>
+    <message>
+        <source>Transfer finished, but not everything was moved</source>
+        <translation>Overdracht voltooid, maar niet alles is overgezet</translation>
+    </message>
+    <message>
+        <source>Transfer Complete!</source>
+        <translation>Overdracht voltooid!</translation>
+    </message>
+    <message>
+        <source>no space left on %1 of %2: %3 files, %4 did not fit</source>
+        <translation>geen ruimte meer op %1 van %2; bestanden die niet pasten: %3 (%4)</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>overgezet</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>was al aanwezig</translation>
+    </message>
+    <message>
+        <source>was there already, and different</source>
+        <translation>was al aanwezig, maar anders</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>mislukt</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>niet bevestigd</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>nog niet bekend</translation>
+    </message>
+    <message>
+        <source>Open a few of the files on %1 before you part with the Old PC. Nothing was deleted there.</source>
+        <translation>Open een paar bestanden op %1 voordat u de oude pc wegdoet. Daar is niets verwijderd.</translation>
+    </message>
+    <message>
+        <source>Make room for %1 on %2 of %3, or move less.</source>
+        <translation>Maak ruimte voor %1 op %2 van %3, of zet minder over.</translation>
+    </message>
+    <message>
+        <source>Some files stood on %1 before, with other content. Compare the two versions. To get the one from the Old PC, rename or move the one on %1, and move the same folder again.</source>
+        <translation>Op %1 stonden al bestanden met andere inhoud. Vergelijk de twee versies. Wilt u de versie van de oude pc, wijzig dan de naam van de versie op %1 of verplaats die, en zet dezelfde map opnieuw over.</translation>
+    </message>
+    <message>
+        <source>Connect the two PCs again and start the same transfer: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Verbind de twee pc’s opnieuw en start dezelfde overdracht: wat is aangekomen, wordt overgeslagen en alleen wat ontbreekt, wordt overgezet.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Lees de redenen in de lijst. Zijn die verholpen, start dan dezelfde overdracht opnieuw: wat is aangekomen, wordt overgeslagen en alleen wat ontbreekt, wordt overgezet.</translation>
+    </message>
+    <message>
+        <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
+        <translation>Laat de oude pc zoals hij is tot er niets meer ontbreekt. Daar is niets verwijderd.</translation>
     </message>
 </context>
 <context>
@@ -1330,6 +1812,21 @@ De app wordt nu opnieuw gestart.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::SendingRun</name>
+    <message>
+        <source>File not found: %1</source>
+        <translation>Bestand niet gevonden: %1</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>Bestanden van %1 die niet zijn aangekomen: %2</translation>
+    </message>
+    <message>
+        <source>sent; what became of it stands in the report of %1</source>
+        <translation>verzonden; het resultaat staat in het rapport van %1</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::SettingMigrator</name>
     <message>
         <source>Export failed</source>
@@ -1338,6 +1835,18 @@ De app wordt nu opnieuw gestart.</translation>
     <message>
         <source>Failed to apply setting</source>
         <translation>Kan de instelling niet toepassen</translation>
+    </message>
+    <message>
+        <source>stopped before it was applied</source>
+        <translation>gestopt voordat de instelling werd toegepast</translation>
+    </message>
+    <message>
+        <source>it did not arrive whole</source>
+        <translation>niet volledig aangekomen</translation>
+    </message>
+    <message>
+        <source>stopped while it was being applied</source>
+        <translation>gestopt tijdens het toepassen</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +2254,46 @@ De app wordt nu opnieuw gestart.</translation>
     <message>
         <source>%1 failed</source>
         <translation>%1 mislukt</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>ontvangen</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>verzonden</translation>
+    </message>
+    <message>
+        <source>Connection lost</source>
+        <translation>Verbinding verbroken</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>Er is %1 onderweg, maar op %3 is maar %2 vrij: niet alles past.</translation>
+    </message>
+    <message>
+        <source>Installing %1 - %2 %</source>
+        <translation>%1 installeren – %2%</translation>
+    </message>
+    <message>
+        <source>%1 is installing...</source>
+        <translation>%1 is aan het installeren...</translation>
+    </message>
+    <message>
+        <source>Close Zandrove</source>
+        <translation>Zandrove sluiten</translation>
+    </message>
+    <message>
+        <source>A transfer is running. Closing the window cancels it.</source>
+        <translation>Er is een overdracht bezig. Als u het venster sluit, wordt die geannuleerd.</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
+        <translation>Wat is aangekomen, blijft op de nieuwe pc staan en op de oude pc wordt niets verwijderd.</translation>
+    </message>
+    <message>
+        <source>Cancel and Close</source>
+        <translation>Annuleren en sluiten</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,29 @@
     </message>
 </context>
 <context>
+    <name>TaskList</name>
+    <message>
+        <source>Folder not found</source>
+        <translation>Pasta não encontrada</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>O nome não é um texto válido</translation>
+    </message>
+    <message>
+        <source>Cannot list folder: %1</source>
+        <translation>Não é possível ler o conteúdo da pasta: %1</translation>
+    </message>
+    <message>
+        <source>Its path contains a backslash, which separates folders on the New PC</source>
+        <translation>O caminho contém uma barra invertida, que no PC novo separa as pastas</translation>
+    </message>
+    <message>
+        <source>Another ticked folder has a file of this name</source>
+        <translation>Outra pasta selecionada tem um ficheiro com este nome</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::AccountScanner</name>
     <message>
         <source>Scanning user accounts...</source>
@@ -235,6 +258,22 @@
     <message>
         <source>Failed to copy install files</source>
         <translation>Não foi possível copiar os ficheiros de instalação</translation>
+    </message>
+    <message>
+        <source>Stopped: %1 of %2 files copied</source>
+        <translation>Instalação interrompida – ficheiros copiados: %1 de %2</translation>
+    </message>
+    <message>
+        <source>Stopped before all of its keys and shortcuts were there</source>
+        <translation>Instalação interrompida antes de estarem criados todas as suas chaves e todos os seus atalhos</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>Ficheiros de %1 que não chegaram: %2</translation>
+    </message>
+    <message>
+        <source>Files that could not be copied: %1 of %2 (%3: %4)</source>
+        <translation>Ficheiros que não foi possível copiar: %1 de %2 (%3: %4)</translation>
     </message>
 </context>
 <context>
@@ -300,6 +339,17 @@
     <message>
         <source>Scan complete</source>
         <translation>Análise concluída</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Admission</name>
+    <message>
+        <source>No request is open that this could answer.</source>
+        <translation>Não há nenhum pedido em aberto a que isto possa responder.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 já não está presente.</translation>
     </message>
 </context>
 <context>
@@ -426,10 +476,6 @@
         <translation>Listar o que pode ser transferido deste PC: aplicações, pastas, contas e definições.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Códigos de saída: 0 tudo transferido ou listado; 1 a ligação ou a transferência falhou ou foi recusada; 2 utilização incorreta; 3 tempo limite excedido; 4 concluído, mas algo falhou ou foi ignorado; 130 cancelado com Ctrl+C (o outro PC é avisado; um segundo Ctrl+C termina de imediato).</translation>
-    </message>
-    <message>
         <source>This text; after a command, the help of that command.</source>
         <translation>Este texto; depois de um comando, a ajuda desse comando.</translation>
     </message>
@@ -501,12 +547,27 @@
         <source>send needs something to move: a --folder, an --app or a --setting.</source>
         <translation>send precisa de algo para transferir: --folder, --app ou --setting.</translation>
     </message>
+    <message>
+        <source>Write the report of each transfer to FILE, in place of the one before: a page to read or, for a name that ends in .json, JSON.</source>
+        <translation>Escrever o relatório de cada transferência em FILE, no lugar do anterior: uma página para ler ou, se o nome terminar em .json, JSON.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Códigos de saída: 0 tudo transferido ou listado; 1 a ligação ou a transferência falhou ou foi recusada; 2 utilização incorreta; 3 tempo limite excedido; 4 concluído, mas algo falhou ou já existia; 130 cancelado com Ctrl+C (o outro PC é avisado; um segundo Ctrl+C termina de imediato).</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Output</name>
     <message>
-        <source>Allow %1 to connect? [y/N] </source>
-        <translation>Permitir que %1 se ligue? [y/N] </translation>
+        <source>Allow %1 (%2) to connect? [y/N] </source>
+        <translation>Permitir que %1 (%2) se ligue? [y/N] </translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Program</name>
+    <message>
+        <source>The report can&apos;t be written: %1 is a folder.</source>
+        <translation>Não é possível escrever o relatório: %1 é uma pasta.</translation>
     </message>
 </context>
 <context>
@@ -524,10 +585,6 @@
         <translation>não há aqui ninguém a quem perguntar. Inicie com --yes para deixar entrar todos os PC.</translation>
     </message>
     <message>
-        <source>%1 is not there any more.</source>
-        <translation>%1 já não está presente.</translation>
-    </message>
-    <message>
         <source>The link to %1 broke during a transfer.</source>
         <translation>A ligação a %1 caiu durante uma transferência.</translation>
     </message>
@@ -542,6 +599,10 @@
     <message>
         <source>Some settings are still being applied; the report is without them.</source>
         <translation>Algumas definições ainda estão a ser aplicadas; faltam no relatório.</translation>
+    </message>
+    <message>
+        <source>The transfer from %1 broke off.</source>
+        <translation>A transferência de %1 foi interrompida.</translation>
     </message>
 </context>
 <context>
@@ -570,6 +631,10 @@
         <source>%1 did not answer within %2 seconds.</source>
         <translation>%1 não respondeu em %2&#xa0;s.</translation>
     </message>
+    <message>
+        <source>%1 ended the transfer.</source>
+        <translation>%1 terminou a transferência.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -580,6 +645,18 @@
     <message>
         <source>The other PC did not end the session: not everything may have arrived.</source>
         <translation>O outro PC não terminou a sessão: pode não ter chegado tudo.</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
+        <translation>Estão a caminho %1, mas %3 só tem %2 livres: nem tudo vai caber.</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>%1 não responde há %2 s</translation>
+    </message>
+    <message>
+        <source>%1 answers again</source>
+        <translation>%1 voltou a responder</translation>
     </message>
 </context>
 <context>
@@ -653,14 +730,6 @@
         <translation>Cancelada por %1.</translation>
     </message>
     <message>
-        <source>Files: %1 received, %2 failed, %3 skipped.</source>
-        <translation>Ficheiros – recebidos: %1; com falha: %2; ignorados: %3.</translation>
-    </message>
-    <message>
-        <source>Files: %1 sent, %2 failed, %3 skipped.</source>
-        <translation>Ficheiros – enviados: %1; com falha: %2; ignorados: %3.</translation>
-    </message>
-    <message>
         <source>Files saved:</source>
         <translation>Ficheiros guardados:</translation>
     </message>
@@ -725,20 +794,24 @@
         <translation>aplicada</translation>
     </message>
     <message>
-        <source>failed</source>
-        <translation>falhou</translation>
+        <source>%1 is installing %2...</source>
+        <translation>%1 está a instalar %2...</translation>
     </message>
     <message>
-        <source>failed: %1</source>
-        <translation>falhou: %1</translation>
+        <source>Installing %1</source>
+        <translation>A instalar %1</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 failed, %3 were there before.</source>
+        <translation>Ficheiros – transferidos: %1; com falha: %2; já existentes: %3.</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>e mais %1</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::CompletePage</name>
-    <message>
-        <source>Transfer Complete!</source>
-        <translation>Transferência concluída!</translation>
-    </message>
     <message>
         <source>Your files, apps and settings have been successfully transferred</source>
         <translation>Os seus ficheiros, aplicações e definições foram transferidos com êxito</translation>
@@ -790,6 +863,18 @@
     <message>
         <source>Open</source>
         <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 were there already and identical, %3 were there already and different, %4 failed or are not confirmed</source>
+        <translation>Ficheiros – transferidos: %1; já existentes e idênticos: %2; já existentes mas diferentes: %3; com falha ou sem confirmação: %4</translation>
+    </message>
+    <message>
+        <source>%1 of %2 apps did not arrive</source>
+        <translation>%1 de %2 aplicações por transferir</translation>
+    </message>
+    <message>
+        <source>%1 of %2 settings did not arrive</source>
+        <translation>%1 de %2 definições por transferir</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1060,13 @@ Pretende aceitar?</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::FileCopy</name>
+    <message>
+        <source>it became shorter meanwhile</source>
+        <translation>entretanto, ficou mais curto</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::FileReceiverWorker</name>
     <message>
         <source>Write error</source>
@@ -991,6 +1083,14 @@ Pretende aceitar?</translation>
     <message>
         <source>Checksum mismatch</source>
         <translation>A soma de verificação não coincide</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>Alterado durante o envio</translation>
+    </message>
+    <message>
+        <source>It did not arrive whole</source>
+        <translation>Não chegou por inteiro</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1113,18 @@ Pretende aceitar?</translation>
     <message>
         <source>not a regular file</source>
         <translation>não é um ficheiro normal</translation>
+    </message>
+    <message>
+        <source>Cancelled before it was sent whole</source>
+        <translation>Cancelado antes de ser enviado por inteiro</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>Não é possível ler o ficheiro: %1</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>Alterado durante o envio</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1161,33 @@ Contacte o suporte técnico ou reinstale a aplicação.</translation>
 
 Copie a hiperligação e abra-a manualmente:
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::LinkWatch</name>
+    <message>
+        <source>No answer from the other PC for %1 s</source>
+        <translation>O outro PC não responde há %1 s</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>%1 não responde há %2 s</translation>
+    </message>
+    <message>
+        <source>The connection to %1 is lost.</source>
+        <translation>A ligação a %1 perdeu-se.</translation>
+    </message>
+    <message>
+        <source>The connection to the other PC is lost.</source>
+        <translation>A ligação ao outro PC perdeu-se.</translation>
+    </message>
+    <message>
+        <source>Back to connections</source>
+        <translation>Voltar às ligações</translation>
+    </message>
+    <message>
+        <source>Show report</source>
+        <translation>Mostrar relatório</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1269,49 @@ A aplicação vai ser reiniciada agora.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::MissingItems</name>
+    <message>
+        <source>Did not arrive</source>
+        <translation>Não transferidos</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>Copy list</source>
+        <translation>Copiar lista</translation>
+    </message>
+    <message>
+        <source>Save report…</source>
+        <translation>Guardar relatório…</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>E mais %1.</translation>
+    </message>
+    <message>
+        <source>The list is on the clipboard.</source>
+        <translation>A lista está na área de transferência.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Relatório do Zandrove</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>Guardar relatório</translation>
+    </message>
+    <message>
+        <source>Page (*.html);;JSON (*.json)</source>
+        <translation>Página (*.html);;JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>The report is saved.</source>
+        <translation>O relatório foi guardado.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::NetworkManager</name>
     <message>
         <source>PC not found</source>
@@ -1190,6 +1372,176 @@ A aplicação vai ser reiniciada agora.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::ReceivingRun</name>
+    <message>
+        <source>the link was lost</source>
+        <translation>a ligação perdeu-se</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReplacingFile</name>
+    <message>
+        <source>a folder of this name stands in its place</source>
+        <translation>no seu lugar está uma pasta com este nome</translation>
+    </message>
+    <message>
+        <source>the file that stands there is read-only</source>
+        <translation>o ficheiro que lá está é só de leitura</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReportDocument</name>
+    <message>
+        <source>Old PC</source>
+        <translation>PC antigo</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>PC novo</translation>
+    </message>
+    <message>
+        <source>Began</source>
+        <translation>Início</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Fim</translation>
+    </message>
+    <message>
+        <source>Took</source>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>Transferidos</translation>
+    </message>
+    <message>
+        <source>Not moved</source>
+        <translation>Não transferidos</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Ficheiros</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>Aplicações</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Definições</translation>
+    </message>
+    <message>
+        <source>There already</source>
+        <translation>Já existentes</translation>
+    </message>
+    <message>
+        <source>There, but different</source>
+        <translation>Existentes, mas diferentes</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Com falha</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>What to do next</source>
+        <translation>O que fazer a seguir</translation>
+    </message>
+    <message>
+        <source>Where the files lie</source>
+        <translation>Onde estão os ficheiros</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Pasta</translation>
+    </message>
+    <message>
+        <source>Place on %1</source>
+        <translation>Localização em %1</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <translation>Aplicação</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Definição</translation>
+    </message>
+    <message>
+        <source>Apps and settings</source>
+        <translation>Aplicações e definições</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>What became of it</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>%1 files, which only the report of the Old PC can name.</source>
+        <translation>Ficheiros: %1. Os nomes constam apenas do relatório do PC antigo.</translation>
+    </message>
+    <message>
+        <source>And %1 more, which only the report of the Old PC can name.</source>
+        <translation>E mais %1; os nomes constam apenas do relatório do PC antigo.</translation>
+    </message>
+    <message>
+        <source>%1 files.</source>
+        <translation>Ficheiros: %1.</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>E mais %1.</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Ficheiro</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <source>%1 were there already.</source>
+        <translation>Já existentes: %1.</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language of this translation, as in &quot;de&quot; or &quot;zh-TW&quot;.</extracomment>
+        <translation>pt</translation>
+    </message>
+    <message>
+        <source>%1 report</source>
+        <translation>Relatório do %1</translation>
+    </message>
+    <message>
+        <source>This transfer</source>
+        <translation>Esta transferência</translation>
+    </message>
+    <message>
+        <source>Files that did not arrive</source>
+        <translation>Ficheiros não transferidos</translation>
+    </message>
+    <message>
+        <source>Files that were there already, with other content</source>
+        <translation>Ficheiros já existentes, com outro conteúdo</translation>
+    </message>
+    <message>
+        <source>The report %1 can&apos;t be written: %2</source>
+        <translation>Não é possível escrever o relatório %1: %2</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>não é um ficheiro normal</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::RoleCard</name>
     <message>
         <source>Old PC</source>
@@ -1221,6 +1573,136 @@ A aplicação vai ser reiniciada agora.</translation>
     <message>
         <source>Both computers need Zandrove installed and running</source>
         <translation>O Zandrove tem de estar instalado e em execução nos dois PC</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunLedger</name>
+    <message>
+        <source>changed while it was sent</source>
+        <translation>alterado durante o envio</translation>
+    </message>
+    <message>
+        <source>%1 does not say why</source>
+        <translation>%1 não indica o motivo</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>enviado, mas %1 não confirmou a chegada</translation>
+    </message>
+    <message>
+        <source>not moved: the transfer ended before its turn</source>
+        <translation>por transferir: a transferência terminou antes da sua vez</translation>
+    </message>
+    <message>
+        <source>there already</source>
+        <translation>já existente</translation>
+    </message>
+    <message>
+        <source>there already, identical</source>
+        <translation>já existente, idêntico</translation>
+    </message>
+    <message>
+        <source>there already, and different: the one from the Old PC was not moved</source>
+        <translation>já existente, mas diferente: o do PC antigo não foi transferido</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunTexts</name>
+    <message>
+        <source>drive %1</source>
+        <translation>unidade %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files did not arrive</source>
+        <translation>%1 de %2 ficheiros por transferir</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files arrived; nothing was deleted on the Old PC</source>
+        <translation>%1 de %2 ficheiros no destino; nada foi eliminado no PC antigo</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled</source>
+        <translation>Transferência cancelada</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled by %1</source>
+        <translation>Transferência cancelada por %1</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost</source>
+        <translation>A ligação a %1 perdeu-se</translation>
+    </message>
+    <message>
+        <source>Transfer ended by %1</source>
+        <translation>Transferência terminada por %1</translation>
+    </message>
+    <message>
+        <source>Transfer not finished</source>
+        <translation>Transferência não concluída</translation>
+    </message>
+    <message>
+        <source>Transfer finished, %1</source>
+        <translation>Transferência concluída, %1</translation>
+    </message>
+    <message>
+        <source>Transfer finished, but not everything was moved</source>
+        <translation>Transferência concluída, mas nem tudo foi transferido</translation>
+    </message>
+    <message>
+        <source>Transfer Complete!</source>
+        <translation>Transferência concluída!</translation>
+    </message>
+    <message>
+        <source>no space left on %1 of %2: %3 files, %4 did not fit</source>
+        <translation>sem espaço livre (%1 de %2); ficheiros que não couberam: %3 (%4)</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>no destino</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>já lá estava</translation>
+    </message>
+    <message>
+        <source>was there already, and different</source>
+        <translation>já lá estava, numa versão diferente</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>falhou</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>sem confirmação</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>resultado ainda desconhecido</translation>
+    </message>
+    <message>
+        <source>Open a few of the files on %1 before you part with the Old PC. Nothing was deleted there.</source>
+        <translation>Abra alguns ficheiros em %1 antes de se desfazer do PC antigo. Nada foi eliminado nele.</translation>
+    </message>
+    <message>
+        <source>Make room for %1 on %2 of %3, or move less.</source>
+        <translation>Arranje espaço para %1 (%2 de %3) ou transfira menos.</translation>
+    </message>
+    <message>
+        <source>Some files stood on %1 before, with other content. Compare the two versions. To get the one from the Old PC, rename or move the one on %1, and move the same folder again.</source>
+        <translation>Já havia em %1 ficheiros com outro conteúdo. Compare as duas versões. Para obter a do PC antigo, mude o nome da que está em %1 ou mova-a, e transfira de novo a mesma pasta.</translation>
+    </message>
+    <message>
+        <source>Connect the two PCs again and start the same transfer: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Volte a ligar os dois PC e inicie a mesma transferência: o que já chegou é ignorado, só é transferido o que falta.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Leia os motivos na lista. Quando estiverem resolvidos, inicie de novo a mesma transferência: o que já chegou é ignorado, só é transferido o que falta.</translation>
+    </message>
+    <message>
+        <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
+        <translation>Mantenha o PC antigo tal como está até não faltar nada. Nada foi eliminado nele.</translation>
     </message>
 </context>
 <context>
@@ -1330,6 +1812,21 @@ A aplicação vai ser reiniciada agora.</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::SendingRun</name>
+    <message>
+        <source>File not found: %1</source>
+        <translation>Ficheiro não encontrado: %1</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>Ficheiros de %1 que não chegaram: %2</translation>
+    </message>
+    <message>
+        <source>sent; what became of it stands in the report of %1</source>
+        <translation>enviada; o resultado consta do relatório de %1</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::SettingMigrator</name>
     <message>
         <source>Export failed</source>
@@ -1338,6 +1835,18 @@ A aplicação vai ser reiniciada agora.</translation>
     <message>
         <source>Failed to apply setting</source>
         <translation>Não foi possível aplicar a definição</translation>
+    </message>
+    <message>
+        <source>stopped before it was applied</source>
+        <translation>interrompida antes de ser aplicada</translation>
+    </message>
+    <message>
+        <source>it did not arrive whole</source>
+        <translation>não chegou por inteiro</translation>
+    </message>
+    <message>
+        <source>stopped while it was being applied</source>
+        <translation>interrompida enquanto estava a ser aplicada</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +2254,46 @@ A aplicação vai ser reiniciada agora.</translation>
     <message>
         <source>%1 failed</source>
         <translation>Falhas: %1</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>recebido</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>enviada</translation>
+    </message>
+    <message>
+        <source>Connection lost</source>
+        <translation>Ligação perdida</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>Estão a caminho %1, mas %3 só tem %2 livres: nem tudo vai caber.</translation>
+    </message>
+    <message>
+        <source>Installing %1 - %2 %</source>
+        <translation>A instalar %1 – %2%</translation>
+    </message>
+    <message>
+        <source>%1 is installing...</source>
+        <translation>%1 está a instalar...</translation>
+    </message>
+    <message>
+        <source>Close Zandrove</source>
+        <translation>Fechar o Zandrove</translation>
+    </message>
+    <message>
+        <source>A transfer is running. Closing the window cancels it.</source>
+        <translation>Está em curso uma transferência. Se fechar a janela, será cancelada.</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
+        <translation>O que já chegou permanece no PC novo e nada é eliminado no PC antigo.</translation>
+    </message>
+    <message>
+        <source>Cancel and Close</source>
+        <translation>Cancelar e fechar</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,29 @@
     </message>
 </context>
 <context>
+    <name>TaskList</name>
+    <message>
+        <source>Folder not found</source>
+        <translation>找不到資料夾</translation>
+    </message>
+    <message>
+        <source>Its name is not valid text</source>
+        <translation>名稱不是有效的文字</translation>
+    </message>
+    <message>
+        <source>Cannot list folder: %1</source>
+        <translation>無法列出資料夾的內容：%1</translation>
+    </message>
+    <message>
+        <source>Its path contains a backslash, which separates folders on the New PC</source>
+        <translation>路徑含有反斜線，而反斜線在新電腦上是資料夾的分隔符號</translation>
+    </message>
+    <message>
+        <source>Another ticked folder has a file of this name</source>
+        <translation>另一個勾選的資料夾中有同名檔案</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::AccountScanner</name>
     <message>
         <source>Scanning user accounts...</source>
@@ -235,6 +258,22 @@
     <message>
         <source>Failed to copy install files</source>
         <translation>無法複製安裝檔案</translation>
+    </message>
+    <message>
+        <source>Stopped: %1 of %2 files copied</source>
+        <translation>已停止：%2 個檔案中已複製 %1 個</translation>
+    </message>
+    <message>
+        <source>Stopped before all of its keys and shortcuts were there</source>
+        <translation>登錄機碼和捷徑尚未全部建立即已停止</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>%1 未送達的檔案：%2</translation>
+    </message>
+    <message>
+        <source>Files that could not be copied: %1 of %2 (%3: %4)</source>
+        <translation>無法複製的檔案：%2 個中有 %1 個（%3：%4）</translation>
     </message>
 </context>
 <context>
@@ -300,6 +339,17 @@
     <message>
         <source>Scan complete</source>
         <translation>掃描完成</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Admission</name>
+    <message>
+        <source>No request is open that this could answer.</source>
+        <translation>目前沒有可以回應的要求。</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 已經離開。</translation>
     </message>
 </context>
 <context>
@@ -426,10 +476,6 @@
         <translation>列出這部電腦上可搬移的項目：應用程式、資料夾、帳戶和設定。</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was skipped; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>結束代碼：0 全部已搬移或列出；1 連線或執行失敗，或遭拒絕；2 用法錯誤；3 逾時；4 已完成，但有項目失敗或略過；130 以 Ctrl-C 取消（會通知另一部電腦；再按一次 Ctrl-C 立即結束）。</translation>
-    </message>
-    <message>
         <source>This text; after a command, the help of that command.</source>
         <translation>顯示本說明；用在命令之後則顯示該命令的說明。</translation>
     </message>
@@ -501,12 +547,27 @@
         <source>send needs something to move: a --folder, an --app or a --setting.</source>
         <translation>send 需要要搬移的項目：--folder、--app 或 --setting。</translation>
     </message>
+    <message>
+        <source>Write the report of each transfer to FILE, in place of the one before: a page to read or, for a name that ends in .json, JSON.</source>
+        <translation>將每次傳輸的報告寫入 FILE，取代前一份：格式為可閱讀的網頁；名稱以 .json 結尾時則為 JSON。</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>結束代碼：0 全部已搬移或列出；1 連線或執行失敗，或遭拒絕；2 用法錯誤；3 逾時；4 已完成，但有項目失敗或原已存在；130 以 Ctrl-C 取消（會通知另一部電腦；再按一次 Ctrl-C 立即結束）。</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Output</name>
     <message>
-        <source>Allow %1 to connect? [y/N] </source>
-        <translation>允許 %1 連線嗎？ [y/N] </translation>
+        <source>Allow %1 (%2) to connect? [y/N] </source>
+        <translation>允許 %1 (%2) 連線嗎？ [y/N] </translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Cli::Program</name>
+    <message>
+        <source>The report can&apos;t be written: %1 is a folder.</source>
+        <translation>無法寫入報告：%1 是資料夾。</translation>
     </message>
 </context>
 <context>
@@ -524,10 +585,6 @@
         <translation>這裡沒有人可以回答。以 --yes 啟動即可允許每部電腦連線。</translation>
     </message>
     <message>
-        <source>%1 is not there any more.</source>
-        <translation>%1 已經離開。</translation>
-    </message>
-    <message>
         <source>The link to %1 broke during a transfer.</source>
         <translation>傳輸時與 %1 的連線中斷。</translation>
     </message>
@@ -542,6 +599,10 @@
     <message>
         <source>Some settings are still being applied; the report is without them.</source>
         <translation>部分設定仍在套用中，未列入報告。</translation>
+    </message>
+    <message>
+        <source>The transfer from %1 broke off.</source>
+        <translation>來自 %1 的傳輸中途中斷。</translation>
     </message>
 </context>
 <context>
@@ -570,6 +631,10 @@
         <source>%1 did not answer within %2 seconds.</source>
         <translation>%1 在 %2 秒內沒有回應。</translation>
     </message>
+    <message>
+        <source>%1 ended the transfer.</source>
+        <translation>%1 結束了傳輸。</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -580,6 +645,18 @@
     <message>
         <source>The other PC did not end the session: not everything may have arrived.</source>
         <translation>另一部電腦沒有結束工作階段：可能有資料尚未送達。</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
+        <translation>要傳輸的資料有 %1，但 %3 只有 %2 可用：無法全部放入。</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>%1 已有 %2 秒沒有回應</translation>
+    </message>
+    <message>
+        <source>%1 answers again</source>
+        <translation>%1 已恢復回應</translation>
     </message>
 </context>
 <context>
@@ -653,14 +730,6 @@
         <translation>%1 已取消。</translation>
     </message>
     <message>
-        <source>Files: %1 received, %2 failed, %3 skipped.</source>
-        <translation>檔案：已接收 %1，失敗 %2，略過 %3。</translation>
-    </message>
-    <message>
-        <source>Files: %1 sent, %2 failed, %3 skipped.</source>
-        <translation>檔案：已傳送 %1，失敗 %2，略過 %3。</translation>
-    </message>
-    <message>
         <source>Files saved:</source>
         <translation>檔案已儲存到：</translation>
     </message>
@@ -725,20 +794,24 @@
         <translation>已套用</translation>
     </message>
     <message>
-        <source>failed</source>
-        <translation>失敗</translation>
+        <source>%1 is installing %2...</source>
+        <translation>%1 正在安裝 %2...</translation>
     </message>
     <message>
-        <source>failed: %1</source>
-        <translation>失敗：%1</translation>
+        <source>Installing %1</source>
+        <translation>正在安裝 %1</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 failed, %3 were there before.</source>
+        <translation>檔案：已送達 %1，失敗 %2，原已存在 %3。</translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation>另有 %1 項</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::CompletePage</name>
-    <message>
-        <source>Transfer Complete!</source>
-        <translation>傳輸完成！</translation>
-    </message>
     <message>
         <source>Your files, apps and settings have been successfully transferred</source>
         <translation>您的檔案、應用程式和設定已成功傳輸</translation>
@@ -790,6 +863,18 @@
     <message>
         <source>Open</source>
         <translation>開啟</translation>
+    </message>
+    <message>
+        <source>Files: %1 arrived, %2 were there already and identical, %3 were there already and different, %4 failed or are not confirmed</source>
+        <translation>檔案：已送達 %1，已存在且內容相同 %2，已存在但內容不同 %3，失敗或未確認 %4</translation>
+    </message>
+    <message>
+        <source>%1 of %2 apps did not arrive</source>
+        <translation>%2 個應用程式中有 %1 個未送達</translation>
+    </message>
+    <message>
+        <source>%1 of %2 settings did not arrive</source>
+        <translation>%2 項設定中有 %1 項未送達</translation>
     </message>
 </context>
 <context>
@@ -975,6 +1060,13 @@ Do you want to accept?</source>
     </message>
 </context>
 <context>
+    <name>Zandrove::FileCopy</name>
+    <message>
+        <source>it became shorter meanwhile</source>
+        <translation>檔案在複製期間變小了</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::FileReceiverWorker</name>
     <message>
         <source>Write error</source>
@@ -991,6 +1083,14 @@ Do you want to accept?</source>
     <message>
         <source>Checksum mismatch</source>
         <translation>總和檢查碼不符</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>在傳送期間已變更</translation>
+    </message>
+    <message>
+        <source>It did not arrive whole</source>
+        <translation>未完整送達</translation>
     </message>
 </context>
 <context>
@@ -1013,6 +1113,18 @@ Do you want to accept?</source>
     <message>
         <source>not a regular file</source>
         <translation>不是一般檔案</translation>
+    </message>
+    <message>
+        <source>Cancelled before it was sent whole</source>
+        <translation>尚未傳送完畢即已取消</translation>
+    </message>
+    <message>
+        <source>Cannot read file: %1</source>
+        <translation>無法讀取檔案：%1</translation>
+    </message>
+    <message>
+        <source>Changed while it was sent</source>
+        <translation>在傳送期間已變更</translation>
     </message>
 </context>
 <context>
@@ -1049,6 +1161,33 @@ Do you want to accept?</source>
 
 請自行複製連結並開啟：
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::LinkWatch</name>
+    <message>
+        <source>No answer from the other PC for %1 s</source>
+        <translation>另一部電腦已有 %1 秒沒有回應</translation>
+    </message>
+    <message>
+        <source>No answer from %1 for %2 s</source>
+        <translation>%1 已有 %2 秒沒有回應</translation>
+    </message>
+    <message>
+        <source>The connection to %1 is lost.</source>
+        <translation>與 %1 的連線已中斷。</translation>
+    </message>
+    <message>
+        <source>The connection to the other PC is lost.</source>
+        <translation>與另一部電腦的連線已中斷。</translation>
+    </message>
+    <message>
+        <source>Back to connections</source>
+        <translation>返回連線</translation>
+    </message>
+    <message>
+        <source>Show report</source>
+        <translation>顯示報告</translation>
     </message>
 </context>
 <context>
@@ -1130,6 +1269,49 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
+    <name>Zandrove::MissingItems</name>
+    <message>
+        <source>Did not arrive</source>
+        <translation>未送達</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>Copy list</source>
+        <translation>複製清單</translation>
+    </message>
+    <message>
+        <source>Save report…</source>
+        <translation>儲存報告…</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>另有 %1 項。</translation>
+    </message>
+    <message>
+        <source>The list is on the clipboard.</source>
+        <translation>清單已複製到剪貼簿。</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Zandrove 報告</translation>
+    </message>
+    <message>
+        <source>Save report</source>
+        <translation>儲存報告</translation>
+    </message>
+    <message>
+        <source>Page (*.html);;JSON (*.json)</source>
+        <translation>網頁 (*.html);;JSON (*.json)</translation>
+    </message>
+    <message>
+        <source>The report is saved.</source>
+        <translation>報告已儲存。</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::NetworkManager</name>
     <message>
         <source>PC not found</source>
@@ -1190,6 +1372,176 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
+    <name>Zandrove::ReceivingRun</name>
+    <message>
+        <source>the link was lost</source>
+        <translation>連線已中斷</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReplacingFile</name>
+    <message>
+        <source>a folder of this name stands in its place</source>
+        <translation>該位置已有同名資料夾</translation>
+    </message>
+    <message>
+        <source>the file that stands there is read-only</source>
+        <translation>該位置的檔案是唯讀檔案</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::ReportDocument</name>
+    <message>
+        <source>Old PC</source>
+        <translation>舊電腦</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>新電腦</translation>
+    </message>
+    <message>
+        <source>Began</source>
+        <translation>開始時間</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>結束時間</translation>
+    </message>
+    <message>
+        <source>Took</source>
+        <translation>耗時</translation>
+    </message>
+    <message>
+        <source>Moved</source>
+        <translation>已搬移</translation>
+    </message>
+    <message>
+        <source>Not moved</source>
+        <translation>未搬移</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>檔案</translation>
+    </message>
+    <message>
+        <source>Apps</source>
+        <translation>應用程式</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>There already</source>
+        <translation>已存在</translation>
+    </message>
+    <message>
+        <source>There, but different</source>
+        <translation>已存在但不同</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>總計</translation>
+    </message>
+    <message>
+        <source>What to do next</source>
+        <translation>接下來的步驟</translation>
+    </message>
+    <message>
+        <source>Where the files lie</source>
+        <translation>檔案儲存位置</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>資料夾</translation>
+    </message>
+    <message>
+        <source>Place on %1</source>
+        <translation>在 %1 上的位置</translation>
+    </message>
+    <message>
+        <source>App</source>
+        <translation>應用程式</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Apps and settings</source>
+        <translation>應用程式和設定</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>What became of it</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>%1 files, which only the report of the Old PC can name.</source>
+        <translation>%1 個檔案，名稱只列在舊電腦的報告中。</translation>
+    </message>
+    <message>
+        <source>And %1 more, which only the report of the Old PC can name.</source>
+        <translation>另有 %1 項，名稱只列在舊電腦的報告中。</translation>
+    </message>
+    <message>
+        <source>%1 files.</source>
+        <translation>%1 個檔案。</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>另有 %1 項。</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>檔案</translation>
+    </message>
+    <message>
+        <source>Reason</source>
+        <translation>原因</translation>
+    </message>
+    <message>
+        <source>%1 were there already.</source>
+        <translation>%1 個原已存在。</translation>
+    </message>
+    <message>
+        <source>en</source>
+        <extracomment>The code of the language of this translation, as in &quot;de&quot; or &quot;zh-TW&quot;.</extracomment>
+        <translation>zh-TW</translation>
+    </message>
+    <message>
+        <source>%1 report</source>
+        <translation>%1 報告</translation>
+    </message>
+    <message>
+        <source>This transfer</source>
+        <translation>這次傳輸</translation>
+    </message>
+    <message>
+        <source>Files that did not arrive</source>
+        <translation>未送達的檔案</translation>
+    </message>
+    <message>
+        <source>Files that were there already, with other content</source>
+        <translation>原已存在但內容不同的檔案</translation>
+    </message>
+    <message>
+        <source>The report %1 can&apos;t be written: %2</source>
+        <translation>無法寫入報告 %1：%2</translation>
+    </message>
+    <message>
+        <source>it is no ordinary file</source>
+        <translation>不是一般檔案</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::RoleCard</name>
     <message>
         <source>Old PC</source>
@@ -1221,6 +1573,136 @@ The application will restart now.</source>
     <message>
         <source>Both computers need Zandrove installed and running</source>
         <translation>兩部電腦都必須安裝並執行 Zandrove</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunLedger</name>
+    <message>
+        <source>changed while it was sent</source>
+        <translation>在傳送期間已變更</translation>
+    </message>
+    <message>
+        <source>%1 does not say why</source>
+        <translation>%1 未說明原因</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>已傳送，但 %1 尚未確認送達</translation>
+    </message>
+    <message>
+        <source>not moved: the transfer ended before its turn</source>
+        <translation>未搬移：輪到它之前傳輸就已結束</translation>
+    </message>
+    <message>
+        <source>there already</source>
+        <translation>已存在</translation>
+    </message>
+    <message>
+        <source>there already, identical</source>
+        <translation>已存在，內容相同</translation>
+    </message>
+    <message>
+        <source>there already, and different: the one from the Old PC was not moved</source>
+        <translation>已存在但內容不同：未搬移舊電腦上的版本</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::RunTexts</name>
+    <message>
+        <source>drive %1</source>
+        <translation>磁碟機 %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files did not arrive</source>
+        <translation>%2 個檔案中有 %1 個未送達</translation>
+    </message>
+    <message>
+        <source>%1 of %2 files arrived; nothing was deleted on the Old PC</source>
+        <translation>%2 個檔案中有 %1 個已送達；舊電腦上沒有刪除任何內容</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled</source>
+        <translation>傳輸已取消</translation>
+    </message>
+    <message>
+        <source>Transfer cancelled by %1</source>
+        <translation>%1 取消了傳輸</translation>
+    </message>
+    <message>
+        <source>The connection to %1 was lost</source>
+        <translation>與 %1 的連線已中斷</translation>
+    </message>
+    <message>
+        <source>Transfer ended by %1</source>
+        <translation>%1 結束了傳輸</translation>
+    </message>
+    <message>
+        <source>Transfer not finished</source>
+        <translation>傳輸尚未結束</translation>
+    </message>
+    <message>
+        <source>Transfer finished, %1</source>
+        <translation>傳輸已結束，%1</translation>
+    </message>
+    <message>
+        <source>Transfer finished, but not everything was moved</source>
+        <translation>傳輸已結束，但並未全部搬移</translation>
+    </message>
+    <message>
+        <source>Transfer Complete!</source>
+        <translation>傳輸完成！</translation>
+    </message>
+    <message>
+        <source>no space left on %1 of %2: %3 files, %4 did not fit</source>
+        <translation>%2（%1）沒有剩餘空間：%3 個檔案放不下，共 %4</translation>
+    </message>
+    <message>
+        <source>moved</source>
+        <translation>已搬移</translation>
+    </message>
+    <message>
+        <source>was there already</source>
+        <translation>原已存在</translation>
+    </message>
+    <message>
+        <source>was there already, and different</source>
+        <translation>原已存在但內容不同</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <source>not confirmed</source>
+        <translation>未確認</translation>
+    </message>
+    <message>
+        <source>not known yet</source>
+        <translation>尚未得知</translation>
+    </message>
+    <message>
+        <source>Open a few of the files on %1 before you part with the Old PC. Nothing was deleted there.</source>
+        <translation>在處理掉舊電腦之前，請先在 %1 上開啟幾個檔案看看。舊電腦上沒有刪除任何內容。</translation>
+    </message>
+    <message>
+        <source>Make room for %1 on %2 of %3, or move less.</source>
+        <translation>請在 %3（%2）上騰出 %1 的空間，或減少要搬移的內容。</translation>
+    </message>
+    <message>
+        <source>Some files stood on %1 before, with other content. Compare the two versions. To get the one from the Old PC, rename or move the one on %1, and move the same folder again.</source>
+        <translation>有些檔案原已存在於 %1，但內容不同。請比較這兩個版本。若要取得舊電腦上的版本，請將 %1 上的檔案重新命名或移到別處，再搬移同一個資料夾一次。</translation>
+    </message>
+    <message>
+        <source>Connect the two PCs again and start the same transfer: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>請重新連線兩部電腦，並開始同樣的傳輸：已送達的項目會略過，只搬移缺少的項目。</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>請查看清單中的原因。排除後，再次開始同樣的傳輸：已送達的項目會略過，只搬移缺少的項目。</translation>
+    </message>
+    <message>
+        <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
+        <translation>在所有項目都送達之前，請讓舊電腦保持原狀。舊電腦上沒有刪除任何內容。</translation>
     </message>
 </context>
 <context>
@@ -1330,6 +1812,21 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
+    <name>Zandrove::SendingRun</name>
+    <message>
+        <source>File not found: %1</source>
+        <translation>找不到檔案：%1</translation>
+    </message>
+    <message>
+        <source>Files of %1 that did not arrive: %2</source>
+        <translation>%1 未送達的檔案：%2</translation>
+    </message>
+    <message>
+        <source>sent; what became of it stands in the report of %1</source>
+        <translation>已傳送；結果請見 %1 的報告</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::SettingMigrator</name>
     <message>
         <source>Export failed</source>
@@ -1338,6 +1835,18 @@ The application will restart now.</source>
     <message>
         <source>Failed to apply setting</source>
         <translation>無法套用設定</translation>
+    </message>
+    <message>
+        <source>stopped before it was applied</source>
+        <translation>在套用前已停止</translation>
+    </message>
+    <message>
+        <source>it did not arrive whole</source>
+        <translation>未完整送達</translation>
+    </message>
+    <message>
+        <source>stopped while it was being applied</source>
+        <translation>在套用期間已停止</translation>
     </message>
 </context>
 <context>
@@ -1745,6 +2254,46 @@ The application will restart now.</source>
     <message>
         <source>%1 failed</source>
         <translation>%1 個失敗</translation>
+    </message>
+    <message>
+        <source>received</source>
+        <translation>已接收</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>已傳送</translation>
+    </message>
+    <message>
+        <source>Connection lost</source>
+        <translation>連線已中斷</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>要傳輸的資料有 %1，但 %3 只有 %2 可用：無法全部放入。</translation>
+    </message>
+    <message>
+        <source>Installing %1 - %2 %</source>
+        <translation>正在安裝 %1 - %2 %</translation>
+    </message>
+    <message>
+        <source>%1 is installing...</source>
+        <translation>%1 正在安裝...</translation>
+    </message>
+    <message>
+        <source>Close Zandrove</source>
+        <translation>關閉 Zandrove</translation>
+    </message>
+    <message>
+        <source>A transfer is running. Closing the window cancels it.</source>
+        <translation>傳輸正在進行中。關閉視窗會取消傳輸。</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
+        <translation>已送達的內容會保留在新電腦上，舊電腦上也不會刪除任何內容。</translation>
+    </message>
+    <message>
+        <source>Cancel and Close</source>
+        <translation>取消並關閉</translation>
     </message>
 </context>
 <context>
