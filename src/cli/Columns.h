@@ -11,8 +11,8 @@ namespace Zandrove::Cli {
 [[nodiscard]] QString fitted(const QString &text, int columns);
 
 /// `text` in lines of at most `columns`, the lines behind the first indented by `indent` blanks, which count.
-/// A line ends at a blank, or where a wide character meets its neighbour and the rules of its language allow
-/// it.
+/// A line ends at a blank, or where a wide character meets its neighbour and the rules
+/// of its language allow it.
 [[nodiscard]] QString wrapped(const QString &text, int indent, int columns);
 
 } // namespace Zandrove::Cli

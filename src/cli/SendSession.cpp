@@ -16,8 +16,8 @@ namespace {
 // A peer's new code enters the table without a signal, so the table is looked at again and again.
 constexpr auto LookInterval = 250ms;
 
-// A New PC with a window goes to its receiving page half a second after pairing and takes only what comes
-// then.
+// A New PC with a window goes to its receiving page half a second after pairing and
+// takes only what comes then.
 constexpr auto SettleTime = 1000ms;
 
 // How long the end of a run may take to be told once its link is gone.

@@ -22,8 +22,8 @@ constexpr auto ProgressInterval = 200ms;
 // slow link, and otherwise.
 constexpr std::chrono::milliseconds FarewellTimeCompleted = 60s;
 constexpr std::chrono::milliseconds FarewellTime = 2s;
-// And where it may still be installing applications or applying settings, and can't answer before it is
-// through.
+// And where it may still be installing applications or applying settings, and can't
+// answer before it is through.
 constexpr std::chrono::milliseconds FarewellTimeInstalling = 1h;
 
 // How long the last frames of a link may take to leave when this side hangs up.

@@ -32,8 +32,8 @@ public:
 
     virtual void start() = 0;
 
-    /// The user wants to stop: the peer is told before `finished` comes, unless the session is ending
-    /// already.
+    /// The user wants to stop: the peer is told before `finished` comes, unless
+    /// the session is ending already.
     void interrupt();
 
 Q_SIGNALS:

@@ -7,8 +7,8 @@
 namespace Zandrove {
 
 /// The form in which names are compared: without letter case, notes on architecture and language, version
-/// numbers, and everything but Latin letters and digits. A name without any of those keeps its other
-/// characters.
+/// numbers, and everything but Latin letters and digits. A name without any of
+/// those keeps its other characters.
 [[nodiscard]] QString normalizeAppName(const QString &name);
 
 /// A name with what the rules compare of it, so that many names can be compared with many.

@@ -19,8 +19,8 @@ public:
     using FolderMeasure = std::function<qint64(const QString &path)>;
 
     /// Whether the candidate `name`, in the folder `location` by its own account, is to be appended. May
-    /// remove one smaller find of the same application. `folderSize` is asked for `location` when one is
-    /// there.
+    /// remove one smaller find of the same application. `folderSize` is asked for
+    /// `location` when one is there.
     [[nodiscard]] bool shouldAddApp(const QString &name, const QString &location,
                                     const FolderMeasure &folderSize);
     void append(const AppInfo &app);

@@ -1,5 +1,5 @@
-// AppScan: what has no Uninstall key. Programs that have a folder only, and those that have only keys of this
-// user's.
+// AppScan: what has no Uninstall key. Programs that have a folder only, and those that have
+// only keys of this user's.
 
 #include "inventory/AppScan.h"
 

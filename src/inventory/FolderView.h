@@ -7,8 +7,8 @@
 
 namespace Zandrove {
 
-/// The folders of a PC as a search sees them: the disk's, or a made-up listing. Names come without their
-/// folder.
+/// The folders of a PC as a search sees them: the disk's, or a made-up listing.
+/// Names come without their folder.
 struct FolderView
 {
     std::function<bool(const QString &path)> exists; ///< a file or a folder

@@ -138,8 +138,8 @@ private:
 };
 
 /// A name out of a registry can be anything, and neither the folder that is searched nor one above it is a
-/// match. Windows leaves out the points and spaces that a name ends with, so one of nothing else is that
-/// folder.
+/// match. Windows leaves out the points and spaces that a name ends with, so one of
+/// nothing else is that folder.
 bool staysBelow(const QString &candidate)
 {
     const QString clean = cleanPath(candidate);

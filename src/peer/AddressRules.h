@@ -22,8 +22,8 @@ constexpr int HostsPerSubnet = 254;
 /// Whether `ip` is written as an IPv4 address in 10/8, 172.16/12 or 192.168/16.
 [[nodiscard]] bool isPrivateIP(const QString &ip);
 
-/// Whether two IPv4 addresses share their first two octets where one of them is link-local, else their first
-/// three.
+/// Whether two IPv4 addresses share their first two octets where one of them is
+/// link-local, else their first three.
 [[nodiscard]] bool isSameSubnet(const QString &a, const QString &b);
 
 /// The addresses that a sweep tries at `layer` (0 to 5), in order: for each link-local address of an adapter

@@ -17,8 +17,8 @@ namespace {
 
 constexpr qint64 MiB = 1 << 20;
 constexpr auto HeartbeatInterval = 5000ms;
-/// How long a socket that this copy closes may stand still before it is dropped, and how long it may take at
-/// all.
+/// How long a socket that this copy closes may stand still before it is dropped, and how long
+/// it may take at all.
 constexpr auto ClosingTime = 2000ms;
 constexpr auto LongestClosingTime = 60000ms;
 /// The two sides differ on purpose: the one that listens is mostly the one that receives.

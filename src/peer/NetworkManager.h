@@ -50,8 +50,8 @@ public:
     /// The paired peer; a default record when not paired.
     [[nodiscard]] PCInfo connectedPC() const;
 
-    /// Whether the handshake on the current socket is complete: this copy sent or received `ConnectAccept` on
-    /// it.
+    /// Whether the handshake on the current socket is complete: this copy sent
+    /// or received `ConnectAccept` on it.
     [[nodiscard]] bool isAccepted() const;
 
     /// The link that is accepted now: another number for each, 0 while there is none.
@@ -64,8 +64,8 @@ public:
     /// once, but for one at the address of the accepted link.
     void setBusyCheck(std::function<bool()> isBusy) { m_isBusy = std::move(isBusy); }
 
-    /// Bytes that wait in the current socket's write buffer, kept up to date by this object; 0 without a
-    /// socket.
+    /// Bytes that wait in the current socket's write buffer, kept up to date by this
+    /// object; 0 without a socket.
     [[nodiscard]] std::shared_ptr<const std::atomic<qint64>> pendingBytes() const;
 
     /// `mayRead` is asked before each read of the socket; while it says no, bytes stay in the socket (a few

@@ -71,8 +71,8 @@ quint32 addBytes(quint32 sum, const char *bytes, qsizetype count)
     return sum;
 }
 
-/// Four bytes at once by the standard slices, which are right unless one of the four meets an entry that
-/// differs.
+/// Four bytes at once by the standard slices, which are right unless one of the four
+/// meets an entry that differs.
 quint32 addSlice(quint32 sum, const char *bytes)
 {
     const quint32 word = sum ^ qFromLittleEndian<quint32>(bytes);

@@ -169,8 +169,8 @@ FileSenderWorker::ChunkLoop FileSenderWorker::sendChunks(QFile &file, Sending &s
     FileChecksum checksum;
     int chunkCount = 0;
     while (!file.atEnd()) {
-        // A cancel seen here ends the file as if it had been read to its end, with a FileEnd for what was
-        // sent.
+        // A cancel seen here ends the file as if it had been read to its end, with a
+        // FileEnd for what was sent.
         if (isCancelled())
             break;
         waitWhilePaused();

@@ -35,8 +35,8 @@ public:
 
     /// A `ConflictPolicy`; carried only.
     void setConflictPolicy(int policy) { m_conflictPolicy = policy; }
-    /// Tells how many bytes wait in the socket; called on the worker's thread. Without one nothing is held
-    /// back.
+    /// Tells how many bytes wait in the socket; called on the worker's thread. Without
+    /// one nothing is held back.
     void setBufferProbe(std::function<qint64()> probe) { m_bufferProbe = std::move(probe); }
 
     void setPaused(bool paused) { m_paused = paused; }

@@ -41,8 +41,8 @@ public:
     /// A run begins: leftovers of earlier ones are looked for once in each folder.
     void forgetFolders() { m_tidyFolders.clear(); }
 
-    /// Begins the file with task, paths and size of `announced`. Results in `Writing`, `Standing` or
-    /// `Failed`.
+    /// Begins the file with task, paths and size of `announced`. Results
+    /// in `Writing`, `Standing` or `Failed`.
     State begin(const ReceivedFile &announced);
     /// The next bytes of the file. False when they can't be written: the file has `Failed` by that.
     [[nodiscard]] bool take(QByteArrayView bytes);

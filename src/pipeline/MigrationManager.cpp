@@ -308,8 +308,8 @@ bool MigrationManager::isLinkOfRun() const
 
 void MigrationManager::onLinkCommandReceived(MessageType type, const QByteArray &payload)
 {
-    // The end of a session concerns whoever is paired, also when a run still stands that began with somebody
-    // else.
+    // The end of a session concerns whoever is paired, also when a run still stands
+    // that began with somebody else.
     const bool isOurs = type == MessageType::SessionEnd ? m_link.number() != 0 : isLinkOfRun();
     if (!isOurs) {
         if (!m_strangerLogged)

@@ -113,11 +113,11 @@ Q_SIGNALS:
     void transferReset();
     void appInstallProgress(const QString &appName, int percent, const QString &status);
     void appInstallFinished(const QString &appName, bool success, const QString &error);
-    /// What became of one application: on the Old PC whether it was packed, on the New PC whether it is
-    /// installed.
+    /// What became of one application: on the Old PC whether it was packed, on the New
+    /// PC whether it is installed.
     void appOutcome(const QString &appName, bool success, const QString &error);
-    /// What became of one setting: on the Old PC whether it was exported, on the New PC whether it is
-    /// applied.
+    /// What became of one setting: on the Old PC whether it was exported, on the New
+    /// PC whether it is applied.
     void settingOutcome(const QString &name, bool success, const QString &error);
     /// All settings of the run are through.
     void settingsFinished(int succeeded, int failed);

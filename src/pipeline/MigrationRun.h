@@ -46,8 +46,8 @@ public:
     /// Holds both sides; the peer is told. Nothing happens in a paused run, or one that is over.
     void pause();
     void resume();
-    /// Ends the run, telling the peer where it ends here. One whose link is lost works off first what has
-    /// arrived.
+    /// Ends the run, telling the peer where it ends here. One whose link is lost works
+    /// off first what has arrived.
     virtual void end(RunEnd how);
     /// Whether anything of it has left or come.
     [[nodiscard]] virtual bool hasBegun() const { return true; }

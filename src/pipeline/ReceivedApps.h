@@ -50,8 +50,8 @@ public:
     /// The same for all that still wait, complete or not.
     void forceInstallAll();
 
-    /// Removes all that has arrived, behind what is being installed, and forgets what waits. `cleanedUp`
-    /// follows.
+    /// Removes all that has arrived, behind what is being installed, and
+    /// forgets what waits. `cleanedUp` follows.
     void cleanUp();
 
 Q_SIGNALS:

@@ -56,8 +56,8 @@ SendingRun::SendingRun(RunLink link, SendSelection selection, QObject *parent)
 {
     qCDebug(logPipeline) << "  Creating FileSenderWorker";
     m_sender->setConflictPolicy(m_selection.conflictPolicy);
-    // The socket belongs to the main thread and comes and goes there: the worker sees a counter that outlives
-    // it.
+    // The socket belongs to the main thread and comes and goes there: the worker sees
+    // a counter that outlives it.
     if (m_link.unsentBytes)
         m_sender->setBufferProbe([unsent = m_link.unsentBytes] { return unsent->load(); });
     startFileWorker(m_sender);

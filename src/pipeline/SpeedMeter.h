@@ -17,8 +17,8 @@ public:
     /// Starts the first interval at 0 bytes and forgets the speed.
     void start();
 
-    /// Ends the interval at `totalBytes` moved since start, if it has run for more than `minimum`; else does
-    /// nothing.
+    /// Ends the interval at `totalBytes` moved since start, if it has run for more
+    /// than `minimum`; else does nothing.
     void measure(qint64 totalBytes, std::chrono::milliseconds minimum);
 
     /// As of the last measurement.

@@ -24,8 +24,8 @@ using StandardFolders = QMap<QString, StandardFolder>;
 [[nodiscard]] StandardFolders standardFolders();
 
 /// The root of the relative paths for files below `folderPath`: a standard folder's word, with the path from
-/// there down to the folder, or else the folder's own name; "Apps", where those of applications go, gets a
-/// "_".
+/// there down to the folder, or else the folder's own name; "Apps", where those of
+/// applications go, gets a "_".
 [[nodiscard]] QString taskRoot(const QString &folderPath, const StandardFolders &standard);
 
 /// Something below a ticked folder that can't be sent.

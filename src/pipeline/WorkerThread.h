@@ -33,8 +33,8 @@ public:
     /// Takes `worker` over and moves it to the thread, which starts if it hasn't yet.
     void carry(QObject *worker);
 
-    /// Asks the thread to end: its interruption is requested, and its event loop quits behind the call in
-    /// work.
+    /// Asks the thread to end: its interruption is requested, and its event loop quits
+    /// behind the call in work.
     void askToEnd();
     /// The same behind everything that `worker` was given so far, without an interruption.
     void askToEndBehind(QObject *worker);

@@ -10,8 +10,8 @@
 /// The one home for running a program of the operating system.
 namespace Zandrove::Platform {
 
-/// How a program ended. A program that is missing, crashed or was still running at the deadline did not
-/// finish.
+/// How a program ended. A program that is missing, crashed or was still running at
+/// the deadline did not finish.
 struct ProgramResult
 {
     bool finished = false;     ///< it ran and ended by itself before the deadline

@@ -22,8 +22,8 @@ struct ShellLink
 /// Reads the shortcut `file`. A field that can't be read is empty; nothing where the file is no shortcut.
 ///
 /// Elsewhere than on Windows a shortcut is a UTF-8 text: a line "[ShellLink]", and a line each for Path=,
-/// Arguments=, WorkingDirectory=, IconPath=, IconIndex= and Description=, in this order, with the value as it
-/// stands.
+/// Arguments=, WorkingDirectory=, IconPath=, IconIndex= and Description=, in this order, with
+/// the value as it stands.
 [[nodiscard]] std::optional<ShellLink> readShellLink(const QString &file);
 
 /// Writes the shortcut `file`, with its folder where that is missing; the path always, another field only

@@ -55,8 +55,8 @@ public Q_SLOTS:
     void onSettingEnd(const QByteArray &payload);
     /// The peer has no more settings: ends the run by `finished`.
     void onSettingComplete(const QByteArray &payload);
-    /// No more messages come, for this translated reason: the setting that was still being received has
-    /// failed.
+    /// No more messages come, for this translated reason: the setting that was
+    /// still being received has failed.
     void giveUpReceiving(const QString &reason);
 
 Q_SIGNALS:

@@ -15,8 +15,8 @@ struct AdapterAddress
     QHostAddress broadcast; ///< null where the adapter has none
 };
 
-/// A network adapter of this machine, as a plain value, so that address rules can be tested on a made-up
-/// machine.
+/// A network adapter of this machine, as a plain value, so that address rules can be
+/// tested on a made-up machine.
 struct NetworkAdapter
 {
     QString name; ///< human-readable name

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// Paths that come from a registry or from another PC: both kinds of slash separate their parts, on every
-/// system.
+/// Paths that come from a registry or from another PC: both kinds of slash separate
+/// their parts, on every system.
 namespace Zandrove {
 
 /// `path` with a slash for every backslash, the form in which the disk is asked.

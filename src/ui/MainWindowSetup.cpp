@@ -1,5 +1,5 @@
-// MainWindow: how the window is built, wired and painted, and what it does when its link goes or it is
-// closed.
+// MainWindow: how the window is built, wired and painted, and what it does when its link
+// goes or it is closed.
 
 #include "core/common/AppConfig.h"
 #include "core/engine/TransferEngine.h"

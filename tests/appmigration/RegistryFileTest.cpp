@@ -42,8 +42,8 @@ private Q_SLOTS:
             {"a\xe9z"_ba, u"a\xfffdz"_s}};
         for (const auto &[bytes, expected] : encodings)
             QCOMPARE(decodeRegistryText(bytes), expected);
-        // An odd size, too few bytes, as many zeros behind as before, too few of them, none among the first
-        // 200.
+        // An odd size, too few bytes, as many zeros behind as before, too few of them,
+        // none among the first 200.
         for (const QByteArray &bytes :
              {hex("5700690041"), hex("610062"), hex("0000000041410000"), mixed(40), mixed(0) + mixed(100)})
             QCOMPARE(decodeRegistryText(bytes), QString::fromUtf8(bytes));

@@ -35,8 +35,8 @@ public:
         , m_view(&window)
     {
         connect(&m_input, &Platform::InputLines::lineRead, this, [this](const QString &line) {
-            // From an event of its own: a click may open a dialog, and then does not return until it is
-            // closed.
+            // From an event of its own: a click may open a dialog, and then does not
+            // return until it is closed.
             QTimer::singleShot(
                 0, this, [this, line] { obey(parseJsonObject(line.toUtf8()).value_or(QJsonObject())); });
         });

@@ -433,8 +433,8 @@ QStringList cutTexts(const QWidget *window)
     return result;
 }
 
-/// Makes the picture once the scene stands, or a dialog or menu of it stands open, and all that is queued has
-/// arrived.
+/// Makes the picture once the scene stands, or a dialog or menu of it stands open, and all
+/// that is queued has arrived.
 bool render(const Scene &scene, const QString &file)
 {
     Stage stage;

@@ -87,8 +87,8 @@ private Q_SLOTS:
     {
         QCOMPARE(checksumOf({}), 0u);
         QCOMPARE(checksumOf("123456789"), 0xCBF43926u);
-        // The first byte meets the index 0xFF ^ byte: one input for each altered entry, alone and with a
-        // tail.
+        // The first byte meets the index 0xFF ^ byte: one input for each altered entry,
+        // alone and with a tail.
         for (const int index : {111, 237, 238, 239, 240, 241, 242, 243}) {
             for (const QByteArray &tail : {QByteArray(), QByteArray("tail")}) {
                 const QByteArray bytes = char(0xFF ^ index) + tail;

@@ -15,8 +15,8 @@ void setIdentity();
 /// to do so, or without a firewall program, nothing happens. Blocks while the firewall program runs.
 void ensureFirewallRules();
 
-/// Registers the shared records and their lists by their full names, so that they cross threads by queued
-/// signals.
+/// Registers the shared records and their lists by their full names, so that they
+/// cross threads by queued signals.
 void registerMetaTypes();
 
 /// The language to show: `storedLanguage` as it stands unless it is empty, else the one that fits

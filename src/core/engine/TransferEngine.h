@@ -57,8 +57,8 @@ public:
     /// `connectionRequested`. A face answers with the number of the one it shows.
     [[nodiscard]] QList<ConnectionQuestion> openQuestions() const;
     /// The user's yes to a question, 0 for the oldest open one; `code` must be this PC's own. Whoever else
-    /// asks is turned down then, and a link that was accepted before ends. An answer that comes too late does
-    /// nothing.
+    /// asks is turned down then, and a link that was accepted before ends. An answer that
+    /// comes too late does nothing.
     void acceptConnection(const QString &code, quint64 question = 0);
     /// The user's no.
     void rejectConnection(quint64 question = 0);
@@ -88,8 +88,8 @@ public:
     void setSelectedPaths(const QStringList &paths);
     [[nodiscard]] int selectedCount() const;
 
-    /// Where received files go that have no standard folder of their own: by default "Zandrove" in the
-    /// downloads.
+    /// Where received files go that have no standard folder of their own: by
+    /// default "Zandrove" in the downloads.
     [[nodiscard]] QString destinationRoot() const { return m_destinationRoot; }
 
     /// Sends the selection. Emits `transferStarted`, or `transferFailed` when no peer is accepted,
@@ -179,8 +179,8 @@ Q_SIGNALS:
     void settingOutcome(const QString &name, bool success, const QString &error);
     /// A file, an application or a setting has its outcome.
     void itemSettled(const Zandrove::ItemResult &item);
-    /// A run is over, however it ended: once for each, and after the signal that tells how, where there is
-    /// one.
+    /// A run is over, however it ended: once for each, and after the signal that tells
+    /// how, where there is one.
     void runEnded(const Zandrove::RunSummary &summary);
     void linkSilent(int seconds); ///< nothing has come from the peer for so long; the link stands
     void linkAnswers();           ///< it has answered again

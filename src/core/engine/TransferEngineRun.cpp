@@ -33,8 +33,8 @@ QList<Record> selectedOf(const QList<Record> &records)
     return selected;
 }
 
-/// Percent of all counted items that succeeded; skipped ones do not count. 100 when there is nothing to
-/// count.
+/// Percent of all counted items that succeeded; skipped ones do not count. 100 when
+/// there is nothing to count.
 double successRate(const MigrationReport &report)
 {
     const int succeeded = report.filesSuccess + report.appsSuccess + report.settingsSuccess;

@@ -12,8 +12,8 @@ namespace Zandrove::Platform {
 
 [[nodiscard]] bool registryFileExists();
 
-/// What the file holds now; an empty registry where there is no file, or one that is not a .reg file. Never
-/// null.
+/// What the file holds now; an empty registry where there is no file, or one that is not
+/// a .reg file. Never null.
 [[nodiscard]] std::shared_ptr<const RegistryNode> readRegistryFile();
 
 /// Changes what the file holds; it is made where it is missing. Changes from other threads and programs are

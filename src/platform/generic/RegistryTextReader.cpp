@@ -143,8 +143,8 @@ std::optional<QString> Reader::readQuoted()
     return std::nullopt;
 }
 
-/// The character that the backslash here and the one behind it stand for. Leaves the position on the last of
-/// them.
+/// The character that the backslash here and the one behind it stand for. Leaves the position
+/// on the last of them.
 QChar Reader::readEscaped()
 {
     const QChar next = m_position + 1 < m_text.size() ? m_text[m_position + 1] : QChar();
@@ -181,8 +181,8 @@ std::optional<RegistryValue> Reader::readNumber32()
     return RegistryValue{ValueType::Number32, data};
 }
 
-/// What stands behind "hex": a type in brackets, which may be missing, a colon, and bytes with commas between
-/// them.
+/// What stands behind "hex": a type in brackets, which may be missing, a colon, and
+/// bytes with commas between them.
 std::optional<RegistryValue> Reader::readHex()
 {
     RegistryValue value = {ValueType::Binary, {}};

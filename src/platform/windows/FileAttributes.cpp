@@ -15,8 +15,8 @@ namespace Zandrove::Platform {
 
 namespace {
 
-/// Whether the system takes a file of this name for a device, whatever folder it is in and whatever follows a
-/// dot.
+/// Whether the system takes a file of this name for a device, whatever folder it is in
+/// and whatever follows a dot.
 bool isDeviceName(const QString &name)
 {
     static const QRegularExpression Device(

@@ -83,8 +83,8 @@ void applyMask(QImage &image, const QImage &mask)
     }
 }
 
-/// The picture of an icon that has colours. Pictures from before transparency had levels carry it in the mask
-/// alone.
+/// The picture of an icon that has colours. Pictures from before transparency had levels carry
+/// it in the mask alone.
 QImage colourImage(HBITMAP colour, HBITMAP maskBitmap, QSize size)
 {
     QImage image(size, QImage::Format_ARGB32);

@@ -238,8 +238,8 @@ InputLines::InputLines(QObject *parent)
     const auto channel =
         std::make_shared<InputChannel>(*this, [this](const QByteArray &bytes) { takeBytes(bytes); });
     connect(this, &QObject::destroyed, this, [channel] { channel->close(); });
-    // Nothing can end a read that waits for a console, so the thread is left to itself and ends with the
-    // process.
+    // Nothing can end a read that waits for a console, so the thread is left to itself
+    // and ends with the process.
     std::thread(readUntilEnd, channel).detach();
 }
 

@@ -30,8 +30,8 @@ public Q_SLOTS:
     void cancelScan();
 
 Q_SIGNALS:
-    /// The result has been on the screen for a moment. Also comes, during a new scan, for one that has just
-    /// ended.
+    /// The result has been on the screen for a moment. Also comes, during a new scan, for
+    /// one that has just ended.
     void scanFinished();
 
 private Q_SLOTS:

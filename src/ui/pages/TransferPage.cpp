@@ -88,8 +88,8 @@ void TransferPage::setupConnections()
     listen(&Engine::spaceShort, &TransferPage::onSpaceShort);
     listen(&Engine::installing, &TransferPage::onInstalling);
 
-    // At once: an answer that is given to the open question before the queued calls arrive is too late as
-    // well.
+    // At once: an answer that is given to the open question before the queued calls arrive
+    // is too late as well.
     for (auto end : {&Engine::peerCancelled, &Engine::transferReset, &Engine::sessionEndReceived})
         connect(m_engine, end, this, &TransferPage::closeQuestion);
     connect(m_engine, &Engine::transferCompleted, this, &TransferPage::closeQuestion);

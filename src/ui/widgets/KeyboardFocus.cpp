@@ -129,8 +129,8 @@ void KeyboardFocus::setArea(QWidget *control, QWidget *area, int cornerRadius)
     control->setProperty(RadiusProperty, cornerRadius);
 }
 
-// A reason alone tells too little: Qt also gives Tab where a control that had the focus is hidden or
-// disabled.
+// A reason alone tells too little: Qt also gives Tab where a control that had the
+// focus is hidden or disabled.
 void KeyboardFocus::noteInput(const QEvent &event)
 {
     if (event.type() == QEvent::Shortcut) {

@@ -9,8 +9,8 @@ class QWidget;
 
 namespace Zandrove {
 
-/// A label that shows `text` as it is, never as markup: size in pixels, colour and weight as in
-/// Theme::textStyle().
+/// A label that shows `text` as it is, never as markup: size in pixels, colour
+/// and weight as in Theme::textStyle().
 [[nodiscard]] QLabel *makeLabel(const QString &text, int pixels,
                                 QLatin1StringView colour = Theme::Colour::Text, int weight = Theme::Regular,
                                 QWidget *parent = nullptr);

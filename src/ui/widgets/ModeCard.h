@@ -16,8 +16,8 @@ class ModeCard final : public SelectableCard
 public:
     explicit ModeCard(QWidget *parent = nullptr);
 
-    /// SVG files, shown at 28 x 28. A file that is no SVG leaves the tile as it is; an empty path does
-    /// nothing.
+    /// SVG files, shown at 28 x 28. A file that is no SVG leaves the tile as it is;
+    /// an empty path does nothing.
     void setIcons(const QString &unselectedPath, const QString &selectedPath);
     void setTitle(const QString &title);
     void setSubtitle(const QString &subtitle);
