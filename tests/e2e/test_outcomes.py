@@ -72,7 +72,7 @@ class Outcomes(pcs.TestCase):
         folder = pcs.small_tree(self.pair.old.home / "things")
         receiver = self.pair.new.receive("--control")
         sender = self.pair.old.send("NewBox", folder)
-        self.assertEqual(receiver.wait_for("request"), {"event": "request", "name": "OldBox", "asks": True})
+        self.assertEqual(receiver.wait_for("request"), {"event": "request", "name": "OldBox", "ip": "192.168.77.1", "question": 1, "asks": True})
         receiver.say("no")
         self.assertExits(1, sender)
         self.assertIn("rejected", sender.stderr)
@@ -149,7 +149,7 @@ class Outcomes(pcs.TestCase):
                                        stderr=terminal)
         os.close(terminal)
         sender = self.pair.old.send("NewBox", folder)
-        self.assertIn("Allow OldBox to connect? [y/N] ", read_until(person, "[y/N] "))
+        self.assertIn("Allow OldBox (192.168.77.1) to connect? [y/N] ", read_until(person, "[y/N] "))
         os.write(person, b"y\n")
         shown = read_until(person, "Files saved:")
 

@@ -1,17 +1,19 @@
 """Random pauses, cancels, kills and reconnects during transfers of a mixed tree, for as long as one likes.
 
-    python3 tests/e2e/soak.py --seeds 200 --first 1
+    python3 scripts/soak.py --seeds 200 --first 1
 
 After each mishap the reports are held against the trees, and at the end of each seed a clean run must complete the
 tree and leave nothing temporary on either PC. Ends with the number of the seeds that failed.
 """
 
 import argparse
+import pathlib
 import random
 import sys
 import time
 import traceback
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tests" / "e2e"))
 import pcs
 from test_truth import Truth
 
