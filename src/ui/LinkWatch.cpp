@@ -4,6 +4,8 @@
 #include "support/RunTexts.h"
 #include "ui/widgets/NoticeBar.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace Zandrove {
@@ -54,6 +56,7 @@ void LinkWatch::setPlace(Place place)
 
 void LinkWatch::onConnected()
 {
+    m_isUp = true;
     m_peerName = m_engine->connectedPC().name;
     m_silentText.clear();
     const bool wasLost = isLost();
@@ -76,7 +79,9 @@ void LinkWatch::onRunEnded(const RunSummary &summary)
 void LinkWatch::onLinkGone()
 {
     m_silentText.clear();
-    if (m_place == Place::Elsewhere || m_place == Place::Connections || isLost()) {
+    const bool wasUp = std::exchange(m_isUp, false);
+    // On the page of connections most ends are those of a dial; that of a link is news there, too.
+    if (m_place == Place::Elsewhere || (m_place == Place::Connections && !wasUp) || isLost()) {
         refresh();
         return;
     }

@@ -52,6 +52,7 @@ private:
     QString m_silentText;
     QString m_lostText;
     bool m_endedRun = false; ///< the link that was lost
+    bool m_isUp = false;     // a link has come and has not gone
 };
 
 } // namespace Zandrove

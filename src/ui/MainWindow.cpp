@@ -243,7 +243,7 @@ void MainWindow::leaveConnections()
 
 void MainWindow::onRequestAutoAdvance()
 {
-    if (!isNewPC() || m_currentPage != PageConnection)
+    if (!isNewPC() || m_currentPage != PageConnection || m_linkWatch->isLost())
         return;
     qCDebug(logUi) << "New PC: Auto-advancing to transfer page for receiving";
     m_engine->stopDiscovery();
