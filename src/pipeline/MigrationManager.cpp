@@ -230,12 +230,6 @@ void MigrationManager::onRunStateChanged()
     processInbox();
 }
 
-void MigrationManager::waitAgain(std::chrono::milliseconds delay)
-{
-    if (m_waits)
-        m_waitAgainTimer.start(delay);
-}
-
 void MigrationManager::wait()
 {
     // The peer may have begun anew before the delay was over.
@@ -271,12 +265,6 @@ void MigrationManager::sendCancelNotification(const QJsonObject &notification)
 {
     if (m_link.send && isLinkOfRun())
         m_link.send(MessageType::TransferCancel, compactJson(notification));
-}
-
-void MigrationManager::endSession()
-{
-    m_waits = false;
-    m_waitAgainTimer.stop();
 }
 
 void MigrationManager::resetAndListen()

@@ -78,7 +78,11 @@ public:
     /// Tells the peer of a cancel, with the reason in `notification`. To be followed by `cancel`.
     void sendCancelNotification(const QJsonObject &notification);
     /// The session with this peer is over: the New PC waits for no further run.
-    void endSession();
+    void endSession()
+    {
+        m_waits = false;
+        m_waitAgainTimer.stop();
+    }
 
 Q_SIGNALS:
     void peerCancelled();
@@ -142,7 +146,11 @@ private:
     void onRunEnded(RunEnd how, const MigrationReport &report);
     void onRunStateChanged();
     void retire();
-    void waitAgain(std::chrono::milliseconds delay);
+    void waitAgain(std::chrono::milliseconds delay)
+    {
+        if (m_waits)
+            m_waitAgainTimer.start(delay);
+    }
 
     [[nodiscard]] ReceivingRun *receivingRun() const;
     [[nodiscard]] RunState runState() const;

@@ -369,29 +369,6 @@ void MainWindow::onSessionEndReceived()
     resetToRolePage();
 }
 
-void MainWindow::onMinimize()
-{
-    showMinimized();
-}
-
-void MainWindow::onMaximize()
-{
-    if (isMaximized()) {
-        showNormal();
-        m_titleBar->setMaximized(false);
-    } else {
-        showMaximized();
-        m_titleBar->setMaximized(true);
-    }
-}
-
-void MainWindow::onClose()
-{
-    close();
-}
-
-void MainWindow::onSettings() {}
-
 void MainWindow::onActivateClicked()
 {
     m_dialogs->registerCopy();

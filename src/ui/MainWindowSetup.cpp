@@ -269,4 +269,27 @@ void MainWindow::paintEvent(QPaintEvent *event)
     painter.drawPath(shape);
 }
 
+void MainWindow::onMinimize()
+{
+    showMinimized();
+}
+
+void MainWindow::onMaximize()
+{
+    if (isMaximized()) {
+        showNormal();
+        m_titleBar->setMaximized(false);
+    } else {
+        showMaximized();
+        m_titleBar->setMaximized(true);
+    }
+}
+
+void MainWindow::onClose()
+{
+    close();
+}
+
+void MainWindow::onSettings() {}
+
 } // namespace Zandrove
