@@ -263,7 +263,7 @@ void MigrationManager::cancel()
 
 void MigrationManager::sendCancelNotification(const QJsonObject &notification)
 {
-    if (m_link.send && isLinkOfRun())
+    if (m_link.send && isLinkOfRun() && !(m_run && m_run->isLinkLost()))
         m_link.send(MessageType::TransferCancel, compactJson(notification));
 }
 

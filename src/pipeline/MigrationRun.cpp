@@ -223,12 +223,13 @@ MigrationReport MigrationRun::buildReport() const
 }
 
 /// Nothing of a run leaves on a link that nobody on this side said yes to: whoever dials in the middle of a
-/// run takes the socket over, and must not be sent the rest of the user's files.
+/// run takes the socket over, and must not be sent the rest of the user's files. Nor does a run whose link
+/// was lost answer on the next one: its batches bear the same numbers as those of the run that comes there.
 void MigrationRun::sendToPeer(MessageType type, const QByteArray &payload)
 {
     if (!m_link.send)
         return;
-    if (!belongsTo(m_link.number())) {
+    if (isLinkLost() || !belongsTo(m_link.number())) {
         if (!m_refusalLogged)
             qCDebug(logPipeline) << "Not sent, the link is not accepted or not that of the run, type:"
                                  << int(type);
