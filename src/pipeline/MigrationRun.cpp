@@ -3,6 +3,7 @@
 #include "appmigration/AppMigrator.h"
 #include "pipeline/Log.h"
 #include "settings/SettingMigrator.h"
+#include "support/RunTexts.h"
 #include "support/Utilities.h"
 
 #include <QThread>
@@ -42,20 +43,21 @@ MigrationRun::~MigrationRun() = default;
 
 void MigrationRun::wireMigrators()
 {
-    connect(m_appMigrator, &AppMigrator::appStarted, this,
-            [this](const QString &name) { Q_EMIT fileTransferStarted(tr("[App] %1").arg(name)); });
+    connect(m_appMigrator, &AppMigrator::appStarted, this, [this](const QString &name) {
+        Q_EMIT fileTransferStarted(rowName(ItemKind::Application, name));
+    });
     connect(m_appMigrator, &AppMigrator::appProgress, this, [this](const QString &name, int percent) {
-        Q_EMIT fileTransferProgress(tr("[App] %1").arg(name), percent);
+        Q_EMIT fileTransferProgress(rowName(ItemKind::Application, name), percent);
     });
     connect(m_appMigrator, &AppMigrator::appFinished, this, &MigrationRun::onAppFinished);
     connect(m_appMigrator, &AppMigrator::requestSendCommand, this, &MigrationRun::onRequestSendCommand);
     connect(m_settingMigrator, &SettingMigrator::settingStarted, this, [this](const QString &name) {
         qCDebug(logPipeline) << "[Setting] Started:" << name;
-        Q_EMIT fileTransferStarted(tr("[Setting] %1").arg(name));
+        Q_EMIT fileTransferStarted(rowName(ItemKind::Setting, name));
     });
     connect(m_settingMigrator, &SettingMigrator::settingProgress, this,
             [this](const QString &name, int percent) {
-                Q_EMIT fileTransferProgress(tr("[Setting] %1").arg(name), percent);
+                Q_EMIT fileTransferProgress(rowName(ItemKind::Setting, name), percent);
             });
     connect(m_settingMigrator, &SettingMigrator::settingFinished, this, &MigrationRun::onSettingFinished);
     connect(m_settingMigrator, &SettingMigrator::finished, this, &MigrationRun::onSettingsThrough);
@@ -65,7 +67,7 @@ void MigrationRun::wireMigrators()
 
 void MigrationRun::onAppFinished(const QString &name, bool success, const QString &error)
 {
-    const QString shown = tr("[App] %1").arg(name);
+    const QString shown = rowName(ItemKind::Application, name);
     if (success)
         Q_EMIT fileTransferCompleted(shown);
     else
@@ -74,7 +76,7 @@ void MigrationRun::onAppFinished(const QString &name, bool success, const QStrin
 
 void MigrationRun::onSettingFinished(const QString &name, bool success, const QString &error)
 {
-    const QString shown = tr("[Setting] %1").arg(name);
+    const QString shown = rowName(ItemKind::Setting, name);
     if (success)
         Q_EMIT fileTransferCompleted(shown);
     else
