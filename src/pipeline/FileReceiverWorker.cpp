@@ -181,7 +181,7 @@ QString FileReceiverWorker::reasonOfFailure() const
     case IncomingFile::Problem::Mismatch:
         return tr("Checksum mismatch");
     case IncomingFile::Problem::Changed:
-        return tr("Changed while it was sent");
+        return tr("changed while it was sent");
     case IncomingFile::Problem::Unfinished:
         return tr("It did not arrive whole");
     }

@@ -263,7 +263,7 @@ private Q_SLOTS:
         header(u"a"_s);
         data("abc");
         m_receiver->onFileEnd(u"Photos/a"_s, checksumOf("abc"), 1, true);
-        QCOMPARE(m_settled.first().reason, u"Changed while it was sent"_s);
+        QCOMPARE(m_settled.first().reason, u"changed while it was sent"_s);
         QCOMPARE(names(), QStringList());
     }
 

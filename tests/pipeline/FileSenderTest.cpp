@@ -190,7 +190,7 @@ private Q_SLOTS:
         QSignalSpy failed(m_sender.get(), &FileSenderWorker::taskFailed);
         QSignalSpy ended(m_sender.get(), &FileSenderWorker::fileEndSent);
         m_sender->startSending({task, taskFor(u"b"_s, "abc")});
-        QCOMPARE(failed, (QList<QVariantList>{{0, u"Changed while it was sent"_s}}));
+        QCOMPARE(failed, (QList<QVariantList>{{0, u"changed while it was sent"_s}}));
         QCOMPARE(ended, (QList<QVariantList>{{0, true}, {1, false}}));
         QCOMPARE(json(m_sent[MessageType::FileEnd].first()).value(u"changed"_s), QJsonValue(true));
     }
