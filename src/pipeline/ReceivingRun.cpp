@@ -263,7 +263,8 @@ void ReceivingRun::onTransferComplete()
 void ReceivingRun::onFilesThrough(int success, int failed, int skipped, qlonglong bytes)
 {
     qCDebug(logPipeline) << "[Serial] MigrationManager::onWorkerAllCompleted - success:" << success
-                         << "failed:" << failed << "skipped:" << skipped << "bytes:" << bytes;
+                         << "failed:" << failed << "skipped:" << skipped << "bytes:" << bytes
+                         << "sendingAppPhase:" << false;
     m_report.filesSuccess = success;
     m_report.filesFailed = failed;
     m_report.filesSkipped = skipped;
@@ -278,6 +279,8 @@ void ReceivingRun::onAppsThrough()
         return;
     const ReceivedFolders &received = m_receiver->receivedFolders();
     m_ledger.setSavedFolders(received.paths, received.counts, received.samples());
+    if (!m_linkLost)
+        logAllCompletedCheck(true, true, true, NewPC);
     finish(m_linkLost ? RunEnd::LinkLost : RunEnd::Complete);
 }
 
@@ -366,6 +369,7 @@ void ReceivingRun::onSettingsThrough(int succeeded, int failed)
     m_report.settingsSuccess = succeeded;
     m_report.settingsFailed = failed;
     m_settings = Settings::Through;
+    logAllCompletedCheck(!isOn(), !isOn() || m_workingOff, true, NewPC);
     m_settingsBound.stop();
     if (!isOn())
         closeLedger();

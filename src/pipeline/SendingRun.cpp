@@ -179,6 +179,7 @@ void SendingRun::onRequestSendCommand(int type, const QByteArray &payload)
 void SendingRun::queueAppFile(const QString &filePath, const QString &relativePath)
 {
     const std::optional<qint64> size = sizeToSend(filePath);
+    m_phases.appFileAnnounced(size.has_value());
     if (!size) {
         qCDebug(logPipeline) << "[AppQueue] missing:" << filePath;
         m_ledger.failedBeforehand(filePath, tr("File not found: %1").arg(filePath));
@@ -192,7 +193,6 @@ void SendingRun::queueAppFile(const QString &filePath, const QString &relativePa
     task.fileSize = *size;
     m_appOfFile.insert(filePath, appOfPath(relativePath));
     m_appTasks.append(task);
-    m_phases.appFileQueued();
     qCDebug(logPipeline) << "[AppQueue] queued:" << relativePath << "size:" << *size
                          << "taskId:" << task.taskId;
 }
@@ -204,6 +204,7 @@ void SendingRun::onAppsPacked(int success, int failed, int skipped)
     m_report.appsSkipped = skipped;
     qCDebug(logPipeline) << "[Serial] App migration finished (queue done) - appsSuccess:" << success
                          << "appsFailed:" << failed << "appsSkipped:" << skipped
+                         << "appFilesQueued:" << m_phases.announcedAppFiles()
                          << "pendingAppTasks:" << m_appTasks.size();
     act(m_phases.packed());
 }
@@ -211,7 +212,8 @@ void SendingRun::onAppsPacked(int success, int failed, int skipped)
 void SendingRun::onFilesThrough(int success, int failed, int skipped, qlonglong bytes)
 {
     qCDebug(logPipeline) << "[Serial] MigrationManager::onWorkerAllCompleted - success:" << success
-                         << "failed:" << failed << "skipped:" << skipped << "bytes:" << bytes;
+                         << "failed:" << failed << "skipped:" << skipped << "bytes:" << bytes
+                         << "sendingAppPhase:" << m_phases.isSendingAppFiles();
     m_through.filesSuccess += success;
     m_through.filesFailed += failed;
     m_through.filesSkipped += skipped;
