@@ -327,8 +327,8 @@ void SendingRun::onAnswer(const TransferMessages::Ack &answer)
 {
     BatchAnswer outcome{answer.batchId, answer.success, {}};
     for (const TransferMessages::Ack::NamedFile &file : answer.namedFiles)
-        outcome.files.append({file.taskId, file.relativePath, file.error, file.skipped,
-                              file.skipped ? std::optional(file.identical) : std::nullopt, file.fullVolume});
+        outcome.files.append(
+            {file.taskId, file.relativePath, file.error, file.skipped, file.identical, file.fullVolume});
     m_ledger.answered(outcome);
     tellSettled();
     qCDebug(logPipeline) << ">>> Calling onBatchAckReceived: batchId=" << answer.batchId
