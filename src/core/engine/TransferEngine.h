@@ -179,8 +179,8 @@ Q_SIGNALS:
     void settingOutcome(const QString &name, bool success, const QString &error);
     /// A file, an application or a setting has its outcome.
     void itemSettled(const Zandrove::ItemResult &item);
-    /// A run is over, however it ended: once for each, and after the signal that tells
-    /// how, where there is one.
+    /// A run is over, however it ended: once for each. After the signal that tells how, where there is one,
+    /// but before transferCancelled.
     void runEnded(const Zandrove::RunSummary &summary);
     void linkSilent(int seconds); ///< nothing has come from the peer for so long; the link stands
     void linkAnswers();           ///< it has answered again
