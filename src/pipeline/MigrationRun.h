@@ -124,6 +124,7 @@ protected:
     [[nodiscard]] bool outlivedBySettings() const { return m_end == RunEnd::Complete && owesSettings(); }
 
     // What the workers tell.
+    /// A message of any of them, which is to leave.
     virtual void onRequestSendCommand(int type, const QByteArray &payload);
     virtual void onFilesThrough(int success, int failed, int skipped, qlonglong bytes) = 0;
     virtual void onSettingsThrough(int succeeded, int failed) = 0;
@@ -151,6 +152,7 @@ protected:
     bool m_pausedByPeer = false; // and not here
 
 private:
+    void onWorkerRequestSendCommand(int type, const QByteArray &payload);
     void onPeerPause();
     void onPeerResume();
     void onFileAck(const QByteArray &payload);
@@ -183,7 +185,7 @@ void MigrationRun::startFileWorker(Worker *worker)
     connect(worker, &Worker::overallProgress, this, &MigrationRun::progressChanged);
     connect(worker, &Worker::allCompleted, this, &MigrationRun::onFilesThrough);
     connect(worker, &Worker::error, this, &MigrationRun::failed);
-    connect(worker, &Worker::requestSendCommand, this, &MigrationRun::onRequestSendCommand);
+    connect(worker, &Worker::requestSendCommand, this, &MigrationRun::onWorkerRequestSendCommand);
     m_fileThread.carry(worker);
 }
 

@@ -113,8 +113,9 @@ QString countTable(const RunSummary &summary)
     if (summary.settings.total() > 0)
         rows += countRow(Text::tr("Settings"), summary.settings);
     QString head = element("th"_L1, {});
-    for (const QString &text : {Text::tr("Moved"), Text::tr("There already"),
-                                Text::tr("There, but different"), Text::tr("Failed"), Text::tr("All")})
+    for (const QString &text :
+         {Text::tr("Moved"), Text::tr("There already, identical"), Text::tr("There already, and different"),
+          Text::tr("Failed"), Text::tr("All")})
         head += element("th"_L1, text, "n"_L1);
     return u"<table><thead><tr>"_s + head + u"</tr></thead><tbody>\n"_s + rows + u"</tbody></table>\n"_s;
 }
@@ -184,7 +185,8 @@ QString header(const RunSummary &summary)
     const QString begin = mark.isEmpty() ? u"<header>\n"_s : u"<header class=\""_s + mark + u"\">\n"_s;
     const QString there =
         summary.files.wasThere > 0
-            ? element("p"_L1, Text::tr("%1 were there already.").arg(countText(summary.files.wasThere)))
+            ? element("p"_L1,
+                      Text::tr("%1 were there already, identical.").arg(countText(summary.files.wasThere)))
             : QString();
     return begin + element("h1"_L1, headlineOf(summary)) + element("p"_L1, arrivedFilesText(summary) + u'.') +
            there + u"</header>\n"_s;

@@ -335,6 +335,18 @@ private Q_SLOTS:
         QCOMPARE(record.currentFile, u"a"_s);
     }
 
+    void roomIsComparedWithTheFirstBytes()
+    {
+        for (const qint64 first : {0, 1}) {
+            FileReceiverWorker receiver;
+            receiver.startReceiving();
+            QSignalSpy tooMuch(&receiver, &FileReceiverWorker::spaceShort);
+            receiver.setTotalInfo(1, first);
+            receiver.setTotalInfo(1, qint64(1) << 60);
+            QCOMPARE(tooMuch.size(), first == 0 ? 1 : 0);
+        }
+    }
+
     void inflowIsCountedDown()
     {
         QSignalSpy below(m_receiver.get(), &FileReceiverWorker::inflowBelowMark);

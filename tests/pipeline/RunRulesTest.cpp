@@ -41,7 +41,7 @@ private Q_SLOTS:
         for (const QChar event : std::as_const(events)) {
             SendPhases::Actions actions;
             if (event == u'q')
-                phases.appFileQueued();
+                phases.appFileAnnounced(true);
             else
                 actions = event == u'p'   ? phases.packed()
                           : event == u'l' ? phases.listThrough()
