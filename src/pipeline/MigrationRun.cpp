@@ -23,7 +23,7 @@ constexpr qsizetype TracedPayloadBytes = 300;
 } // namespace
 
 MigrationRun::MigrationRun(int role, RunLink link, QObject *parent)
-    : QObject(parent)
+    : RunEvents(parent)
     , m_link(std::move(link))
     , m_ledger(role, getComputerName(), m_link.peer(), QDateTime::currentDateTime())
     , m_appMigrator(new AppMigrator)
