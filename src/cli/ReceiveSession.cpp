@@ -165,7 +165,10 @@ void ReceiveSession::onLinkBroken()
 
 void ReceiveSession::onSessionEndReceived()
 {
-    onPeerLeft(tr("%1 ended the session during a transfer.").arg(m_peerName));
+    // Goodbye means that everything is through.
+    m_partsThen = m_heldReport.has_value();
+    if (!m_partsThen)
+        onPeerLeft(tr("%1 ended the session during a transfer.").arg(m_peerName));
 }
 
 /// A run that is on ends by itself, once what has arrived is on the disk.
@@ -296,6 +299,10 @@ void ReceiveSession::concludeRun(const RunSummary &summary)
     m_results.record(exitCodeFor(summary));
     expectTransfer();
     m_reported = options().once;
+    if (std::exchange(m_partsThen, false) && link() == Link::Up) {
+        setLink(Link::None);
+        engine().disconnectFromPeer();
+    }
     if (m_endsThen) {
         finish(m_results.exitCode());
     } else if (m_drainTimer.isActive() || link() == Link::None) {

@@ -67,6 +67,7 @@ private:
     bool m_receiving = false; ///< something of a run has arrived
     bool m_reported = false;  ///< --once: the one report is out
     bool m_endsThen = false;  ///< --control: the run in hand is the last one
+    bool m_partsThen = false; ///< the peer has ended the session behind it
 };
 
 } // namespace Zandrove::Cli

@@ -85,6 +85,10 @@ void SendSession::connectEngine()
     connect(source, &TransferEngine::disconnected, this, &SendSession::onDisconnected);
     connect(source, &TransferEngine::sessionEndReceived, this, &SendSession::onSessionEndReceived);
     connect(source, &TransferEngine::runEnded, this, &SendSession::onRunEnded);
+    connect(source, &TransferEngine::runRevised, this, [this](const RunSummary &summary) {
+        showRevision(summary);
+        m_results.record(exitCodeFor(summary));
+    });
     connect(source, &TransferEngine::peerCancelled, this, &SendSession::onPeerCancelled);
     connect(source, &TransferEngine::transferFailed, this, &SendSession::onTransferFailed);
 }

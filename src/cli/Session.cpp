@@ -130,6 +130,15 @@ void Session::showReport(const RunSummary &summary)
         m_farewellTime = FarewellTimeInstalling;
 }
 
+void Session::showRevision(const RunSummary &summary)
+{
+    m_output.error(
+        summary.end == RunEnd::LinkLost
+            ? tr("%1 was lost before it said that everything is installed.").arg(summary.peerName)
+            : tr("%1 called the transfer off before everything was installed.").arg(summary.peerName));
+    showReport(summary);
+}
+
 void Session::keepReport(const RunSummary &summary)
 {
     if (m_options.report.isEmpty() || (summary.total() == 0 && summary.end != RunEnd::Complete))
@@ -218,6 +227,10 @@ void Session::finish(ExitCode exitCode)
     m_engine.stopDiscovery();
     if (m_link == Link::Up) {
         const bool completed = exitCode == EverythingMoved || exitCode == SomethingMissing;
+        connect(&m_engine, &TransferEngine::runRevised, this, [this](const RunSummary &summary) {
+            showRevision(summary);
+            m_exitCode = exitCodeFor(summary);
+        });
         connect(&m_engine, &TransferEngine::disconnected, this, &Session::conclude);
         connect(&m_engine, &TransferEngine::connectionFailed, this, &Session::conclude);
         // A peer that ends the session in the same moment waits for this side as well.

@@ -3,6 +3,7 @@
 #include "core/common/Records.h"
 #include "core/common/RunSummary.h"
 #include "peer/Protocol.h"
+#include "pipeline/Aftermath.h"
 #include "pipeline/RunInbox.h"
 #include "pipeline/RunLink.h"
 
@@ -99,6 +100,9 @@ Q_SIGNALS:
     /// A run in which something was sent or came is over, behind the signal that tells how. On the New PC
     /// settings may still have no outcome then; `settingsFinished` follows.
     void runEnded(const Zandrove::RunSummary &summary);
+    /// Old PC: the last run is to be told of anew. It was complete, and the New PC is gone, or has called the
+    /// run off, before it said that what was sent is installed and applied.
+    void runRevised(const Zandrove::RunSummary &summary);
     /// New PC: the peer has announced more bytes than its destination has room for. The run goes on.
     void spaceShort(qlonglong needed, qlonglong available, const QString &volume);
     /// The New PC installs this application; `percent` is 0 on the Old PC, which doesn't know how far it is.
@@ -131,6 +135,7 @@ public Q_SLOTS:
     void onNetworkCommandReceived(Zandrove::Protocol::MessageType type, const QByteArray &payload);
 
 private:
+    // MigrationManagerLink.cpp: what comes by the link
     void onLinkCommandReceived(Protocol::MessageType type, const QByteArray &payload);
     void process(Protocol::MessageType type, const QByteArray &payload);
     void processInbox();
@@ -139,6 +144,12 @@ private:
     void boundWaitForSettings();
 
     void onLinkChanged();
+    void onCutOff(RunEnd how);
+    [[nodiscard]] bool isLinkOfRun() const;
+    [[nodiscard]] bool mayReadLink() const;
+    void resumeReadingLink();
+
+    // MigrationManager.cpp: the runs
     void beginRun(MigrationRun *run);
     void beginReceiving();
     void wait();
@@ -146,6 +157,7 @@ private:
     void onRunEnded(RunEnd how, const MigrationReport &report);
     void onRunStateChanged();
     void retire();
+    void tellSettled(const MigrationRun &run);
     void waitAgain(std::chrono::milliseconds delay)
     {
         if (m_waits)
@@ -154,9 +166,6 @@ private:
 
     [[nodiscard]] ReceivingRun *receivingRun() const;
     [[nodiscard]] RunState runState() const;
-    [[nodiscard]] bool isLinkOfRun() const;
-    [[nodiscard]] bool mayReadLink() const;
-    void resumeReadingLink();
 
     QPointer<NetworkManager> m_networkManager;
     RunLink m_link;
@@ -165,6 +174,7 @@ private:
     ConflictConfig m_conflictConfig;
     QString m_destRoot;
     RunSummary m_summary;          // of the last run that is over
+    Aftermath m_aftermath;         // of the same
     MigrationRun *m_run = nullptr; // child: the one that is on, or whose settings are being applied
     QList<MigrationRun *> m_past;  // children: over, with threads that are still ending
     RunInbox m_inbox;

@@ -51,6 +51,8 @@ public:
     virtual void end(RunEnd how);
     /// Whether anything of it has left or come.
     [[nodiscard]] virtual bool hasBegun() const { return true; }
+    /// Old PC: everything has left, and only answers are waited for.
+    [[nodiscard]] virtual bool hasAllLeft() const { return false; }
     /// Its link is lost, and what has arrived is still being worked off.
     [[nodiscard]] virtual bool isLinkLost() const { return false; }
     /// What its user is told, as far as it is known.

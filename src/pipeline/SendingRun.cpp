@@ -313,8 +313,10 @@ void SendingRun::noteSettled(const ItemResult &item)
 
 void SendingRun::end(RunEnd how)
 {
-    // The last answers may have come ahead of the end of the link.
-    if (how == RunEnd::LinkLost && m_confirmTimer.isActive() && m_ledger.isSettled()) {
+    // The last answers may have come ahead of the end of the link. What is to be installed is not through
+    // then.
+    if (how == RunEnd::LinkLost && m_confirmTimer.isActive() && m_ledger.isSettled() &&
+        m_sentItems.isEmpty()) {
         settleItems();
         finish(RunEnd::Complete);
     }

@@ -165,4 +165,14 @@ QByteArray completePayload(const MigrationReport &report)
                         {u"isFinal"_s, true}});
 }
 
+QByteArray settledPayload()
+{
+    return compactJson({{u"settled"_s, true}});
+}
+
+bool saysSettled(const QByteArray &payload)
+{
+    return readObject(payload).value("settled"_L1).toBool();
+}
+
 } // namespace Zandrove::TransferMessages

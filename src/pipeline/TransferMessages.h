@@ -115,4 +115,8 @@ struct Ack
 /// `TransferComplete`: the counts of the sender's report.
 [[nodiscard]] QByteArray completePayload(const MigrationReport &report);
 
+/// `Heartbeat` of a New PC behind a run: everything that had come is installed and applied, or has failed.
+[[nodiscard]] QByteArray settledPayload();
+[[nodiscard]] bool saysSettled(const QByteArray &payload);
+
 } // namespace Zandrove::TransferMessages

@@ -268,10 +268,11 @@ class Truth(pcs.TestCase):
                     self.receiver.wait_for("installing")
                 time.sleep(3)
                 self.receiver.kill()
-                report = self.sender.wait_for("report")
+                report = self.sender.wait_for("report", lambda event: event["end"] == "linkLost")
                 for entry in report["apps"] + report["settings"]:  # it can't know more than that it was sent
-                    self.assertTrue(not entry["success"] or "report of NewBox" in entry["note"], entry)
-                self.assertIn(self.sender.exit_code(), (0, 1))
+                    self.assertIn("NewBox was lost before it said", entry["error"])
+                self.assertEqual((report["filesFailed"], report["appsFailed"] + report["settingsFailed"]), (0, 1))
+                self.assertExits(1, self.sender)
                 (self.pair.new.folder / "quick" / program).rename(self.pair.new.programs_folder / program)
                 self.equipped_again(*options)
 
