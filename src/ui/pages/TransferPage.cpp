@@ -87,6 +87,7 @@ void TransferPage::setupConnections()
     listen(&Engine::runEnded, &TransferPage::onRunEnded);
     listen(&Engine::spaceShort, &TransferPage::onSpaceShort);
     listen(&Engine::installing, &TransferPage::onInstalling);
+    connect(m_notice, &NoticeBar::actionClicked, this, [this] { Q_EMIT navigateBack(u"SelectionPage"_s); });
 
     // At once: an answer that is given to the open question before the queued calls arrive
     // is too late as well.
@@ -188,16 +189,19 @@ void TransferPage::onTransferCompleted(const MigrationReport &report)
     Q_EMIT transferFinished();
 }
 
-/// The window says what was lost, and offers the way back.
+/// Of a lost link the window says what was lost, and offers the way back.
 void TransferPage::onRunEnded(const RunSummary &summary)
 {
     // One that outlived its link has nothing to do with the page of the next.
     if (summary.end == RunEnd::LinkLost && m_engine->hasAcceptedLink())
         return;
     m_running = false;
-    if (summary.end != RunEnd::LinkLost)
+    const bool isReset = summary.end == RunEnd::Reset && !isNewPC();
+    if (summary.end != RunEnd::LinkLost && !isReset)
         return;
-    m_titleLabel->setText(tr("Connection lost"));
+    m_titleLabel->setText(isReset ? printable(headlineOf(summary)) : tr("Connection lost"));
+    if (isReset)
+        m_notice->tell(arrivedFilesText(summary) + u'.', tr("Back to selection"));
     m_progressCard->setSpeed(u"--"_s);
     m_progressCard->setRemaining(noRemaining());
     m_files->stop();
@@ -305,7 +309,7 @@ void TransferPage::onCancelClicked()
                          tr("Are you sure you want to cancel the transfer?"),
                          QMessageBox::Ok | QMessageBox::Cancel, this);
     question.setInformativeText(
-        tr("All progress will be lost and incomplete files may remain on the destination."));
+        tr("All progress will be lost. Files that have arrived stay; nothing incomplete remains."));
     question.button(QMessageBox::Ok)->setText(tr("Yes, Cancel"));
     if (!confirm(question))
         return;

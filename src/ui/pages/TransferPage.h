@@ -52,7 +52,8 @@ Q_SIGNALS:
     void transferFinished();
     /// Comes just before `transferFinished`.
     void transferFinishedWithReport(const Zandrove::MigrationReport &report);
-    void navigateBack(const QString &pageName); ///< reserved; nothing emits it yet
+    /// The user wants to go on from a run that the other PC has ended: "SelectionPage".
+    void navigateBack(const QString &pageName);
     /// The transfer was cancelled: here, or on the Old PC also by the peer.
     void transferCancelled();
     void navigateToPage(int pageIndex); ///< reserved; nothing emits it yet
