@@ -76,7 +76,7 @@ void Session::showRuns()
     connect(&m_engine, &TransferEngine::spaceShort, this,
             [this](qint64 needed, qint64 available, const QString &volume) {
                 m_output.warning(
-                    tr("%1 are on their way, but only %2 are free on %3: not everything will fit.")
+                    tr("%1 are on their way, but only %2 are free on %3. Not everything will fit.")
                         .arg(formatSize(needed), formatSize(available), volume));
             });
     showLink();

@@ -201,12 +201,12 @@ void TextOutput::missingFiles(const RunSummary &summary)
     if (counts.missing() == 0)
         return;
     line(missingFilesText(summary) + u':');
-    files(summary.notArrived, counts.missing() - counts.wasDifferent);
-    files(summary.different, counts.wasDifferent);
+    files(summary.notArrived, counts.missing() - counts.wasDifferent, summary);
+    files(summary.different, counts.wasDifferent, {});
 }
 
-/// The first of `all` files, and how many there are beyond.
-void TextOutput::files(const QList<ItemResult> &results, int all)
+/// The first of `all` files that there are in `summary`, and what there is beyond.
+void TextOutput::files(const QList<ItemResult> &results, int all, const RunSummary &summary)
 {
     int shown = 0;
     for (const ItemResult &result : results) {
@@ -217,8 +217,8 @@ void TextOutput::files(const QList<ItemResult> &results, int all)
         line(u"  "_s + result.path + u": "_s + result.reason);
         ++shown;
     }
-    if (all > shown)
-        line(u"  "_s + tr("and %1 more").arg(countText(all - shown)));
+    for (const QString &text : unlistedTexts(summary, all - shown))
+        line(u"  "_s + text);
 }
 
 void TextOutput::items(const QString &head, const QString &done, const QList<ItemResult> &results,

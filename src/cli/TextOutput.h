@@ -43,7 +43,7 @@ private:
     void showLiveLine(const QString &text);
     void clearLiveLine();
     void missingFiles(const RunSummary &summary);
-    void files(const QList<ItemResult> &results, int all);
+    void files(const QList<ItemResult> &results, int all, const RunSummary &summary);
     void savedFolders(const RunSummary &summary);
     void items(const QString &head, const QString &done, const QList<ItemResult> &results, ItemKind kind);
     void section(const QString &title, const QStringList &rows);

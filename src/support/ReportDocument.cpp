@@ -155,18 +155,9 @@ QString itemsSection(const RunSummary &summary)
            tableOf({{}, Text::tr("Name"), Text::tr("What became of it")}, rows);
 }
 
-/// What is said of the files that have no row.
-QString restText(int rest, bool isAll, int role)
-{
-    const QString count = countText(rest);
-    if (role == NewPC)
-        return isAll ? Text::tr("%1 files, which only the report of the Old PC can name.").arg(count)
-                     : Text::tr("And %1 more, which only the report of the Old PC can name.").arg(count);
-    return isAll ? Text::tr("%1 files.").arg(count) : Text::tr("And %1 more.").arg(count);
-}
-
-/// The files of `results` with their reasons, of `all` that there are.
-QString filesSection(const QString &title, const QList<ItemResult> &results, int all, int role)
+/// The files of `results` with their reasons, of `all` that there are in `summary`.
+QString filesSection(const QString &title, const QList<ItemResult> &results, int all,
+                     const RunSummary &summary)
 {
     if (all <= 0)
         return {};
@@ -179,8 +170,9 @@ QString filesSection(const QString &title, const QList<ItemResult> &results, int
         ++listed;
     }
     const QString table = listed > 0 ? tableOf({Text::tr("File"), Text::tr("Reason")}, rows) : QString();
-    const QString rest =
-        all > listed ? element("p"_L1, restText(all - listed, listed == 0, role)) : QString();
+    QString rest;
+    for (const QString &text : unlistedTexts(summary, all - listed))
+        rest += element("p"_L1, text);
     return element("h2"_L1, title) + table + rest;
 }
 
@@ -249,9 +241,9 @@ QByteArray reportAsHtml(const RunSummary &summary)
         element("h2"_L1, Text::tr("This transfer")) + facts(summary) + placesSection(summary) +
         itemsSection(summary) +
         filesSection(Text::tr("Files that did not arrive"), summary.notArrived,
-                     files.failed + files.notConfirmed + files.pending, summary.role) +
+                     files.failed + files.notConfirmed + files.pending, summary) +
         filesSection(Text::tr("Files that were there already, with other content"), summary.different,
-                     files.wasDifferent, summary.role) +
+                     files.wasDifferent, {}) +
         element("footer"_L1, title) + u"</main>\n</body>\n</html>\n"_s;
     return page.toUtf8();
 }

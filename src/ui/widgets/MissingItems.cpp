@@ -177,9 +177,9 @@ void MissingItems::setSummary(const RunSummary &summary)
     m_list->header()->resizeSection(ItemModel::Path, 340);
 
     const int all = summary.files.missing() + summary.apps.missing() + summary.settings.missing();
-    const int unnamed = all - items->rowCount();
-    m_more->setText(tr("And %1 more.").arg(countText(unnamed)));
-    m_more->setVisible(unnamed > 0);
+    const QStringList unlisted = unlistedTexts(summary, all - items->rowCount());
+    m_more->setText(printable(unlisted.join(u'\n')));
+    m_more->setVisible(!unlisted.isEmpty());
     m_steps->setText(printableLines(nextSteps(summary)));
     m_status->clear();
 }
