@@ -13,6 +13,7 @@
 #include <QJsonObject>
 #include <QLocale>
 #include <QSaveFile>
+#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -279,6 +280,12 @@ QByteArray reportAsJson(const RunSummary &summary)
                              {u"fullVolumes"_s, volumes},
                              {u"savedFolders"_s, folders}};
     return QJsonDocument(object).toJson();
+}
+
+QString reportPathFor(const RunSummary &summary)
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u'/' +
+           Text::tr("Zandrove report") + summary.endTime.toString(u" yyyy-MM-dd HHmmss"_s) + u".html"_s;
 }
 
 QString saveReport(const RunSummary &summary, const QString &path)

@@ -1,5 +1,6 @@
 """Two people move a PC with the window alone."""
 
+import signal
 import time
 import unittest
 
@@ -245,9 +246,25 @@ class WizardTest(pcs.TestCase):
         self.to_selection(old, new)
         self.assertCloses(new, old)
 
-    def test_close_in_mid_transfer(self):
-        for closes_old in (True, False):
-            with self.subTest(closes_old=closes_old):
+    def end_in_mid_transfer(self, window, how):
+        if how == "Close":
+            window.click("Close")
+            window.wait(dialog="Close Zandrove")
+            window._tell("click", "Cancel and Close")
+        else:
+            window.process.send_signal(how)
+        self.assertEqual(window.exit_code(), -how if how == signal.SIGKILL else 0, window.log[-4000:])
+        reports = list((window.pc.home / "Documents").glob("Zandrove report *.html"))
+        self.assertEqual(len(reports), 0 if how == signal.SIGKILL else 1)
+        for report in reports:
+            self.assertIn("Transfer cancelled", report.read_text())
+            report.unlink()
+
+    def test_ends_in_mid_transfer(self):
+        """After each the other PC says so, and a second transfer completes the tree."""
+        half = lambda: list(self.pair.new.home.rglob("*.zandrove-part"))
+        for ends_old, how in ((True, "Close"), (False, "Close"), (True, signal.SIGHUP), (False, signal.SIGTERM), (False, signal.SIGKILL)):
+            with self.subTest(ends_old=ends_old, how=how):
                 old, new = self.both()
                 self.to_selection(old, new)
                 self.tick(old, self.work)
@@ -255,14 +272,37 @@ class WizardTest(pcs.TestCase):
                 old.click("Next")
                 old.wait(page=5, text="^Sending Data - [1-9]")
                 new.wait(page=5, text="^Receiving Data - [1-9]")
-                first, second = (old, new) if closes_old else (new, old)
-                first.click("Close")
-                first.wait(dialog="Close Zandrove")
-                first._tell("click", "Cancel and Close")
-                self.assertEqual(first.exit_code(), 0)
+                first, second = (old, new) if ends_old else (new, old)
+                self.end_in_mid_transfer(first, how)
                 second.wait(text="is lost")
-                self.assertCloses(second)
                 self.pair.free_speed()
+                if how == signal.SIGKILL:
+                    self.moves_what_is_missing(old)
+                else:
+                    pcs.wait_until(lambda: not half(), "half files are removed")
+                self.assertCloses(second)
+        self.assertMoved(self.work)
+        self.assertEqual(half(), [])
+
+    def moves_what_is_missing(self, old):
+        """From the page of the lost link: the New PC's window is opened anew, and the selection still stands."""
+        old.wait(text="31 files arrived; nothing was deleted on the Old PC", enabled="Back to connections")
+        old.picture("5-lost")
+        new = self.window(self.pair.new)
+        self.to_connection(new, "New PC")
+        old.click("Back to connections")
+        old.wait(text="NewBox")
+        old.click("Their code, character 1")
+        old.type(new.code())
+        old.click("Connect")
+        new.wait(dialog="Connection Request", text="OldBox")
+        new.click("Yes")
+        old.wait(page=4, enabled="Next")
+        old.click("Next")
+        for window in (old, new):
+            window.wait(page=6, text="Transfer [Cf]")
+            window.picture("6-after-a-loss")
+        self.assertCloses(new)
 
 
 class EquippedWizardTest(WizardTest):

@@ -2,6 +2,7 @@
 
 #include "core/engine/TransferEngine.h"
 #include "support/PrintableText.h"
+#include "support/ReportDocument.h"
 #include "support/RunTexts.h"
 #include "support/Utilities.h"
 #include "ui/Log.h"
@@ -281,7 +282,8 @@ bool TransferPage::letGo()
                          tr("A transfer is running. Closing the window cancels it."),
                          QMessageBox::Ok | QMessageBox::Cancel, this);
     question.setInformativeText(
-        tr("What has arrived stays on the New PC, and nothing is deleted on the Old PC."));
+        tr("What has arrived stays on the New PC, and nothing is deleted on the Old PC. A report is left in "
+           "your documents."));
     question.button(QMessageBox::Ok)->setText(tr("Cancel and Close"));
     if (!confirm(question))
         return false;
@@ -291,8 +293,12 @@ bool TransferPage::letGo()
 
 void TransferPage::cancelRun()
 {
-    if (std::exchange(m_running, false))
-        m_engine->cancelTransfer();
+    if (!std::exchange(m_running, false))
+        return;
+    m_engine->cancelTransfer();
+    const RunSummary summary = m_engine->summary();
+    if (const QString problem = saveReport(summary, reportPathFor(summary)); !problem.isEmpty())
+        qCWarning(logUi) << problem;
 }
 
 /// There is nothing left to cancel, and who ended it says what comes next.

@@ -45,7 +45,8 @@ public:
     /// For a window that is to be closed: asks the user whether a running transfer may end, and ends it then
     /// as a cancel. False when the window is to stay.
     [[nodiscard]] bool letGo();
-    /// Ends a running transfer as a cancel of the user's, without a question.
+    /// For a program that is to end: ends a running transfer as a cancel of the user's, without a question,
+    /// and leaves its report in the user's documents.
     void cancelRun();
 
 Q_SIGNALS:

@@ -13,7 +13,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QStandardPaths>
 #include <QTreeView>
 
 using namespace Qt::StringLiterals;
@@ -196,11 +195,8 @@ void MissingItems::onCopyClicked()
 
 void MissingItems::onSaveClicked()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString proposal = folder + u'/' + tr("Zandrove report") +
-                             m_summary.endTime.toString(u" yyyy-MM-dd HHmm"_s) + u".html"_s;
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Save report"), proposal, tr("Page (*.html);;JSON (*.json)"));
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save report"), reportPathFor(m_summary),
+                                                      tr("Page (*.html);;JSON (*.json)"));
     if (path.isEmpty())
         return;
     const QString problem = saveReport(m_summary, path);
