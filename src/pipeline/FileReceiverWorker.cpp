@@ -210,9 +210,11 @@ void FileReceiverWorker::onFileEnd(const QString &relativePath, uint finalChecks
         result.identical = m_incoming.isIdentical();
         if (result.skipped && before == IncomingFile::State::Writing)
             ++m_skippedCount; // it has come to stand there meanwhile
-        result.fullVolume = m_incoming.record().fullVolume;
         settle();
     }
+    // Also of a file that has found no room before its end.
+    if (before != IncomingFile::State::None)
+        result.fullVolume = m_incoming.record().fullVolume;
     finishResult(result);
 }
 
