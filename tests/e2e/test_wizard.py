@@ -1,5 +1,6 @@
 """Two people move a PC with the window alone."""
 
+import pathlib
 import signal
 import time
 import unittest
@@ -23,8 +24,8 @@ class WizardTest(pcs.TestCase):
         self.album = pcs.small_tree(home / "Documents" / "Größe 写真", count=12, seed=7)
         pcs.small_tree(home / "Documents" / "Not ticked", count=3)
 
-    def window(self, pc):
-        window = wizard.Wizard(pc, pc.name)
+    def window(self, pc, **rights):
+        window = wizard.Wizard(pc, pc.name, **rights)
         self.addCleanup(window.end)
         return window
 
@@ -245,6 +246,29 @@ class WizardTest(pcs.TestCase):
         old, new = self.both()
         self.to_selection(old, new)
         self.assertCloses(new, old)
+
+    def test_what_does_not_arrive_and_then_does(self):
+        closed = self.work / "part 1"
+        closed.chmod(0)
+        disk = self.enterContext(self.pair.new.small_disk(self.pair.new.home / "Documents", 8))
+        old, new = self.window(self.pair.old, obeys_permissions=True), self.window(self.pair.new)
+        self.to_selection(old, new)
+        self.tick(old, self.work)
+        old.click("Next")
+        for window, headline in ((old, "Transfer finished, 2 of 22"), (new, "Transfer finished, 1 of 21")):
+            window.wait(page=6, text=headline)
+            window.wait(text="^no space left on .* of NewBox: 1 files, 24.0 MB did not fit")
+            window.picture("6-not-all")
+        closed.chmod(0o755)
+        disk.grow(50)
+        old.click("Send More Files...")
+        old.wait(page=4, enabled="Next")
+        new.wait(page=5)
+        old.click("Next")
+        for window in (old, new):
+            window.wait(page=6, text="^Files: 11 arrived, 20 were there already and identical")
+        self.assertSameTree(self.work, pathlib.Path(f"{disk.root}{self.pair.new.home}") / "Documents" / "Work")
+        self.assertCloses(old, new)
 
     def end_in_mid_transfer(self, window, how):
         if how == "Close":
