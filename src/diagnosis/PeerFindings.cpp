@@ -212,7 +212,7 @@ QList<Finding> ofSilence(const Scene &scene, bool isDeaf)
         {u"nobody"_s,
          {},
          Severity::Problem,
-         Text::tr("No other PC was heard within %n second(s).", nullptr, scene.peers.seconds),
+         Text::tr("No other PC was heard within %1 s.").arg(scene.peers.seconds),
          Text::tr("Open Zandrove on the other PC, up to its page of connections, and put both PCs into the "
                   "same network."),
          {}}};
