@@ -177,7 +177,8 @@ QList<FirewallReport> readFirewalls(const FirewallQuestion &question)
     for (const auto &read : {readUfw, readFirewalld}) {
         if (const std::optional<FirewallReport> report = read(question)) {
             reports.append(*report);
-            isKept = isKept || report->state != FirewallReport::Off;
+            isKept =
+                isKept || report->state == FirewallReport::On || report->state == FirewallReport::NoRights;
         }
     }
     if (isKept)
