@@ -35,8 +35,7 @@ private:
     void onConnected();
     void onLinkBroken();
     void onSessionEndReceived();
-    void onPeerLeft(const QString &complaint, std::chrono::milliseconds patience);
-    void onNothingMoreToCome();
+    void onPeerLeft(const QString &complaint);
     void afterLink();
 
     void onTransferSign();
@@ -61,7 +60,7 @@ private:
     QTimer m_drainTimer;
     QTimer m_settingsTimer;
     std::optional<RunSummary> m_heldReport; ///< complete but for the settings, which are being applied
-    QString m_complaint;                    ///< what is to be said if the end of the run does not come
+    QString m_complaint;                    ///< what is to be said when the run ends without being complete
     QString m_peerName;
     RunResults m_results;
     bool m_expecting = false; ///< armed on a fresh link, nothing has arrived

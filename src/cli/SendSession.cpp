@@ -215,7 +215,7 @@ void SendSession::sendAgain(const QString &folder)
 void SendSession::onRunEnded(const RunSummary &summary)
 {
     if (summary.end == RunEnd::CancelledHere)
-        keepReport(summary);
+        showReport(summary);
     if (summary.end == RunEnd::CancelledHere || (m_state != State::Running && m_state != State::Parting))
         return;
     m_completed = summary.end == RunEnd::Complete;
@@ -229,10 +229,7 @@ void SendSession::onRunEnded(const RunSummary &summary)
     }
     if (summary.end == RunEnd::Reset)
         output().error(tr("%1 ended the transfer.").arg(m_peerName));
-    if (summary.end == RunEnd::CancelledThere)
-        keepReport(summary);
-    else
-        showReport(summary);
+    showReport(summary);
     runEnded(exitCodeFor(summary));
 }
 
@@ -251,8 +248,8 @@ void SendSession::onTransferFailed(const QString &reason)
 
 void SendSession::cancelHere()
 {
-    engine().cancelTransfer();
     output().cancelled(Side::Here);
+    engine().cancelTransfer();
     m_completed = false;
 }
 

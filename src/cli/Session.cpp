@@ -3,6 +3,7 @@
 #include "core/engine/TransferEngine.h"
 #include "platform/Terminal.h"
 #include "support/ReportDocument.h"
+#include "support/RunTexts.h"
 #include "support/Utilities.h"
 
 #include <QHostAddress>
@@ -66,12 +67,7 @@ void Session::showRuns()
     connect(&m_engine, &TransferEngine::transferProgressChanged, this, &Session::showProgress);
     connect(&m_engine, &TransferEngine::fileTransferStarted, this,
             [this](const QString &name) { m_output.file(name, FileStatus::Started, {}); });
-    connect(&m_engine, &TransferEngine::fileTransferCompleted, this,
-            [this](const QString &name) { m_output.file(name, FileStatus::Completed, {}); });
-    connect(&m_engine, &TransferEngine::fileTransferFailed, this,
-            [this](const QString &name, const QString &reason) {
-                m_output.file(name, FileStatus::Failed, reason);
-            });
+    connect(&m_engine, &TransferEngine::itemSettled, this, &Session::showOutcome);
     connect(&m_engine, &TransferEngine::transferPaused, this, [this] { m_output.paused(Side::Here); });
     connect(&m_engine, &TransferEngine::pausedByPeer, this, [this] { m_output.paused(Side::Peer); });
     connect(&m_engine, &TransferEngine::transferResumed, this, [this] { m_output.resumed(Side::Here); });
@@ -84,6 +80,20 @@ void Session::showRuns()
                         .arg(formatSize(needed), formatSize(available), volume));
             });
     showLink();
+}
+
+/// One by one as they become known. What the end of the run settles, its report tells.
+void Session::showOutcome(const ItemResult &item)
+{
+    if (item.kind == ItemKind::File && !m_engine.isRunUnderWay())
+        return;
+    const QString name = rowName(item.kind, item.path);
+    if (item.outcome == ItemOutcome::Arrived)
+        m_output.file(name, FileStatus::Completed, {});
+    else if (item.outcome == ItemOutcome::Failed)
+        m_output.file(name, FileStatus::Failed, item.reason);
+    else if (item.outcome == ItemOutcome::WasThere || item.outcome == ItemOutcome::WasDifferent)
+        m_output.file(name, FileStatus::WasThere, item.reason);
 }
 
 void Session::showLink()

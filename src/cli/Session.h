@@ -91,6 +91,7 @@ private:
     void onNoFarewell();
     void partNow();
     void showLink();
+    void showOutcome(const ItemResult &item);
     void showInstalling(const QString &app, int percent);
     void showProgress(const TransferProgress &progress);
     void showLastProgress();

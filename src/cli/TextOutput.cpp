@@ -154,8 +154,11 @@ void TextOutput::progress(const TransferProgress &progress)
 
 void TextOutput::file(const QString &name, FileStatus status, const QString &reason)
 {
-    if (status == FileStatus::Failed)
-        errorText(errorLine(tr("%1 was not moved: %2").arg(name, reason)));
+    constexpr int MostLines = 20;
+    if (status != FileStatus::Failed || ++m_failures > MostLines + 1)
+        return;
+    errorText(errorLine(m_failures > MostLines ? tr("Further ones are counted in the report.")
+                                               : tr("%1 was not moved: %2").arg(name, reason)));
 }
 
 void TextOutput::paused(Side by)
@@ -184,6 +187,7 @@ void TextOutput::installing(const QString &pcName, const QString &app, int perce
 void TextOutput::report(const RunSummary &summary)
 {
     m_installing.clear();
+    m_failures = 0;
     const QString time = formatTime(static_cast<int>(summary.startTime.secsTo(summary.endTime)));
     const QString size = formatSize(summary.arrivedBytes);
     const double speed = summary.averageSpeed();

@@ -56,6 +56,7 @@ private:
     bool m_liveLineShown = false;
     QString m_peerName;
     QString m_installing; ///< the application that was named last
+    int m_failures = 0;   ///< that were told of the run
 };
 
 } // namespace Zandrove::Cli

@@ -157,9 +157,12 @@ bool FileSenderWorker::endFile(const Sending &sending, const QString &reasonOfCh
     const TransferMessages::End end{sending.taskId, sending.task.relativePath, sending.checksum,
                                     sending.sentBytes, changed};
     Q_EMIT requestSendCommand(wireType(Protocol::MessageType::FileEnd), end.toPayload());
+    // Its own reason stands ahead of the one that the end of such a file has by itself.
+    if (changed)
+        (void)failFile(sending, reasonOfChange);
     Q_EMIT fileEndSent(sending.taskId, changed);
     if (changed)
-        return failFile(sending, reasonOfChange);
+        return false;
     Q_EMIT fileCompleted(sending.fileName);
     return true;
 }

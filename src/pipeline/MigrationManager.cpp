@@ -263,7 +263,7 @@ void MigrationManager::cancel()
 
 void MigrationManager::sendCancelNotification(const QJsonObject &notification)
 {
-    if (m_link.send && isLinkOfRun())
+    if (m_link.send && isLinkOfRun() && !(m_run && m_run->isLinkLost()))
         m_link.send(MessageType::TransferCancel, compactJson(notification));
 }
 
@@ -278,9 +278,12 @@ void MigrationManager::resetAndListen()
     resumeReadingLink();
 }
 
-/// The run in hand may have lost its link, to nobody or to another peer.
+/// The run in hand may have lost its link, to nobody or to another peer. What waits behind it came by that
+/// link.
 void MigrationManager::onLinkChanged()
 {
+    if (std::exchange(m_knownLink, m_link.number()) != m_link.number())
+        (void)m_inbox.drop();
     if (!isMigrating() || m_run->belongsTo(m_link.number()))
         return;
     endSession();

@@ -160,6 +160,7 @@ private:
 
     QPointer<NetworkManager> m_networkManager;
     RunLink m_link;
+    quint64 m_knownLink = 0; // its number when it was last looked at
     int m_role = OldPC;
     ConflictConfig m_conflictConfig;
     QString m_destRoot;

@@ -178,6 +178,7 @@ void SendingRun::onRequestSendCommand(int type, const QByteArray &payload)
 
 void SendingRun::queueAppFile(const QString &filePath, const QString &relativePath)
 {
+    m_appOfFile.insert(filePath, appOfPath(relativePath));
     const std::optional<qint64> size = sizeToSend(filePath);
     if (!size) {
         qCDebug(logPipeline) << "[AppQueue] missing:" << filePath;
@@ -190,7 +191,6 @@ void SendingRun::queueAppFile(const QString &filePath, const QString &relativePa
     task.sourcePath = filePath;
     task.relativePath = relativePath;
     task.fileSize = *size;
-    m_appOfFile.insert(filePath, appOfPath(relativePath));
     m_appTasks.append(task);
     m_phases.appFileQueued();
     qCDebug(logPipeline) << "[AppQueue] queued:" << relativePath << "size:" << *size

@@ -42,6 +42,19 @@ QString countText(qint64 count)
     return QLocale().toString(count);
 }
 
+QString rowName(ItemKind kind, const QString &path)
+{
+    switch (kind) {
+    case ItemKind::Application:
+        return Text::tr("[App] %1").arg(path);
+    case ItemKind::Setting:
+        return Text::tr("[Setting] %1").arg(path);
+    case ItemKind::File:
+        break;
+    }
+    return path.section(u'/', -1);
+}
+
 QString endName(RunEnd end)
 {
     switch (end) {

@@ -24,6 +24,9 @@ namespace Zandrove {
 /// What became of an application, a setting or a file, in a word or two.
 [[nodiscard]] QString outcomeText(ItemOutcome outcome);
 
+/// What a row or line calls an item: the name of a file, "[App] Acme Writer", "[Setting] Mouse".
+[[nodiscard]] QString rowName(ItemKind kind, const QString &path);
+
 /// What the user had best do now, a sentence or two each; never empty for a run that is over.
 [[nodiscard]] QStringList nextSteps(const RunSummary &summary);
 

@@ -68,7 +68,8 @@ void LinkWatch::onConnected()
 
 void LinkWatch::onRunEnded(const RunSummary &summary)
 {
-    if (summary.end != RunEnd::LinkLost || m_place == Place::Elsewhere)
+    // Where another link stands by now, it is that one which the window is about.
+    if (summary.end != RunEnd::LinkLost || m_place == Place::Elsewhere || m_engine->hasAcceptedLink())
         return;
     m_endedRun = summary.total() > 0;
     const QString lost = tr("The connection to %1 is lost.").arg(shortened(summary.peerName));
@@ -80,6 +81,8 @@ void LinkWatch::onLinkGone()
 {
     m_silentText.clear();
     const bool wasUp = std::exchange(m_isUp, false);
+    if (m_engine->isRunUnderWay())
+        return; // it works off what has arrived, and says how it ended
     // On the page of connections most ends are those of a dial; that of a link is news there, too.
     if (m_place == Place::Elsewhere || (m_place == Place::Connections && !wasUp) || isLost()) {
         refresh();

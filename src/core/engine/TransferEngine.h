@@ -67,6 +67,8 @@ public:
     /// Also true between `connectToPC` and its outcome, and after `connectToPC` for a peer that is not in the
     /// table: ask only after `connected`.
     [[nodiscard]] bool isConnected() const;
+    /// Whether a peer is accepted at this moment, on whichever link.
+    [[nodiscard]] bool hasAcceptedLink() const;
     /// The peer, or the one being dialled; a default record without one.
     [[nodiscard]] PCInfo connectedPC() const { return m_connectedPC; }
 
@@ -98,6 +100,9 @@ public:
     /// Waits, as the New PC, for what the peer sends. Emits `transferStarted`, and again whenever it waits
     /// anew by itself, behind a run that was called off or reset, for as long as the session lasts.
     void startReceiving();
+    /// A run has begun and is not over: `runEnded` follows. On the New PC it outlives its link, until what
+    /// had arrived by then is on the disk.
+    [[nodiscard]] bool isRunUnderWay() const;
     /// New PC: settings have arrived that are still being applied. `settingsFinished` follows.
     [[nodiscard]] bool isApplyingSettings() const;
     /// Holds the transfer on both sides. Emits `transferPaused`.

@@ -92,7 +92,10 @@ void TransferPage::setupConnections()
     // is too late as well.
     for (auto end : {&Engine::peerCancelled, &Engine::transferReset, &Engine::sessionEndReceived})
         connect(m_engine, end, this, &TransferPage::closeQuestion);
-    connect(m_engine, &Engine::transferCompleted, this, &TransferPage::closeQuestion);
+    connect(m_engine, &Engine::transferCompleted, this, [this] {
+        m_isComplete = true;
+        closeQuestion();
+    });
     connect(m_engine, &Engine::runEnded, this, &TransferPage::closeQuestion);
 }
 
@@ -141,12 +144,12 @@ void TransferPage::resetForNewTransfer()
 
 void TransferPage::begin()
 {
-    m_running = false;
+    m_running = m_isComplete = false;
     m_notice->tell(QString());
     m_files->clear();
     showPaused(false);
     showControls(true);
-    showFailedCount();
+    showFailedCount({});
 }
 
 void TransferPage::clearCard(const QString &speed, const QString &total)
@@ -166,11 +169,14 @@ void TransferPage::onProgressChanged(const TransferProgress &progress)
     m_progressCard->setRemaining(formatTime(progress.remainingSeconds));
     m_progressCard->setSizes(formatSize(progress.transferredBytes), formatSize(progress.totalBytes));
     m_titleLabel->setText((isNewPC() ? tr("Receiving Data - %1%") : tr("Sending Data - %1%")).arg(percent));
-    showFailedCount();
+    showFailedCount(m_engine->summary());
 }
 
 void TransferPage::onTransferCompleted(const MigrationReport &report)
 {
+    // Told in a queue: the page may show the next run by now.
+    if (!std::exchange(m_isComplete, false))
+        return;
     qCDebug(logUi) << "TransferPage::onTransferCompleted() - Success:" << report.filesSuccess
                    << "Failed:" << report.filesFailed;
     m_running = false;
@@ -185,6 +191,9 @@ void TransferPage::onTransferCompleted(const MigrationReport &report)
 /// The window says what was lost, and offers the way back.
 void TransferPage::onRunEnded(const RunSummary &summary)
 {
+    // One that outlived its link has nothing to do with the page of the next.
+    if (summary.end == RunEnd::LinkLost && m_engine->hasAcceptedLink())
+        return;
     m_running = false;
     if (summary.end != RunEnd::LinkLost)
         return;
@@ -192,7 +201,7 @@ void TransferPage::onRunEnded(const RunSummary &summary)
     m_progressCard->setSpeed(u"--"_s);
     m_progressCard->setRemaining(noRemaining());
     m_files->stop();
-    showFailedCount();
+    showFailedCount(m_engine->summary());
     showControls(false);
 }
 
@@ -339,12 +348,14 @@ void TransferPage::onFileProgress(const QString &fileName, int percent)
 
 void TransferPage::onFileCompleted(const QString &fileName)
 {
-    m_files->markSent(fileName);
+    if (!isNewPC())
+        m_files->markSent(fileName);
 }
 
 void TransferPage::onFileFailed(const QString &fileName, const QString &reason)
 {
-    m_files->fail(fileName, reason);
+    if (!isNewPC()) // there the outcome follows, and a file that was there before hasn't failed
+        m_files->fail(fileName, reason);
 }
 
 void TransferPage::onItemSettled(const ItemResult &item)

@@ -83,7 +83,7 @@ private:
 
     [[nodiscard]] bool isNewPC() const { return m_role == NewPC; }
     void showPaused(bool paused);
-    void showFailedCount();
+    void showFailedCount(const RunSummary &summary);
     void showControls(bool shown);
     /// Whatever a former run has left on the page goes.
     void begin();
@@ -105,6 +105,7 @@ private:
     QPushButton *m_retryLink = nullptr;
     bool m_isPaused = false;
     bool m_running = false;
+    bool m_isComplete = false; ///< the run that the page shows
     int m_failedShown = -1;
     TransferProgress m_progress;
     QPointer<QMessageBox> m_question; ///< while it is open
