@@ -302,6 +302,7 @@ void NetworkManager::onLinkOpened()
     m_connectionTimer->stop();
     const QJsonObject json{{u"name"_s, getComputerName()}, {u"os"_s, getOSVersion()}};
     sendCommand(Protocol::MessageType::ConnectRequest, compactJson(json));
+    Q_EMIT waitingForAnswer(m_pairing.target().name);
 }
 
 void NetworkManager::onLinkClosed(Link *link)

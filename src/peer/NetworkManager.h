@@ -123,7 +123,14 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void pcDiscovered(const Zandrove::PCInfo &pc); ///< add or update
-    void pcLost(const QString &pcId);              ///< comes while the table still has the entry
+    /// Comes while the table still has the entry; `key` tells it from others of the same id.
+    void pcLost(const QString &pcId, quint64 key = 0);
+    /// A PC of this copy's own role is about, which is never listed: told when it is heard first, and every
+    /// 5 s for as long as it is heard.
+    void sameRolePeer(const QString &name);
+    /// Another program has `port`, found at a start of discovery: peers cannot dial this copy, or it hears no
+    /// broadcast. `program` is empty where the system does not tell.
+    void portTaken(quint16 port, const QString &program);
     void directScanStarted();
     void directScanProgress(int scanned, int total);
     void directScanFinished(bool found);
@@ -132,8 +139,11 @@ Q_SIGNALS:
     /// with acceptConnection or rejectConnection.
     void connectionRequested(const QString &pcName, const QString &verifyCode);
     void questionEnded(quint64 question); ///< unanswered: its asker has left, or another one was chosen
-    void connecting();                    ///< never emitted
-    void connected();                     ///< paired, on either side
+    /// The own dial is through, and the peer's user has been asked. Followed by connected or
+    /// connectionFailed.
+    void waitingForAnswer(const QString &name);
+    void connecting(); ///< never emitted
+    void connected();  ///< paired, on either side
     /// The link is over, once for each and after all frames that had come on it: the peer has left, the
     /// connection broke, or nothing came for 120 s. acceptedLink() is 0 from then on.
     void disconnected();
@@ -153,10 +163,10 @@ private:
     void setupDiscovery();
     void setupServer();
     [[nodiscard]] bool listen();
+    void openPorts();
     void refreshAddresses();
     void startTimers();
     [[nodiscard]] QByteArray discoveryFrame();
-    [[nodiscard]] std::optional<PCInfo> peerFrom(const QByteArray &payload, const QString &senderIP) const;
     void onDirectScanDeviceFound(const QString &ip);
     void onNewConnection();
     void onAsked(const ConnectionQuestion &question);

@@ -47,6 +47,20 @@ std::optional<QByteArray> discoveryPayloadOf(const QByteArray &datagram)
     return datagram.mid(Protocol::HeaderSize, qsizetype(header->length));
 }
 
+PCInfo peerFrom(const QJsonObject &json, const QString &senderIP)
+{
+    PCInfo pc;
+    pc.id = boundedText(json["id"_L1]);
+    pc.name = boundedText(json["name"_L1]);
+    pc.ip = boundedText(json["ip"_L1]);
+    pc.port = portFrom(json["port"_L1]);
+    pc.os = boundedText(json["os"_L1]);
+    pc.verifyCode = boundedText(json["code"_L1]);
+    pc.senderIp = senderIP;
+    pc.online = true;
+    return pc;
+}
+
 } // namespace
 
 void NetworkManager::setRole(int role)
@@ -109,10 +123,20 @@ bool NetworkManager::listen()
     return m_tcpServer->listen(QHostAddress::Any, m_environment.tcpPort);
 }
 
+/// What stands in the way of being found, or of hearing others, is told each time that the user begins anew.
+void NetworkManager::openPorts()
+{
+    setupServer();
+    if (!m_tcpServer->isListening())
+        Q_EMIT portTaken(m_environment.tcpPort, {});
+    if (!m_beacon->bind())
+        Q_EMIT portTaken(m_environment.udpPort, {});
+}
+
 void NetworkManager::startDiscovery()
 {
     refreshAddresses();
-    setupServer();
+    openPorts();
     if (m_beacon->isActive()) {
         qCDebug(logPeer) << "Broadcast already active, skipping restart";
         return;
@@ -129,7 +153,7 @@ void NetworkManager::restartBroadcast()
     qCDebug(logPeer) << "Restarting broadcast with code:" << m_verifyCode;
     m_peers.clear();
     refreshAddresses();
-    setupServer();
+    openPorts();
     if (!m_beacon->isActive())
         startTimers();
     m_beacon->startBurst();
@@ -186,31 +210,20 @@ void NetworkManager::handleDatagram(const QByteArray &datagram, const QHostAddre
     const auto payload = discoveryPayloadOf(datagram);
     if (!payload)
         return;
-    const auto pc = peerFrom(*payload, senderIP);
-    if (!pc)
+    const QJsonObject json = parseJsonObject(*payload).value_or(QJsonObject());
+    const PCInfo pc = peerFrom(json, senderIP);
+    if (pc.id.isEmpty() || pc.name.isEmpty())
         return;
-    qCDebug(logPeer) << "Discovered PC:" << pc->name << "IP:" << pc->ip << "SenderIP:" << pc->senderIp
-                     << "Code:" << pc->verifyCode;
-    if (const auto news = m_peers.hear(*pc, m_environment.now()))
+    const QJsonValue role = json["role"_L1];
+    if (role.toInt() == m_role) {
+        if (role.isDouble() && m_peers.hearSameRole(pc.name, m_environment.now()))
+            Q_EMIT sameRolePeer(pc.name);
+        return;
+    }
+    qCDebug(logPeer) << "Discovered PC:" << pc.name << "IP:" << pc.ip << "SenderIP:" << pc.senderIp
+                     << "Code:" << pc.verifyCode;
+    if (const auto news = m_peers.hear(pc, m_environment.now()))
         Q_EMIT pcDiscovered(*news);
-}
-
-/// The peer that a payload announces; nothing where it is none, or one of the own role.
-std::optional<PCInfo> NetworkManager::peerFrom(const QByteArray &payload, const QString &senderIP) const
-{
-    const QJsonObject json = parseJsonObject(payload).value_or(QJsonObject());
-    PCInfo pc;
-    pc.id = boundedText(json["id"_L1]);
-    pc.name = boundedText(json["name"_L1]);
-    pc.ip = boundedText(json["ip"_L1]);
-    pc.port = portFrom(json["port"_L1]);
-    pc.os = boundedText(json["os"_L1]);
-    pc.verifyCode = boundedText(json["code"_L1]);
-    pc.senderIp = senderIP;
-    pc.online = true;
-    if (pc.id.isEmpty() || pc.name.isEmpty() || json["role"_L1].toInt() == m_role)
-        return std::nullopt;
-    return pc;
 }
 
 /// The slots of `pcLost` may empty the table or hear the peer again, so nothing is taken for granted.
@@ -221,7 +234,7 @@ void NetworkManager::checkPCTimeouts()
         const quint64 key = row->key;
         const QString id = row->pc.id;
         qCDebug(logPeer) << "Removing PC:" << id;
-        Q_EMIT pcLost(id);
+        Q_EMIT pcLost(id, key);
         m_peers.giveUp(key);
     }
 }

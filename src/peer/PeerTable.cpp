@@ -14,6 +14,9 @@ constexpr qint64 SilenceAllowedMs = 15000;
 constexpr int MissedChecksToLose = 3;
 /// Datagrams are free to send, rows are not free to keep.
 constexpr qsizetype MostPeers = 512;
+/// How often a PC of the same role is told of, and how many in that time.
+constexpr qint64 SameRoleIntervalMs = 5000;
+constexpr qsizetype MostOfSameRole = 16;
 
 /// A peer that only the sweep has found goes by its address until its first datagram.
 bool isScanDiscovered(const PCInfo &pc)
@@ -97,6 +100,15 @@ void PeerTable::giveUp(quint64 key)
         return;
     const QString id = row->pc.id;
     m_rows.removeIf([&id](const Row &each) { return each.pc.id == id; });
+}
+
+bool PeerTable::hearSameRole(const QString &name, const QDateTime &now)
+{
+    m_sameRole.removeIf([&now](auto told) { return told.value().msecsTo(now) >= SameRoleIntervalMs; });
+    if (m_sameRole.contains(name) || m_sameRole.size() >= MostOfSameRole)
+        return false;
+    m_sameRole.insert(name, now);
+    return true;
 }
 
 QList<PCInfo> PeerTable::peers() const

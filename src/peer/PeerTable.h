@@ -3,6 +3,7 @@
 #include "core/common/Records.h"
 
 #include <QDateTime>
+#include <QHash>
 #include <QList>
 
 #include <optional>
@@ -41,6 +42,10 @@ public:
     void giveUp(quint64 key);
     void clear() { m_rows.clear(); }
 
+    /// Takes what a datagram says of a PC that has this copy's own role, which gets no row. Returns whether
+    /// to tell of it: when it is new, and 5 s after it was told of.
+    [[nodiscard]] bool hearSameRole(const QString &name, const QDateTime &now);
+
     [[nodiscard]] QList<PCInfo> peers() const;
     [[nodiscard]] std::optional<PCInfo> withId(const QString &id) const;
     [[nodiscard]] std::optional<PCInfo> withCode(const QString &verifyCode) const;
@@ -50,6 +55,7 @@ private:
 
     QList<Row> m_rows;
     quint64 m_lastKey = 0;
+    QHash<QString, QDateTime> m_sameRole; ///< when each was told of
 };
 
 } // namespace Zandrove

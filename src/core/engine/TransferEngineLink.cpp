@@ -82,9 +82,9 @@ void TransferEngine::onPCDiscovered(const PCInfo &pc)
         Q_EMIT pcUpdated(pc);
 }
 
-void TransferEngine::onPCLost(const QString &pcId)
+void TransferEngine::onPCLost(const QString &pcId, quint64 key)
 {
-    Q_EMIT pcLost(pcId);
+    Q_EMIT pcLost(pcId, key);
 }
 
 void TransferEngine::connectToPC(const PCInfo &pc)
