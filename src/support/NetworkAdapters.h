@@ -25,6 +25,7 @@ struct NetworkAdapter
     bool loopback = false;
     bool canBroadcast = false;
     QList<AdapterAddress> addresses; ///< in the system's order
+    bool wired = false;              ///< by a cable, as far as the system tells
 };
 
 /// Source of the adapters; called anew each time they are needed.

@@ -49,9 +49,13 @@ public:
     void restartBroadcast();
     [[nodiscard]] QList<PCInfo> discoveredPCs() const;
 
-    /// Dials `pc`. Emits `connecting`, then `connected` or `connectionFailed`.
+    /// Dials `pc`, which the table knows by its key, else by its id. Emits `connecting`, `waitingForAnswer`
+    /// once it is reached, then `connected` or `connectionFailed`.
     void connectToPC(const PCInfo &pc);
-    /// Dials the peer whose screen shows `code`.
+    /// Dials the IPv4 address or host name that the user has entered, and no other, whether discovery knows
+    /// of anybody there or not. Emits what connectToPC() does.
+    void connectToAddress(const QString &address);
+    /// Dials the peer whose screen shows `code`. Fails where more than one does, and names them.
     void connectByCode(const QString &code);
     /// The questions of PCs that wait for the user's answer, oldest first; the last one is that of the last
     /// `connectionRequested`. A face answers with the number of the one it shows.
