@@ -18,7 +18,8 @@ NetworkAdapter adapterFrom(const QNetworkInterface &networkInterface)
     adapter.wired = networkInterface.type() == QNetworkInterface::Ethernet;
     const auto entries = networkInterface.addressEntries();
     for (const QNetworkAddressEntry &entry : entries)
-        adapter.addresses.append({entry.ip(), entry.broadcast()});
+        adapter.addresses.append({entry.ip(), entry.broadcast(), entry.prefixLength()});
+    adapter.systemName = networkInterface.name();
     return adapter;
 }
 
