@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/Admission.h"
+#include "cli/Notices.h"
 #include "cli/RunResults.h"
 #include "cli/Session.h"
 
@@ -53,6 +54,7 @@ private:
     void runEnded(ExitCode exitCode);
 
     Admission m_admission;
+    Notices m_notices;
     QTimer m_timeoutTimer; ///< runs while nothing is arriving
     QTimer m_goodbyeTimer; ///< --once: after the report, until the peer has ended the session
     /// The peer has left, but the end of the run may still be on its way from the socket to the disk: runs

@@ -22,7 +22,7 @@ constexpr int MaxShownFiles = 20;
 /// Name of a peer for a person, with what is known besides it.
 QString described(const PCInfo &pc)
 {
-    return pc.ip.isEmpty() ? pc.name : u"%1 (%2)"_s.arg(pc.name, pc.ip);
+    return pc.ip.isEmpty() || pc.ip == pc.name ? pc.name : u"%1 (%2)"_s.arg(pc.name, pc.ip);
 }
 
 /// One line of the inventory: a size, if there is one, and what is known besides it.
@@ -107,7 +107,7 @@ void TextOutput::peer(const PCInfo &pc)
     line(text);
 }
 
-void TextOutput::peerLost(const QString &id)
+void TextOutput::peerLost(const QString &id, quint64)
 {
     if (m_listsPeers)
         line(u"- "_s + id);
@@ -116,6 +116,11 @@ void TextOutput::peerLost(const QString &id)
 void TextOutput::found(const PCInfo &pc)
 {
     line(tr("Found %1. Waiting for it to let this PC in.").arg(described(pc)));
+}
+
+void TextOutput::waiting(const QString &name)
+{
+    line(tr("Waiting for %1: somebody has to press Yes there").arg(name));
 }
 
 void TextOutput::request(const ConnectionQuestion &question, bool asks)

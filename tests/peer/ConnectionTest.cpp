@@ -158,6 +158,24 @@ private Q_SLOTS:
         }
     }
 
+    void dialsOneAddressAfterTheOther()
+    {
+        QTcpServer listener;
+        const QHostAddress there(u"127.0.0.3"_s);
+        QVERIFY(listener.listen(there));
+        for (const QHostAddress &sender : {there, OtherMachine})
+            m_oldPC->manager.handleDatagram(discoveryFrame(u"pc"_s, {}, listener.serverPort()), sender);
+        QCOMPARE(m_oldPC->manager.discoveredPCs().first().ip, OtherMachine.toString());
+        QSignalSpy reached(&m_oldPC->manager, &NetworkManager::waitingForAnswer);
+        m_oldPC->manager.connectToPC({}, m_oldPC->manager.discoveredPCs().first().key);
+        QVERIFY(reached.wait());
+        QCOMPARE(m_oldPC->failed.size(), 0);
+        m_oldPC->manager.connectToAddress(OtherMachine.toString());
+        QTRY_COMPARE(m_oldPC->failed.size(), 1);
+        m_oldPC->manager.connectToAddress(there.toString());
+        QVERIFY(reached.wait());
+    }
+
     void blackHoleTimesOut()
     {
         QTcpServer full;
