@@ -10,7 +10,7 @@ declare -A floor=(
     [core/common]=1
     [support]=2
     [peer]=3 [inventory]=3
-    [appmigration]=4 [settings]=4
+    [appmigration]=4 [settings]=4 [diagnosis]=4
     [pipeline]=5
     [core/engine]=6
     [core/app]=7
@@ -21,7 +21,7 @@ first_floor_with_widgets=8
 # Below that floor, the files that show a dialog all the same.
 dialogs_below='^src/support/LinkManager\.(h|cpp)$'
 # What a face of the program may include besides its own folder.
-seen_by_faces='^(platform|core/common|support|core/engine|core/app|ui|cli)$'
+seen_by_faces='^(platform|core/common|support|diagnosis|core/engine|core/app|ui|cli)$'
 
 failures=0
 complain() {

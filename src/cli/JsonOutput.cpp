@@ -141,6 +141,19 @@ QString statusName(FileStatus status)
     return {};
 }
 
+QString severityName(Severity severity)
+{
+    switch (severity) {
+    case Severity::Ok:
+        return u"ok"_s;
+    case Severity::Hint:
+        return u"hint"_s;
+    case Severity::Problem:
+        return u"problem"_s;
+    }
+    return {};
+}
+
 } // namespace
 
 JsonOutput::JsonOutput(Streams streams)
@@ -251,6 +264,21 @@ void JsonOutput::scanning(int percent, const QString &item, int apps)
 void JsonOutput::inventory(const ScanResult &result)
 {
     print("inventory"_L1, Cli::toJson(result));
+}
+
+void JsonOutput::finding(const Finding &finding)
+{
+    print("finding"_L1, {{u"id"_s, finding.id},
+                         {u"subject"_s, finding.subject},
+                         {u"severity"_s, severityName(finding.severity)},
+                         {u"sentence"_s, finding.sentence},
+                         {u"advice"_s, finding.advice},
+                         {u"command"_s, finding.command}});
+}
+
+void JsonOutput::diagnosed(int problems)
+{
+    print("diagnosis"_L1, {{u"problems"_s, problems}});
 }
 
 void JsonOutput::warning(const QString &message)

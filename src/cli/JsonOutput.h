@@ -30,6 +30,8 @@ public:
     void report(const RunSummary &summary) override;
     void scanning(int percent, const QString &item, int apps) override;
     void inventory(const ScanResult &result) override;
+    void finding(const Finding &finding) override;
+    void diagnosed(int problems) override;
     void warning(const QString &message) override;
     void error(const QString &message) override;
 

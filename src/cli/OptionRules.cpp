@@ -18,9 +18,10 @@ constexpr int LongestWait = 7 * 24 * 3600; // seconds
 constexpr unsigned Receive = 1u << static_cast<unsigned>(Command::Receive);
 constexpr unsigned Send = 1u << static_cast<unsigned>(Command::Send);
 constexpr unsigned Discover = 1u << static_cast<unsigned>(Command::Discover);
+constexpr unsigned Diagnose = 1u << static_cast<unsigned>(Command::Diagnose);
 constexpr unsigned Scan = 1u << static_cast<unsigned>(Command::Scan);
 constexpr unsigned Networked = Receive | Send | Discover;
-constexpr unsigned Every = Networked | Scan;
+constexpr unsigned Every = Networked | Diagnose | Scan;
 
 struct Text
 {
@@ -110,6 +111,10 @@ const std::array Rules = {
                QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
                                  "The New PC: the four digits on its screen, its name or its address."),
                storeTarget},
+    OptionRule{"--to"_L1, "ADDRESS", Diagnose,
+               QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                                 "The address or host name of a PC that is tried as well."),
+               storeTarget},
     OptionRule{"--folder"_L1, "DIR", Send,
                QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "A folder to move; may be given several times."),
                storeFolder},
@@ -156,8 +161,15 @@ const std::array Rules = {
                QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
                                  "What this PC is. An Old PC sees the New PCs, a New PC the Old PCs."),
                storeRole},
+    OptionRule{"--role"_L1, "old|new", Diagnose,
+               QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                                 "What this PC is, to be compared with those that are heard."),
+               storeRole},
     OptionRule{"--seconds"_L1, "N", Discover,
                QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "Look for N seconds; without it, until Ctrl-C."),
+               [](Options &options, const QString &value) { return storeSeconds(options.seconds, value); }},
+    OptionRule{"--seconds"_L1, "N", Diagnose,
+               QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "Listen for N seconds; without it, for 5."),
                [](Options &options, const QString &value) { return storeSeconds(options.seconds, value); }},
     OptionRule{
         "--mode"_L1, "network|cable", Networked,
@@ -208,6 +220,11 @@ const std::array Commands = {
     CommandText{
         Command::Discover, "discover"_L1, "zandrove-cli discover --role old|new [--seconds N]",
         QT_TRANSLATE_NOOP("Zandrove::Cli::Options", "List the PCs on the network as they come and go.")},
+    CommandText{Command::Diagnose, "diagnose"_L1,
+                "zandrove-cli diagnose [--role old|new] [--seconds N] [--to ADDRESS]",
+                QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
+                                  "Find out why the other PC isn't found: look at adapters, ports, firewalls "
+                                  "and VPNs, and at who is heard and answers. Changes nothing.")},
     CommandText{Command::Scan, "scan"_L1, "zandrove-cli scan",
                 QT_TRANSLATE_NOOP("Zandrove::Cli::Options",
                                   "List what can be moved from this PC: applications, folders, accounts and "
@@ -239,8 +256,8 @@ QString exitCodeHelp()
 {
     return Text::tr(
         "Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 "
-        "wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with "
-        "Ctrl-C "
+        "wrong usage; 3 timed out; 4 finished, but something failed or was there before, or diagnose has "
+        "found what stands in the way; 130 cancelled with Ctrl-C "
         "(the other PC is told; a second Ctrl-C ends at once).");
 }
 

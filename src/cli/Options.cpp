@@ -93,7 +93,7 @@ ParsedArguments parseCommand(Command command, const QList<Token> &tokenList)
 {
     Options options;
     options.command = command;
-    if (command != Command::Discover) // which is told its role
+    if (command != Command::Discover && command != Command::Diagnose) // which are told their role
         options.role = command == Command::Receive ? NewPC : OldPC;
 
     bool commandSeen = false;
@@ -127,7 +127,7 @@ ParsedArguments parseArguments(const QStringList &arguments)
                                    [](const Token &token) { return token.name.isEmpty(); });
     if (word == tokenList.end())
         return wantsHelp ? answer(generalHelp())
-                         : failure(Text::tr("Say receive, send, discover or scan. See --help."));
+                         : failure(Text::tr("Say receive, send, discover, diagnose or scan. See --help."));
 
     const std::optional<Command> command = commandNamed(*word->value);
     if (!command)

@@ -2,6 +2,7 @@
 
 #include "core/common/Records.h"
 #include "core/common/RunSummary.h"
+#include "diagnosis/Finding.h"
 
 #include <QByteArray>
 #include <QString>
@@ -54,6 +55,8 @@ public:
     /// How far the scan of this PC has come, what it looks at, and how many applications it has found.
     virtual void scanning(int percent, const QString &item, int apps) = 0;
     virtual void inventory(const ScanResult &result) = 0;
+    virtual void finding(const Finding &finding) = 0;
+    virtual void diagnosed(int problems) = 0; ///< all findings have been told; so many stand in the way
     virtual void warning(const QString &message) = 0;
     virtual void error(const QString &message) = 0;
 };

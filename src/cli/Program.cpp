@@ -1,5 +1,6 @@
 #include "cli/Program.h"
 
+#include "cli/DiagnoseSession.h"
 #include "cli/DiscoverSession.h"
 #include "cli/FolderCheck.h"
 #include "cli/JsonOutput.h"
@@ -69,6 +70,7 @@ std::unique_ptr<Session> makeSession(const Options &options, TransferEngine &eng
     case Command::Scan:
         return std::make_unique<ScanSession>(options, engine, output);
     case Command::Discover:
+    case Command::Diagnose: // has no engine
         break;
     }
     return std::make_unique<DiscoverSession>(options, engine, output);
@@ -94,6 +96,20 @@ QString preparePaths(Options &options)
     }
     options.folders = folders;
     return {};
+}
+
+/// Runs a session to its end and returns its exit code.
+template <typename SessionType>
+int runToItsEnd(SessionType &session)
+{
+    const Platform::InterruptNotifier interrupts;
+    QObject::connect(&interrupts, &Platform::InterruptNotifier::interrupted, &session,
+                     &SessionType::interrupt);
+    QObject::connect(
+        &session, &SessionType::finished, qApp, [](int code) { QCoreApplication::exit(code); },
+        Qt::QueuedConnection);
+    QMetaObject::invokeMethod(&session, &SessionType::start, Qt::QueuedConnection);
+    return QCoreApplication::exec();
 }
 
 } // namespace
@@ -123,16 +139,13 @@ std::optional<int> answered(ParsedArguments &parsed)
 int run(const Options &options)
 {
     const std::unique_ptr<Output> output = makeOutput(options);
+    if (options.command == Command::Diagnose) {
+        DiagnoseSession session(options, *output);
+        return runToItsEnd(session);
+    }
     TransferEngine engine;
     const std::unique_ptr<Session> session = makeSession(options, engine, *output);
-    const Platform::InterruptNotifier interrupts;
-    QObject::connect(&interrupts, &Platform::InterruptNotifier::interrupted, session.get(),
-                     &Session::interrupt);
-    QObject::connect(
-        session.get(), &Session::finished, qApp, [](int code) { QCoreApplication::exit(code); },
-        Qt::QueuedConnection);
-    QMetaObject::invokeMethod(session.get(), &Session::start, Qt::QueuedConnection);
-    return QCoreApplication::exec();
+    return runToItsEnd(*session);
 }
 
 } // namespace Zandrove::Cli

@@ -32,6 +32,22 @@ QString inventoryRow(std::optional<qint64> size, QStringList parts)
     return (size ? formatSize(*size) : QString()).rightJustified(SizeColumns) + u"  "_s + parts.join(u"  "_s);
 }
 
+constexpr int FindingIndent = 10; // columns
+constexpr int FindingWidth = 88;
+
+QString severityWord(Severity severity)
+{
+    switch (severity) {
+    case Severity::Ok:
+        return TextOutput::tr("ok");
+    case Severity::Hint:
+        return TextOutput::tr("hint");
+    case Severity::Problem:
+        return TextOutput::tr("PROBLEM");
+    }
+    return {};
+}
+
 } // namespace
 
 TextOutput::TextOutput(Streams streams, int role, bool listsPeers)
@@ -289,6 +305,29 @@ void TextOutput::inventory(const ScanResult &result)
     section(tr("Settings: %1"), settings);
 
     line(tr("%1 in applications and folders.").arg(formatSize(result.totalSize)));
+}
+
+void TextOutput::finding(const Finding &finding)
+{
+    const QString indent(FindingIndent, u' ');
+    const auto paragraph = [](const QString &text) {
+        return wrapped(printable(text), FindingIndent, FindingWidth);
+    };
+    clearLiveLine();
+    QString text = fitted(severityWord(finding.severity), FindingIndent - 1);
+    text += QString(FindingIndent - columnsOf(text), u' ') + paragraph(finding.sentence) + u'\n';
+    if (!finding.advice.isEmpty())
+        text += indent + paragraph(finding.advice) + u'\n';
+    if (!finding.command.isEmpty())
+        text += indent + u"  "_s + printable(finding.command) + u'\n';
+    m_streams.out(text.toUtf8());
+}
+
+void TextOutput::diagnosed(int problems)
+{
+    line({});
+    line(problems == 0 ? tr("Nothing was found that stands in the way.")
+                       : tr("Found in the way: %1.").arg(problems));
 }
 
 void TextOutput::warning(const QString &message)

@@ -20,7 +20,8 @@ int runProgram(int argc, char *argv[])
     Cli::ParsedArguments parsed = Cli::parseArguments(arguments);
     if (const std::optional<int> exitCode = Cli::answered(parsed))
         return *exitCode;
-    if (parsed.options->command != Cli::Command::Scan)
+    const Cli::Command command = parsed.options->command;
+    if (command != Cli::Command::Scan && command != Cli::Command::Diagnose) // which change nothing
         StartUp::ensureFirewallRules();
     StartUp::registerMetaTypes();
     return Cli::run(*parsed.options);

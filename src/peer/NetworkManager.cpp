@@ -25,7 +25,6 @@ namespace Zandrove {
 
 namespace {
 
-constexpr auto ConnectTimeout = 5000ms;
 /// How long the end of the program waits for the last frames to leave.
 constexpr auto FarewellTime = 200ms;
 /// What a peer that has been dialled, and has not said yes, may keep waiting here in an unfinished frame.
@@ -46,6 +45,9 @@ NetworkManager::NetworkManager(QObject *parent, LinkEnvironment environment)
           m_environment, [this] { return discoveryFrame(); }, this))
     , m_timeoutTimer(new QTimer(this))
     , m_scanDelayTimer(new QTimer(this))
+    , m_peers([this](const QStringList &candidates) {
+        return m_mode == CableMode ? m_cableHelper->cableFirst(candidates) : candidates;
+    })
     , m_tcpServer(new QTcpServer(this))
     , m_connectionTimer(new QTimer(this))
     , m_waitingRoom(new WaitingRoom(
@@ -54,7 +56,6 @@ NetworkManager::NetworkManager(QObject *parent, LinkEnvironment environment)
 {
     setupDiscovery();
     m_connectionTimer->setSingleShot(true);
-    m_connectionTimer->setInterval(ConnectTimeout);
     connect(m_connectionTimer, &QTimer::timeout, this, &NetworkManager::onConnectionTimeout);
     connect(m_waitingRoom, &WaitingRoom::asked, this, &NetworkManager::onAsked);
     connect(m_waitingRoom, &WaitingRoom::ended, this, [this](quint64 question) {
@@ -147,39 +148,6 @@ void NetworkManager::sendCommand(Protocol::MessageType type, const QByteArray &p
 {
     if (m_link)
         m_link->send(type, payload);
-}
-
-void NetworkManager::connectToPC(const QString &pcId)
-{
-    qCDebug(logPeer) << "=== connectToPC() ===";
-    qCDebug(logPeer) << "Target:" << pcId;
-    const auto target = m_peers.withId(pcId);
-    if (!target) {
-        Q_EMIT connectionFailed(tr("PC not found"));
-        return;
-    }
-    const QString ip = m_cableHelper->chooseBestIP(target->ip, target->senderIp);
-    qCDebug(logPeer) << "Payload IP:" << target->ip;
-    qCDebug(logPeer) << "Sender IP:" << target->senderIp;
-    qCDebug(logPeer) << "Chosen IP:" << ip;
-    if (isAccepted())
-        endPair(); // a live link is given up for the new one
-    drop();
-    Link *link = adopt(new Link(new QTcpSocket, Link::Shared::apart(&m_frames), this));
-    m_pairing.dialled(*target);
-    m_dialledIP = ip;
-    applyPairing();
-    m_connectionTimer->start();
-    link->dial(ip, target->port);
-}
-
-void NetworkManager::connectByVerifyCode(const QString &code)
-{
-    const auto target = m_peers.withCode(code);
-    if (target)
-        connectToPC(target->id);
-    else
-        Q_EMIT connectionFailed(tr("No device found with verification code: %1").arg(code));
 }
 
 void NetworkManager::disconnect()
@@ -300,8 +268,10 @@ void NetworkManager::applyPairing()
 void NetworkManager::onLinkOpened()
 {
     m_connectionTimer->stop();
+    m_dialPlan.reached();
     const QJsonObject json{{u"name"_s, getComputerName()}, {u"os"_s, getOSVersion()}};
     sendCommand(Protocol::MessageType::ConnectRequest, compactJson(json));
+    Q_EMIT waitingForAnswer(m_pairing.target().name);
 }
 
 void NetworkManager::onLinkClosed(Link *link)
@@ -321,6 +291,8 @@ void NetworkManager::onLinkFailed(QAbstractSocket::SocketError error, const QStr
     if (error == QAbstractSocket::RemoteHostClosedError && m_pairing.state() != Pairing::State::Dialling)
         return;
     m_connectionTimer->stop();
+    if (dialNext())
+        return;
     const bool wasAccepted = isAccepted();
     Link *const link = release();
     link->abandon();
@@ -382,6 +354,8 @@ void NetworkManager::onConnectReject()
 void NetworkManager::onConnectionTimeout()
 {
     qCDebug(logPeer) << "Connection timeout";
+    if (dialNext())
+        return;
     if (m_link && m_link->isDialling())
         drop();
     Q_EMIT connectionTimeout();

@@ -15,9 +15,11 @@ NetworkAdapter adapterFrom(const QNetworkInterface &networkInterface)
     adapter.running = flags.testFlag(QNetworkInterface::IsRunning);
     adapter.loopback = flags.testFlag(QNetworkInterface::IsLoopBack);
     adapter.canBroadcast = flags.testFlag(QNetworkInterface::CanBroadcast);
+    adapter.wired = networkInterface.type() == QNetworkInterface::Ethernet;
     const auto entries = networkInterface.addressEntries();
     for (const QNetworkAddressEntry &entry : entries)
-        adapter.addresses.append({entry.ip(), entry.broadcast()});
+        adapter.addresses.append({entry.ip(), entry.broadcast(), entry.prefixLength()});
+    adapter.systemName = networkInterface.name();
     return adapter;
 }
 

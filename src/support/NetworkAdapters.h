@@ -13,6 +13,7 @@ struct AdapterAddress
 {
     QHostAddress ip;
     QHostAddress broadcast; ///< null where the adapter has none
+    int prefixLength = -1;  ///< of its subnet, in bits; -1 where it isn't known
 };
 
 /// A network adapter of this machine, as a plain value, so that address rules can be
@@ -25,6 +26,8 @@ struct NetworkAdapter
     bool loopback = false;
     bool canBroadcast = false;
     QList<AdapterAddress> addresses; ///< in the system's order
+    bool wired = false;              ///< by a cable, as far as the system tells
+    QString systemName;              ///< by which the rest of the system knows it
 };
 
 /// Source of the adapters; called anew each time they are needed.

@@ -1,0 +1,97 @@
+#include "platform/NetworkFacts.h"
+
+// In this order: what is declared in one header is needed by the next.
+#include <winsock2.h>
+#include <ws2ipdef.h>
+
+#include <iphlpapi.h>
+#include <netioapi.h>
+
+#include "platform/windows/NativePath.h"
+
+#include <QtEndian>
+
+#include <memory>
+
+namespace Zandrove::Platform {
+
+namespace {
+
+constexpr ULONG VirtualType = 53; // IF_TYPE_PROP_VIRTUAL, that of most VPNs
+
+struct TableDeleter
+{
+    void operator()(void *table) const { FreeMibTable(table); }
+};
+
+QString nameOf(const NET_LUID &adapter)
+{
+    wchar_t name[IF_MAX_STRING_SIZE + 1] = {};
+    if (ConvertInterfaceLuidToNameW(&adapter, name, IF_MAX_STRING_SIZE + 1) != NO_ERROR)
+        return {};
+    return QString::fromWCharArray(name);
+}
+
+} // namespace
+
+AdapterKind adapterKind(const QString &adapter)
+{
+    MIB_IF_ROW2 row = {};
+    if (ConvertInterfaceNameToLuidW(wide(adapter), &row.InterfaceLuid) != NO_ERROR ||
+        GetIfEntry2(&row) != NO_ERROR)
+        return AdapterKind::Unknown;
+    switch (row.Type) {
+    case IF_TYPE_IEEE80211:
+        return AdapterKind::Wireless;
+    case IF_TYPE_ETHERNET_CSMACD:
+        return row.InterfaceAndOperStatusFlags.HardwareInterface ? AdapterKind::Wired : AdapterKind::Virtual;
+    case IF_TYPE_PPP:
+    case IF_TYPE_TUNNEL:
+    case VirtualType:
+        return AdapterKind::Vpn;
+    default:
+        return AdapterKind::Unknown;
+    }
+}
+
+QList<NetworkRoute> networkRoutes()
+{
+    MIB_IPFORWARD_TABLE2 *table = nullptr;
+    if (GetIpForwardTable2(AF_INET, &table) != NO_ERROR)
+        return {};
+    const std::unique_ptr<MIB_IPFORWARD_TABLE2, TableDeleter> owner(table);
+    QList<NetworkRoute> routes;
+    for (ULONG i = 0; i < table->NumEntries; ++i) {
+        const MIB_IPFORWARD_ROW2 &row = table->Table[i];
+        // The metric of a route counts on top of that of its adapter.
+        MIB_IPINTERFACE_ROW interfaceRow = {};
+        interfaceRow.Family = AF_INET;
+        interfaceRow.InterfaceLuid = row.InterfaceLuid;
+        const bool isKnown = GetIpInterfaceEntry(&interfaceRow) == NO_ERROR;
+        routes.append({.adapter = nameOf(row.InterfaceLuid),
+                       .network = qFromBigEndian<quint32>(row.DestinationPrefix.Prefix.Ipv4.sin_addr.s_addr),
+                       .prefixLength = row.DestinationPrefix.PrefixLength,
+                       .metric = quint32(row.Metric) + (isKnown ? quint32(interfaceRow.Metric) : 0)});
+    }
+    return routes;
+}
+
+QStringList adaptersWithNeighbours()
+{
+    MIB_IPNET_TABLE2 *table = nullptr;
+    if (GetIpNetTable2(AF_INET, &table) != NO_ERROR)
+        return {};
+    const std::unique_ptr<MIB_IPNET_TABLE2, TableDeleter> owner(table);
+    QStringList adapters;
+    for (ULONG i = 0; i < table->NumEntries; ++i) {
+        const MIB_IPNET_ROW2 &row = table->Table[i];
+        const bool hasAnswered = row.State == NlnsReachable || row.State == NlnsStale ||
+                                 row.State == NlnsDelay || row.State == NlnsProbe;
+        const QString adapter = hasAnswered ? nameOf(row.InterfaceLuid) : QString();
+        if (hasAnswered && !adapters.contains(adapter))
+            adapters.append(adapter);
+    }
+    return adapters;
+}
+
+} // namespace Zandrove::Platform
