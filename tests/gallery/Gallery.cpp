@@ -9,6 +9,7 @@
 #include "core/engine/TransferEngine.h"
 #include "inventory/SettingScanner.h"
 #include "peer/NetworkManager.h"
+#include "peer/Protocol.h"
 #include "support/Utilities.h"
 #include "ui/LinkWatch.h"
 #include "ui/MainWindow.h"
@@ -31,6 +32,7 @@
 #include <QMessageBox>
 #include <QSignalSpy>
 #include <QTabWidget>
+#include <QTcpSocket>
 #include <QTest>
 #include <QTextStream>
 #include <QTimer>
@@ -168,8 +170,19 @@ struct Stage
         view.click(getComputerName());
     }
 
+    /// A PC that asks to be let in.
+    void beAskedBy(const QByteArray &name)
+    {
+        asker.connectToHost(QHostAddress::LocalHost, engine->findChild<NetworkManager *>()->serverPort());
+        asker.write(
+            Protocol::buildFrame(Protocol::MessageType::ConnectRequest, "{\"name\":\"" + name + "\"}", 1));
+        QSignalSpy(engine, &TransferEngine::connectionRequested).wait();
+    }
+
     static ScanResult scanResult();
 
+    bool isChanging = false; ///< the dialog that stands there is not ready
+    QTcpSocket asker;
     QByteArray announcement; ///< the last one of the silent peer
     std::unique_ptr<TransferEngine> silentPeer;
     TransferEngine *engine;
@@ -315,9 +328,27 @@ QList<Scene> connectionScenes(int role)
                        Q_EMIT stage.engine->directScanStarted();
                        Q_EMIT stage.engine->directScanProgress(96, 254);
                    }),
+        connection(u"port-taken"_s,
+                   [](Stage &stage) { Q_EMIT stage.engine->portTaken(TcpPort, u"Acme Backup Service"_s); }),
+        connection(u"same-role"_s, [](Stage &stage) { Q_EMIT stage.engine->sameRolePeer(u"OLDBOX"_s); }),
+        connection(u"nobody"_s,
+                   [](Stage &stage) { stage.window.findChild<QTimer *>(u"hintTimer"_s)->start(0ms); }),
+        connection(u"address"_s,
+                   [](Stage &stage) {
+                       stage.view.click(ConnectionPage::tr("Enter an address instead"));
+                       stage.view.type(u"192.168.1"_s);
+                       stage.view.press(Qt::Key_Return);
+                   }),
+        connection(u"question-deaf"_s, [](Stage &stage) { stage.beAskedBy("<b>ANNAS-LAPTOP</b>"); }),
         connection(u"question"_s,
                    [](Stage &stage) {
-                       Q_EMIT stage.engine->connectionRequested(u"<b>ANNAS-LAPTOP</b>"_s, QString());
+                       stage.beAskedBy("<b>ANNAS-LAPTOP</b>");
+                       stage.isChanging = true;
+                       (void)QTest::qWaitFor([&stage] {
+                           const QWidget *yes = stage.view.control(QMessageBox::tr("Yes"));
+                           return yes && yes->isEnabled();
+                       });
+                       stage.isChanging = false;
                    }),
     };
 }
@@ -442,7 +473,7 @@ bool render(const Scene &scene, const QString &file)
     bool saved = false;
     QTimer look;
     QObject::connect(&look, &QTimer::timeout, &stage.window, [&] {
-        if (!arranged && stage.view.front() == &stage.window)
+        if (!arranged && (stage.isChanging || stage.view.front() == &stage.window))
             return;
         look.stop();
         QTimer::singleShot(SettlingTime, &stage.window, [&] {
