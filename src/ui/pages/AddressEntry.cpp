@@ -102,6 +102,11 @@ AddressEntry::~AddressEntry()
     forgetLookUp();
 }
 
+QString AddressEntry::enteredText() const
+{
+    return m_field->text().trimmed();
+}
+
 void AddressEntry::clear()
 {
     m_field->clear();
@@ -129,7 +134,7 @@ void AddressEntry::forgetLookUp()
 
 void AddressEntry::onEntered()
 {
-    const QString text = m_field->text().trimmed();
+    const QString text = enteredText();
     if (text.isEmpty() || m_lookUp >= 0)
         return;
     const QString problem = problemOf(text);
