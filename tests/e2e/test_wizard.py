@@ -50,7 +50,7 @@ class WizardTest(pcs.TestCase):
         old.type(new.code())
         old.picture("2-connection")
         old.click("Connect")
-        new.wait(dialog="Connection Request", text="OldBox")
+        new.wait(dialog="Connection Request", text="OldBox", enabled="Yes")
         new.picture("2-question")
         new.click("Yes")
 
@@ -148,7 +148,8 @@ class WizardTest(pcs.TestCase):
         old.type(new.code())
         self.assertEqual(old.do("state")["focus"], "Connect")
         old.key("Return")
-        new.wait(dialog="Connection Request")
+        new.wait(dialog="Connection Request", enabled="Yes")
+        new.tab_to("Yes")
         new.key("Return")
         new.wait(page=5)
 
@@ -227,12 +228,13 @@ class WizardTest(pcs.TestCase):
         old = self.window(self.pair.old)
         self.to_connection(old, "Old PC")
         self.to_connection(new, "New PC")
-        old.wait(text="NewBox")
-        old.click("Their code, character 1")
-        old.type(new.code())
-        old.click("Connect")
-        new.wait(dialog="Connection Request")
+        old.click("Enter an address instead")
+        old.type("192.168.77.2")
+        old.key("Return")
+        old.wait(text="Waiting for 192.168.77.2: somebody has to press Yes there")
+        new.wait(dialog="Connection Request", text="192.168.77.1")
         self.assertCloses(old)
+        new.wait(dialog="", text="The other PC is no longer waiting")
         self.assertCloses(new, by_system=True)
 
     def test_close_while_scanning_and_choosing(self):
