@@ -98,12 +98,15 @@ class Truth(pcs.TestCase):
             return ((old, 0, "complete"), (new, 0, "complete"))
         if how.startswith("cable"):
             seconds = int(how.split()[-2])
+            lost = seconds > 120
+            if lost:  # only of a peer whose heartbeat was heard
+                self.pair.limit_speed(SPEED // 20)
+                time.sleep(6)
             for state, wait in (("down", seconds), ("up", 0)):
                 self.pair.new.run("ip", "link", "set", pcs.LINK, state)
                 time.sleep(wait)
             self.assertEqual([program.count("warning", lambda event: event["message"].startswith("No answer from"))
                               for program in (old, new)], [int(seconds > 15)] * 2)
-            lost = seconds > 120
             return ((old, int(lost), "linkLost" if lost else "complete"), (new, None, "linkLost" if lost else "complete"))
         victim, other = (old, new) if how.startswith("Old PC") else (new, old)
         if "killed" in how:
