@@ -225,6 +225,19 @@ QStringList CableModeHelper::getLocalIPs() const
 
 void CableModeHelper::refreshLocalIPs()
 {
+    (void)readLocalIPs();
+    logLocalIPs();
+}
+
+void CableModeHelper::watchLocalIPs()
+{
+    if (readLocalIPs())
+        logLocalIPs();
+}
+
+/// Whether they have changed.
+bool CableModeHelper::readLocalIPs()
+{
     QSet<QString> ips = {u"127.0.0.1"_s};
     const QList<NetworkAdapter> adapters = m_adapters();
     for (const NetworkAdapter &adapter : adapters) {
@@ -232,8 +245,11 @@ void CableModeHelper::refreshLocalIPs()
             ips.insert(normalizeIP(entry.ip.toString()));
     }
     m_localIPsValid = true;
-    if (std::exchange(m_localIPs, ips) == ips)
-        return;
+    return std::exchange(m_localIPs, ips) != ips;
+}
+
+void CableModeHelper::logLocalIPs() const
+{
     qCDebug(logPeer) << "[CableModeHelper] Local IPs:" << m_localIPs;
 }
 

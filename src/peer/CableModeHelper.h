@@ -39,6 +39,8 @@ public:
 
     /// Reads this machine's addresses anew: adapters come and go.
     void refreshLocalIPs();
+    /// The same for who asks all the time: the log hears of it only when they have changed.
+    void watchLocalIPs();
 
     /// The address to announce in cable mode: private, else internet-sharing (192.168.137.x), else
     /// link-local, else "127.0.0.1".
@@ -88,6 +90,8 @@ private:
     [[nodiscard]] QString localIPInSubnetOf(const QString &ip) const;
     [[nodiscard]] QString firstReachable(const QString &payloadIP, const QString &senderIP);
     [[nodiscard]] QStringList getLocalIPs() const;
+    [[nodiscard]] bool readLocalIPs();
+    void logLocalIPs() const;
 
     void collectScanTargets();
     void scanNextBatch();
