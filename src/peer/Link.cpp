@@ -1,5 +1,6 @@
 #include "peer/Link.h"
 
+#include "peer/CableModeHelper.h"
 #include "peer/Log.h"
 #include "platform/SocketShutdown.h"
 
@@ -105,6 +106,11 @@ bool Link::isEstablished() const
 QHostAddress Link::peerAddress() const
 {
     return m_socket->peerAddress();
+}
+
+QString Link::peerIp() const
+{
+    return CableModeHelper::normalizeIP(peerAddress().toString());
 }
 
 void Link::send(Protocol::MessageType type, const QByteArray &payload)

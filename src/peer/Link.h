@@ -58,6 +58,7 @@ public:
     [[nodiscard]] bool isEstablished() const; ///< TCP is up
     [[nodiscard]] bool isSilent() const { return m_watch.silentSeconds() >= Liveness::SilentAfter; }
     [[nodiscard]] QHostAddress peerAddress() const;
+    [[nodiscard]] QString peerIp() const; ///< normalised, as the tables and questions have it
 
     /// Frames a message and writes it, be it for later while TCP is not up. Dropped when the link is over.
     void send(Protocol::MessageType type, const QByteArray &payload);

@@ -30,11 +30,6 @@ constexpr auto FarewellTime = 200ms;
 /// What a peer that has been dialled, and has not said yes, may keep waiting here in an unfinished frame.
 constexpr qsizetype UnacceptedLimitBytes = 16 << 20;
 
-QString addressOf(const Link *link)
-{
-    return CableModeHelper::normalizeIP(link->peerAddress().toString());
-}
-
 } // namespace
 
 NetworkManager::NetworkManager(QObject *parent, LinkEnvironment environment)
@@ -149,6 +144,7 @@ void NetworkManager::disconnect()
 {
     sendCommand(Protocol::MessageType::Disconnect);
     hangUp();
+    askDeferred();
 }
 
 void NetworkManager::acceptConnection(quint64 question)
@@ -166,6 +162,7 @@ void NetworkManager::acceptConnection(quint64 question)
     PCInfo peer;
     peer.id = peer.name = asker->name;
     peer.ip = peer.senderIp = asker->ip;
+    peer.os = asker->os;
     m_pairing.admitted(peer);
     sendCommand(Protocol::MessageType::ConnectAccept);
     m_waitingRoom->refuseAll();
@@ -320,7 +317,7 @@ void NetworkManager::onFrame(Protocol::MessageType type, const QByteArray &paylo
     case Protocol::MessageType::ConnectRequest:
         return; // it asks whoever has come in, and that one is no longer asked
     case Protocol::MessageType::ConnectAccept:
-        if (m_pairing.toldYes(addressOf(m_link))) {
+        if (m_pairing.toldYes(m_link->peerIp())) {
             m_waitingRoom->refuseAll();
             pair();
         }

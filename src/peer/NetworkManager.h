@@ -150,7 +150,8 @@ Q_SIGNALS:
     void connecting(); ///< never emitted
     void connected();  ///< paired, on either side
     /// The link is over, once for each and after all frames that had come on it: the peer has left, the
-    /// connection broke, or nothing came for 120 s. acceptedLink() is 0 from then on.
+    /// connection broke, or nothing came for 120 s. Not told of a link that connectToPC gives up for a dial.
+    /// acceptedLink() is 0 from then on.
     void disconnected();
     /// The accepted link has ended without a goodbye of either side. What else is told of its end follows.
     void linkBroke();

@@ -201,8 +201,8 @@ void NetworkManager::startTimers()
 
 QByteArray NetworkManager::discoveryFrame()
 {
-    qCDebug(logPeer) << "Sending broadcast... Role:" << m_role;
-    m_cableHelper->refreshLocalIPs(); // a peer may have the address by now that this machine had
+    qCDebug(logPeer) << "Sending broadcast... Role:" << roleName(m_role);
+    m_cableHelper->watchLocalIPs(); // a peer may have the address by now that this machine had
     const QString name = getComputerName();
     const quint16 port = m_environment.tcpPort == TcpPort ? TcpPort : serverPort();
     const QString ip =
@@ -375,8 +375,7 @@ void NetworkManager::onAsked(const ConnectionQuestion &question)
 
 bool NetworkManager::isBusyFor(const QString &ip) const
 {
-    return isAccepted() && m_isBusy && m_isBusy() && !m_link->isSilent() &&
-           CableModeHelper::normalizeIP(m_link->peerAddress().toString()) != ip;
+    return isAccepted() && m_isBusy && m_isBusy() && !m_link->isSilent() && m_link->peerIp() != ip;
 }
 
 bool NetworkManager::isDialling(const QString &ip) const

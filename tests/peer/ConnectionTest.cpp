@@ -1,6 +1,7 @@
 #include "PeerTest.h"
 
 #include "peer/Link.h"
+#include "support/Utilities.h"
 
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -126,6 +127,7 @@ private Q_SLOTS:
         QVERIFY(m_newPC->manager.isAccepted() && m_oldPC->manager.isAccepted());
         QCOMPARE(m_oldPC->manager.connectedPC().senderIp, OtherMachine.toString());
         QCOMPARE(m_newPC->manager.connectedPC().id, m_newPC->requested.last().at(0).toString());
+        QCOMPARE(m_newPC->manager.connectedPC().os, getOSVersion());
 
         m_oldPC->manager.sendCommand(MessageType::Heartbeat);
         m_oldPC->sendChunks(1);
