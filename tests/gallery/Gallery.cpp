@@ -7,6 +7,7 @@
 
 #include "core/app/StartUp.h"
 #include "core/engine/TransferEngine.h"
+#include "diagnosis/Diagnosis.h"
 #include "inventory/SettingScanner.h"
 #include "peer/NetworkManager.h"
 #include "peer/Protocol.h"
@@ -53,6 +54,7 @@ PCInfo peer(const QString &name, const QString &ip, bool online = true)
 {
     PCInfo pc;
     pc.id = name;
+    pc.key = qHash(name);
     pc.name = name;
     pc.ip = ip;
     pc.os = u"Windows 11 Pro 23H2 (Build 22631)"_s;
@@ -177,6 +179,36 @@ struct Stage
         asker.write(
             Protocol::buildFrame(Protocol::MessageType::ConnectRequest, "{\"name\":\"" + name + "\"}", 1));
         QSignalSpy(engine, &TransferEngine::connectionRequested).wait();
+    }
+
+    /// The panel with findings that are nobody's.
+    void diagnose(bool finds)
+    {
+        view.click(ConnectionPage::tr("Can't find the other PC?"));
+        auto *diagnosis = window.findChild<Diagnosis *>();
+        diagnosis->cancel();
+        Q_EMIT diagnosis->finding(
+            {u"adapter"_s,
+             u"eth0"_s,
+             Severity::Ok,
+             u"eth0 (wired) has the address 192.168.1.23, and broadcasts leave by it."_s,
+             {},
+             {}});
+        if (finds) {
+            Q_EMIT diagnosis->finding(
+                {u"vpn"_s,
+                 u"tun0"_s,
+                 Severity::Hint,
+                 u"The VPN tun0 takes what is not for a local network."_s,
+                 u"Disconnect it if the PCs don't find each other: many a VPN keeps its "
+                 "PC away from the local network."_s,
+                 {}});
+            Q_EMIT diagnosis->finding({u"firewall"_s, u"ufw"_s, Severity::Problem,
+                                       u"ufw is on, and keeps out TCP port 52024 and UDP port 52025."_s,
+                                       u"Have it let both ports in."_s,
+                                       u"sudo ufw allow 52024/tcp && sudo ufw allow 52025/udp"_s});
+        }
+        Q_EMIT diagnosis->finished(finds ? 1 : 0);
     }
 
     static ScanResult scanResult();
@@ -331,6 +363,8 @@ QList<Scene> connectionScenes(int role)
         connection(u"port-taken"_s,
                    [](Stage &stage) { Q_EMIT stage.engine->portTaken(TcpPort, u"Acme Backup Service"_s); }),
         connection(u"same-role"_s, [](Stage &stage) { Q_EMIT stage.engine->sameRolePeer(u"OLDBOX"_s); }),
+        connection(u"diagnosis"_s, [](Stage &stage) { stage.diagnose(true); }),
+        connection(u"diagnosis-clear"_s, [](Stage &stage) { stage.diagnose(false); }),
         connection(u"nobody"_s,
                    [](Stage &stage) { stage.window.findChild<QTimer *>(u"hintTimer"_s)->start(0ms); }),
         connection(u"address"_s,

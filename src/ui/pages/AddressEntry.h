@@ -20,6 +20,7 @@ public:
     ~AddressEntry() override;
 
     void clear();
+    [[nodiscard]] QString enteredText() const;
     /// A failure that has to do with what was entered. An empty text takes it back.
     void showError(const QString &text);
 

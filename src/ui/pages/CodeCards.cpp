@@ -1,11 +1,13 @@
 #include "ui/pages/CodeCards.h"
 
+#include "support/NetworkAdapters.h"
 #include "ui/pages/AddressEntry.h"
 #include "ui/pages/CodeEdit.h"
 #include "ui/pages/ConnectionPage.h" // whose the texts are
 #include "ui/pages/PageCard.h"
 #include "ui/widgets/Labels.h"
 
+#include <QAbstractSocket>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -48,6 +50,23 @@ QLabel *createCodeLabel()
     return label;
 }
 
+/// Those by which another PC may reach this one.
+QStringList ownAddresses()
+{
+    constexpr qsizetype Most = 3;
+    QStringList result;
+    const QList<NetworkAdapter> adapters = systemNetworkAdapters();
+    for (const NetworkAdapter &adapter : adapters) {
+        if (!adapter.up || !adapter.running || adapter.loopback)
+            continue;
+        for (const AdapterAddress &address : adapter.addresses) {
+            if (address.ip.protocol() == QAbstractSocket::IPv4Protocol && result.size() < Most)
+                result.append(address.ip.toString());
+        }
+    }
+    return result;
+}
+
 } // namespace
 
 CodeCards::CodeCards(QWidget *parent)
@@ -82,6 +101,8 @@ QWidget *CodeCards::createOwnCard()
     }
     layout->addWidget(
         makeCentredLabel(ConnectionPage::tr("Show this code to the other PC"), 12, Colour::TextMuted));
+    m_addresses = makeCentredLabel(QString(), 12, Colour::TextMuted);
+    layout->addWidget(m_addresses);
     return card;
 }
 
@@ -135,6 +156,9 @@ void CodeCards::setOwnCode(const QString &code)
     const qsizetype shown = std::min(code.size(), m_labels.size());
     for (qsizetype i = 0; i < shown; ++i)
         m_labels[i]->setText(code.at(i));
+    const QStringList addresses = ownAddresses();
+    m_addresses->setText(ConnectionPage::tr("Address of this PC: %1").arg(addresses.join(", "_L1)));
+    m_addresses->setVisible(!addresses.isEmpty());
 }
 
 void CodeCards::clearEntries()

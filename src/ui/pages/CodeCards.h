@@ -21,6 +21,7 @@ class CodeCards final : public QWidget
 public:
     explicit CodeCards(QWidget *parent = nullptr);
 
+    /// The code, and below it the addresses that this PC has now.
     void setOwnCode(const QString &code);
     void clearEntries();
     [[nodiscard]] AddressEntry *addressEntry() const { return m_address; }
@@ -39,6 +40,7 @@ private:
     [[nodiscard]] QString enteredCode() const;
 
     QList<QLabel *> m_labels;
+    QLabel *m_addresses = nullptr;
     QWidget *m_codeEntry = nullptr;
     QList<QLineEdit *> m_edits;
     QPushButton *m_connect = nullptr;

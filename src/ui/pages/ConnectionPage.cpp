@@ -7,12 +7,14 @@
 #include "ui/pages/CodeCards.h"
 #include "ui/pages/ConnectionQuestions.h"
 #include "ui/pages/DeviceCard.h"
+#include "ui/pages/DiagnosisPanel.h"
 #include "ui/pages/SearchNotice.h"
 #include "ui/widgets/Labels.h"
 #include "ui/widgets/NoticeBar.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -64,23 +66,35 @@ void ConnectionPage::setupUi()
 
 QBoxLayout *ConnectionPage::createColumns()
 {
-    m_devices = new DeviceCard;
     m_codes = new CodeCards;
-    connect(m_devices, &DeviceCard::picked, this, &ConnectionPage::onPicked);
-    connect(m_devices, &DeviceCard::refreshClicked, this, &ConnectionPage::onRefreshClicked);
     connect(m_codes, &CodeCards::codeEntered, this, &ConnectionPage::onCodeEntered);
     connect(m_codes->addressEntry(), &AddressEntry::addressEntered, this, &ConnectionPage::onAddressEntered);
     auto *columns = new QHBoxLayout;
     columns->setSpacing(20);
-    columns->addWidget(m_devices, 1);
+    columns->addWidget(createLeft(), 1);
     columns->addWidget(m_codes);
     return columns;
+}
+
+QWidget *ConnectionPage::createLeft()
+{
+    m_devices = new DeviceCard;
+    connect(m_devices, &DeviceCard::picked, this, &ConnectionPage::onPicked);
+    connect(m_devices, &DeviceCard::refreshClicked, this, &ConnectionPage::onRefreshClicked);
+    connect(m_devices, &DeviceCard::helpClicked, this, &ConnectionPage::diagnose);
+    m_diagnosis = new DiagnosisPanel;
+    connect(m_diagnosis, &DiagnosisPanel::closed, this, &ConnectionPage::showDevices);
+    m_left = new QStackedWidget;
+    m_left->addWidget(m_devices);
+    m_left->addWidget(m_diagnosis);
+    return m_left;
 }
 
 void ConnectionPage::connectEngine()
 {
     connect(m_engine, &TransferEngine::pcDiscovered, m_devices, &DeviceCard::setPeer);
-    connect(m_engine, &TransferEngine::pcLost, m_devices, &DeviceCard::removePeer);
+    connect(m_engine, &TransferEngine::pcLost, m_devices,
+            [this](const QString &, quint64 key) { m_devices->removePeer(key); });
     connect(m_engine, &TransferEngine::waitingForAnswer, this, [this](const QString &pcName) {
         m_devices->say(tr("Waiting for %1: somebody has to press Yes there").arg(shownName(pcName, this)),
                        Theme::Status::Working);
@@ -125,6 +139,7 @@ void ConnectionPage::showEvent(QShowEvent *event)
 
 void ConnectionPage::startDiscovery()
 {
+    showDevices();
     m_notice->forget();
     m_engine->startDiscovery();
     m_codes->setOwnCode(m_engine->verifyCode());
@@ -147,6 +162,7 @@ void ConnectionPage::onPicked(const PCInfo &pc)
 void ConnectionPage::onAddressEntered(const QString &address)
 {
     m_enteredAddress = address;
+    showDevices();
     m_devices->say(tr("Connecting to %1...").arg(address), Theme::Status::Working);
     m_engine->connectToAddress(address);
 }
@@ -154,6 +170,7 @@ void ConnectionPage::onAddressEntered(const QString &address)
 void ConnectionPage::onCodeEntered(const QString &code)
 {
     m_enteredAddress.clear();
+    showDevices();
     m_devices->say(tr("Verifying code..."), Theme::Status::Working);
     m_engine->connectByCode(code);
 }
@@ -164,6 +181,18 @@ void ConnectionPage::onRefreshClicked()
     m_devices->showSearch();
     m_notice->forget();
     m_engine->restartBroadcast();
+}
+
+void ConnectionPage::diagnose()
+{
+    m_left->setCurrentWidget(m_diagnosis);
+    m_diagnosis->start({m_engine->role(), m_codes->addressEntry()->enteredText()});
+}
+
+void ConnectionPage::showDevices()
+{
+    m_diagnosis->cancel();
+    m_left->setCurrentWidget(m_devices);
 }
 
 void ConnectionPage::onAccepted(const QString &pcName)
@@ -177,6 +206,7 @@ void ConnectionPage::onAccepted(const QString &pcName)
 void ConnectionPage::onConnected()
 {
     m_engine->stopDiscovery();
+    showDevices();
     m_devices->rest();
     m_devices->say(tr("✓ Connected successfully!"), Theme::Status::Success);
     Q_EMIT connectionEstablished();

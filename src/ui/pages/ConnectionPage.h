@@ -6,12 +6,14 @@
 #include <QWidget>
 
 class QBoxLayout;
+class QStackedWidget;
 
 namespace Zandrove {
 
 class CodeCards;
 class ConnectionQuestions;
 class DeviceCard;
+class DiagnosisPanel;
 class SearchNotice;
 class TransferEngine;
 
@@ -44,6 +46,7 @@ protected:
 private:
     void setupUi();
     [[nodiscard]] QBoxLayout *createColumns();
+    [[nodiscard]] QWidget *createLeft();
     void connectEngine();
     void connectQuestions();
     void onPicked(const PCInfo &pc);
@@ -53,14 +56,18 @@ private:
     void onConnected();
     void onConnectionFailed(const QString &reason);
     void onRefreshClicked();
+    void diagnose();
+    void showDevices();
     void onDirectScanStarted();
     void onDirectScanProgress(int scanned, int total);
     void onDirectScanFinished(bool found);
 
     TransferEngine *m_engine;
     bool m_discoveryStarted = false;
-    QString m_enteredAddress; ///< while it is dialled
+    QString m_enteredAddress;         ///< while it is dialled
+    QStackedWidget *m_left = nullptr; ///< one of the two
     DeviceCard *m_devices = nullptr;
+    DiagnosisPanel *m_diagnosis = nullptr;
     CodeCards *m_codes = nullptr;
     ConnectionQuestions *m_questions;
     SearchNotice *m_notice;
