@@ -54,6 +54,7 @@ PCInfo peer(const QString &name, const QString &ip, bool online = true)
 {
     PCInfo pc;
     pc.id = name;
+    pc.key = qHash(name);
     pc.name = name;
     pc.ip = ip;
     pc.os = u"Windows 11 Pro 23H2 (Build 22631)"_s;

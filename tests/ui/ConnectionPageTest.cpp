@@ -45,8 +45,8 @@ private Q_SLOTS:
 
     void rowsFollowThePeers()
     {
-        discover(u"ANNA"_s, u"10.0.0.1"_s);
-        discover(u"10.0.0.2"_s, u"10.0.0.2"_s, false);
+        discover(1, u"ANNA"_s);
+        discover(2, u"10.0.0.2"_s, false);
         QCOMPARE(status(), u"2 device(s) found, 1 online"_s);
         QVERIFY(isShown(u"devicesTitle"_s) && !m_page->findChild<RadarWidget *>()->isRunning());
 
@@ -58,11 +58,11 @@ private Q_SLOTS:
         QCOMPARE(status(), u"✗ Connection failed: PC not found"_s);
 
         // What the sweep has found by its address is heard at last.
-        discover(u"BOB"_s, u"10.0.0.2"_s);
+        discover(2, u"BOB"_s);
         QCOMPARE(rows().size(), 2);
-        Q_EMIT m_engine->pcLost(u"ANNA"_s);
+        Q_EMIT m_engine->pcLost(u"ANNA"_s, 1);
         QCOMPARE(status(), u"1 device(s) found, 1 online"_s);
-        Q_EMIT m_engine->pcLost(u"BOB"_s);
+        Q_EMIT m_engine->pcLost(u"BOB"_s, 2);
         QVERIFY(rows().isEmpty() && isSearching());
     }
 
@@ -90,7 +90,7 @@ private Q_SLOTS:
     void answerGoesToWhoAsked()
     {
         const QSignalSpy established(m_page.get(), &ConnectionPage::connectionEstablished);
-        discover(u"OTHER"_s, u"10.0.0.1"_s);
+        discover(1, u"OTHER"_s);
         for (const bool yes : {false, true}) {
             const auto anna = dial(u"ANNA"_s);
             QVERIFY(anna && question());
@@ -188,10 +188,10 @@ private Q_SLOTS:
             return seesText(u"Nobody found yet. Please check, the likeliest first:"_s);
         };
         QTRY_VERIFY(hints());
-        discover(u"ANNA"_s, u"10.0.0.1"_s);
+        discover(1, u"ANNA"_s);
         QVERIFY(!hints());
         Q_EMIT m_engine->waitingForAnswer(u"ANNA"_s);
-        discover(u"BOB"_s, u"10.0.0.2"_s);
+        discover(2, u"BOB"_s);
         QCOMPARE(status(), u"Waiting for ANNA: somebody has to press Yes there"_s);
         Q_EMIT m_engine->connectionFailed(u"Connection rejected"_s);
         QVERIFY(status().endsWith(u"Connection rejected"_s) && rows()[0]->isVisible());
@@ -201,7 +201,7 @@ private Q_SLOTS:
     {
         addColumns<QString, QString>("entered", "told");
         const QString form = u"An address has four numbers from 0 to 255, such as 192.168.1.23."_s;
-        const QString own = u"No connection to 127.0.0.1: This is the address of this PC."_s;
+        const QString own = u"This is the address of this PC."_s;
         for (const char *wrong : {"192.168.1", "1.2.3.256", "12"})
             QTest::newRow(wrong) << QString::fromLatin1(wrong) << form;
         QTest::newRow("own") << u" 127.0.0.1 "_s << own;
@@ -226,11 +226,11 @@ private Q_SLOTS:
     }
 
 private:
-    void discover(const QString &name, const QString &ip, bool online = true) const
+    void discover(quint64 key, const QString &name, bool online = true) const
     {
         PCInfo pc;
         pc.id = pc.name = name;
-        pc.ip = ip;
+        pc.key = key;
         pc.online = online;
         Q_EMIT m_engine->pcDiscovered(pc);
     }

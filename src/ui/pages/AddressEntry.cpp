@@ -1,5 +1,6 @@
 #include "ui/pages/AddressEntry.h"
 
+#include "support/NetworkAdapters.h"
 #include "support/PrintableText.h"
 #include "ui/pages/ConnectionPage.h" // whose the texts are
 #include "ui/widgets/Labels.h"
@@ -42,6 +43,21 @@ bool isOfOnePc(const QHostAddress &address)
     return !address.isMulticast() && !address.isBroadcast() && !address.isInSubnet(QHostAddress(0U), 8);
 }
 
+bool isOfThisPc(const QHostAddress &address)
+{
+    const QList<NetworkAdapter> adapters = systemNetworkAdapters();
+    return address.isLoopback() ||
+           std::any_of(adapters.cbegin(), adapters.cend(), [&address](const NetworkAdapter &adapter) {
+               return std::any_of(adapter.addresses.cbegin(), adapter.addresses.cend(),
+                                  [&address](const AdapterAddress &own) { return own.ip == address; });
+           });
+}
+
+QString ownAddressText()
+{
+    return ConnectionPage::tr("This is the address of this PC.");
+}
+
 /// What keeps `text` from being dialled or looked up; empty where nothing does.
 QString problemOf(const QString &text)
 {
@@ -52,8 +68,9 @@ QString problemOf(const QString &text)
     if (Numbers.match(text).hasMatch()) {
         if (!isFourNumbers(text))
             return ConnectionPage::tr("An address has four numbers from 0 to 255, such as 192.168.1.23.");
-        return isOfOnePc(QHostAddress(text)) ? QString()
-                                             : ConnectionPage::tr("This is not the address of one PC.");
+        if (!isOfOnePc(QHostAddress(text)))
+            return ConnectionPage::tr("This is not the address of one PC.");
+        return isOfThisPc(QHostAddress(text)) ? ownAddressText() : QString();
     }
     if (text.size() > LongestHostName || !HostName.match(text).hasMatch())
         return ConnectionPage::tr("This is neither an address nor the name of a PC.");
@@ -157,7 +174,9 @@ void AddressEntry::onLookedUp(const QHostInfo &host)
         return address.protocol() == QAbstractSocket::IPv4Protocol && isOfOnePc(address);
     });
     const QString name = printable(host.hostName());
-    if (found != addresses.cend()) {
+    if (found != addresses.cend() && isOfThisPc(*found)) {
+        showError(ownAddressText());
+    } else if (found != addresses.cend()) {
         showError({});
         Q_EMIT addressEntered(found->toString());
     } else if (addresses.isEmpty()) {

@@ -93,7 +93,8 @@ QWidget *ConnectionPage::createLeft()
 void ConnectionPage::connectEngine()
 {
     connect(m_engine, &TransferEngine::pcDiscovered, m_devices, &DeviceCard::setPeer);
-    connect(m_engine, &TransferEngine::pcLost, m_devices, &DeviceCard::removePeer);
+    connect(m_engine, &TransferEngine::pcLost, m_devices,
+            [this](const QString &, quint64 key) { m_devices->removePeer(key); });
     connect(m_engine, &TransferEngine::waitingForAnswer, this, [this](const QString &pcName) {
         m_devices->say(tr("Waiting for %1: somebody has to press Yes there").arg(shownName(pcName, this)),
                        Theme::Status::Working);

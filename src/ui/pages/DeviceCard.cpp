@@ -282,21 +282,16 @@ void DeviceCard::removeAll()
     qDeleteAll(std::exchange(m_items, {}));
 }
 
-/// The row of `pc`. One that a sweep of the addresses has found is listed by its address until it is heard.
-PCListItem *DeviceCard::itemFor(const PCInfo &pc) const
+PCListItem *DeviceCard::itemOf(quint64 key) const
 {
-    const auto itemOf = [this](const QString &id) {
-        const auto item = std::find_if(m_items.cbegin(), m_items.cend(),
-                                       [&id](const PCListItem *row) { return row->pcInfo().id == id; });
-        return item == m_items.cend() ? nullptr : *item;
-    };
-    PCListItem *const known = itemOf(pc.id);
-    return known ? known : itemOf(pc.ip);
+    const auto item = std::find_if(m_items.cbegin(), m_items.cend(),
+                                   [key](const PCListItem *row) { return row->pcInfo().key == key; });
+    return item == m_items.cend() ? nullptr : *item;
 }
 
 void DeviceCard::setPeer(const PCInfo &pc)
 {
-    if (PCListItem *item = itemFor(pc)) {
+    if (PCListItem *item = itemOf(pc.key)) {
         item->setPCInfo(pc);
         return;
     }
@@ -317,13 +312,11 @@ void DeviceCard::addItem(const PCInfo &pc)
     m_items.append(item);
 }
 
-void DeviceCard::removePeer(const QString &pcId)
+void DeviceCard::removePeer(quint64 key)
 {
-    const auto lost = std::find_if(m_items.cbegin(), m_items.cend(),
-                                   [&pcId](const PCListItem *item) { return item->pcInfo().id == pcId; });
-    if (lost != m_items.cend()) {
-        delete *lost;
-        m_items.erase(lost);
+    if (PCListItem *lost = itemOf(key)) {
+        m_items.removeOne(lost);
+        delete lost;
     }
     if (m_items.isEmpty())
         showSearch();

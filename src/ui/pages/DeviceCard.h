@@ -27,8 +27,8 @@ class DeviceCard final : public QWidget
 public:
     explicit DeviceCard(QWidget *parent = nullptr);
 
-    void setPeer(const PCInfo &pc); ///< its row, a new one or the one that stands for it
-    void removePeer(const QString &pcId);
+    void setPeer(const PCInfo &pc); ///< a new row, or that of its key
+    void removePeer(quint64 key);
     void removeAll();
     [[nodiscard]] bool hasPeers() const { return !m_items.isEmpty(); }
 
@@ -57,7 +57,7 @@ private:
     [[nodiscard]] QBoxLayout *createHeading();
     [[nodiscard]] QWidget *createRadarView();
     [[nodiscard]] QWidget *createListView();
-    [[nodiscard]] PCListItem *itemFor(const PCInfo &pc) const;
+    [[nodiscard]] PCListItem *itemOf(quint64 key) const;
     void addItem(const PCInfo &pc);
     void onItemClicked(PCListItem *clicked);
     void showCount();
