@@ -34,12 +34,6 @@ declare -A made_elsewhere=([zandrove_links]=support [zandrove]=core/app/main.cpp
 # The folders that may know the system, those of the tests for src/platform and for the PCs that they simulate included.
 knows_the_system='^(src|tests)/platform/|^tests/([^/]+/)?(generic|windows)/'
 
-failures=0
-complain() {
-    echo "$1" >&2
-    failures=$((failures + 1))
-}
-
 # Sets `folder` to the entry of floor[] that a path below src/ falls under, to nothing for an unknown one.
 find_folder() {
     folder=$1

@@ -8,7 +8,7 @@ packages=(
     qt6-base-dev qt6-base-dev-tools qt6-svg-dev
     qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     clang-format-14
-    python3 iproute2 util-linux rsync
+    python3 iproute2 nftables util-linux rsync
 )
 
 if [ "${1:-}" = --with ]; then

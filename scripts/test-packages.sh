@@ -145,10 +145,19 @@ check_manuals() {
         grep -q "$name" <<<"$text" || fail "the manual of $name does not render"
     done
     local said
-    said=$(for command in "" receive send discover scan; do as_user env LANG=C zandrove-cli $command --help; done)
+    said=$(for command in "" receive send discover diagnose scan; do as_user env LANG=C zandrove-cli $command --help; done)
     diff <(options_in <<<"$said") <(zcat "$system/usr/share/man/man1/zandrove-cli.1.gz" | sed -n 's/Fl -/--/gp' | options_in) ||
         fail "the manual of zandrove-cli (>) and its --help (<) speak of different options"
     passed "manuals render, and know the options that there are"
+}
+
+check_firewall_names() {
+    local profile=$system/etc/ufw/applications.d/zandrove service=$system/usr/lib/firewalld/services/zandrove.xml
+    grep -qxF 'ports=52024/tcp|52025/udp' "$profile" && on_system dpkg --status zandrove | grep -qF "${profile#"$system"}" ||
+        fail "no application profile for ufw that a user may change"
+    [ "$(grep -oE '(tcp|udp)" port="[0-9]+' "$service" | tr '\n' ' ')" = 'tcp" port="52024 udp" port="52025 ' ] ||
+        fail "no service for firewalld"
+    passed "ufw and firewalld know the ports by name"
 }
 
 check_desktop_files() {
@@ -206,6 +215,7 @@ check_package_itself
 install_package
 check_command
 check_manuals
+check_firewall_names
 check_desktop_files
 check_window
 check_removal

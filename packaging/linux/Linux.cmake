@@ -46,7 +46,7 @@ function(install_compressed file name directory)
     set(files ${files} ${made}/${name}.gz PARENT_SCOPE)
 endfunction()
 
-foreach(name copyright changelog zandrove-cli.1)
+foreach(name copyright changelog zandrove-cli.1 ufw-profile firewalld-service.xml conffiles)
     fill_in(${name})
 endforeach()
 install(FILES ${made}/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/zandrove)
@@ -55,6 +55,14 @@ install(FILES ${CMAKE_CURRENT_LIST_DIR}/lintian-overrides
 install_compressed(${CMAKE_SOURCE_DIR}/CHANGELOG.md changelog ${CMAKE_INSTALL_DATADIR}/doc/zandrove)
 install_compressed(${made}/changelog changelog.Debian ${CMAKE_INSTALL_DATADIR}/doc/zandrove)
 install_compressed(${made}/zandrove-cli.1 zandrove-cli.1 ${CMAKE_INSTALL_MANDIR}/man1)
+
+# The two ports by one name, for the firewalls that know such names; opening them is up to the user.
+install(FILES ${made}/firewalld-service.xml DESTINATION lib/firewalld/services RENAME zandrove.xml)
+# ufw looks in /etc alone, which is no place for an installation below any other prefix.
+install(CODE "
+    if(CMAKE_INSTALL_PREFIX STREQUAL \"/usr\")
+        file(INSTALL DESTINATION /etc/ufw/applications.d TYPE FILE RENAME zandrove FILES \"${made}/ufw-profile\")
+    endif()")
 
 if(TARGET zandrove)
     # By this name a Wayland desktop finds the entry of a window: the domain from behind, and the program.
@@ -91,6 +99,7 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION net)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${made}/conffiles)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)

@@ -130,6 +130,8 @@ QString statusName(FileStatus status)
         return u"started"_s;
     case FileStatus::Completed:
         return u"completed"_s;
+    case FileStatus::WasThere:
+        return u"skipped"_s;
     case FileStatus::Failed:
         return u"failed"_s;
     }
@@ -226,7 +228,7 @@ void JsonOutput::progress(const TransferProgress &progress)
 void JsonOutput::file(const QString &name, FileStatus status, const QString &reason)
 {
     QJsonObject fields{{u"name"_s, name}, {u"status"_s, statusName(status)}};
-    if (status == FileStatus::Failed)
+    if (!reason.isEmpty())
         fields.insert(u"reason"_s, reason);
     print("file"_L1, fields);
 }

@@ -14,7 +14,7 @@ namespace Zandrove::Cli {
 /// Which side did something.
 enum class Side { Here, Peer };
 
-enum class FileStatus { Started, Completed, Failed };
+enum class FileStatus { Started, Completed, WasThere, Failed };
 
 /// Where printed bytes go.
 struct Streams
@@ -45,7 +45,7 @@ public:
     virtual void connected(const PCInfo &pc) = 0;
     virtual void disconnected() = 0; ///< the link to the peer is over
     virtual void progress(const TransferProgress &progress) = 0;
-    /// `reason` goes with Failed only.
+    /// `Completed` on both PCs: it stands on the New PC. `reason` goes with the last two.
     virtual void file(const QString &name, FileStatus status, const QString &reason) = 0;
     virtual void paused(Side by) = 0;
     virtual void resumed(Side by) = 0;

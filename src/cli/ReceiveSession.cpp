@@ -15,10 +15,7 @@ namespace {
 
 constexpr auto GoodbyeTime = 3000ms;
 
-// How long the disk may be silent before a run whose peer has left counts as cut off. A peer that ends the
-// session has finished its run, and a slow disk may have much to write; a broken link mostly means the end.
-constexpr auto PatienceAfterSessionEnd = 30s;
-constexpr auto PatienceAfterBreak = 3s;
+// How long a peer that has left may have something on its way of which nothing has been seen.
 constexpr auto PatienceBeforeFirstSign = 1s;
 
 // How long the settings that have arrived may take to be applied before the report is shown without them.
@@ -44,7 +41,8 @@ ReceiveSession::ReceiveSession(const Options &options, TransferEngine &engine, O
     m_settingsTimer.setSingleShot(true);
     connect(&m_settingsTimer, &QTimer::timeout, this, &ReceiveSession::concludeWithoutSettings);
     m_drainTimer.setSingleShot(true);
-    connect(&m_drainTimer, &QTimer::timeout, this, &ReceiveSession::onNothingMoreToCome);
+    m_drainTimer.setInterval(PatienceBeforeFirstSign);
+    connect(&m_drainTimer, &QTimer::timeout, this, &ReceiveSession::afterLink);
     connect(&m_goodbyeTimer, &QTimer::timeout, this, [this] { finish(m_results.exitCode()); });
 }
 
@@ -158,12 +156,7 @@ void ReceiveSession::onInputEnded()
 
 void ReceiveSession::onConnected()
 {
-    // What a link of before still owes does not come any more.
-    if (m_drainTimer.isActive() && !m_complaint.isEmpty()) {
-        output().error(std::exchange(m_complaint, {}));
-        m_results.record(RunFailed);
-    }
-    m_drainTimer.stop();
+    m_drainTimer.stop(); // what a link of before still owes does not come any more
     setLink(Link::Up);
     const PCInfo peer = connectedPeer();
     m_peerName = peer.name;
@@ -176,38 +169,33 @@ void ReceiveSession::onConnected()
 
 void ReceiveSession::onLinkBroken()
 {
-    onPeerLeft(tr("The link to %1 broke during a transfer.").arg(m_peerName), PatienceAfterBreak);
+    onPeerLeft(tr("The link to %1 broke during a transfer.").arg(m_peerName));
 }
 
 void ReceiveSession::onSessionEndReceived()
 {
-    onPeerLeft(tr("%1 ended the session during a transfer.").arg(m_peerName), PatienceAfterSessionEnd);
+    // Goodbye means that everything is through.
+    m_partsThen = m_heldReport.has_value();
+    if (!m_partsThen)
+        onPeerLeft(tr("%1 ended the session during a transfer.").arg(m_peerName));
 }
 
-void ReceiveSession::onPeerLeft(const QString &complaint, std::chrono::milliseconds patience)
+/// A run that is on ends by itself, once what has arrived is on the disk.
+void ReceiveSession::onPeerLeft(const QString &complaint)
 {
     if (link() != Link::Up)
         return;
     setLink(Link::None);
+    const bool isUnderWay = engine().isRunUnderWay();
+    if (isUnderWay)
+        m_complaint = complaint;
     engine().disconnectFromPeer();
-    if (m_heldReport)
-        return; // what it has sent is here
-    if (m_receiving || m_expecting) {
-        m_complaint = m_receiving ? complaint : QString();
-        m_drainTimer.setInterval(m_receiving ? patience : PatienceBeforeFirstSign);
+    if (isUnderWay || m_heldReport)
+        return;
+    if (m_receiving || m_expecting)
         m_drainTimer.start();
-    } else {
+    else
         afterLink();
-    }
-}
-
-void ReceiveSession::onNothingMoreToCome()
-{
-    if (!m_complaint.isEmpty()) {
-        output().error(m_complaint);
-        m_results.record(RunFailed);
-    }
-    afterLink();
 }
 
 void ReceiveSession::afterLink()
@@ -262,13 +250,14 @@ void ReceiveSession::onRunEnded(const RunSummary &summary)
     else if (summary.end == RunEnd::LinkLost || summary.end == RunEnd::Reset)
         onRunBroken(summary);
     else
-        keepReport(summary);
+        showReport(summary);
     if (summary.end == RunEnd::CancelledThere)
         runEnded(RunFailed);
 }
 
 void ReceiveSession::onCompleted(const RunSummary &summary)
 {
+    m_complaint.clear();
     if (!engine().isApplyingSettings()) {
         concludeRun(summary);
         return;
@@ -280,23 +269,22 @@ void ReceiveSession::onCompleted(const RunSummary &summary)
 
 void ReceiveSession::onRunBroken(const RunSummary &summary)
 {
-    if (summary.total() == 0)
-        return;
     const QString complaint = std::exchange(m_complaint, {});
+    const bool isWaitedFor = link() == Link::None && !complaint.isEmpty();
+    if (summary.total() == 0 && !isWaitedFor)
+        return;
     output().error(complaint.isEmpty() ? tr("The transfer from %1 broke off.").arg(m_peerName) : complaint);
     showReport(summary);
     m_results.record(RunFailed);
-    m_receiving = m_expecting = false;
-    if (summary.end != RunEnd::LinkLost) {
-        if (m_endsThen)
-            finish(m_results.exitCode());
-        return;
+    m_receiving = false;
+    if (summary.end == RunEnd::LinkLost && !engine().hasAcceptedLink()) {
+        if (link() == Link::Up)
+            engine().disconnectFromPeer();
+        setLink(Link::None);
+        afterLink();
+    } else if (m_endsThen) { // the end of another link's run leaves the one that stands alone
+        finish(m_results.exitCode());
     }
-    const bool wasUp = link() == Link::Up;
-    setLink(Link::None);
-    if (wasUp)
-        engine().disconnectFromPeer();
-    afterLink();
 }
 
 void ReceiveSession::concludeWithoutSettings()
@@ -320,6 +308,10 @@ void ReceiveSession::concludeRun(const RunSummary &summary)
     m_results.record(exitCodeFor(summary));
     expectTransfer();
     m_reported = options().once;
+    if (std::exchange(m_partsThen, false) && link() == Link::Up) {
+        setLink(Link::None);
+        engine().disconnectFromPeer();
+    }
     if (m_endsThen) {
         finish(m_results.exitCode());
     } else if (m_drainTimer.isActive() || link() == Link::None) {
@@ -372,8 +364,8 @@ bool ReceiveSession::obey(const ControlCommand &command)
 
 void ReceiveSession::cancelHere()
 {
-    engine().cancelTransfer();
     output().cancelled(Side::Here);
+    engine().cancelTransfer();
 }
 
 void ReceiveSession::onTimeout()

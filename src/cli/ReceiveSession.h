@@ -36,8 +36,7 @@ private:
     void onConnected();
     void onLinkBroken();
     void onSessionEndReceived();
-    void onPeerLeft(const QString &complaint, std::chrono::milliseconds patience);
-    void onNothingMoreToCome();
+    void onPeerLeft(const QString &complaint);
     void afterLink();
 
     void onTransferSign();
@@ -63,13 +62,14 @@ private:
     QTimer m_drainTimer;
     QTimer m_settingsTimer;
     std::optional<RunSummary> m_heldReport; ///< complete but for the settings, which are being applied
-    QString m_complaint;                    ///< what is to be said if the end of the run does not come
+    QString m_complaint;                    ///< what is to be said when the run ends without being complete
     QString m_peerName;
     RunResults m_results;
     bool m_expecting = false; ///< armed on a fresh link, nothing has arrived
     bool m_receiving = false; ///< something of a run has arrived
     bool m_reported = false;  ///< --once: the one report is out
     bool m_endsThen = false;  ///< --control: the run in hand is the last one
+    bool m_partsThen = false; ///< the peer has ended the session behind it
 };
 
 } // namespace Zandrove::Cli

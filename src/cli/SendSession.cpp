@@ -98,6 +98,10 @@ void SendSession::connectEngine()
     connect(source, &TransferEngine::disconnected, this, &SendSession::onDisconnected);
     connect(source, &TransferEngine::sessionEndReceived, this, &SendSession::onSessionEndReceived);
     connect(source, &TransferEngine::runEnded, this, &SendSession::onRunEnded);
+    connect(source, &TransferEngine::runRevised, this, [this](const RunSummary &summary) {
+        showRevision(summary);
+        m_results.record(exitCodeFor(summary));
+    });
     connect(source, &TransferEngine::peerCancelled, this, &SendSession::onPeerCancelled);
     connect(source, &TransferEngine::transferFailed, this, &SendSession::onTransferFailed);
 }
@@ -245,7 +249,7 @@ void SendSession::sendAgain(const QString &folder)
 void SendSession::onRunEnded(const RunSummary &summary)
 {
     if (summary.end == RunEnd::CancelledHere)
-        keepReport(summary);
+        showReport(summary);
     if (summary.end == RunEnd::CancelledHere || (m_state != State::Running && m_state != State::Parting))
         return;
     m_completed = summary.end == RunEnd::Complete;
@@ -259,10 +263,7 @@ void SendSession::onRunEnded(const RunSummary &summary)
     }
     if (summary.end == RunEnd::Reset)
         output().error(tr("%1 ended the transfer.").arg(m_peerName));
-    if (summary.end == RunEnd::CancelledThere)
-        keepReport(summary);
-    else
-        showReport(summary);
+    showReport(summary);
     runEnded(exitCodeFor(summary));
 }
 
@@ -281,8 +282,8 @@ void SendSession::onTransferFailed(const QString &reason)
 
 void SendSession::cancelHere()
 {
-    engine().cancelTransfer();
     output().cancelled(Side::Here);
+    engine().cancelTransfer();
     m_completed = false;
 }
 

@@ -3,6 +3,7 @@
 #include "core/engine/TransferEngine.h"
 #include "platform/Terminal.h"
 #include "support/ReportDocument.h"
+#include "support/RunTexts.h"
 #include "support/Utilities.h"
 
 #include <QHostAddress>
@@ -66,12 +67,7 @@ void Session::showRuns()
     connect(&m_engine, &TransferEngine::transferProgressChanged, this, &Session::showProgress);
     connect(&m_engine, &TransferEngine::fileTransferStarted, this,
             [this](const QString &name) { m_output.file(name, FileStatus::Started, {}); });
-    connect(&m_engine, &TransferEngine::fileTransferCompleted, this,
-            [this](const QString &name) { m_output.file(name, FileStatus::Completed, {}); });
-    connect(&m_engine, &TransferEngine::fileTransferFailed, this,
-            [this](const QString &name, const QString &reason) {
-                m_output.file(name, FileStatus::Failed, reason);
-            });
+    connect(&m_engine, &TransferEngine::itemSettled, this, &Session::showOutcome);
     connect(&m_engine, &TransferEngine::transferPaused, this, [this] { m_output.paused(Side::Here); });
     connect(&m_engine, &TransferEngine::pausedByPeer, this, [this] { m_output.paused(Side::Peer); });
     connect(&m_engine, &TransferEngine::transferResumed, this, [this] { m_output.resumed(Side::Here); });
@@ -80,10 +76,24 @@ void Session::showRuns()
     connect(&m_engine, &TransferEngine::spaceShort, this,
             [this](qint64 needed, qint64 available, const QString &volume) {
                 m_output.warning(
-                    tr("%1 are on their way, but only %2 are free on %3: not everything will fit.")
+                    tr("%1 are on their way, but only %2 are free on %3. Not everything will fit.")
                         .arg(formatSize(needed), formatSize(available), volume));
             });
     showLink();
+}
+
+/// One by one as they become known. What the end of the run settles, its report tells.
+void Session::showOutcome(const ItemResult &item)
+{
+    if (item.kind == ItemKind::File && !m_engine.isRunUnderWay())
+        return;
+    const QString name = rowName(item.kind, item.path);
+    if (item.outcome == ItemOutcome::Arrived)
+        m_output.file(name, FileStatus::Completed, {});
+    else if (item.outcome == ItemOutcome::Failed)
+        m_output.file(name, FileStatus::Failed, item.reason);
+    else if (item.outcome == ItemOutcome::WasThere || item.outcome == ItemOutcome::WasDifferent)
+        m_output.file(name, FileStatus::WasThere, item.reason);
 }
 
 void Session::showLink()
@@ -118,6 +128,15 @@ void Session::showReport(const RunSummary &summary)
     // A further run may stand behind what an earlier one has left the other PC to do.
     if (summary.apps.arrived > 0 || summary.settings.arrived > 0)
         m_farewellTime = FarewellTimeInstalling;
+}
+
+void Session::showRevision(const RunSummary &summary)
+{
+    m_output.error(
+        summary.end == RunEnd::LinkLost
+            ? tr("%1 was lost before it said that everything is installed.").arg(summary.peerName)
+            : tr("%1 called the transfer off before everything was installed.").arg(summary.peerName));
+    showReport(summary);
 }
 
 void Session::keepReport(const RunSummary &summary)
@@ -208,6 +227,10 @@ void Session::finish(ExitCode exitCode)
     m_engine.stopDiscovery();
     if (m_link == Link::Up) {
         const bool completed = exitCode == EverythingMoved || exitCode == SomethingMissing;
+        connect(&m_engine, &TransferEngine::runRevised, this, [this](const RunSummary &summary) {
+            showRevision(summary);
+            m_exitCode = exitCodeFor(summary);
+        });
         connect(&m_engine, &TransferEngine::disconnected, this, &Session::conclude);
         connect(&m_engine, &TransferEngine::connectionFailed, this, &Session::conclude);
         // A peer that ends the session in the same moment waits for this side as well.

@@ -159,8 +159,11 @@ void TextOutput::progress(const TransferProgress &progress)
 
 void TextOutput::file(const QString &name, FileStatus status, const QString &reason)
 {
-    if (status == FileStatus::Failed)
-        errorText(errorLine(tr("%1 was not moved: %2").arg(name, reason)));
+    constexpr int MostLines = 20;
+    if (status != FileStatus::Failed || ++m_failures > MostLines + 1)
+        return;
+    errorText(errorLine(m_failures > MostLines ? tr("Further ones are counted in the report.")
+                                               : tr("%1 was not moved: %2").arg(name, reason)));
 }
 
 void TextOutput::paused(Side by)
@@ -189,6 +192,7 @@ void TextOutput::installing(const QString &pcName, const QString &app, int perce
 void TextOutput::report(const RunSummary &summary)
 {
     m_installing.clear();
+    m_failures = 0;
     const QString time = formatTime(static_cast<int>(summary.startTime.secsTo(summary.endTime)));
     const QString size = formatSize(summary.arrivedBytes);
     const double speed = summary.averageSpeed();
@@ -218,12 +222,12 @@ void TextOutput::missingFiles(const RunSummary &summary)
     if (counts.missing() == 0)
         return;
     line(missingFilesText(summary) + u':');
-    files(summary.notArrived, counts.missing() - counts.wasDifferent);
-    files(summary.different, counts.wasDifferent);
+    files(summary.notArrived, counts.missing() - counts.wasDifferent, summary);
+    files(summary.different, counts.wasDifferent, {});
 }
 
-/// The first of `all` files, and how many there are beyond.
-void TextOutput::files(const QList<ItemResult> &results, int all)
+/// The first of `all` files that there are in `summary`, and what there is beyond.
+void TextOutput::files(const QList<ItemResult> &results, int all, const RunSummary &summary)
 {
     int shown = 0;
     for (const ItemResult &result : results) {
@@ -234,8 +238,8 @@ void TextOutput::files(const QList<ItemResult> &results, int all)
         line(u"  "_s + result.path + u": "_s + result.reason);
         ++shown;
     }
-    if (all > shown)
-        line(u"  "_s + tr("and %1 more").arg(countText(all - shown)));
+    for (const QString &text : unlistedTexts(summary, all - shown))
+        line(u"  "_s + text);
 }
 
 void TextOutput::items(const QString &head, const QString &done, const QList<ItemResult> &results,

@@ -46,7 +46,7 @@ private:
     void showLiveLine(const QString &text);
     void clearLiveLine();
     void missingFiles(const RunSummary &summary);
-    void files(const QList<ItemResult> &results, int all);
+    void files(const QList<ItemResult> &results, int all, const RunSummary &summary);
     void savedFolders(const RunSummary &summary);
     void items(const QString &head, const QString &done, const QList<ItemResult> &results, ItemKind kind);
     void section(const QString &title, const QStringList &rows);
@@ -57,6 +57,7 @@ private:
     bool m_liveLineShown = false;
     QString m_peerName;
     QString m_installing; ///< the application that was named last
+    int m_failures = 0;   ///< that were told of the run
 };
 
 } // namespace Zandrove::Cli

@@ -68,7 +68,7 @@ Finding about(const AdapterFacts &facts, const QString &id, Severity severity, c
 Finding withAddress(const AdapterFacts &facts, bool isAlone)
 {
     const QString sentence = Text::tr("%1 has the address %2.").arg(label(facts), addressList(facts));
-    if (!facts.adapter.running)
+    if (!facts.adapter.running && facts.kind != AdapterKind::Vpn)
         return about(facts, u"adapter"_s, Severity::Hint,
                      Text::tr("%1 has the address %2, but is connected to nothing.")
                          .arg(label(facts), addressList(facts)),
@@ -95,7 +95,7 @@ QList<Finding> withoutAddress(const AdapterFacts &facts, bool anyUsable)
                       Text::tr("%1 is connected, but has no address yet.").arg(label(facts)),
                       Text::tr("Wait a minute. If none comes, see whether the router is on; over a direct "
                                "cable, set this connection to link-local addresses."))};
-    if (!facts.adapter.running && facts.kind != AdapterKind::Virtual)
+    if (!facts.adapter.running && facts.kind != AdapterKind::Virtual && facts.kind != AdapterKind::Vpn)
         return {about(facts, u"adapter"_s, Severity::Ok,
                       Text::tr("%1 is connected to nothing.").arg(label(facts)))};
     return {};

@@ -159,7 +159,7 @@ QList<Finding> ofDeafness(const PcFacts &pc)
         if (facts.broadcast == AdapterFacts::Left && !facts.heardBack)
             deaf.append(facts.adapter.name);
     }
-    if (deaf.isEmpty() || pc.isClosed(Transport::Udp))
+    if (deaf.isEmpty() || !pc.canHear() || pc.isClosed(Transport::Udp))
         return {};
     return {{u"deaf"_s,
              deaf.join(", "_L1),

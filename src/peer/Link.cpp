@@ -248,12 +248,12 @@ void Link::onSecondPassed()
 {
     const Handling handling(*this);
     switch (m_watch.secondPassed(m_shared.mayRead())) {
-    case LinkWatch::Verdict::Nothing:
+    case Liveness::Verdict::Nothing:
         return;
-    case LinkWatch::Verdict::Silent:
+    case Liveness::Verdict::Silent:
         Q_EMIT silent(m_watch.silentSeconds());
         return;
-    case LinkWatch::Verdict::Lost:
+    case Liveness::Verdict::Lost:
         Q_EMIT lost();
         return;
     }

@@ -139,11 +139,6 @@ void NetworkManager::sendData(const QByteArray &data)
         m_link->sendRaw(data);
 }
 
-void NetworkManager::sendCommand(Protocol::MessageType type)
-{
-    sendCommand(type, {});
-}
-
 void NetworkManager::sendCommand(Protocol::MessageType type, const QByteArray &payload)
 {
     if (m_link)
@@ -277,8 +272,11 @@ void NetworkManager::onLinkOpened()
 void NetworkManager::onLinkClosed(Link *link)
 {
     if (link == m_link) {
+        const bool broke = isAccepted();
         drop();
         endPair();
+        if (broke)
+            Q_EMIT linkBroke();
     }
     if (!m_link)
         tellEnd(link);
@@ -296,8 +294,10 @@ void NetworkManager::onLinkFailed(QAbstractSocket::SocketError error, const QStr
     const bool wasAccepted = isAccepted();
     Link *const link = release();
     link->abandon();
-    if (wasAccepted)
+    if (wasAccepted) {
         endPair();
+        Q_EMIT linkBroke();
+    }
     Q_EMIT connectionFailed(reason.isEmpty() ? tr("Unknown error") : reason);
     if (wasAccepted)
         tellEnd(link);
@@ -310,6 +310,7 @@ void NetworkManager::onLinkLost()
     Link *const link = release();
     link->abandon();
     endPair();
+    Q_EMIT linkBroke();
     tellEnd(link);
 }
 
@@ -334,7 +335,9 @@ void NetworkManager::onFrame(Protocol::MessageType type, const QByteArray &paylo
         tellEnd(m_link);
         return;
     case Protocol::MessageType::Heartbeat:
-        return;
+        if (payload.isEmpty())
+            return;
+        [[fallthrough]];
     default:
         Q_EMIT commandReceived(type, payload);
     }

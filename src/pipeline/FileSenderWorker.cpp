@@ -145,7 +145,7 @@ QString FileSenderWorker::reasonOfChange(const Sending &sending, bool rewritten)
         return tr("Cannot read file: %1").arg(sending.readError);
     if (sending.sentBytes < sending.size && isCancelled())
         return tr("Cancelled before it was sent whole");
-    return rewritten || sending.sentBytes != sending.size ? tr("Changed while it was sent") : QString();
+    return rewritten || sending.sentBytes != sending.size ? tr("changed while it was sent") : QString();
 }
 
 bool FileSenderWorker::endFile(const Sending &sending, const QString &reasonOfChange)
@@ -157,9 +157,12 @@ bool FileSenderWorker::endFile(const Sending &sending, const QString &reasonOfCh
     const TransferMessages::End end{sending.taskId, sending.task.relativePath, sending.checksum,
                                     sending.sentBytes, changed};
     Q_EMIT requestSendCommand(wireType(Protocol::MessageType::FileEnd), end.toPayload());
+    // Its own reason stands ahead of the one that the end of such a file has by itself.
+    if (changed)
+        (void)failFile(sending, reasonOfChange);
     Q_EMIT fileEndSent(sending.taskId, changed);
     if (changed)
-        return failFile(sending, reasonOfChange);
+        return false;
     Q_EMIT fileCompleted(sending.fileName);
     return true;
 }

@@ -3,6 +3,7 @@
 #include "appmigration/AppMigrator.h"
 #include "pipeline/Log.h"
 #include "settings/SettingMigrator.h"
+#include "support/RunTexts.h"
 #include "support/Utilities.h"
 
 #include <QThread>
@@ -22,7 +23,7 @@ constexpr qsizetype TracedPayloadBytes = 300;
 } // namespace
 
 MigrationRun::MigrationRun(int role, RunLink link, QObject *parent)
-    : QObject(parent)
+    : RunEvents(parent)
     , m_link(std::move(link))
     , m_ledger(role, getComputerName(), m_link.peer(), QDateTime::currentDateTime())
     , m_appMigrator(new AppMigrator)
@@ -42,30 +43,31 @@ MigrationRun::~MigrationRun() = default;
 
 void MigrationRun::wireMigrators()
 {
-    connect(m_appMigrator, &AppMigrator::appStarted, this,
-            [this](const QString &name) { Q_EMIT fileTransferStarted(tr("[App] %1").arg(name)); });
+    connect(m_appMigrator, &AppMigrator::appStarted, this, [this](const QString &name) {
+        Q_EMIT fileTransferStarted(rowName(ItemKind::Application, name));
+    });
     connect(m_appMigrator, &AppMigrator::appProgress, this, [this](const QString &name, int percent) {
-        Q_EMIT fileTransferProgress(tr("[App] %1").arg(name), percent);
+        Q_EMIT fileTransferProgress(rowName(ItemKind::Application, name), percent);
     });
     connect(m_appMigrator, &AppMigrator::appFinished, this, &MigrationRun::onAppFinished);
-    connect(m_appMigrator, &AppMigrator::requestSendCommand, this, &MigrationRun::onRequestSendCommand);
+    connect(m_appMigrator, &AppMigrator::requestSendCommand, this, &MigrationRun::onWorkerRequestSendCommand);
     connect(m_settingMigrator, &SettingMigrator::settingStarted, this, [this](const QString &name) {
         qCDebug(logPipeline) << "[Setting] Started:" << name;
-        Q_EMIT fileTransferStarted(tr("[Setting] %1").arg(name));
+        Q_EMIT fileTransferStarted(rowName(ItemKind::Setting, name));
     });
     connect(m_settingMigrator, &SettingMigrator::settingProgress, this,
             [this](const QString &name, int percent) {
-                Q_EMIT fileTransferProgress(tr("[Setting] %1").arg(name), percent);
+                Q_EMIT fileTransferProgress(rowName(ItemKind::Setting, name), percent);
             });
     connect(m_settingMigrator, &SettingMigrator::settingFinished, this, &MigrationRun::onSettingFinished);
     connect(m_settingMigrator, &SettingMigrator::finished, this, &MigrationRun::onSettingsThrough);
     connect(m_settingMigrator, &SettingMigrator::requestSendCommand, this,
-            &MigrationRun::onRequestSendCommand);
+            &MigrationRun::onWorkerRequestSendCommand);
 }
 
 void MigrationRun::onAppFinished(const QString &name, bool success, const QString &error)
 {
-    const QString shown = tr("[App] %1").arg(name);
+    const QString shown = rowName(ItemKind::Application, name);
     if (success)
         Q_EMIT fileTransferCompleted(shown);
     else
@@ -74,7 +76,7 @@ void MigrationRun::onAppFinished(const QString &name, bool success, const QStrin
 
 void MigrationRun::onSettingFinished(const QString &name, bool success, const QString &error)
 {
-    const QString shown = tr("[Setting] %1").arg(name);
+    const QString shown = rowName(ItemKind::Setting, name);
     if (success)
         Q_EMIT fileTransferCompleted(shown);
     else
@@ -223,12 +225,13 @@ MigrationReport MigrationRun::buildReport() const
 }
 
 /// Nothing of a run leaves on a link that nobody on this side said yes to: whoever dials in the middle of a
-/// run takes the socket over, and must not be sent the rest of the user's files.
+/// run takes the socket over, and must not be sent the rest of the user's files. Nor does a run whose link
+/// was lost answer on the next one: its batches bear the same numbers as those of the run that comes there.
 void MigrationRun::sendToPeer(MessageType type, const QByteArray &payload)
 {
     if (!m_link.send)
         return;
-    if (!belongsTo(m_link.number())) {
+    if (isLinkLost() || !belongsTo(m_link.number())) {
         if (!m_refusalLogged)
             qCDebug(logPipeline) << "Not sent, the link is not accepted or not that of the run, type:"
                                  << int(type);
@@ -236,6 +239,16 @@ void MigrationRun::sendToPeer(MessageType type, const QByteArray &payload)
         return;
     }
     m_link.send(type, payload);
+}
+
+void MigrationRun::onWorkerRequestSendCommand(int type, const QByteArray &payload)
+{
+    if (type != int(MessageType::FileData))
+        qCDebug(logPipeline) << ">>> onWorkerRequestSendCommand called! type:" << type
+                             << "size:" << payload.size();
+    if (!m_link.send)
+        qCDebug(logPipeline) << ">>> ERROR: m_networkManager is NULL!";
+    onRequestSendCommand(type, payload);
 }
 
 void MigrationRun::onRequestSendCommand(int type, const QByteArray &payload)

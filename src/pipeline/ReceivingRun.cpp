@@ -53,10 +53,14 @@ ReceivingRun::ReceivingRun(RunLink link, const Destination &destination, QObject
 void ReceivingRun::wireApps()
 {
     connect(m_apps, &ReceivedApps::installProgress, this, &ReceivingRun::appInstallProgress);
-    connect(m_apps, &ReceivedApps::installProgress, this, &ReceivingRun::installing);
+    connect(m_apps, &ReceivedApps::installProgress, this, [this](const QString &name, int percent) {
+        m_installing = {name, percent};
+        Q_EMIT installing(name, percent);
+    });
     connect(m_apps, &ReceivedApps::installFinished, this, &ReceivingRun::appInstallFinished);
     connect(m_apps, &ReceivedApps::installed, this,
             [this](const QString &name, bool success, const QString &error) {
+                m_installing = {};
                 ++(success ? m_report.appsSuccess : m_report.appsFailed);
                 m_ledger.settleItem(ItemKind::Application, name,
                                     success ? ItemOutcome::Arrived : ItemOutcome::Failed, error);
@@ -76,14 +80,15 @@ void ReceivingRun::onReceived(const ReceivedFile &file)
 }
 
 /// What had arrived of a lost link is worked off: whole files get their names, an application that is whole
-/// is installed. The others are not: half an application is worse than none.
+/// is installed. The others are not: half an application is worse than none. A run of which all has arrived
+/// goes on to its end as if the link stood.
 void ReceivingRun::end(RunEnd how)
 {
     if (how != RunEnd::LinkLost || !m_begun) {
         MigrationRun::end(how);
         return;
     }
-    if (!isOn() || m_workingOff || std::exchange(m_linkLost, true))
+    if (!isOn() || std::exchange(m_linkLost, true) || m_workingOff)
         return;
     if (isPaused())
         setPaused(false);
@@ -164,6 +169,9 @@ void ReceivingRun::pauseWorkers(bool paused)
 void ReceivingRun::stopWorkers()
 {
     m_workingOff = m_linkLost = false;
+    if (!m_installing.first.isEmpty())
+        m_ledger.settleItem(ItemKind::Application, m_installing.first, ItemOutcome::Failed,
+                            tr("its installation was stopped at %1 %").arg(m_installing.second));
     m_receiver->disconnect();
     m_receiver->stop();
     m_apps->disconnect();
@@ -263,7 +271,8 @@ void ReceivingRun::onTransferComplete()
 void ReceivingRun::onFilesThrough(int success, int failed, int skipped, qlonglong bytes)
 {
     qCDebug(logPipeline) << "[Serial] MigrationManager::onWorkerAllCompleted - success:" << success
-                         << "failed:" << failed << "skipped:" << skipped << "bytes:" << bytes;
+                         << "failed:" << failed << "skipped:" << skipped << "bytes:" << bytes
+                         << "sendingAppPhase:" << false;
     m_report.filesSuccess = success;
     m_report.filesFailed = failed;
     m_report.filesSkipped = skipped;
@@ -274,11 +283,14 @@ void ReceivingRun::onFilesThrough(int success, int failed, int skipped, qlonglon
 
 void ReceivingRun::onAppsThrough()
 {
-    if (m_linkLost && isApplyingSettings())
+    const bool isBroken = m_linkLost && !m_workingOff;
+    if (isBroken && isApplyingSettings())
         return;
     const ReceivedFolders &received = m_receiver->receivedFolders();
     m_ledger.setSavedFolders(received.paths, received.counts, received.samples());
-    finish(m_linkLost ? RunEnd::LinkLost : RunEnd::Complete);
+    if (!isBroken)
+        logAllCompletedCheck(true, true, true, NewPC);
+    finish(isBroken ? RunEnd::LinkLost : RunEnd::Complete);
 }
 
 MigrationReport ReceivingRun::buildReport() const
@@ -366,6 +378,7 @@ void ReceivingRun::onSettingsThrough(int succeeded, int failed)
     m_report.settingsSuccess = succeeded;
     m_report.settingsFailed = failed;
     m_settings = Settings::Through;
+    logAllCompletedCheck(!isOn(), !isOn() || m_workingOff, true, NewPC);
     m_settingsBound.stop();
     if (!isOn())
         closeLedger();
@@ -377,7 +390,7 @@ void ReceivingRun::onSettingsOver()
 {
     if (!isOn())
         closeLedger();
-    else if (m_linkLost)
+    else if (m_linkLost && !m_workingOff)
         m_apps->cleanUp(); // the run has waited for them
     Q_EMIT stateChanged();
 }

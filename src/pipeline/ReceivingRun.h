@@ -35,7 +35,8 @@ public:
     [[nodiscard]] bool hasBegun() const override { return m_begun; }
     [[nodiscard]] bool isLinkLost() const override { return m_linkLost; }
     void handle(Protocol::MessageType type, const QByteArray &payload) override;
-    /// Before anything of it has come, whoever is accepted; then that peer's link alone.
+    /// Before anything of it has come, whoever is accepted; then that peer's link alone. Behind a lost one,
+    /// what comes by the next waits for the end of the run.
     [[nodiscard]] bool belongsTo(quint64 link) const override
     {
         return link != 0 && (!m_begun || m_linkLost || link == m_linkNumber);
@@ -87,10 +88,11 @@ private:
     FileReceiverWorker *m_receiver;
     ReceivedApps *m_apps; // child
     Settings m_settings = Settings::None;
-    bool m_begun = false;      // something of it has come
-    quint64 m_linkNumber = 0;  // the link that it came by
-    bool m_workingOff = false; // all has arrived, the report is due
-    bool m_linkLost = false;   // what has arrived is worked off, and then the run is over
+    QPair<QString, int> m_installing; // the application that is being installed, and its percent
+    bool m_begun = false;             // something of it has come
+    quint64 m_linkNumber = 0;         // the link that it came by
+    bool m_workingOff = false;        // all has arrived, the report is due
+    bool m_linkLost = false;          // nobody hears of it any more; what has arrived is worked off
     QTimer m_settingsBound;
 };
 

@@ -67,6 +67,8 @@ private:
                 addFile(entry, place);
             else if (entry.isDir() && !entry.isSymLink())
                 addFolder(entry.filePath(), place);
+            else if (!entry.exists() && !entry.isSymLink()) // a folder that can be listed, not entered
+                m_list.failures.append({entry.filePath(), tr("Cannot be reached")});
         }
         for (const QString &name : found.unreadableNames)
             m_list.failures.append({QDir(folder).filePath(name), tr("Its name is not valid text")});

@@ -2,8 +2,6 @@
 
 #include "platform/FirewallVerdict.h"
 
-#include <QDir>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -17,7 +15,7 @@ constexpr int UdpProtocol = 17;
 
 QString plainPath(const QString &path)
 {
-    return QDir::fromNativeSeparators(path).toCaseFolded();
+    return QString(path).replace(u'\\', u'/').toCaseFolded();
 }
 
 bool containsPort(const QStringList &ports, quint16 port)

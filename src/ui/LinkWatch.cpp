@@ -28,6 +28,7 @@ LinkWatch::LinkWatch(TransferEngine *engine, NoticeBar *bar, QObject *parent)
 {
     connect(m_engine, &TransferEngine::connected, this, &LinkWatch::onConnected);
     connect(m_engine, &TransferEngine::runEnded, this, &LinkWatch::onRunEnded);
+    connect(m_engine, &TransferEngine::runRevised, this, &LinkWatch::onRunEnded);
     connect(m_engine, &TransferEngine::disconnected, this, &LinkWatch::onLinkGone);
     connect(m_engine, &TransferEngine::connectionFailed, this, [this] {
         if (!m_engine->isConnected())
@@ -68,7 +69,8 @@ void LinkWatch::onConnected()
 
 void LinkWatch::onRunEnded(const RunSummary &summary)
 {
-    if (summary.end != RunEnd::LinkLost || m_place == Place::Elsewhere)
+    // Where another link stands by now, it is that one which the window is about.
+    if (summary.end != RunEnd::LinkLost || m_place == Place::Elsewhere || m_engine->hasAcceptedLink())
         return;
     m_endedRun = summary.total() > 0;
     const QString lost = tr("The connection to %1 is lost.").arg(shortened(summary.peerName));
@@ -80,6 +82,8 @@ void LinkWatch::onLinkGone()
 {
     m_silentText.clear();
     const bool wasUp = std::exchange(m_isUp, false);
+    if (m_engine->isRunUnderWay())
+        return; // it works off what has arrived, and says how it ended
     // On the page of connections most ends are those of a dial; that of a link is news there, too.
     if (m_place == Place::Elsewhere || (m_place == Place::Connections && !wasUp) || isLost()) {
         refresh();

@@ -291,8 +291,13 @@ private Q_SLOTS:
         QVERIFY(
             captured.out.contains("\nno space left on drive D: of NEWBOX: 12 files, 1.0 KB did not fit\n"));
         QVERIFY(captured.out.contains("\n52 of 61 files did not arrive:\n  /d/a\uFFFD: locked\n"));
-        QVERIFY(captured.out.contains("locked\n  and 31 more\n  /d/b: other\n"));
+        QVERIFY(captured.out.contains("locked\n  And 31 more.\n  /d/b: other\n"));
         QCOMPARE(captured.out.count(": locked\n"), 20);
+        run.role = NewPC; // which can't name what did not come
+        run.peerName = u"OLDBOX"_s;
+        TextOutput(captured.streams(), NewPC, false).report(run);
+        QVERIFY(
+            captured.out.contains("  And 30 more.\n  1 announced file did not come. The report of OLDBOX "));
     }
 
     void namesOfPeersCannotSteerTheTerminal()

@@ -116,6 +116,30 @@ private Q_SLOTS:
         QVERIFY(!m_pc->completed.wait(200));
     }
 
+    void lostRunDoesNotAnswerOnTheNextLink()
+    {
+        quint64 number = 1;
+        int sent = 0;
+        RunLink link;
+        link.acceptedNumber = [&number] { return number; };
+        link.send = [&sent](MessageType, const QByteArray &) { ++sent; };
+        std::function<void()> changed;
+        link.watch = [&changed](const QObject *, std::function<void()> onChange) {
+            changed = std::move(onChange);
+        };
+        m_manager->setLink(link);
+        m_manager->startReceiving();
+        peerStarts(1, 6);
+        peerSends(u"x"_s, "abc");
+        peer(MessageType::FileAck, R"({"isRequest":true,"batchId":1,"startTaskId":0,"endTaskId":0})");
+        number = 0;
+        changed();
+        number = 2;
+        changed();
+        QVERIFY(QSignalSpy(m_manager, &MigrationManager::runEnded).wait());
+        QCOMPARE(sent, 0);
+    }
+
     void cancelWhilePausedLeavesNothingBehind()
     {
         m_manager->startReceiving();

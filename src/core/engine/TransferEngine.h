@@ -71,6 +71,8 @@ public:
     /// Also true between `connectToPC` and its outcome, and after `connectToPC` for a peer that is not in the
     /// table: ask only after `connected`.
     [[nodiscard]] bool isConnected() const;
+    /// Whether a peer is accepted at this moment, on whichever link.
+    [[nodiscard]] bool hasAcceptedLink() const;
     /// The peer, or the one being dialled; a default record without one.
     [[nodiscard]] PCInfo connectedPC() const { return m_connectedPC; }
 
@@ -102,6 +104,9 @@ public:
     /// Waits, as the New PC, for what the peer sends. Emits `transferStarted`, and again whenever it waits
     /// anew by itself, behind a run that was called off or reset, for as long as the session lasts.
     void startReceiving();
+    /// A run has begun and is not over: `runEnded` follows. On the New PC it outlives its link, until what
+    /// had arrived by then is on the disk.
+    [[nodiscard]] bool isRunUnderWay() const;
     /// New PC: settings have arrived that are still being applied. `settingsFinished` follows.
     [[nodiscard]] bool isApplyingSettings() const;
     /// Holds the transfer on both sides. Emits `transferPaused`.
@@ -193,9 +198,12 @@ Q_SIGNALS:
     void settingOutcome(const QString &name, bool success, const QString &error);
     /// A file, an application or a setting has its outcome.
     void itemSettled(const Zandrove::ItemResult &item);
-    /// A run is over, however it ended: once for each, and after the signal that tells
-    /// how, where there is one.
+    /// A run is over, however it ended: once for each. After the signal that tells how, where there is one,
+    /// but before transferCancelled.
     void runEnded(const Zandrove::RunSummary &summary);
+    /// Old PC, behind a complete run: the New PC is gone, or has called the run off, before it said that it
+    /// is through with installing and applying. What was sent for that is not confirmed.
+    void runRevised(const Zandrove::RunSummary &summary);
     void linkSilent(int seconds); ///< nothing has come from the peer for so long; the link stands
     void linkAnswers();           ///< it has answered again
     /// New PC: the peer has announced more than fits on the destination's volume, in bytes. The run goes on.

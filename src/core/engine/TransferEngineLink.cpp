@@ -160,6 +160,11 @@ void TransferEngine::disconnectFromPeer()
     Q_EMIT disconnected();
 }
 
+bool TransferEngine::hasAcceptedLink() const
+{
+    return m_networkManager && m_networkManager->isAccepted();
+}
+
 bool TransferEngine::isConnected() const
 {
     if (!m_connectedPC.id.isEmpty() && !m_connectedPC.ip.isEmpty() && m_connectedPC.port > 0)

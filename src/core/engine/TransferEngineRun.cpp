@@ -163,6 +163,11 @@ void TransferEngine::onWaiting()
     Q_EMIT info(tr("Waiting to receive files..."));
 }
 
+bool TransferEngine::isRunUnderWay() const
+{
+    return m_migrationManager->isUnderWay();
+}
+
 bool TransferEngine::isApplyingSettings() const
 {
     return m_migrationManager->isApplyingSettings();

@@ -155,6 +155,8 @@ std::optional<FirewallReport> readNftables(const FirewallQuestion &question)
         return unread(name, u"nft list ruleset"_s);
     const NftPassage tcp = nftPassage(result.standardOutput, Transport::Tcp, question.tcpPort);
     const NftPassage udp = nftPassage(result.standardOutput, Transport::Udp, question.udpPort);
+    if (!tcp.isAsked && tcp.passage == Passage::Open)
+        return switchedOff(name);
     const QString insert = u"nft insert rule %1 "_s;
     QStringList commands;
     if (tcp.passage == Passage::Closed)
@@ -175,7 +177,8 @@ QList<FirewallReport> readFirewalls(const FirewallQuestion &question)
     for (const auto &read : {readUfw, readFirewalld}) {
         if (const std::optional<FirewallReport> report = read(question)) {
             reports.append(*report);
-            isKept = isKept || report->state != FirewallReport::Off;
+            isKept =
+                isKept || report->state == FirewallReport::On || report->state == FirewallReport::NoRights;
         }
     }
     if (isKept)

@@ -260,16 +260,19 @@ NftPassage nftPassage(const QByteArray &json, Transport transport, quint16 port)
     const QJsonArray entries = document.object().value("nftables"_L1).toArray();
     const Ruleset rules(entries, transport, port);
 
-    NftPassage result{Passage::Open, {}};
+    NftPassage result{.passage = Passage::Open, .isAsked = false, .closedBy = {}};
     for (const QJsonValue &entry : entries) {
         const QJsonObject chain = entry.toObject().value("chain"_L1).toObject();
         if (!isWayIn(chain))
             continue;
+        result.isAsked = true;
         const Passage passage = rules.through(chain).verdict.passage();
-        if (passage == Passage::Closed)
-            return {passage,
-                    {chain.value("family"_L1).toString(), chain.value("table"_L1).toString(),
-                     chain.value("name"_L1).toString()}};
+        if (passage == Passage::Closed) {
+            result.closedBy = {chain.value("family"_L1).toString(), chain.value("table"_L1).toString(),
+                               chain.value("name"_L1).toString()};
+            result.passage = passage;
+            return result;
+        }
         if (passage == Passage::Unknown)
             result.passage = passage;
     }

@@ -12,6 +12,7 @@ namespace Zandrove::Platform {
 struct NftPassage
 {
     Passage passage = Passage::Unknown;
+    bool isAsked = false; ///< there are rules at all for what comes in
     QStringList closedBy; ///< family, table and name of the chain that ends it; empty where none does
 };
 

@@ -88,6 +88,7 @@ CompletePage::CompletePage(TransferEngine *engine, QWidget *parent)
     setupUi();
     connect(m_engine, &TransferEngine::transferCompleted, this, &CompletePage::setReport);
     connect(m_engine, &TransferEngine::runEnded, this, &CompletePage::setSummary);
+    connect(m_engine, &TransferEngine::runRevised, this, &CompletePage::setSummary);
     connect(m_engine, &TransferEngine::settingsFinished, this, &CompletePage::onSettingsFinished);
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/engine/TransferEngine.h"
 #include "support/PrintableText.h"
+#include "support/ReportDocument.h"
 #include "support/RunTexts.h"
 #include "support/Utilities.h"
 #include "ui/Log.h"
@@ -87,12 +88,16 @@ void TransferPage::setupConnections()
     listen(&Engine::runEnded, &TransferPage::onRunEnded);
     listen(&Engine::spaceShort, &TransferPage::onSpaceShort);
     listen(&Engine::installing, &TransferPage::onInstalling);
+    connect(m_notice, &NoticeBar::actionClicked, this, [this] { Q_EMIT navigateBack(u"SelectionPage"_s); });
 
     // At once: an answer that is given to the open question before the queued calls arrive
     // is too late as well.
     for (auto end : {&Engine::peerCancelled, &Engine::transferReset, &Engine::sessionEndReceived})
         connect(m_engine, end, this, &TransferPage::closeQuestion);
-    connect(m_engine, &Engine::transferCompleted, this, &TransferPage::closeQuestion);
+    connect(m_engine, &Engine::transferCompleted, this, [this] {
+        m_isComplete = true;
+        closeQuestion();
+    });
     connect(m_engine, &Engine::runEnded, this, &TransferPage::closeQuestion);
 }
 
@@ -141,12 +146,12 @@ void TransferPage::resetForNewTransfer()
 
 void TransferPage::begin()
 {
-    m_running = false;
+    m_running = m_isComplete = false;
     m_notice->tell(QString());
     m_files->clear();
     showPaused(false);
     showControls(true);
-    showFailedCount();
+    showFailedCount({});
 }
 
 void TransferPage::clearCard(const QString &speed, const QString &total)
@@ -166,11 +171,14 @@ void TransferPage::onProgressChanged(const TransferProgress &progress)
     m_progressCard->setRemaining(formatTime(progress.remainingSeconds));
     m_progressCard->setSizes(formatSize(progress.transferredBytes), formatSize(progress.totalBytes));
     m_titleLabel->setText((isNewPC() ? tr("Receiving Data - %1%") : tr("Sending Data - %1%")).arg(percent));
-    showFailedCount();
+    showFailedCount(m_engine->summary());
 }
 
 void TransferPage::onTransferCompleted(const MigrationReport &report)
 {
+    // Told in a queue: the page may show the next run by now.
+    if (!std::exchange(m_isComplete, false))
+        return;
     qCDebug(logUi) << "TransferPage::onTransferCompleted() - Success:" << report.filesSuccess
                    << "Failed:" << report.filesFailed;
     m_running = false;
@@ -182,17 +190,23 @@ void TransferPage::onTransferCompleted(const MigrationReport &report)
     Q_EMIT transferFinished();
 }
 
-/// The window says what was lost, and offers the way back.
+/// Of a lost link the window says what was lost, and offers the way back.
 void TransferPage::onRunEnded(const RunSummary &summary)
 {
-    m_running = false;
-    if (summary.end != RunEnd::LinkLost)
+    // One that outlived its link has nothing to do with the page of the next.
+    if (summary.end == RunEnd::LinkLost && m_engine->hasAcceptedLink())
         return;
-    m_titleLabel->setText(tr("Connection lost"));
+    m_running = false;
+    const bool isReset = summary.end == RunEnd::Reset && !isNewPC();
+    if (summary.end != RunEnd::LinkLost && !isReset)
+        return;
+    m_titleLabel->setText(isReset ? printable(headlineOf(summary)) : tr("Connection lost"));
+    if (isReset)
+        m_notice->tell(arrivedFilesText(summary) + u'.', tr("Back to selection"));
     m_progressCard->setSpeed(u"--"_s);
     m_progressCard->setRemaining(noRemaining());
     m_files->stop();
-    showFailedCount();
+    showFailedCount(m_engine->summary());
     showControls(false);
 }
 
@@ -268,7 +282,8 @@ bool TransferPage::letGo()
                          tr("A transfer is running. Closing the window cancels it."),
                          QMessageBox::Ok | QMessageBox::Cancel, this);
     question.setInformativeText(
-        tr("What has arrived stays on the New PC, and nothing is deleted on the Old PC."));
+        tr("What has arrived stays on the New PC, and nothing is deleted on the Old PC. A report is left in "
+           "your documents."));
     question.button(QMessageBox::Ok)->setText(tr("Cancel and Close"));
     if (!confirm(question))
         return false;
@@ -278,8 +293,12 @@ bool TransferPage::letGo()
 
 void TransferPage::cancelRun()
 {
-    if (std::exchange(m_running, false))
-        m_engine->cancelTransfer();
+    if (!std::exchange(m_running, false))
+        return;
+    m_engine->cancelTransfer();
+    const RunSummary summary = m_engine->summary();
+    if (const QString problem = saveReport(summary, reportPathFor(summary)); !problem.isEmpty())
+        qCWarning(logUi) << problem;
 }
 
 /// There is nothing left to cancel, and who ended it says what comes next.
@@ -296,7 +315,7 @@ void TransferPage::onCancelClicked()
                          tr("Are you sure you want to cancel the transfer?"),
                          QMessageBox::Ok | QMessageBox::Cancel, this);
     question.setInformativeText(
-        tr("All progress will be lost and incomplete files may remain on the destination."));
+        tr("All progress will be lost. Files that have arrived stay; nothing incomplete remains."));
     question.button(QMessageBox::Ok)->setText(tr("Yes, Cancel"));
     if (!confirm(question))
         return;
@@ -339,12 +358,14 @@ void TransferPage::onFileProgress(const QString &fileName, int percent)
 
 void TransferPage::onFileCompleted(const QString &fileName)
 {
-    m_files->markSent(fileName);
+    if (!isNewPC())
+        m_files->markSent(fileName);
 }
 
 void TransferPage::onFileFailed(const QString &fileName, const QString &reason)
 {
-    m_files->fail(fileName, reason);
+    if (!isNewPC()) // there the outcome follows, and a file that was there before hasn't failed
+        m_files->fail(fileName, reason);
 }
 
 void TransferPage::onItemSettled(const ItemResult &item)

@@ -99,7 +99,7 @@ QWidget *TransferPage::createControls()
     m_retryLink->setStyleSheet(linkStyle());
     connect(m_retryLink, &QPushButton::clicked, this, &TransferPage::onRetryClicked);
     showPaused(false);
-    showFailedCount();
+    showFailedCount({});
 
     auto *controls = new QWidget;
     auto *layout = new QHBoxLayout(controls);
@@ -128,9 +128,8 @@ void TransferPage::showControls(bool shown)
 }
 
 /// What failed of all that is to be moved, which may grow with every snapshot.
-void TransferPage::showFailedCount()
+void TransferPage::showFailedCount(const RunSummary &summary)
 {
-    const RunSummary summary = m_engine->summary();
     int count = 0;
     for (const OutcomeCounts &counts : {summary.files, summary.apps, summary.settings})
         count += counts.failed + counts.notConfirmed;

@@ -147,7 +147,10 @@ void TransferFileItem::paintEvent(QPaintEvent *)
     painter.setPen(QColor(look.nameColour));
     painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, text);
     line.setRight(line.right() - painter.fontMetrics().horizontalAdvance(text) - Spacing);
-    painter.setFont(sized(font(), NamePixels));
+    QFont nameFont = sized(font(), NamePixels);
+    if (m_status == Active)
+        nameFont.setWeight(QFont::Medium);
+    painter.setFont(nameFont);
     painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
                      painter.fontMetrics().elidedText(printable(m_fileName), Qt::ElideMiddle, line.width()));
 }

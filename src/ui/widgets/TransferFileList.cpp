@@ -39,13 +39,6 @@ TransferFileItem::Status statusOf(ItemOutcome outcome)
     return TransferFileItem::Pending;
 }
 
-/// "[App] Acme Writer" is the row of the application "Acme Writer", in whatever language the kind is named.
-bool isRowOfItem(const QString &rowName, const QString &itemName)
-{
-    const qsizetype kind = rowName.indexOf("] "_L1) + 2;
-    return rowName.startsWith(u'[') && kind >= 2 && QStringView(rowName).sliced(kind) == itemName;
-}
-
 } // namespace
 
 TransferFileList::TransferFileList(QWidget *parent)
@@ -127,8 +120,7 @@ void TransferFileList::settle(const ItemResult &item)
 {
     if (item.outcome == ItemOutcome::Pending)
         return;
-    const bool isFile = item.kind == ItemKind::File;
-    const QString name = isFile ? item.path.section(u'/', -1) : item.path;
+    const QString name = rowName(item.kind, item.path);
     Row *row = rowOf(item, name);
     if (!row) {
         if (item.outcome != ItemOutcome::Failed)
@@ -146,11 +138,9 @@ void TransferFileList::settle(const ItemResult &item)
 /// oldest row of the name is it, unless that one has made room before.
 TransferFileList::Row *TransferFileList::rowOf(const ItemResult &item, const QString &name)
 {
-    const auto first = [this, &item, &name](std::initializer_list<Status> statuses) -> Row * {
+    const auto first = [this, &name](std::initializer_list<Status> statuses) -> Row * {
         const auto row = std::find_if(m_rows.begin(), m_rows.end(), [&](const Row &candidate) {
-            const bool named =
-                item.kind == ItemKind::File ? candidate.name == name : isRowOfItem(candidate.name, name);
-            return named && candidate.path.isEmpty() &&
+            return candidate.name == name && candidate.path.isEmpty() &&
                    std::find(statuses.begin(), statuses.end(), candidate.status) != statuses.end();
         });
         return row == m_rows.end() ? nullptr : &*row;
