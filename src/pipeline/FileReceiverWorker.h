@@ -26,7 +26,7 @@ class FileReceiverWorker final : public QObject
 
 public:
     /// Chunk bytes that may wait for this worker before the link should stop reading.
-    static constexpr qint64 InflowMark = 64 * 1024 * 1024;
+    static constexpr qint64 InflowMark = 8 * 1024 * 1024;
 
     explicit FileReceiverWorker(QObject *parent = nullptr);
     /// Removes the file that is still open, if any.
