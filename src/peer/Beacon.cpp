@@ -57,16 +57,18 @@ Beacon::Beacon(const LinkEnvironment &environment, std::function<QByteArray()> b
     bind();
 }
 
-void Beacon::bind()
+bool Beacon::bind()
 {
-    m_socket->bind(QHostAddress::Any, m_environment.udpPort,
-                   QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint);
+    if (m_hears)
+        return true;
+    m_socket->abort(); // what it has sent has bound it to some other port
+    m_hears = m_socket->bind(QHostAddress::Any, m_environment.udpPort,
+                             QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint);
+    return m_hears;
 }
 
 void Beacon::start()
 {
-    if (m_socket->state() != QAbstractSocket::BoundState)
-        bind();
     m_timer->start();
 }
 

@@ -13,7 +13,7 @@ namespace Zandrove {
 
 /// The datagrams of discovery: announces this copy to every network it is in, and hears what others announce.
 /// What the datagrams say is not known here. A datagram that cannot be sent, or a port that cannot be bound,
-/// goes without a word; the port is tried again at each start.
+/// goes without a word.
 class Beacon final : public QObject
 {
     Q_OBJECT
@@ -23,6 +23,8 @@ public:
     /// goes to all targets as the same frame.
     Beacon(const LinkEnvironment &environment, std::function<QByteArray()> buildFrame, QObject *parent);
 
+    /// Opens the port to hear on, unless it is open. False where it cannot be.
+    bool bind();
     /// Announces every 500 ms from now on. Hearing is always on.
     void start();
     void stop();
@@ -34,7 +36,6 @@ Q_SIGNALS:
     void heard(const QByteArray &datagram, const QHostAddress &sender);
 
 private:
-    void bind();
     void announce();
     void sendBurst();
     void sendDatagram(const QByteArray &datagram, const QHostAddress &target);
@@ -45,7 +46,8 @@ private:
     QUdpSocket *m_socket;
     QTimer *m_timer;
     QTimer *m_burstTimer;
-    int m_burstLeft = 0; ///< announcements of the burst still to be sent
+    bool m_hears = false; ///< the port is open
+    int m_burstLeft = 0;  ///< announcements of the burst still to be sent
 };
 
 } // namespace Zandrove

@@ -3,7 +3,6 @@
 #include "peer/AddressRules.h"
 #include "peer/Log.h"
 
-#include <QDateTime>
 #include <QNetworkProxy>
 #include <QTcpSocket>
 #include <QTimer>
@@ -23,8 +22,6 @@ namespace {
 constexpr qsizetype ProbesPerBatch = 30;
 constexpr auto BatchTimeout = 150ms;
 constexpr int HighestLayer = 5;
-constexpr int ReachabilityTimeoutMs = 200;
-constexpr qint64 ReachabilityLifetimeMs = 3000;
 constexpr auto TargetProperty = "targetIP";
 
 constexpr auto LoopbackPrefix = "127."_L1;
@@ -35,6 +32,12 @@ bool isPlainPrivate(const QString &ip)
 {
     return isPrivateIP(ip) && !ip.startsWith(LinkLocalPrefix) && !ip.startsWith(LoopbackPrefix) &&
            !ip.startsWith(SharingPrefix);
+}
+
+bool reaches(const NetworkAdapter &adapter, const QString &ip)
+{
+    return std::any_of(adapter.addresses.cbegin(), adapter.addresses.cend(),
+                       [&ip](const AdapterAddress &entry) { return isSameSubnet(entry.ip.toString(), ip); });
 }
 
 } // namespace
@@ -96,27 +99,21 @@ bool CableModeHelper::isLocalIP(const QString &ip)
     return m_localIPs.contains(normalizeIP(ip));
 }
 
-QString CableModeHelper::chooseBestIP(const QString &payloadIP, const QString &senderIP)
+QStringList CableModeHelper::cableFirst(const QStringList &candidates) const
 {
-    qCDebug(logPeer) << "[CableModeHelper] chooseBestIP: payload=" << payloadIP << "sender=" << senderIP;
-    if (const QString local = localIPInSubnetOf(senderIP); !local.isEmpty()) {
-        qCDebug(logPeer) << "  -> Using senderIP (same subnet with" << local << "):" << senderIP;
-        return senderIP;
-    }
-    if (const QString local = localIPInSubnetOf(payloadIP); !local.isEmpty()) {
-        qCDebug(logPeer) << "  -> Using payloadIP (same subnet with" << local << "):" << payloadIP;
-        return payloadIP;
-    }
-    if (senderIP.startsWith(LinkLocalPrefix) || payloadIP.startsWith(LinkLocalPrefix)) {
-        if (QString reachable = firstReachable(payloadIP, senderIP); !reachable.isEmpty())
-            return reachable;
-    }
-    if (!senderIP.isEmpty()) {
-        qCDebug(logPeer) << "  -> Fallback to senderIP:" << senderIP;
-        return senderIP;
-    }
-    qCDebug(logPeer) << "  -> Fallback to payloadIP:" << payloadIP;
-    return payloadIP;
+    const auto isWired = [this](const QString &ip) {
+        return std::any_of(m_knownAdapters.cbegin(), m_knownAdapters.cend(),
+                           [&ip](const NetworkAdapter &adapter) {
+                               return adapter.wired && adapter.up && reaches(adapter, ip);
+                           });
+    };
+    const auto rank = [&isWired](const QString &ip) {
+        return ip.startsWith(LinkLocalPrefix) ? 0 : isWired(ip) ? 1 : 2;
+    };
+    QStringList sorted = candidates;
+    std::stable_sort(sorted.begin(), sorted.end(),
+                     [&rank](const QString &a, const QString &b) { return rank(a) < rank(b); });
+    return sorted;
 }
 
 void CableModeHelper::setHandshakeOpen(bool open)
@@ -169,45 +166,6 @@ void CableModeHelper::stopDirectScan()
     qCDebug(logPeer) << "[CableModeHelper] Scan stopped";
 }
 
-bool CableModeHelper::isReachable(const QString &ip, int timeoutMs)
-{
-    const qint64 now = QDateTime::currentMSecsSinceEpoch();
-    const auto known = m_reachableCache.constFind(ip);
-    if (known != m_reachableCache.cend() && now - known->checkedAt < ReachabilityLifetimeMs)
-        return known->reachable;
-    QTcpSocket probe;
-    probe.setProxy(QNetworkProxy::NoProxy);
-    probe.connectToHost(routeTo(ip), m_targetPort, QIODevice::ReadWrite, QAbstractSocket::AnyIPProtocol);
-    const bool reachable = probe.waitForConnected(timeoutMs);
-    probe.close();
-    m_reachableCache.insert(ip, {reachable, now});
-    return reachable;
-}
-
-/// The own address that shares a subnet with `ip`, empty without one.
-QString CableModeHelper::localIPInSubnetOf(const QString &ip) const
-{
-    if (ip.isEmpty())
-        return {};
-    const QStringList locals = getLocalIPs();
-    const auto local = std::find_if(locals.cbegin(), locals.cend(),
-                                    [&ip](const QString &own) { return isSameSubnet(own, ip); });
-    return local != locals.cend() ? *local : QString();
-}
-
-QString CableModeHelper::firstReachable(const QString &payloadIP, const QString &senderIP)
-{
-    if (!senderIP.isEmpty() && isReachable(senderIP, ReachabilityTimeoutMs)) {
-        qCDebug(logPeer) << "  -> Using senderIP (reachable):" << senderIP;
-        return senderIP;
-    }
-    if (!payloadIP.isEmpty() && isReachable(payloadIP, ReachabilityTimeoutMs)) {
-        qCDebug(logPeer) << "  -> Using payloadIP (reachable):" << payloadIP;
-        return payloadIP;
-    }
-    return {};
-}
-
 QStringList CableModeHelper::getLocalIPs() const
 {
     QStringList ips;
@@ -225,15 +183,31 @@ QStringList CableModeHelper::getLocalIPs() const
 
 void CableModeHelper::refreshLocalIPs()
 {
+    (void)readLocalIPs();
+    logLocalIPs();
+}
+
+void CableModeHelper::watchLocalIPs()
+{
+    if (readLocalIPs())
+        logLocalIPs();
+}
+
+/// Whether they have changed.
+bool CableModeHelper::readLocalIPs()
+{
     QSet<QString> ips = {u"127.0.0.1"_s};
-    const QList<NetworkAdapter> adapters = m_adapters();
-    for (const NetworkAdapter &adapter : adapters) {
+    m_knownAdapters = m_adapters();
+    for (const NetworkAdapter &adapter : std::as_const(m_knownAdapters)) {
         for (const AdapterAddress &entry : adapter.addresses)
             ips.insert(normalizeIP(entry.ip.toString()));
     }
     m_localIPsValid = true;
-    if (std::exchange(m_localIPs, ips) == ips)
-        return;
+    return std::exchange(m_localIPs, ips) != ips;
+}
+
+void CableModeHelper::logLocalIPs() const
+{
     qCDebug(logPeer) << "[CableModeHelper] Local IPs:" << m_localIPs;
 }
 

@@ -3,7 +3,6 @@
 #include "core/common/Records.h"
 #include "support/NetworkAdapters.h"
 
-#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QSet>
@@ -17,11 +16,10 @@ class QTimer;
 
 namespace Zandrove {
 
-/// Knows this machine's addresses, chooses which of two candidate addresses of a peer to dial, and, for two
-/// PCs joined by one cable, sweeps the addresses around this machine's own with TCP connects until a listener
-/// answers.
+/// Knows this machine's addresses, and, for two PCs joined by one cable, which address of a peer leads
+/// through it; sweeps the addresses around this machine's own with TCP connects until a listener answers.
 ///
-/// Main thread only. `isReachable` (inside `chooseBestIP`) may block for up to 200 ms; nothing else blocks.
+/// Main thread only. Nothing blocks.
 class CableModeHelper : public QObject
 {
     Q_OBJECT
@@ -39,6 +37,8 @@ public:
 
     /// Reads this machine's addresses anew: adapters come and go.
     void refreshLocalIPs();
+    /// The same for who asks all the time: the log hears of it only when they have changed.
+    void watchLocalIPs();
 
     /// The address to announce in cable mode: private, else internet-sharing (192.168.137.x), else
     /// link-local, else "127.0.0.1".
@@ -50,9 +50,10 @@ public:
     /// Whether `ip`, normalised, is one of this machine's own addresses, as they were when last refreshed.
     [[nodiscard]] bool isLocalIP(const QString &ip);
 
-    /// Which of a peer's two addresses to dial: the one in a subnet of this machine, else one that answers a
-    /// probe where link-local addresses are about, else the sender's.
-    [[nodiscard]] QString chooseBestIP(const QString &payloadIP, const QString &senderIP);
+    /// `candidates`, addresses of one peer, with those before the others that lead through a cable:
+    /// link-local ones, then those in a subnet of a wired adapter. The adapters are as they were when last
+    /// refreshed.
+    [[nodiscard]] QStringList cableFirst(const QStringList &candidates) const;
 
     /// The sweep pauses while a handshake of this copy is open: probes in flight are aborted and count as
     /// tried, and no new batch starts until this is called with false.
@@ -78,16 +79,9 @@ Q_SIGNALS:
     void deviceFound(const QString &ip);
 
 private:
-    struct Reachability
-    {
-        bool reachable = false;
-        qint64 checkedAt = 0; ///< milliseconds since the epoch
-    };
-
-    [[nodiscard]] bool isReachable(const QString &ip, int timeoutMs);
-    [[nodiscard]] QString localIPInSubnetOf(const QString &ip) const;
-    [[nodiscard]] QString firstReachable(const QString &payloadIP, const QString &senderIP);
     [[nodiscard]] QStringList getLocalIPs() const;
+    [[nodiscard]] bool readLocalIPs();
+    void logLocalIPs() const;
 
     void collectScanTargets();
     void scanNextBatch();
@@ -104,10 +98,10 @@ private:
     AdapterSource m_adapters;
     int m_currentLayer = 0;
     bool m_foundDevice = false;
-    QHash<QString, Reachability> m_reachableCache;
     quint16 m_targetPort = TcpPort;
     bool m_cableModeInitialized = false;
     QSet<QString> m_localIPs;
+    QList<NetworkAdapter> m_knownAdapters; ///< as last refreshed
     bool m_localIPsValid = false;
     bool m_scanning = false;
     QStringList m_scanTargets;

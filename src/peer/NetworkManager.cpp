@@ -25,16 +25,10 @@ namespace Zandrove {
 
 namespace {
 
-constexpr auto ConnectTimeout = 5000ms;
 /// How long the end of the program waits for the last frames to leave.
 constexpr auto FarewellTime = 200ms;
 /// What a peer that has been dialled, and has not said yes, may keep waiting here in an unfinished frame.
 constexpr qsizetype UnacceptedLimitBytes = 16 << 20;
-
-QString addressOf(const Link *link)
-{
-    return CableModeHelper::normalizeIP(link->peerAddress().toString());
-}
 
 } // namespace
 
@@ -46,6 +40,9 @@ NetworkManager::NetworkManager(QObject *parent, LinkEnvironment environment)
           m_environment, [this] { return discoveryFrame(); }, this))
     , m_timeoutTimer(new QTimer(this))
     , m_scanDelayTimer(new QTimer(this))
+    , m_peers([this](const QStringList &candidates) {
+        return m_mode == CableMode ? m_cableHelper->cableFirst(candidates) : candidates;
+    })
     , m_tcpServer(new QTcpServer(this))
     , m_connectionTimer(new QTimer(this))
     , m_waitingRoom(new WaitingRoom(
@@ -54,7 +51,6 @@ NetworkManager::NetworkManager(QObject *parent, LinkEnvironment environment)
 {
     setupDiscovery();
     m_connectionTimer->setSingleShot(true);
-    m_connectionTimer->setInterval(ConnectTimeout);
     connect(m_connectionTimer, &QTimer::timeout, this, &NetworkManager::onConnectionTimeout);
     connect(m_waitingRoom, &WaitingRoom::asked, this, &NetworkManager::onAsked);
     connect(m_waitingRoom, &WaitingRoom::ended, this, [this](quint64 question) {
@@ -138,54 +134,17 @@ void NetworkManager::sendData(const QByteArray &data)
         m_link->sendRaw(data);
 }
 
-void NetworkManager::sendCommand(Protocol::MessageType type)
-{
-    sendCommand(type, {});
-}
-
 void NetworkManager::sendCommand(Protocol::MessageType type, const QByteArray &payload)
 {
     if (m_link)
         m_link->send(type, payload);
 }
 
-void NetworkManager::connectToPC(const QString &pcId)
-{
-    qCDebug(logPeer) << "=== connectToPC() ===";
-    qCDebug(logPeer) << "Target:" << pcId;
-    const auto target = m_peers.withId(pcId);
-    if (!target) {
-        Q_EMIT connectionFailed(tr("PC not found"));
-        return;
-    }
-    const QString ip = m_cableHelper->chooseBestIP(target->ip, target->senderIp);
-    qCDebug(logPeer) << "Payload IP:" << target->ip;
-    qCDebug(logPeer) << "Sender IP:" << target->senderIp;
-    qCDebug(logPeer) << "Chosen IP:" << ip;
-    if (isAccepted())
-        endPair(); // a live link is given up for the new one
-    drop();
-    Link *link = adopt(new Link(new QTcpSocket, Link::Shared::apart(&m_frames), this));
-    m_pairing.dialled(*target);
-    m_dialledIP = ip;
-    applyPairing();
-    m_connectionTimer->start();
-    link->dial(ip, target->port);
-}
-
-void NetworkManager::connectByVerifyCode(const QString &code)
-{
-    const auto target = m_peers.withCode(code);
-    if (target)
-        connectToPC(target->id);
-    else
-        Q_EMIT connectionFailed(tr("No device found with verification code: %1").arg(code));
-}
-
 void NetworkManager::disconnect()
 {
     sendCommand(Protocol::MessageType::Disconnect);
     hangUp();
+    askDeferred();
 }
 
 void NetworkManager::acceptConnection(quint64 question)
@@ -203,6 +162,7 @@ void NetworkManager::acceptConnection(quint64 question)
     PCInfo peer;
     peer.id = peer.name = asker->name;
     peer.ip = peer.senderIp = asker->ip;
+    peer.os = asker->os;
     m_pairing.admitted(peer);
     sendCommand(Protocol::MessageType::ConnectAccept);
     m_waitingRoom->refuseAll();
@@ -300,15 +260,20 @@ void NetworkManager::applyPairing()
 void NetworkManager::onLinkOpened()
 {
     m_connectionTimer->stop();
+    m_dialPlan.reached();
     const QJsonObject json{{u"name"_s, getComputerName()}, {u"os"_s, getOSVersion()}};
     sendCommand(Protocol::MessageType::ConnectRequest, compactJson(json));
+    Q_EMIT waitingForAnswer(m_pairing.target().name);
 }
 
 void NetworkManager::onLinkClosed(Link *link)
 {
     if (link == m_link) {
+        const bool broke = isAccepted();
         drop();
         endPair();
+        if (broke)
+            Q_EMIT linkBroke();
     }
     if (!m_link)
         tellEnd(link);
@@ -321,11 +286,15 @@ void NetworkManager::onLinkFailed(QAbstractSocket::SocketError error, const QStr
     if (error == QAbstractSocket::RemoteHostClosedError && m_pairing.state() != Pairing::State::Dialling)
         return;
     m_connectionTimer->stop();
+    if (dialNext())
+        return;
     const bool wasAccepted = isAccepted();
     Link *const link = release();
     link->abandon();
-    if (wasAccepted)
+    if (wasAccepted) {
         endPair();
+        Q_EMIT linkBroke();
+    }
     Q_EMIT connectionFailed(reason.isEmpty() ? tr("Unknown error") : reason);
     if (wasAccepted)
         tellEnd(link);
@@ -338,6 +307,7 @@ void NetworkManager::onLinkLost()
     Link *const link = release();
     link->abandon();
     endPair();
+    Q_EMIT linkBroke();
     tellEnd(link);
 }
 
@@ -347,7 +317,7 @@ void NetworkManager::onFrame(Protocol::MessageType type, const QByteArray &paylo
     case Protocol::MessageType::ConnectRequest:
         return; // it asks whoever has come in, and that one is no longer asked
     case Protocol::MessageType::ConnectAccept:
-        if (m_pairing.toldYes(addressOf(m_link))) {
+        if (m_pairing.toldYes(m_link->peerIp())) {
             m_waitingRoom->refuseAll();
             pair();
         }
@@ -362,7 +332,9 @@ void NetworkManager::onFrame(Protocol::MessageType type, const QByteArray &paylo
         tellEnd(m_link);
         return;
     case Protocol::MessageType::Heartbeat:
-        return;
+        if (payload.isEmpty())
+            return;
+        [[fallthrough]];
     default:
         Q_EMIT commandReceived(type, payload);
     }
@@ -382,6 +354,8 @@ void NetworkManager::onConnectReject()
 void NetworkManager::onConnectionTimeout()
 {
     qCDebug(logPeer) << "Connection timeout";
+    if (dialNext())
+        return;
     if (m_link && m_link->isDialling())
         drop();
     Q_EMIT connectionTimeout();

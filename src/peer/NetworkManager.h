@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/common/Records.h"
+#include "peer/DialPlan.h"
 #include "peer/LinkEnvironment.h"
 #include "peer/Pairing.h"
 #include "peer/PeerTable.h"
@@ -92,9 +93,12 @@ public Q_SLOTS:
     /// Empties the table, without `pcLost`, and broadcasts and sweeps anew, whether it runs or not.
     void restartBroadcast();
 
-    /// Dials the table's entry with this id. Emits `connected` once the peer's user said yes, or
-    /// `connectionFailed`; "PC not found" comes inside the call.
-    void connectToPC(const QString &pcId);
+    /// Dials the table's entry with this key, or, with 0, the first one with this id: its addresses one after
+    /// the other, the announced one last, until one answers. Emits `waitingForAnswer` then, and `connected`
+    /// once the peer's user said yes; or `connectionFailed`, of which "PC not found" comes inside the call.
+    void connectToPC(const QString &pcId, quint64 key = 0);
+    /// Dials this address or host name, and no other, be it that of an entry or not.
+    void connectToAddress(const QString &address);
     /// Dials the first entry with this code.
     void connectByVerifyCode(const QString &code);
     /// Says goodbye and forgets the peer at once; what was sent before is still delivered, for as long
@@ -113,7 +117,7 @@ public Q_SLOTS:
     void sendData(const QByteArray &data);
     /// Frames and writes a message. Without a socket nothing happens.
     void sendCommand(Zandrove::Protocol::MessageType type, const QByteArray &payload);
-    void sendCommand(Zandrove::Protocol::MessageType type);
+    void sendCommand(Zandrove::Protocol::MessageType type) { sendCommand(type, {}); }
 
     /// Reads, through the event loop, what the read gate held back.
     void resumeReading();
@@ -123,7 +127,15 @@ public Q_SLOTS:
 
 Q_SIGNALS:
     void pcDiscovered(const Zandrove::PCInfo &pc); ///< add or update
-    void pcLost(const QString &pcId);              ///< comes while the table still has the entry
+    /// For one that has fallen silent it comes while the table still has the entry. `key` tells it from
+    /// others of the same id.
+    void pcLost(const QString &pcId, quint64 key = 0);
+    /// A PC of this copy's own role is about, which is never listed: told when it is heard first, and every
+    /// 5 s for as long as it is heard.
+    void sameRolePeer(const QString &name);
+    /// Another program has `port`, found at a start of discovery: peers cannot dial this copy, or it hears no
+    /// broadcast. `program` is empty where the system does not tell.
+    void portTaken(quint16 port, const QString &program);
     void directScanStarted();
     void directScanProgress(int scanned, int total);
     void directScanFinished(bool found);
@@ -132,11 +144,17 @@ Q_SIGNALS:
     /// with acceptConnection or rejectConnection.
     void connectionRequested(const QString &pcName, const QString &verifyCode);
     void questionEnded(quint64 question); ///< unanswered: its asker has left, or another one was chosen
-    void connecting();                    ///< never emitted
-    void connected();                     ///< paired, on either side
+    /// The own dial is through, and the peer's user has been asked. Followed by connected or
+    /// connectionFailed.
+    void waitingForAnswer(const QString &name);
+    void connecting(); ///< never emitted
+    void connected();  ///< paired, on either side
     /// The link is over, once for each and after all frames that had come on it: the peer has left, the
-    /// connection broke, or nothing came for 120 s. acceptedLink() is 0 from then on.
+    /// connection broke, or nothing came for 120 s. Not told of a link that connectToPC gives up for a dial.
+    /// acceptedLink() is 0 from then on.
     void disconnected();
+    /// The accepted link has ended without a goodbye of either side. What else is told of its end follows.
+    void linkBroke();
     /// A dial or the link has failed, or the peer said no. For an accepted link `disconnected` follows.
     void connectionFailed(const QString &reason);
     /// Nothing has come on the accepted link for so long: after 15 s, then every 5 s. The link stands.
@@ -145,7 +163,7 @@ Q_SIGNALS:
     void connectionTimeout();                  ///< followed by connectionFailed
     void dataReceived(const QByteArray &data); ///< never emitted
     /// Every message that the connection layer does not consume itself, in order of arrival, from any peer:
-    /// whether the peer was accepted is for the listener to ask.
+    /// whether the peer was accepted is for the listener to ask. A heartbeat is one if it says something.
     void commandReceived(Zandrove::Protocol::MessageType type, const QByteArray &payload);
 
 private:
@@ -153,10 +171,14 @@ private:
     void setupDiscovery();
     void setupServer();
     [[nodiscard]] bool listen();
+    void openPorts();
+    void tellDisplaced();
+    [[nodiscard]] QStringList dialAddresses(const PeerTable::Row &row);
+    void dial(const PCInfo &target, const QStringList &addresses);
+    [[nodiscard]] bool dialNext();
     void refreshAddresses();
     void startTimers();
     [[nodiscard]] QByteArray discoveryFrame();
-    [[nodiscard]] std::optional<PCInfo> peerFrom(const QByteArray &payload, const QString &senderIP) const;
     void onDirectScanDeviceFound(const QString &ip);
     void onNewConnection();
     void onAsked(const ConnectionQuestion &question);
@@ -195,9 +217,9 @@ private:
     PeerTable m_peers;
 
     QTcpServer *m_tcpServer;
-    QTimer *m_connectionTimer; ///< runs from a dial until TCP is up
+    QTimer *m_connectionTimer; ///< runs for each address that is dialled, until TCP is up
     Pairing m_pairing;
-    QString m_dialledIP;
+    DialPlan m_dialPlan;
     WaitingRoom *m_waitingRoom;
     quint64 m_deferredQuestion = 0; ///< of a peer that an own dial is open to
     std::function<bool()> m_isBusy;

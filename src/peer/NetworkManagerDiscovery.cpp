@@ -1,12 +1,15 @@
 #include "peer/NetworkManager.h"
 
+#include "peer/AddressRules.h"
 #include "peer/Beacon.h"
 #include "peer/CableModeHelper.h"
 #include "peer/Link.h"
 #include "peer/Log.h"
 #include "peer/PeerText.h"
 #include "peer/WaitingRoom.h"
+#include "platform/PortHolders.h"
 #include "support/Json.h"
+#include "support/PeerChoice.h"
 #include "support/Utilities.h"
 
 #include <QJsonObject>
@@ -26,6 +29,8 @@ namespace Zandrove {
 namespace {
 
 constexpr auto AgeingInterval = 5000ms;
+/// Until TCP is up, for all addresses of a peer together.
+constexpr auto ConnectTimeout = 5000ms;
 constexpr unsigned long ListenRetryMs = 100;
 constexpr auto ScanDelayAfterStart = 500ms;
 constexpr auto ScanDelayAfterRestart = 100ms;
@@ -45,6 +50,26 @@ std::optional<QByteArray> discoveryPayloadOf(const QByteArray &datagram)
         qint64(header->length) + Protocol::HeaderSize > datagram.size())
         return std::nullopt;
     return datagram.mid(Protocol::HeaderSize, qsizetype(header->length));
+}
+
+QString programAt(Platform::Transport transport, quint16 port)
+{
+    const QList<Platform::PortHolder> holders = Platform::portHolders(transport, port);
+    return holders.isEmpty() ? QString() : holders.first().program;
+}
+
+PCInfo peerFrom(const QJsonObject &json, const QString &senderIP)
+{
+    PCInfo pc;
+    pc.id = boundedText(json["id"_L1]);
+    pc.name = boundedText(json["name"_L1]);
+    pc.ip = boundedText(json["ip"_L1]);
+    pc.port = portFrom(json["port"_L1]);
+    pc.os = boundedText(json["os"_L1]);
+    pc.verifyCode = boundedText(json["code"_L1]);
+    pc.senderIp = senderIP;
+    pc.online = true;
+    return pc;
 }
 
 } // namespace
@@ -109,10 +134,22 @@ bool NetworkManager::listen()
     return m_tcpServer->listen(QHostAddress::Any, m_environment.tcpPort);
 }
 
+/// What stands in the way of being found, or of hearing others, is told each time that the user begins anew.
+void NetworkManager::openPorts()
+{
+    setupServer();
+    const quint16 tcpPort = m_environment.tcpPort;
+    if (!m_tcpServer->isListening())
+        Q_EMIT portTaken(tcpPort, programAt(Platform::Transport::Tcp, tcpPort));
+    const quint16 udpPort = m_environment.udpPort;
+    if (!m_beacon->bind())
+        Q_EMIT portTaken(udpPort, programAt(Platform::Transport::Udp, udpPort));
+}
+
 void NetworkManager::startDiscovery()
 {
     refreshAddresses();
-    setupServer();
+    openPorts();
     if (m_beacon->isActive()) {
         qCDebug(logPeer) << "Broadcast already active, skipping restart";
         return;
@@ -129,7 +166,7 @@ void NetworkManager::restartBroadcast()
     qCDebug(logPeer) << "Restarting broadcast with code:" << m_verifyCode;
     m_peers.clear();
     refreshAddresses();
-    setupServer();
+    openPorts();
     if (!m_beacon->isActive())
         startTimers();
     m_beacon->startBurst();
@@ -164,8 +201,8 @@ void NetworkManager::startTimers()
 
 QByteArray NetworkManager::discoveryFrame()
 {
-    qCDebug(logPeer) << "Sending broadcast... Role:" << m_role;
-    m_cableHelper->refreshLocalIPs(); // a peer may have the address by now that this machine had
+    qCDebug(logPeer) << "Sending broadcast... Role:" << roleName(m_role);
+    m_cableHelper->watchLocalIPs(); // a peer may have the address by now that this machine had
     const QString name = getComputerName();
     const quint16 port = m_environment.tcpPort == TcpPort ? TcpPort : serverPort();
     const QString ip =
@@ -186,31 +223,29 @@ void NetworkManager::handleDatagram(const QByteArray &datagram, const QHostAddre
     const auto payload = discoveryPayloadOf(datagram);
     if (!payload)
         return;
-    const auto pc = peerFrom(*payload, senderIP);
-    if (!pc)
+    const QJsonObject json = parseJsonObject(*payload).value_or(QJsonObject());
+    const PCInfo pc = peerFrom(json, senderIP);
+    if (pc.id.isEmpty() || pc.name.isEmpty())
         return;
-    qCDebug(logPeer) << "Discovered PC:" << pc->name << "IP:" << pc->ip << "SenderIP:" << pc->senderIp
-                     << "Code:" << pc->verifyCode;
-    if (const auto news = m_peers.hear(*pc, m_environment.now()))
+    const QJsonValue role = json["role"_L1];
+    if (role.toInt() == m_role) {
+        if (role.isDouble() && m_peers.hearSameRole(pc.name, m_environment.now()))
+            Q_EMIT sameRolePeer(pc.name);
+        return;
+    }
+    qCDebug(logPeer) << "Discovered PC:" << pc.name << "IP:" << pc.ip << "SenderIP:" << pc.senderIp
+                     << "Code:" << pc.verifyCode;
+    const auto news = m_peers.hear(pc, m_environment.now());
+    tellDisplaced();
+    if (news)
         Q_EMIT pcDiscovered(*news);
 }
 
-/// The peer that a payload announces; nothing where it is none, or one of the own role.
-std::optional<PCInfo> NetworkManager::peerFrom(const QByteArray &payload, const QString &senderIP) const
+void NetworkManager::tellDisplaced()
 {
-    const QJsonObject json = parseJsonObject(payload).value_or(QJsonObject());
-    PCInfo pc;
-    pc.id = boundedText(json["id"_L1]);
-    pc.name = boundedText(json["name"_L1]);
-    pc.ip = boundedText(json["ip"_L1]);
-    pc.port = portFrom(json["port"_L1]);
-    pc.os = boundedText(json["os"_L1]);
-    pc.verifyCode = boundedText(json["code"_L1]);
-    pc.senderIp = senderIP;
-    pc.online = true;
-    if (pc.id.isEmpty() || pc.name.isEmpty() || json["role"_L1].toInt() == m_role)
-        return std::nullopt;
-    return pc;
+    const QList<PCInfo> displaced = m_peers.takeDisplaced();
+    for (const PCInfo &pc : displaced)
+        Q_EMIT pcLost(pc.id, pc.key);
 }
 
 /// The slots of `pcLost` may empty the table or hear the peer again, so nothing is taken for granted.
@@ -218,10 +253,10 @@ void NetworkManager::checkPCTimeouts()
 {
     m_peers.age(m_environment.now());
     while (const PeerTable::Row *row = m_peers.overdue()) {
-        const quint64 key = row->key;
+        const quint64 key = row->pc.key;
         const QString id = row->pc.id;
         qCDebug(logPeer) << "Removing PC:" << id;
-        Q_EMIT pcLost(id);
+        Q_EMIT pcLost(id, key);
         m_peers.giveUp(key);
     }
 }
@@ -230,8 +265,83 @@ void NetworkManager::onDirectScanDeviceFound(const QString &ip)
 {
     qCDebug(logPeer) << "[NetworkManager] Direct scan found device:" << ip;
     const auto news = m_peers.find(ip, tr("PC at %1").arg(ip), m_environment.tcpPort, m_environment.now());
+    tellDisplaced();
     if (news)
         Q_EMIT pcDiscovered(*news);
+}
+
+/// The addresses of a row in the order in which they are dialled. One that the peer merely announces may be
+/// that of an adapter which this PC, or any other one, has as well.
+QStringList NetworkManager::dialAddresses(const PeerTable::Row &row)
+{
+    m_cableHelper->refreshLocalIPs();
+    QStringList addresses = m_peers.addressesOf(row);
+    const QHostAddress announced(row.announcedIp);
+    if (isIPv4(announced) && !announced.isLoopback() && !addresses.contains(row.announcedIp))
+        addresses.append(row.announcedIp);
+    addresses.removeIf([this](const QString &ip) { return m_cableHelper->isLocalIP(ip); });
+    return addresses;
+}
+
+void NetworkManager::connectToPC(const QString &pcId, quint64 key)
+{
+    qCDebug(logPeer) << "=== connectToPC() ===";
+    qCDebug(logPeer) << "Target:" << pcId;
+    const PeerTable::Row *row = m_peers.rowOf(key, pcId);
+    const QStringList addresses = row ? dialAddresses(*row) : QStringList();
+    if (addresses.isEmpty()) {
+        Q_EMIT connectionFailed(tr("PC not found"));
+        return;
+    }
+    const PCInfo target = row->pc;
+    m_peers.noteDialled(target.key);
+    dial(target, addresses);
+}
+
+void NetworkManager::connectToAddress(const QString &address)
+{
+    PCInfo target;
+    target.id = target.name = target.ip = target.senderIp = address;
+    target.port = m_environment.tcpPort;
+    if (const PeerTable::Row *row = m_peers.rowAt(address))
+        target = row->pc;
+    dial(target, {address});
+}
+
+void NetworkManager::connectByVerifyCode(const QString &code)
+{
+    const QList<PCInfo> targets = peersWithCode(m_peers.peers(), code);
+    if (targets.isEmpty())
+        Q_EMIT connectionFailed(tr("No device found with verification code: %1").arg(code));
+    else
+        connectToPC(targets.first().id, targets.first().key);
+}
+
+void NetworkManager::dial(const PCInfo &target, const QStringList &addresses)
+{
+    if (isAccepted())
+        endPair(); // a live link is given up for the new one
+    drop();
+    m_pairing.dialled(target);
+    m_dialPlan = DialPlan(addresses);
+    (void)dialNext();
+}
+
+/// Dials the next address of the peer that is being dialled. False, and nothing done, where there is none.
+bool NetworkManager::dialNext()
+{
+    if (m_pairing.state() != Pairing::State::Dialling || m_dialPlan.isThrough())
+        return false;
+    const PCInfo target = m_pairing.target();
+    drop();
+    m_pairing.dialled(target);
+    Link *link = adopt(new Link(new QTcpSocket, Link::Shared::apart(&m_frames), this));
+    applyPairing();
+    m_connectionTimer->start(m_dialPlan.timeForEach(ConnectTimeout));
+    const QString ip = m_dialPlan.takeNext();
+    qCDebug(logPeer) << "Chosen IP:" << ip;
+    link->dial(ip, target.port);
+    return true;
 }
 
 void NetworkManager::rejectConnection(quint64 question)
@@ -265,13 +375,12 @@ void NetworkManager::onAsked(const ConnectionQuestion &question)
 
 bool NetworkManager::isBusyFor(const QString &ip) const
 {
-    return isAccepted() && m_isBusy && m_isBusy() && !m_link->isSilent() &&
-           CableModeHelper::normalizeIP(m_link->peerAddress().toString()) != ip;
+    return isAccepted() && m_isBusy && m_isBusy() && !m_link->isSilent() && m_link->peerIp() != ip;
 }
 
 bool NetworkManager::isDialling(const QString &ip) const
 {
-    return m_pairing.state() == Pairing::State::Dialling && m_dialledIP == ip;
+    return m_pairing.state() == Pairing::State::Dialling && m_dialPlan.aimsAt(ip);
 }
 
 /// The own dial is over: now the question counts that stood back for it.

@@ -15,6 +15,7 @@ NetworkAdapter adapterFrom(const QNetworkInterface &networkInterface)
     adapter.running = flags.testFlag(QNetworkInterface::IsRunning);
     adapter.loopback = flags.testFlag(QNetworkInterface::IsLoopBack);
     adapter.canBroadcast = flags.testFlag(QNetworkInterface::CanBroadcast);
+    adapter.wired = networkInterface.type() == QNetworkInterface::Ethernet;
     const auto entries = networkInterface.addressEntries();
     for (const QNetworkAddressEntry &entry : entries)
         adapter.addresses.append({entry.ip(), entry.broadcast(), entry.prefixLength()});

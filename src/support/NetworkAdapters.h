@@ -26,6 +26,7 @@ struct NetworkAdapter
     bool loopback = false;
     bool canBroadcast = false;
     QList<AdapterAddress> addresses; ///< in the system's order
+    bool wired = false;              ///< by a cable, as far as the system tells
     QString systemName;              ///< by which the rest of the system knows it
 };
 

@@ -88,25 +88,14 @@ private Q_SLOTS:
         }
     }
 
-    void choosesTheAddressToDial()
+    void cableGoesFirst()
     {
-        const QString near = u"192.168.1.7"_s;
-        const QString far = u"10.0.0.7"_s;
-        const QString answers = u"169.254.1.1"_s;
-        QTcpServer listener;
-        QVERIFY(listener.listen(QHostAddress::LocalHost));
-        CableModeHelper helper(adapters({u"8.8.8.8"_s, u"192.168.1.2"_s}));
-        helper.setTargetPort(listener.serverPort());
-        helper.setRoute([&](const QString &ip) { return ip == answers ? u"127.0.0.1"_s : Unreachable; });
-        for (int turn = 0; turn < 2; ++turn) {
-            QCOMPARE(helper.chooseBestIP(near, u"192.168.1.8"_s), u"192.168.1.8"_s);
-            QCOMPARE(helper.chooseBestIP(near, far), near);
-            QCOMPARE(helper.chooseBestIP(u"10.0.0.8"_s, far), far);
-            QCOMPARE(helper.chooseBestIP(far, {}), far);
-            QCOMPARE(helper.chooseBestIP(answers, far), answers);
-            QCOMPARE(helper.chooseBestIP(u"169.254.1.2"_s, far), far);
-            listener.close(); // what was probed is remembered
-        }
+        NetworkAdapter cable = adapter(u"cable"_s, {u"10.0.0.1"_s});
+        cable.wired = true;
+        CableModeHelper helper([&] { return QList{adapter(u"Wi-Fi"_s, {u"192.168.1.2"_s}), cable}; });
+        helper.refreshLocalIPs();
+        QCOMPARE(helper.cableFirst({u"192.168.1.7"_s, u"10.0.0.7"_s, u"8.8.8.8"_s, u"169.254.1.1"_s}),
+                 (QStringList{u"169.254.1.1"_s, u"10.0.0.7"_s, u"192.168.1.7"_s, u"8.8.8.8"_s}));
     }
 
     void sweepWidensUntilSomethingIsFound()

@@ -46,6 +46,7 @@ struct PCInfo
     bool online = false;    ///< true for every entry of the discovery table
     QByteArray opaqueData;  ///< spare, stays empty
     QDateTime lastSeen;     ///< time of the last datagram or sweep hit
+    quint64 key = 0;        ///< of its row in the discovery table and of no other; 0 outside it
 };
 
 inline bool operator==(const PCInfo &a, const PCInfo &b)
@@ -59,6 +60,7 @@ struct ConnectionQuestion
     quint64 number = 0; ///< another one for each question
     QString name;       ///< as the PC calls itself
     QString ip;         ///< where its connection comes from
+    QString os;         ///< what it says that it runs on
 };
 
 /// One installed application.

@@ -86,6 +86,9 @@ void TransferEngine::setupLinkConnections()
     connect(m_networkManager, &Net::linkAnswers, this, &TransferEngine::linkAnswers);
     connect(m_networkManager, &Net::connectionTimeout, this, &TransferEngine::onConnectionTimeout);
     connect(m_networkManager, &Net::connectionRequested, this, &TransferEngine::connectionRequested);
+    connect(m_networkManager, &Net::sameRolePeer, this, &TransferEngine::sameRolePeer);
+    connect(m_networkManager, &Net::portTaken, this, &TransferEngine::portTaken);
+    connect(m_networkManager, &Net::waitingForAnswer, this, &TransferEngine::waitingForAnswer);
     connect(m_networkManager, &Net::questionEnded, this, &TransferEngine::questionEnded);
     m_networkManager->setBusyCheck([this] { return m_migrationManager->isUnderWay(); });
     connect(m_networkManager, &Net::directScanStarted, this, &TransferEngine::directScanStarted);
@@ -131,6 +134,7 @@ void TransferEngine::setupMigrationConnections()
     connect(m_migrationManager, &Run::settingsFinished, this, &TransferEngine::settingsFinished);
     connect(m_migrationManager, &Run::itemSettled, this, &TransferEngine::itemSettled);
     connect(m_migrationManager, &Run::runEnded, this, &TransferEngine::onRunEnded);
+    connect(m_migrationManager, &Run::runRevised, this, &TransferEngine::runRevised);
     connect(m_migrationManager, &Run::spaceShort, this, &TransferEngine::spaceShort);
     connect(m_migrationManager, &Run::installing, this, &TransferEngine::installing);
 }

@@ -49,9 +49,13 @@ public:
     void restartBroadcast();
     [[nodiscard]] QList<PCInfo> discoveredPCs() const;
 
-    /// Dials `pc`. Emits `connecting`, then `connected` or `connectionFailed`.
+    /// Dials `pc`, which the table knows by its key, else by its id. Emits `connecting`, `waitingForAnswer`
+    /// once it is reached, then `connected` or `connectionFailed`.
     void connectToPC(const PCInfo &pc);
-    /// Dials the peer whose screen shows `code`.
+    /// Dials the IPv4 address or host name that the user has entered, and no other, whether discovery knows
+    /// of anybody there or not. Emits what connectToPC() does.
+    void connectToAddress(const QString &address);
+    /// Dials the peer whose screen shows `code`. Fails where more than one does, and names them.
     void connectByCode(const QString &code);
     /// The questions of PCs that wait for the user's answer, oldest first; the last one is that of the last
     /// `connectionRequested`. A face answers with the number of the one it shows.
@@ -144,11 +148,21 @@ Q_SIGNALS:
     void discoveryStopped();
     void pcDiscovered(const Zandrove::PCInfo &pc); ///< add or update
     void pcUpdated(const Zandrove::PCInfo &pc);
-    void pcLost(const QString &pcId);
+    /// `key` is the one of the peer's record, by which a face knows its row: an id may stand in several.
+    void pcLost(const QString &pcId, quint64 key = 0);
+    /// A PC is about that has the same role as this one, so that neither lists the other: told when it is
+    /// heard first, and every 5 s for as long as it is heard.
+    void sameRolePeer(const QString &name);
+    /// Found at a start of discovery: another program has the port. With TcpPort nobody can dial this PC,
+    /// with UdpPort it hears nobody. `program` is empty where the system does not tell.
+    void portTaken(quint16 port, const QString &program);
     void directScanStarted();
     void directScanProgress(int scanned, int total);
     void directScanFinished(bool found);
     void connecting();
+    /// The dialled peer has been reached, and its user asked: somebody has to say yes there. Followed by
+    /// connected or connectionFailed.
+    void waitingForAnswer(const QString &name);
     void connected();
     void disconnected();
     void connectionFailed(const QString &reason);
@@ -184,9 +198,12 @@ Q_SIGNALS:
     void settingOutcome(const QString &name, bool success, const QString &error);
     /// A file, an application or a setting has its outcome.
     void itemSettled(const Zandrove::ItemResult &item);
-    /// A run is over, however it ended: once for each, and after the signal that tells
-    /// how, where there is one.
+    /// A run is over, however it ended: once for each. After the signal that tells how, where there is one,
+    /// but before transferCancelled.
     void runEnded(const Zandrove::RunSummary &summary);
+    /// Old PC, behind a complete run: the New PC is gone, or has called the run off, before it said that it
+    /// is through with installing and applying. What was sent for that is not confirmed.
+    void runRevised(const Zandrove::RunSummary &summary);
     void linkSilent(int seconds); ///< nothing has come from the peer for so long; the link stands
     void linkAnswers();           ///< it has answered again
     /// New PC: the peer has announced more than fits on the destination's volume, in bytes. The run goes on.
@@ -201,7 +218,7 @@ Q_SIGNALS:
 
 private Q_SLOTS:
     void onPCDiscovered(const Zandrove::PCInfo &pc);
-    void onPCLost(const QString &pcId);
+    void onPCLost(const QString &pcId, quint64 key);
     void onConnected();
     void onDisconnected();
     void onConnectionFailed(const QString &reason);

@@ -4,6 +4,7 @@
 #include "core/engine/TransferEngine.h"
 #include "peer/NetworkManager.h"
 #include "pipeline/MigrationManager.h"
+#include "support/PeerChoice.h"
 
 #include <QRandomGenerator>
 
@@ -82,9 +83,9 @@ void TransferEngine::onPCDiscovered(const PCInfo &pc)
         Q_EMIT pcUpdated(pc);
 }
 
-void TransferEngine::onPCLost(const QString &pcId)
+void TransferEngine::onPCLost(const QString &pcId, quint64 key)
 {
-    Q_EMIT pcLost(pcId);
+    Q_EMIT pcLost(pcId, key);
 }
 
 void TransferEngine::connectToPC(const PCInfo &pc)
@@ -96,8 +97,20 @@ void TransferEngine::connectToPC(const PCInfo &pc)
     m_connectedPC = pc;
     Q_EMIT connecting();
     m_dialingUnknownPeer = !knowsPeer(pc.id);
-    m_networkManager->connectToPC(pc.id);
+    m_networkManager->connectToPC(pc.id, pc.key);
     m_dialingUnknownPeer = false;
+}
+
+void TransferEngine::connectToAddress(const QString &address)
+{
+    if (!m_networkManager) {
+        Q_EMIT connectionFailed(tr("Network manager not initialized"));
+        return;
+    }
+    m_connectedPC = PCInfo();
+    m_connectedPC.id = m_connectedPC.name = m_connectedPC.ip = address;
+    Q_EMIT connecting();
+    m_networkManager->connectToAddress(address);
 }
 
 void TransferEngine::connectByCode(const QString &code)
@@ -107,14 +120,14 @@ void TransferEngine::connectByCode(const QString &code)
         return;
     }
     Q_EMIT connecting();
-    const QList<PCInfo> peers = discoveredPCs();
-    const auto peer = std::find_if(peers.cbegin(), peers.cend(),
-                                   [&code](const PCInfo &candidate) { return candidate.verifyCode == code; });
-    if (peer == peers.cend()) {
+    const QList<PCInfo> peers = peersWithCode(discoveredPCs(), code);
+    if (peers.isEmpty())
         Q_EMIT connectionFailed(tr("No PC found with verification code: %1").arg(code));
-        return;
-    }
-    m_networkManager->connectToPC(peer->id);
+    else if (peers.size() > 1)
+        Q_EMIT connectionFailed(
+            tr("More than one PC shows the code %1: %2").arg(code, describedPeers(peers)));
+    else
+        m_networkManager->connectToPC(peers.first().id, peers.first().key);
 }
 
 QList<ConnectionQuestion> TransferEngine::openQuestions() const

@@ -3,24 +3,29 @@
 #include "core/engine/TransferEngine.h"
 #include "support/PrintableText.h"
 #include "ui/Log.h"
-#include "ui/widgets/PCListItem.h"
-#include "ui/widgets/RadarWidget.h"
+#include "ui/pages/AddressEntry.h"
+#include "ui/pages/CodeCards.h"
+#include "ui/pages/ConnectionQuestions.h"
+#include "ui/pages/DeviceCard.h"
+#include "ui/pages/DiagnosisPanel.h"
+#include "ui/pages/SearchNotice.h"
+#include "ui/widgets/Labels.h"
+#include "ui/widgets/NoticeBar.h"
 
+#include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QStackedWidget>
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <chrono>
 #include <utility>
 
 using namespace std::chrono_literals;
 
 namespace Zandrove {
+
+namespace Colour = Theme::Colour;
 
 namespace {
 
@@ -35,21 +40,91 @@ constexpr int NameWidth = 300;
 ConnectionPage::ConnectionPage(TransferEngine *engine, QWidget *parent)
     : QWidget(parent)
     , m_engine(engine)
+    , m_questions(new ConnectionQuestions(engine, this))
+    , m_notice(new SearchNotice(engine, this))
 {
     setupUi();
     connectEngine();
+    connectQuestions();
+}
+
+void ConnectionPage::setupUi()
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(32, 16, 32, 12);
+    layout->setSpacing(4);
+    layout->addWidget(makeCentredLabel(tr("Connect to Another PC"), 24, Colour::Text, Theme::Bold));
+    layout->addWidget(
+        makeCentredLabel(tr("Select a device or enter verification code"), 14, Colour::TextMuted));
+    layout->addSpacing(12);
+    layout->addWidget(m_notice->bar());
+    layout->addLayout(createColumns(), 1);
+    layout->addSpacing(6);
+    layout->addWidget(makeCentredLabel(tr("💡 Both PCs must be on the same network with Zandrove running"), 12,
+                                       Colour::TextFaint));
+}
+
+QBoxLayout *ConnectionPage::createColumns()
+{
+    m_codes = new CodeCards;
+    connect(m_codes, &CodeCards::codeEntered, this, &ConnectionPage::onCodeEntered);
+    connect(m_codes->addressEntry(), &AddressEntry::addressEntered, this, &ConnectionPage::onAddressEntered);
+    auto *columns = new QHBoxLayout;
+    columns->setSpacing(20);
+    columns->addWidget(createLeft(), 1);
+    columns->addWidget(m_codes);
+    return columns;
+}
+
+QWidget *ConnectionPage::createLeft()
+{
+    m_devices = new DeviceCard;
+    connect(m_devices, &DeviceCard::picked, this, &ConnectionPage::onPicked);
+    connect(m_devices, &DeviceCard::refreshClicked, this, &ConnectionPage::onRefreshClicked);
+    connect(m_devices, &DeviceCard::helpClicked, this, &ConnectionPage::diagnose);
+    m_diagnosis = new DiagnosisPanel;
+    connect(m_diagnosis, &DiagnosisPanel::closed, this, &ConnectionPage::showDevices);
+    m_left = new QStackedWidget;
+    m_left->addWidget(m_devices);
+    m_left->addWidget(m_diagnosis);
+    return m_left;
 }
 
 void ConnectionPage::connectEngine()
 {
-    connect(m_engine, &TransferEngine::pcDiscovered, this, &ConnectionPage::onPCDiscovered);
-    connect(m_engine, &TransferEngine::pcLost, this, &ConnectionPage::onPCLost);
+    connect(m_engine, &TransferEngine::pcDiscovered, m_devices, &DeviceCard::setPeer);
+    connect(m_engine, &TransferEngine::pcLost, m_devices,
+            [this](const QString &, quint64 key) { m_devices->removePeer(key); });
+    connect(m_engine, &TransferEngine::waitingForAnswer, this, [this](const QString &pcName) {
+        m_devices->say(tr("Waiting for %1: somebody has to press Yes there").arg(shownName(pcName, this)),
+                       Theme::Status::Working);
+    });
     connect(m_engine, &TransferEngine::connected, this, &ConnectionPage::onConnected);
     connect(m_engine, &TransferEngine::connectionFailed, this, &ConnectionPage::onConnectionFailed);
-    connect(m_engine, &TransferEngine::connectionRequested, this, &ConnectionPage::onConnectionRequested);
     connect(m_engine, &TransferEngine::directScanStarted, this, &ConnectionPage::onDirectScanStarted);
     connect(m_engine, &TransferEngine::directScanProgress, this, &ConnectionPage::onDirectScanProgress);
     connect(m_engine, &TransferEngine::directScanFinished, this, &ConnectionPage::onDirectScanFinished);
+}
+
+void ConnectionPage::connectQuestions()
+{
+    connect(m_questions, &ConnectionQuestions::asked, this, [this](const QString &pcName) {
+        m_devices->rest();
+        m_devices->say(tr("Connection request from %1...").arg(shownName(pcName, this)),
+                       Theme::Status::Working);
+    });
+    connect(m_notice, &SearchNotice::retryWanted, this, &ConnectionPage::onRefreshClicked);
+    connect(m_questions, &ConnectionQuestions::accepted, this, &ConnectionPage::onAccepted);
+    connect(m_questions, &ConnectionQuestions::rejected, this, [this] {
+        m_devices->say(tr("Connection rejected"), Theme::Status::Neutral);
+        m_devices->showPeers();
+    });
+    connect(m_questions, &ConnectionQuestions::withdrawn, this, [this] {
+        if (m_devices->tellsSuccess()) // of another PC, for whose sake this one was turned down
+            return;
+        m_devices->showPeers();
+        m_devices->say(tr("The other PC is no longer waiting"), Theme::Status::Failure);
+    });
 }
 
 void ConnectionPage::showEvent(QShowEvent *event)
@@ -64,242 +139,76 @@ void ConnectionPage::showEvent(QShowEvent *event)
 
 void ConnectionPage::startDiscovery()
 {
+    showDevices();
+    m_notice->forget();
     m_engine->startDiscovery();
-    showOwnCode(m_engine->verifyCode());
-    m_devicesTitle->setText(tr("Available Devices"));
-    m_refreshButton->show();
-    clearItems();
-    for (QLineEdit *edit : std::as_const(m_codeEdits))
-        edit->clear();
+    m_codes->setOwnCode(m_engine->verifyCode());
+    m_codes->clearEntries();
+    m_devices->removeAll();
+    m_devices->say({}, Theme::Status::Neutral);
     const QList<PCInfo> known = m_engine->discoveredPCs();
     for (const PCInfo &pc : known)
-        onPCDiscovered(pc);
-    if (known.isEmpty())
-        showIdle();
+        m_devices->setPeer(pc);
+    m_devices->showPeers();
 }
 
-void ConnectionPage::showIdle()
+void ConnectionPage::onPicked(const PCInfo &pc)
 {
-    m_devicesTitle->hide();
-    m_statusLabel->hide();
-    m_contentStack->setCurrentIndex(RadarView);
-    m_radar->start();
-}
-
-void ConnectionPage::showListing()
-{
-    m_devicesTitle->show();
-    m_statusLabel->show();
-    m_refreshButton->show();
-    m_radar->stop();
-    m_contentStack->setCurrentIndex(ListView);
-}
-
-void ConnectionPage::showStatus(const QString &text, Theme::Status status)
-{
-    m_statusLabel->setStyleSheet(Theme::statusStyle(status));
-    m_statusLabel->setText(text);
-}
-
-void ConnectionPage::showDeviceCount()
-{
-    const auto online = std::count_if(m_items.cbegin(), m_items.cend(),
-                                      [](const PCListItem *item) { return item->pcInfo().online; });
-    showStatus(tr("%1 device(s) found, %2 online").arg(m_items.size()).arg(online), Theme::Status::Neutral);
-}
-
-void ConnectionPage::showOwnCode(const QString &code)
-{
-    const qsizetype shown = std::min(code.size(), m_codeLabels.size());
-    for (qsizetype i = 0; i < shown; ++i)
-        m_codeLabels[i]->setText(code.at(i));
-}
-
-void ConnectionPage::clearItems()
-{
-    qDeleteAll(std::exchange(m_items, {}));
-}
-
-/// The row of `pc`. One that a sweep of the addresses has found is listed by its address until it is heard.
-PCListItem *ConnectionPage::itemFor(const PCInfo &pc) const
-{
-    const auto itemOf = [this](const QString &id) {
-        const auto item = std::find_if(m_items.cbegin(), m_items.cend(),
-                                       [&id](const PCListItem *row) { return row->pcInfo().id == id; });
-        return item == m_items.cend() ? nullptr : *item;
-    };
-    PCListItem *const known = itemOf(pc.id);
-    return known ? known : itemOf(pc.ip);
-}
-
-void ConnectionPage::onPCDiscovered(const PCInfo &pc)
-{
-    if (PCListItem *item = itemFor(pc)) {
-        item->setPCInfo(pc);
-        return;
-    }
-    if (m_items.isEmpty())
-        showListing();
-    addItem(pc);
-    showDeviceCount();
-}
-
-void ConnectionPage::addItem(const PCInfo &pc)
-{
-    auto *item = new PCListItem(this);
-    item->setPCInfo(pc);
-    connect(item, &PCListItem::clicked, this, [this, item] { onPCItemClicked(item); });
-    m_listLayout->insertWidget(m_listLayout->count() - 1, item);
-    setTabOrder(m_items.isEmpty() ? static_cast<QWidget *>(m_refreshButton) : m_items.constLast(), item);
-    m_items.append(item);
-}
-
-void ConnectionPage::onPCLost(const QString &pcId)
-{
-    const auto lost = std::find_if(m_items.cbegin(), m_items.cend(),
-                                   [&pcId](const PCListItem *item) { return item->pcInfo().id == pcId; });
-    if (lost != m_items.cend()) {
-        delete *lost;
-        m_items.erase(lost);
-    }
-    if (m_items.isEmpty())
-        showIdle();
-    showDeviceCount();
-}
-
-void ConnectionPage::onPCItemClicked(PCListItem *clicked)
-{
-    const PCInfo pc = clicked->pcInfo();
-    if (!pc.online)
-        return;
-    for (PCListItem *item : std::as_const(m_items))
-        item->setSelected(item == clicked);
-    m_selectedPcId = pc.id;
-    showStatus(tr("Connecting to %1...").arg(shownName(pc.name)), Theme::Status::Working);
+    m_enteredAddress.clear();
+    m_devices->say(tr("Connecting to %1...").arg(shownName(pc.name, this)), Theme::Status::Working);
     m_engine->connectToPC(pc);
 }
 
-void ConnectionPage::onCodeEdited(int index, const QString &text)
+void ConnectionPage::onAddressEntered(const QString &address)
 {
-    if (!text.isEmpty() && index < m_codeEdits.size() - 1)
-        m_codeEdits[index + 1]->setFocus();
-    const bool complete = enteredCode().size() == m_codeEdits.size();
-    m_connectButton->setEnabled(complete);
-    if (complete)
-        m_connectButton->setFocus();
+    m_enteredAddress = address;
+    showDevices();
+    m_devices->say(tr("Connecting to %1...").arg(address), Theme::Status::Working);
+    m_engine->connectToAddress(address);
 }
 
-QString ConnectionPage::enteredCode() const
+void ConnectionPage::onCodeEntered(const QString &code)
 {
-    QString code;
-    for (const QLineEdit *edit : m_codeEdits)
-        code += edit->text();
-    return code;
-}
-
-void ConnectionPage::onConnectByCode()
-{
-    const QString code = enteredCode();
-    if (code.size() != m_codeEdits.size())
-        return;
-    showStatus(tr("Verifying code..."), Theme::Status::Working);
-    m_statusLabel->show();
+    m_enteredAddress.clear();
+    showDevices();
+    m_devices->say(tr("Verifying code..."), Theme::Status::Working);
     m_engine->connectByCode(code);
 }
 
 void ConnectionPage::onRefreshClicked()
 {
-    clearItems();
-    showIdle();
+    m_devices->removeAll();
+    m_devices->showSearch();
+    m_notice->forget();
     m_engine->restartBroadcast();
 }
 
-/// The question runs from an event of its own: this signal comes from within the reading of a socket, which
-/// the next caller replaces.
-void ConnectionPage::onConnectionRequested(const QString &pcName, const QString &)
+void ConnectionPage::diagnose()
 {
-    const QList<ConnectionQuestion> open = m_engine->openQuestions();
-    m_requests.append({pcName, open.isEmpty() ? 0 : open.last().number});
-    QMetaObject::invokeMethod(this, &ConnectionPage::askNext, Qt::QueuedConnection);
+    m_left->setCurrentWidget(m_diagnosis);
+    m_diagnosis->start({m_engine->role(), m_codes->addressEntry()->enteredText()});
 }
 
-void ConnectionPage::askNext()
+void ConnectionPage::showDevices()
 {
-    while (!m_questionBox && !m_requests.isEmpty()) {
-        const Request request = m_requests.takeFirst();
-        if (isOpen(request))
-            ask(request);
-    }
+    m_diagnosis->cancel();
+    m_left->setCurrentWidget(m_devices);
 }
 
-bool ConnectionPage::isOpen(const Request &request) const
+void ConnectionPage::onAccepted(const QString &pcName)
 {
-    const QList<ConnectionQuestion> open = m_engine->openQuestions();
-    return (request.question == 0 && open.isEmpty()) ||
-           std::any_of(open.cbegin(), open.cend(), [&request](const ConnectionQuestion &question) {
-               return question.number == request.question;
-           });
-}
-
-void ConnectionPage::ask(const Request &request)
-{
-    const QString name = shownName(request.pcName);
-    m_radar->stop();
-    showStatus(tr("Connection request from %1...").arg(name), Theme::Status::Working);
-    m_statusLabel->show();
-
-    m_questionBox =
-        new QMessageBox(QMessageBox::Question, tr("Connection Request"),
-                        tr("'%1' wants to connect to this PC.\n\nDo you want to accept?").arg(name),
-                        QMessageBox::Yes | QMessageBox::No, this);
-    m_questionBox->setTextFormat(Qt::PlainText);
-    m_questionBox->setDefaultButton(QMessageBox::Yes);
-    m_questionBox->setStyleSheet(Theme::messageBoxStyle());
-    m_questionBox->setAttribute(Qt::WA_DeleteOnClose);
-    connect(m_questionBox, &QMessageBox::finished, this,
-            [this, request](int button) { onAnswered(request, button == QMessageBox::Yes); });
-    // Not exec(): the window may go while the question is open.
-    m_questionBox->setModal(true);
-    m_questionBox->show();
-}
-
-void ConnectionPage::onAnswered(const Request &request, bool yes)
-{
-    m_questionBox.clear();
-    if (yes) {
-        accept(request);
-    } else {
-        m_engine->rejectConnection(request.question);
-        showStatus(tr("Connection rejected"), Theme::Status::Neutral);
-        showIdle();
-    }
-    askNext();
-}
-
-void ConnectionPage::accept(const Request &request)
-{
-    if (!isOpen(request)) {
-        onConnectionFailed(tr("The other PC is no longer waiting"));
-        if (m_contentStack->currentIndex() == RadarView)
-            m_radar->start();
-        return;
-    }
-    m_engine->acceptConnection(m_engine->verifyCode(), request.question);
     m_engine->stopDiscovery();
-    m_contentStack->setCurrentIndex(ListView);
-    m_devicesTitle->setText(tr("Connected"));
-    m_devicesTitle->show();
-    m_refreshButton->hide();
-    showStatus(tr("✓ Connected to %1").arg(shownName(request.pcName)), Theme::Status::Success);
-    m_statusLabel->show();
+    m_devices->showConnected();
+    m_devices->say(tr("✓ Connected to %1").arg(shownName(pcName, this)), Theme::Status::Success);
     Q_EMIT connectionEstablished();
 }
 
 void ConnectionPage::onConnected()
 {
     m_engine->stopDiscovery();
-    m_radar->stop();
-    showStatus(tr("✓ Connected successfully!"), Theme::Status::Success);
+    showDevices();
+    m_devices->rest();
+    m_devices->say(tr("✓ Connected successfully!"), Theme::Status::Success);
     Q_EMIT connectionEstablished();
     if (m_engine->role() == NewPC)
         QTimer::singleShot(AutoAdvanceDelay, this, &ConnectionPage::requestAutoAdvance);
@@ -307,44 +216,42 @@ void ConnectionPage::onConnected()
 
 void ConnectionPage::onConnectionFailed(const QString &reason)
 {
-    showStatus(tr("✗ Connection failed: %1").arg(reason), Theme::Status::Failure);
+    m_devices->say(tr("✗ Connection failed: %1").arg(reason), Theme::Status::Failure);
+    const QString entered = std::exchange(m_enteredAddress, {});
+    if (!entered.isEmpty())
+        m_codes->addressEntry()->showError(tr("No connection to %1: %2.").arg(entered, reason));
 }
 
 void ConnectionPage::onDirectScanStarted()
 {
-    m_devicesTitle->hide();
-    m_statusLabel->hide();
-    m_refreshButton->show();
-    m_contentStack->setCurrentIndex(RadarView);
-    m_radar->start();
-    m_radarCaption->setText(tr("Scanning direct connection... 0%"));
-    m_directTitle->setText(tr("Scanning Direct Connection..."));
+    m_devices->setByCable(true);
+    m_devices->setCaption(tr("Scanning direct connection... 0%"));
+    m_devices->showPeers();
 }
 
 void ConnectionPage::onDirectScanProgress(int scanned, int total)
 {
     const int percent = total > 0 ? scanned * 100 / total : 0;
-    m_radarCaption->setText(
+    m_devices->setCaption(
         tr("Scanning direct connection... %1% (%2/%3)").arg(percent).arg(scanned).arg(total));
 }
 
 void ConnectionPage::onDirectScanFinished(bool found)
 {
     if (found) {
-        showListing();
+        m_devices->showPeers();
         return;
     }
-    m_radarCaption->setText(tr("No device found. Please ensure the other PC has Zandrove running"));
+    m_devices->setCaption(tr("No device found. Please ensure the other PC has Zandrove running"));
     QTimer::singleShot(NoDeviceFoundTime, this, [this] {
-        if (m_items.isEmpty())
-            m_radarCaption->setText(tr("Looking for devices on your network..."));
+        if (!m_devices->hasPeers())
+            m_devices->setCaption(tr("Looking for devices on your network..."));
     });
 }
 
-/// A name as it came from the network, made fit for a sentence of this page.
-QString ConnectionPage::shownName(const QString &pcName) const
+QString ConnectionPage::shownName(const QString &pcName, const QWidget *widget)
 {
-    return fontMetrics().elidedText(printable(pcName), Qt::ElideRight, NameWidth);
+    return widget->fontMetrics().elidedText(printable(pcName), Qt::ElideRight, NameWidth);
 }
 
 } // namespace Zandrove
