@@ -139,7 +139,7 @@ private Q_SLOTS:
         QSignalSpy findings(&diagnosis, &Diagnosis::finding);
         QSignalSpy ends(&diagnosis, &Diagnosis::finished);
         diagnosis.start({.role = OldPC, .target = {}, .hearing = std::chrono::seconds(600)});
-        QTRY_VERIFY(!findings.isEmpty());
+        QTRY_VERIFY_WITH_TIMEOUT(!findings.isEmpty(), 30000);
         diagnosis.cancel();
         findings.clear();
         diagnosis.start({.role = OldPC, .target = {}, .hearing = std::chrono::seconds(1)});

@@ -161,7 +161,8 @@ QStringList publicNetworks()
     QStringList names;
     const QList<ConnectedNetwork> networks = connectedNetworks();
     for (const ConnectedNetwork &network : networks) {
-        if (network.category == NLM_NETWORK_CATEGORY_PUBLIC)
+        const bool isKnown = !network.name.isEmpty() && !names.contains(network.name);
+        if (isKnown && network.category == NLM_NETWORK_CATEGORY_PUBLIC)
             names.append(network.name);
     }
     return names;

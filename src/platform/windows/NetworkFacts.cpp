@@ -9,14 +9,17 @@
 
 #include "platform/windows/NativePath.h"
 
+#include <QByteArray>
 #include <QtEndian>
 
+#include <bit>
 #include <memory>
 
 namespace Zandrove::Platform {
 
 namespace {
 
+constexpr qsizetype SpareBytes = 4096;
 constexpr ULONG VirtualType = 53; // IF_TYPE_PROP_VIRTUAL, that of most VPNs
 
 struct TableDeleter
@@ -30,6 +33,12 @@ QString nameOf(const NET_LUID &adapter)
     if (ConvertInterfaceLuidToNameW(&adapter, name, IF_MAX_STRING_SIZE + 1) != NO_ERROR)
         return {};
     return QString::fromWCharArray(name);
+}
+
+QString nameOf(NET_IFINDEX index)
+{
+    NET_LUID adapter = {};
+    return ConvertInterfaceIndexToLuid(index, &adapter) == NO_ERROR ? nameOf(adapter) : QString();
 }
 
 } // namespace
@@ -56,22 +65,20 @@ AdapterKind adapterKind(const QString &adapter)
 
 QList<NetworkRoute> networkRoutes()
 {
-    MIB_IPFORWARD_TABLE2 *table = nullptr;
-    if (GetIpForwardTable2(AF_INET, &table) != NO_ERROR)
+    ULONG size = 0;
+    GetIpForwardTable(nullptr, &size, FALSE);
+    QByteArray buffer(qsizetype(size) + SpareBytes, Qt::Uninitialized); // for routes that come meanwhile
+    size = ULONG(buffer.size());
+    auto *const table = reinterpret_cast<MIB_IPFORWARDTABLE *>(buffer.data());
+    if (GetIpForwardTable(table, &size, FALSE) != NO_ERROR)
         return {};
-    const std::unique_ptr<MIB_IPFORWARD_TABLE2, TableDeleter> owner(table);
     QList<NetworkRoute> routes;
-    for (ULONG i = 0; i < table->NumEntries; ++i) {
-        const MIB_IPFORWARD_ROW2 &row = table->Table[i];
-        // The metric of a route counts on top of that of its adapter.
-        MIB_IPINTERFACE_ROW interfaceRow = {};
-        interfaceRow.Family = AF_INET;
-        interfaceRow.InterfaceLuid = row.InterfaceLuid;
-        const bool isKnown = GetIpInterfaceEntry(&interfaceRow) == NO_ERROR;
-        routes.append({.adapter = nameOf(row.InterfaceLuid),
-                       .network = qFromBigEndian<quint32>(row.DestinationPrefix.Prefix.Ipv4.sin_addr.s_addr),
-                       .prefixLength = row.DestinationPrefix.PrefixLength,
-                       .metric = quint32(row.Metric) + (isKnown ? quint32(interfaceRow.Metric) : 0)});
+    for (DWORD i = 0; i < table->dwNumEntries; ++i) {
+        const MIB_IPFORWARDROW &row = table->table[i];
+        routes.append({.adapter = nameOf(row.dwForwardIfIndex),
+                       .network = qFromBigEndian<quint32>(row.dwForwardDest),
+                       .prefixLength = std::popcount(quint32(row.dwForwardMask)),
+                       .metric = quint32(row.dwForwardMetric1)}); // that of the adapter included
     }
     return routes;
 }
