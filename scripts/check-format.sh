@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Compares every source with .clang-format, or rewrites it with --fix. The tool's version is pinned: others format
-# differently.
+# Compares every source with .clang-format, or rewrites it with --fix. The tool's version
+# is pinned: others format differently.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

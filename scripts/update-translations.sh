@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Brings the translations up to date with the sources: new texts come in untranslated, those that are gone leave. The
-# English ones are filled in, where the source is English. Usage: scripts/update-translations.sh [DIR], by default
-# translations.
+# English ones are filled in, where the source is English.
+# Usage: scripts/update-translations.sh [DIR], by default translations.
 set -euo pipefail
 directory=$(realpath "${1:-$(dirname "$0")/../translations}")
 cd "$(dirname "$0")/.."

@@ -1085,8 +1085,8 @@ Möchten Sie das zulassen?</translation>
         <translation>Die Prüfsumme stimmt nicht überein</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
-        <translation>Während des Sendens geändert</translation>
+        <source>changed while it was sent</source>
+        <translation>während des Sendens geändert</translation>
     </message>
     <message>
         <source>It did not arrive whole</source>
@@ -1123,8 +1123,8 @@ Möchten Sie das zulassen?</translation>
         <translation>Datei kann nicht gelesen werden: %1</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
-        <translation>Während des Sendens geändert</translation>
+        <source>changed while it was sent</source>
+        <translation>während des Sendens geändert</translation>
     </message>
 </context>
 <context>

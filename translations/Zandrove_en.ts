@@ -1085,8 +1085,8 @@ Do you want to accept?</translation>
         <translation>Checksum mismatch</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
-        <translation>Changed while it was sent</translation>
+        <source>changed while it was sent</source>
+        <translation>changed while it was sent</translation>
     </message>
     <message>
         <source>It did not arrive whole</source>
@@ -1123,8 +1123,8 @@ Do you want to accept?</translation>
         <translation>Cannot read file: %1</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
-        <translation>Changed while it was sent</translation>
+        <source>changed while it was sent</source>
+        <translation>changed while it was sent</translation>
     </message>
 </context>
 <context>

@@ -1085,8 +1085,8 @@ Do you want to accept?</source>
         <translation>La suma de comprobación no coincide</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
-        <translation>Ha cambiado durante el envío</translation>
+        <source>changed while it was sent</source>
+        <translation>ha cambiado durante el envío</translation>
     </message>
     <message>
         <source>It did not arrive whole</source>
@@ -1123,8 +1123,8 @@ Do you want to accept?</source>
         <translation>No se puede leer el archivo: %1</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
-        <translation>Ha cambiado durante el envío</translation>
+        <source>changed while it was sent</source>
+        <translation>ha cambiado durante el envío</translation>
     </message>
 </context>
 <context>

@@ -1085,8 +1085,8 @@ Voulez-vous accepter cette demande&#xa0;?</translation>
         <translation>Somme de contrôle incorrecte</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
-        <translation>Modifié pendant l’envoi</translation>
+        <source>changed while it was sent</source>
+        <translation>modifié pendant l’envoi</translation>
     </message>
     <message>
         <source>It did not arrive whole</source>
@@ -1123,8 +1123,8 @@ Voulez-vous accepter cette demande&#xa0;?</translation>
         <translation>Impossible de lire le fichier : %1</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
-        <translation>Modifié pendant l’envoi</translation>
+        <source>changed while it was sent</source>
+        <translation>modifié pendant l’envoi</translation>
     </message>
 </context>
 <context>

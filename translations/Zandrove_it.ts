@@ -1085,8 +1085,8 @@ Vuoi accettare la richiesta?</translation>
         <translation>Il checksum non corrisponde</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
-        <translation>Modificato durante l’invio</translation>
+        <source>changed while it was sent</source>
+        <translation>modificato durante l’invio</translation>
     </message>
     <message>
         <source>It did not arrive whole</source>
@@ -1123,8 +1123,8 @@ Vuoi accettare la richiesta?</translation>
         <translation>Impossibile leggere il file: %1</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
-        <translation>Modificato durante l’invio</translation>
+        <source>changed while it was sent</source>
+        <translation>modificato durante l’invio</translation>
     </message>
 </context>
 <context>

@@ -1085,7 +1085,7 @@ Do you want to accept?</source>
         <translation>チェックサムが一致しません</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
+        <source>changed while it was sent</source>
         <translation>送信中に変更されました</translation>
     </message>
     <message>
@@ -1123,7 +1123,7 @@ Do you want to accept?</source>
         <translation>ファイルを読み取れません: %1</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
+        <source>changed while it was sent</source>
         <translation>送信中に変更されました</translation>
     </message>
 </context>

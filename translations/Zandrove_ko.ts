@@ -1085,7 +1085,7 @@ Do you want to accept?</source>
         <translation>체크섬이 일치하지 않습니다</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
+        <source>changed while it was sent</source>
         <translation>보내는 동안 변경되었습니다</translation>
     </message>
     <message>
@@ -1123,7 +1123,7 @@ Do you want to accept?</source>
         <translation>파일을 읽을 수 없습니다: %1</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
+        <source>changed while it was sent</source>
         <translation>보내는 동안 변경되었습니다</translation>
     </message>
 </context>

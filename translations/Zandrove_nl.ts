@@ -1085,8 +1085,8 @@ Wilt u dit toestaan?</translation>
         <translation>De controlesom klopt niet</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
-        <translation>Gewijzigd tijdens het verzenden</translation>
+        <source>changed while it was sent</source>
+        <translation>gewijzigd tijdens het verzenden</translation>
     </message>
     <message>
         <source>It did not arrive whole</source>
@@ -1123,8 +1123,8 @@ Wilt u dit toestaan?</translation>
         <translation>Kan bestand niet lezen: %1</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
-        <translation>Gewijzigd tijdens het verzenden</translation>
+        <source>changed while it was sent</source>
+        <translation>gewijzigd tijdens het verzenden</translation>
     </message>
 </context>
 <context>

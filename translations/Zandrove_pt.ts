@@ -1085,8 +1085,8 @@ Pretende aceitar?</translation>
         <translation>A soma de verificação não coincide</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
-        <translation>Alterado durante o envio</translation>
+        <source>changed while it was sent</source>
+        <translation>alterado durante o envio</translation>
     </message>
     <message>
         <source>It did not arrive whole</source>
@@ -1123,8 +1123,8 @@ Pretende aceitar?</translation>
         <translation>Não é possível ler o ficheiro: %1</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
-        <translation>Alterado durante o envio</translation>
+        <source>changed while it was sent</source>
+        <translation>alterado durante o envio</translation>
     </message>
 </context>
 <context>

@@ -1085,7 +1085,7 @@ Do you want to accept?</source>
         <translation>總和檢查碼不符</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
+        <source>changed while it was sent</source>
         <translation>在傳送期間已變更</translation>
     </message>
     <message>
@@ -1123,7 +1123,7 @@ Do you want to accept?</source>
         <translation>無法讀取檔案：%1</translation>
     </message>
     <message>
-        <source>Changed while it was sent</source>
+        <source>changed while it was sent</source>
         <translation>在傳送期間已變更</translation>
     </message>
 </context>

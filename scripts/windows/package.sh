@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Makes the zip and the installer for Windows from a cross-build: the programs with all that they need beside the system.
-# Usage: package.sh [DIR]; both go to DIR, by default build/packages. ZANDROVE_QT_MINGW names the folder of a Qt for
-# mingw-w64.
+# Usage: package.sh [DIR]; both go to DIR, by default build/packages.
+# ZANDROVE_QT_MINGW names the folder of a Qt for mingw-w64.
 set -euo pipefail
 directory=$(realpath -m "${1:-$(dirname "$0")/../../build/packages}")
 cd "$(dirname "$0")/../.."

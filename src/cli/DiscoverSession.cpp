@@ -1,5 +1,6 @@
 #include "cli/DiscoverSession.h"
 
+#include "cli/Notices.h"
 #include "core/engine/TransferEngine.h"
 
 #include <chrono>
@@ -25,9 +26,9 @@ void DiscoverSession::start()
 {
     TransferEngine *source = &engine();
     connect(source, &TransferEngine::pcDiscovered, this, &DiscoverSession::show);
-    connect(source, &TransferEngine::pcLost, this, [this](const QString &id) {
-        m_codes.remove(id);
-        output().peerLost(id);
+    connect(source, &TransferEngine::pcLost, this, [this](const QString &id, quint64 key) {
+        m_codes.remove(key);
+        output().peerLost(id, key);
     });
     connect(source, &TransferEngine::connectionRequested, this, [this](const QString &name) {
         refuseLastRequest();
@@ -35,7 +36,9 @@ void DiscoverSession::start()
     });
     engine().setRole(options().role);
     engine().setMode(options().mode);
+    auto *notices = new Notices(engine(), output(), {}, this);
     engine().startDiscovery();
+    notices->lookingBegins();
     m_changeTimer.start(ChangeInterval);
     if (options().seconds)
         QTimer::singleShot(*options().seconds, this, [this] { finish(EverythingMoved); });
@@ -48,7 +51,7 @@ void DiscoverSession::onInterrupt()
 
 void DiscoverSession::show(const PCInfo &pc)
 {
-    m_codes.insert(pc.id, pc.verifyCode);
+    m_codes.insert(pc.key, pc.verifyCode);
     output().peer(pc);
 }
 
@@ -56,7 +59,7 @@ void DiscoverSession::showChangedCodes()
 {
     const QList<PCInfo> peers = engine().discoveredPCs();
     for (const PCInfo &pc : peers) {
-        if (m_codes.value(pc.id) != pc.verifyCode)
+        if (m_codes.value(pc.key) != pc.verifyCode)
             show(pc);
     }
 }

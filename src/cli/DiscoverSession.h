@@ -24,7 +24,7 @@ private:
     void show(const PCInfo &pc);
     void showChangedCodes();
 
-    QHash<QString, QString> m_codes; ///< by peer id, as last shown
+    QHash<quint64, QString> m_codes; ///< by the key of each peer, as last shown
     QTimer m_changeTimer;
 };
 

@@ -15,11 +15,8 @@ namespace {
 
 QJsonObject toJson(const PCInfo &pc)
 {
-    return {{u"id"_s, pc.id},
-            {u"name"_s, pc.name},
-            {u"ip"_s, pc.ip},
-            {u"os"_s, pc.os},
-            {u"code"_s, pc.verifyCode}};
+    return {{u"id"_s, pc.id}, {u"name"_s, pc.name},       {u"ip"_s, pc.ip},
+            {u"os"_s, pc.os}, {u"code"_s, pc.verifyCode}, {u"key"_s, qint64(pc.key)}};
 }
 
 QJsonObject toJson(const AppInfo &app)
@@ -178,14 +175,19 @@ void JsonOutput::peer(const PCInfo &pc)
     print("peer"_L1, toJson(pc));
 }
 
-void JsonOutput::peerLost(const QString &id)
+void JsonOutput::peerLost(const QString &id, quint64 key)
 {
-    print("peerLost"_L1, {{u"id"_s, id}});
+    print("peerLost"_L1, {{u"id"_s, id}, {u"key"_s, qint64(key)}});
 }
 
 void JsonOutput::found(const PCInfo &pc)
 {
     print("found"_L1, toJson(pc));
+}
+
+void JsonOutput::waiting(const QString &name)
+{
+    print("waiting"_L1, {{u"name"_s, name}});
 }
 
 void JsonOutput::request(const ConnectionQuestion &question, bool asks)

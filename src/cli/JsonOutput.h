@@ -15,8 +15,9 @@ public:
 
     void code(const QString &code) override;
     void peer(const PCInfo &pc) override;
-    void peerLost(const QString &id) override;
+    void peerLost(const QString &id, quint64 key) override;
     void found(const PCInfo &pc) override;
+    void waiting(const QString &name) override;
     void request(const ConnectionQuestion &question, bool asks) override;
     void refused(const QString &name, const QString &why) override;
     void connected(const PCInfo &pc) override;

@@ -35,8 +35,10 @@ public:
 
     virtual void code(const QString &code) = 0; ///< this PC's own code, by which the peer may find it
     virtual void peer(const PCInfo &pc) = 0;    ///< found, or known better than before
-    virtual void peerLost(const QString &id) = 0;
+    virtual void peerLost(const QString &id, quint64 key) = 0;
     virtual void found(const PCInfo &pc) = 0; ///< the peer that was looked for; its answer is waited for
+    /// The peer has been reached and has not answered for a while: somebody has to say yes there.
+    virtual void waiting(const QString &name) = 0;
     /// A peer asks to be let in; `asks` when the user is to answer, else the answer follows by itself.
     virtual void request(const ConnectionQuestion &question, bool asks) = 0;
     virtual void refused(const QString &name, const QString &why) = 0; ///< a request was turned down

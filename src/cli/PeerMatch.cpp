@@ -1,19 +1,12 @@
 #include "cli/PeerMatch.h"
 
+#include "support/PeerChoice.h"
+
+#include <QHostAddress>
+
 #include <algorithm>
 
 namespace Zandrove::Cli {
-
-namespace {
-
-template <typename Rule>
-std::optional<PCInfo> firstMatch(const QList<PCInfo> &peers, Rule rule)
-{
-    const auto peer = std::find_if(peers.begin(), peers.end(), rule);
-    return peer == peers.end() ? std::nullopt : std::optional(*peer);
-}
-
-} // namespace
 
 bool isVerifyCode(const QString &target)
 {
@@ -22,19 +15,22 @@ bool isVerifyCode(const QString &target)
            });
 }
 
-std::optional<PCInfo> findPeer(const QList<PCInfo> &peers, const QString &target)
+bool isAddress(const QString &target)
 {
-    if (isVerifyCode(target)) {
-        const auto byCode = firstMatch(peers, [&](const PCInfo &peer) { return peer.verifyCode == target; });
-        if (byCode)
-            return byCode;
+    return (target.count(u'.') == 3 || target.contains(u':')) && !QHostAddress(target).isNull();
+}
+
+QList<PCInfo> findPeers(const QList<PCInfo> &peers, const QString &target)
+{
+    QList<PCInfo> found;
+    if (isAddress(target)) {
+        std::copy_if(peers.begin(), peers.end(), std::back_inserter(found),
+                     [&target](const PCInfo &peer) { return peer.ip == target; });
+        return found.first(std::min<qsizetype>(found.size(), 1));
     }
-    const auto byName = firstMatch(
-        peers, [&](const PCInfo &peer) { return peer.name.compare(target, Qt::CaseInsensitive) == 0; });
-    if (byName)
-        return byName;
-    return firstMatch(peers,
-                      [&](const PCInfo &peer) { return peer.ip == target || peer.senderIp == target; });
+    if (isVerifyCode(target))
+        found = peersWithCode(peers, target);
+    return found.isEmpty() ? peersNamed(peers, target) : found;
 }
 
 } // namespace Zandrove::Cli

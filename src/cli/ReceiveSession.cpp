@@ -33,6 +33,7 @@ ReceiveSession::ReceiveSession(const Options &options, TransferEngine &engine, O
                                QObject *parent)
     : Session(options, engine, output, parent)
     , m_admission(engine, output, !options.control && canAsk(), this)
+    , m_notices(engine, output, {}, this)
 {
     m_timeoutTimer.setSingleShot(true);
     connect(&m_timeoutTimer, &QTimer::timeout, this, &ReceiveSession::onTimeout);
@@ -62,7 +63,12 @@ void ReceiveSession::connectEngine()
 {
     TransferEngine *source = &engine();
     connect(source, &TransferEngine::pcDiscovered, this, [this](const PCInfo &pc) { output().peer(pc); });
-    connect(source, &TransferEngine::pcLost, this, [this](const QString &id) { output().peerLost(id); });
+    connect(source, &TransferEngine::pcLost, this,
+            [this](const QString &id, quint64 key) { output().peerLost(id, key); });
+    connect(source, &TransferEngine::portTaken, this, [this](quint16 port) {
+        if (port == TcpPort)
+            finish(RunFailed);
+    });
     connect(source, &TransferEngine::connectionRequested, this, &ReceiveSession::onConnectionRequested);
     connect(source, &TransferEngine::connected, this, &ReceiveSession::onConnected);
     connect(source, &TransferEngine::disconnected, this, &ReceiveSession::onLinkBroken);
@@ -90,6 +96,9 @@ void ReceiveSession::waitForPeer()
 {
     setLink(Link::None);
     engine().startDiscovery();
+    if (isFinishing())
+        return;
+    m_notices.lookingBegins();
     output().code(engine().verifyCode());
     expectTransfer();
 }
@@ -165,7 +174,10 @@ void ReceiveSession::onLinkBroken()
 
 void ReceiveSession::onSessionEndReceived()
 {
-    onPeerLeft(tr("%1 ended the session during a transfer.").arg(m_peerName));
+    // Goodbye means that everything is through.
+    m_partsThen = m_heldReport.has_value();
+    if (!m_partsThen)
+        onPeerLeft(tr("%1 ended the session during a transfer.").arg(m_peerName));
 }
 
 /// A run that is on ends by itself, once what has arrived is on the disk.
@@ -296,6 +308,10 @@ void ReceiveSession::concludeRun(const RunSummary &summary)
     m_results.record(exitCodeFor(summary));
     expectTransfer();
     m_reported = options().once;
+    if (std::exchange(m_partsThen, false) && link() == Link::Up) {
+        setLink(Link::None);
+        engine().disconnectFromPeer();
+    }
     if (m_endsThen) {
         finish(m_results.exitCode());
     } else if (m_drainTimer.isActive() || link() == Link::None) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/Admission.h"
+#include "cli/Notices.h"
 #include "cli/RunResults.h"
 #include "cli/Session.h"
 
@@ -53,6 +54,7 @@ private:
     void runEnded(ExitCode exitCode);
 
     Admission m_admission;
+    Notices m_notices;
     QTimer m_timeoutTimer; ///< runs while nothing is arriving
     QTimer m_goodbyeTimer; ///< --once: after the report, until the peer has ended the session
     /// The peer has left, but the end of the run may still be on its way from the socket to the disk: runs
@@ -67,6 +69,7 @@ private:
     bool m_receiving = false; ///< something of a run has arrived
     bool m_reported = false;  ///< --once: the one report is out
     bool m_endsThen = false;  ///< --control: the run in hand is the last one
+    bool m_partsThen = false; ///< the peer has ended the session behind it
 };
 
 } // namespace Zandrove::Cli

@@ -3,6 +3,7 @@
 #include "cli/FolderCheck.h"
 #include "cli/PeerMatch.h"
 #include "core/engine/TransferEngine.h"
+#include "support/PeerChoice.h"
 
 #include <chrono>
 #include <utility>
@@ -16,6 +17,14 @@ namespace {
 // A peer's new code enters the table without a signal, so the table is looked at again and again.
 constexpr auto LookInterval = 250ms;
 
+// Everybody announces himself twice a second: whoever else goes by the same code or name has been heard by
+// then, and each address of a peer.
+constexpr auto TimeToBeSure = 600ms;
+
+// Nothing is heard where datagrams are blocked, but an address can be dialled unheard. In cable mode the
+// sweep does.
+constexpr auto TimeToDialUnheard = 5000ms;
+
 // A New PC with a window goes to its receiving page half a second after pairing and
 // takes only what comes then.
 constexpr auto SettleTime = 1000ms;
@@ -27,6 +36,7 @@ constexpr auto PartingTime = 2000ms;
 
 SendSession::SendSession(const Options &options, TransferEngine &engine, Output &output, QObject *parent)
     : Session(options, engine, output, parent)
+    , m_notices(engine, output, options.target, this)
     , m_folders(options.folders)
     , m_staysForMore(options.control)
 {
@@ -66,6 +76,7 @@ void SendSession::startLooking()
     if (options().timeout)
         m_timeoutTimer.start(*options().timeout);
     engine().startDiscovery();
+    m_notices.lookingBegins();
     m_lookTimer.start(LookInterval);
 }
 
@@ -73,27 +84,45 @@ void SendSession::connectEngine()
 {
     TransferEngine *source = &engine();
     connect(source, &TransferEngine::pcDiscovered, this, [this](const PCInfo &pc) { output().peer(pc); });
-    connect(source, &TransferEngine::pcLost, this, [this](const QString &id) { output().peerLost(id); });
+    connect(source, &TransferEngine::pcLost, this,
+            [this](const QString &id, quint64 key) { output().peerLost(id, key); });
     connect(source, &TransferEngine::scanProgress, this, [this](int percent, const QString &item, int apps) {
         if (progressIsDue())
             output().scanning(percent, item, apps);
     });
     connect(source, &TransferEngine::scanCompleted, this, &SendSession::onScanCompleted);
+    connect(source, &TransferEngine::waitingForAnswer, this, [this] { m_reached = true; });
     connect(source, &TransferEngine::connected, this, &SendSession::onConnected);
     connect(source, &TransferEngine::connectionFailed, this, &SendSession::onConnectionFailed);
     connect(source, &TransferEngine::connectionRequested, this, &SendSession::onConnectionRequested);
     connect(source, &TransferEngine::disconnected, this, &SendSession::onDisconnected);
     connect(source, &TransferEngine::sessionEndReceived, this, &SendSession::onSessionEndReceived);
     connect(source, &TransferEngine::runEnded, this, &SendSession::onRunEnded);
+    connect(source, &TransferEngine::runRevised, this, [this](const RunSummary &summary) {
+        showRevision(summary);
+        m_results.record(exitCodeFor(summary));
+    });
     connect(source, &TransferEngine::peerCancelled, this, &SendSession::onPeerCancelled);
     connect(source, &TransferEngine::transferFailed, this, &SendSession::onTransferFailed);
 }
 
 void SendSession::look()
 {
-    const std::optional<PCInfo> peer = findPeer(engine().discoveredPCs(), options().target);
-    if (peer)
-        dial(*peer);
+    const QList<PCInfo> peers = findPeers(engine().discoveredPCs(), options().target);
+    const bool dialsUnheard = isAddress(options().target) && options().mode == NetworkMode;
+    if (!m_lookingFor.isValid() || (peers.isEmpty() && !dialsUnheard))
+        m_lookingFor.start();
+    if (peers.size() > 1 && m_lookingFor.hasExpired(TimeToBeSure.count())) {
+        output().error(tr("More than one PC goes by %1: %2. Name the one that is meant by its address.")
+                           .arg(options().target, describedPeers(peers)));
+        finish(WrongUsage);
+    } else if (peers.size() == 1 && m_lookingFor.hasExpired(TimeToBeSure.count())) {
+        dial(peers.first());
+    } else if (peers.isEmpty() && m_lookingFor.hasExpired(TimeToDialUnheard.count())) {
+        PCInfo unheard;
+        unheard.name = unheard.ip = options().target;
+        dial(unheard);
+    }
 }
 
 void SendSession::dial(const PCInfo &pc)
@@ -102,8 +131,12 @@ void SendSession::dial(const PCInfo &pc)
     m_state = State::Dialling;
     setLink(Link::Pending);
     m_peerName = pc.name;
-    output().found(pc);
-    if (pc.verifyCode == options().target)
+    m_reached = false;
+    if (!pc.id.isEmpty())
+        output().found(pc);
+    if (isAddress(options().target))
+        engine().connectToAddress(options().target);
+    else if (pc.verifyCode == options().target)
         engine().connectByCode(options().target);
     else
         engine().connectToPC(pc);
@@ -127,8 +160,8 @@ void SendSession::onConnected()
 
 void SendSession::onConnectionFailed(const QString &reason)
 {
-    if (link() == Link::Up) {
-        onDisconnected();
+    if (link() == Link::Up || (m_state == State::Dialling && !m_reached && isAddress(options().target))) {
+        onDisconnected(); // the other PC may not be ready yet
         return;
     }
     output().error(reason);
@@ -148,6 +181,7 @@ void SendSession::onDisconnected()
         // Another connection came in and took the place of the unanswered one, as a cable sweep does.
         m_state = State::Looking;
         setLink(Link::None);
+        m_lookingFor.start();
         m_lookTimer.start(LookInterval);
         return;
     }

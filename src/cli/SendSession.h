@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/ItemChoice.h"
+#include "cli/Notices.h"
 #include "cli/RunResults.h"
 #include "cli/Session.h"
 
@@ -57,8 +58,11 @@ private:
     void onTimeout();
 
     State m_state = State::Scanning;
+    Notices m_notices;
     QTimer m_lookTimer;
-    QTimer m_timeoutTimer; ///< runs until the peer has let this PC in
+    QElapsedTimer m_lookingFor; ///< an address, or since the target was found
+    bool m_reached = false;     ///< the peer that is being dialled, which has been asked
+    QTimer m_timeoutTimer;      ///< runs until the peer has let this PC in
     QStringList m_folders;
     ItemChoice m_choice;
     QString m_peerName;

@@ -76,7 +76,7 @@ void Session::showRuns()
     connect(&m_engine, &TransferEngine::spaceShort, this,
             [this](qint64 needed, qint64 available, const QString &volume) {
                 m_output.warning(
-                    tr("%1 are on their way, but only %2 are free on %3: not everything will fit.")
+                    tr("%1 are on their way, but only %2 are free on %3. Not everything will fit.")
                         .arg(formatSize(needed), formatSize(available), volume));
             });
     showLink();
@@ -128,6 +128,15 @@ void Session::showReport(const RunSummary &summary)
     // A further run may stand behind what an earlier one has left the other PC to do.
     if (summary.apps.arrived > 0 || summary.settings.arrived > 0)
         m_farewellTime = FarewellTimeInstalling;
+}
+
+void Session::showRevision(const RunSummary &summary)
+{
+    m_output.error(
+        summary.end == RunEnd::LinkLost
+            ? tr("%1 was lost before it said that everything is installed.").arg(summary.peerName)
+            : tr("%1 called the transfer off before everything was installed.").arg(summary.peerName));
+    showReport(summary);
 }
 
 void Session::keepReport(const RunSummary &summary)
@@ -218,6 +227,10 @@ void Session::finish(ExitCode exitCode)
     m_engine.stopDiscovery();
     if (m_link == Link::Up) {
         const bool completed = exitCode == EverythingMoved || exitCode == SomethingMissing;
+        connect(&m_engine, &TransferEngine::runRevised, this, [this](const RunSummary &summary) {
+            showRevision(summary);
+            m_exitCode = exitCodeFor(summary);
+        });
         connect(&m_engine, &TransferEngine::disconnected, this, &Session::conclude);
         connect(&m_engine, &TransferEngine::connectionFailed, this, &Session::conclude);
         // A peer that ends the session in the same moment waits for this side as well.

@@ -65,6 +65,8 @@ protected:
     void showRuns();
     /// Whether it is time to show progress again: at most five times a second.
     [[nodiscard]] bool progressIsDue();
+    /// The New PC is gone before it was through: says so, and shows the report as it stands now.
+    void showRevision(const RunSummary &summary);
     /// Shows how a run ended, and keeps its report where the user wants it.
     void showReport(const RunSummary &summary);
     /// Writes the file of --report, unless the run ended before it moved anything. A failure is told, and

@@ -22,7 +22,7 @@ constexpr int MaxShownFiles = 20;
 /// Name of a peer for a person, with what is known besides it.
 QString described(const PCInfo &pc)
 {
-    return pc.ip.isEmpty() ? pc.name : u"%1 (%2)"_s.arg(pc.name, pc.ip);
+    return pc.ip.isEmpty() || pc.ip == pc.name ? pc.name : u"%1 (%2)"_s.arg(pc.name, pc.ip);
 }
 
 /// One line of the inventory: a size, if there is one, and what is known besides it.
@@ -107,7 +107,7 @@ void TextOutput::peer(const PCInfo &pc)
     line(text);
 }
 
-void TextOutput::peerLost(const QString &id)
+void TextOutput::peerLost(const QString &id, quint64)
 {
     if (m_listsPeers)
         line(u"- "_s + id);
@@ -116,6 +116,11 @@ void TextOutput::peerLost(const QString &id)
 void TextOutput::found(const PCInfo &pc)
 {
     line(tr("Found %1. Waiting for it to let this PC in.").arg(described(pc)));
+}
+
+void TextOutput::waiting(const QString &name)
+{
+    line(tr("Waiting for %1: somebody has to press Yes there").arg(name));
 }
 
 void TextOutput::request(const ConnectionQuestion &question, bool asks)
@@ -217,12 +222,12 @@ void TextOutput::missingFiles(const RunSummary &summary)
     if (counts.missing() == 0)
         return;
     line(missingFilesText(summary) + u':');
-    files(summary.notArrived, counts.missing() - counts.wasDifferent);
-    files(summary.different, counts.wasDifferent);
+    files(summary.notArrived, counts.missing() - counts.wasDifferent, summary);
+    files(summary.different, counts.wasDifferent, {});
 }
 
-/// The first of `all` files, and how many there are beyond.
-void TextOutput::files(const QList<ItemResult> &results, int all)
+/// The first of `all` files that there are in `summary`, and what there is beyond.
+void TextOutput::files(const QList<ItemResult> &results, int all, const RunSummary &summary)
 {
     int shown = 0;
     for (const ItemResult &result : results) {
@@ -233,8 +238,8 @@ void TextOutput::files(const QList<ItemResult> &results, int all)
         line(u"  "_s + result.path + u": "_s + result.reason);
         ++shown;
     }
-    if (all > shown)
-        line(u"  "_s + tr("and %1 more").arg(countText(all - shown)));
+    for (const QString &text : unlistedTexts(summary, all - shown))
+        line(u"  "_s + text);
 }
 
 void TextOutput::items(const QString &head, const QString &done, const QList<ItemResult> &results,

@@ -19,8 +19,9 @@ public:
 
     void code(const QString &code) override;
     void peer(const PCInfo &pc) override;
-    void peerLost(const QString &id) override;
+    void peerLost(const QString &id, quint64 key) override;
     void found(const PCInfo &pc) override;
+    void waiting(const QString &name) override;
     void request(const ConnectionQuestion &question, bool asks) override;
     void refused(const QString &name, const QString &why) override;
     void connected(const PCInfo &pc) override;
@@ -45,7 +46,7 @@ private:
     void showLiveLine(const QString &text);
     void clearLiveLine();
     void missingFiles(const RunSummary &summary);
-    void files(const QList<ItemResult> &results, int all);
+    void files(const QList<ItemResult> &results, int all, const RunSummary &summary);
     void savedFolders(const RunSummary &summary);
     void items(const QString &head, const QString &done, const QList<ItemResult> &results, ItemKind kind);
     void section(const QString &title, const QStringList &rows);

@@ -23,8 +23,8 @@ namespace {
 
 constexpr auto Glance = 50ms;
 constexpr int DatagramsPerGlance = 1024;
-constexpr int MostPcs = 32;
-constexpr int MostAddresses = 8;
+constexpr int MostPcs = 16;
+constexpr int MostAddresses = 4;
 constexpr qsizetype LongestName = 64;
 
 /// The address in its IPv4 form where it has one.

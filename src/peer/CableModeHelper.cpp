@@ -183,6 +183,19 @@ QStringList CableModeHelper::getLocalIPs() const
 
 void CableModeHelper::refreshLocalIPs()
 {
+    (void)readLocalIPs();
+    logLocalIPs();
+}
+
+void CableModeHelper::watchLocalIPs()
+{
+    if (readLocalIPs())
+        logLocalIPs();
+}
+
+/// Whether they have changed.
+bool CableModeHelper::readLocalIPs()
+{
     QSet<QString> ips = {u"127.0.0.1"_s};
     m_knownAdapters = m_adapters();
     for (const NetworkAdapter &adapter : std::as_const(m_knownAdapters)) {
@@ -190,8 +203,11 @@ void CableModeHelper::refreshLocalIPs()
             ips.insert(normalizeIP(entry.ip.toString()));
     }
     m_localIPsValid = true;
-    if (std::exchange(m_localIPs, ips) == ips)
-        return;
+    return std::exchange(m_localIPs, ips) != ips;
+}
+
+void CableModeHelper::logLocalIPs() const
+{
     qCDebug(logPeer) << "[CableModeHelper] Local IPs:" << m_localIPs;
 }
 

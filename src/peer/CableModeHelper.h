@@ -37,6 +37,8 @@ public:
 
     /// Reads this machine's addresses anew: adapters come and go.
     void refreshLocalIPs();
+    /// The same for who asks all the time: the log hears of it only when they have changed.
+    void watchLocalIPs();
 
     /// The address to announce in cable mode: private, else internet-sharing (192.168.137.x), else
     /// link-local, else "127.0.0.1".
@@ -78,6 +80,8 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] QStringList getLocalIPs() const;
+    [[nodiscard]] bool readLocalIPs();
+    void logLocalIPs() const;
 
     void collectScanTargets();
     void scanNextBatch();

@@ -1,5 +1,6 @@
 #include "peer/Link.h"
 
+#include "peer/CableModeHelper.h"
 #include "peer/Log.h"
 #include "platform/SocketShutdown.h"
 
@@ -105,6 +106,11 @@ bool Link::isEstablished() const
 QHostAddress Link::peerAddress() const
 {
     return m_socket->peerAddress();
+}
+
+QString Link::peerIp() const
+{
+    return CableModeHelper::normalizeIP(peerAddress().toString());
 }
 
 void Link::send(Protocol::MessageType type, const QByteArray &payload)
@@ -248,12 +254,12 @@ void Link::onSecondPassed()
 {
     const Handling handling(*this);
     switch (m_watch.secondPassed(m_shared.mayRead())) {
-    case LinkWatch::Verdict::Nothing:
+    case Liveness::Verdict::Nothing:
         return;
-    case LinkWatch::Verdict::Silent:
+    case Liveness::Verdict::Silent:
         Q_EMIT silent(m_watch.silentSeconds());
         return;
-    case LinkWatch::Verdict::Lost:
+    case Liveness::Verdict::Lost:
         Q_EMIT lost();
         return;
     }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "peer/FrameReader.h"
-#include "peer/LinkWatch.h"
+#include "peer/Liveness.h"
 #include "peer/Protocol.h"
 
 #include <QAbstractSocket>
@@ -56,8 +56,9 @@ public:
 
     [[nodiscard]] bool isDialling() const;    ///< TCP is not up yet
     [[nodiscard]] bool isEstablished() const; ///< TCP is up
-    [[nodiscard]] bool isSilent() const { return m_watch.silentSeconds() >= LinkWatch::SilentAfter; }
+    [[nodiscard]] bool isSilent() const { return m_watch.silentSeconds() >= Liveness::SilentAfter; }
     [[nodiscard]] QHostAddress peerAddress() const;
+    [[nodiscard]] QString peerIp() const; ///< normalised, as the tables and questions have it
 
     /// Frames a message and writes it, be it for later while TCP is not up. Dropped when the link is over.
     void send(Protocol::MessageType type, const QByteArray &payload);
@@ -118,7 +119,7 @@ private:
     qsizetype m_frameLimit = FrameReader::NoLimit;
     QTimer *m_heartbeat;
     QTimer *m_seconds; ///< beats the time of the watch
-    LinkWatch m_watch;
+    Liveness m_watch;
     QTimer *m_patience; ///< runs while a link that hangs up stands still
     QDeadlineTimer m_latestEnd;
     bool m_givenUp = false;

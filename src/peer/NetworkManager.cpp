@@ -30,11 +30,6 @@ constexpr auto FarewellTime = 200ms;
 /// What a peer that has been dialled, and has not said yes, may keep waiting here in an unfinished frame.
 constexpr qsizetype UnacceptedLimitBytes = 16 << 20;
 
-QString addressOf(const Link *link)
-{
-    return CableModeHelper::normalizeIP(link->peerAddress().toString());
-}
-
 } // namespace
 
 NetworkManager::NetworkManager(QObject *parent, LinkEnvironment environment)
@@ -139,11 +134,6 @@ void NetworkManager::sendData(const QByteArray &data)
         m_link->sendRaw(data);
 }
 
-void NetworkManager::sendCommand(Protocol::MessageType type)
-{
-    sendCommand(type, {});
-}
-
 void NetworkManager::sendCommand(Protocol::MessageType type, const QByteArray &payload)
 {
     if (m_link)
@@ -154,6 +144,7 @@ void NetworkManager::disconnect()
 {
     sendCommand(Protocol::MessageType::Disconnect);
     hangUp();
+    askDeferred();
 }
 
 void NetworkManager::acceptConnection(quint64 question)
@@ -171,6 +162,7 @@ void NetworkManager::acceptConnection(quint64 question)
     PCInfo peer;
     peer.id = peer.name = asker->name;
     peer.ip = peer.senderIp = asker->ip;
+    peer.os = asker->os;
     m_pairing.admitted(peer);
     sendCommand(Protocol::MessageType::ConnectAccept);
     m_waitingRoom->refuseAll();
@@ -277,8 +269,11 @@ void NetworkManager::onLinkOpened()
 void NetworkManager::onLinkClosed(Link *link)
 {
     if (link == m_link) {
+        const bool broke = isAccepted();
         drop();
         endPair();
+        if (broke)
+            Q_EMIT linkBroke();
     }
     if (!m_link)
         tellEnd(link);
@@ -296,8 +291,10 @@ void NetworkManager::onLinkFailed(QAbstractSocket::SocketError error, const QStr
     const bool wasAccepted = isAccepted();
     Link *const link = release();
     link->abandon();
-    if (wasAccepted)
+    if (wasAccepted) {
         endPair();
+        Q_EMIT linkBroke();
+    }
     Q_EMIT connectionFailed(reason.isEmpty() ? tr("Unknown error") : reason);
     if (wasAccepted)
         tellEnd(link);
@@ -310,6 +307,7 @@ void NetworkManager::onLinkLost()
     Link *const link = release();
     link->abandon();
     endPair();
+    Q_EMIT linkBroke();
     tellEnd(link);
 }
 
@@ -319,7 +317,7 @@ void NetworkManager::onFrame(Protocol::MessageType type, const QByteArray &paylo
     case Protocol::MessageType::ConnectRequest:
         return; // it asks whoever has come in, and that one is no longer asked
     case Protocol::MessageType::ConnectAccept:
-        if (m_pairing.toldYes(addressOf(m_link))) {
+        if (m_pairing.toldYes(m_link->peerIp())) {
             m_waitingRoom->refuseAll();
             pair();
         }
@@ -334,7 +332,9 @@ void NetworkManager::onFrame(Protocol::MessageType type, const QByteArray &paylo
         tellEnd(m_link);
         return;
     case Protocol::MessageType::Heartbeat:
-        return;
+        if (payload.isEmpty())
+            return;
+        [[fallthrough]];
     default:
         Q_EMIT commandReceived(type, payload);
     }

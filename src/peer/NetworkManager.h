@@ -117,7 +117,7 @@ public Q_SLOTS:
     void sendData(const QByteArray &data);
     /// Frames and writes a message. Without a socket nothing happens.
     void sendCommand(Zandrove::Protocol::MessageType type, const QByteArray &payload);
-    void sendCommand(Zandrove::Protocol::MessageType type);
+    void sendCommand(Zandrove::Protocol::MessageType type) { sendCommand(type, {}); }
 
     /// Reads, through the event loop, what the read gate held back.
     void resumeReading();
@@ -150,8 +150,11 @@ Q_SIGNALS:
     void connecting(); ///< never emitted
     void connected();  ///< paired, on either side
     /// The link is over, once for each and after all frames that had come on it: the peer has left, the
-    /// connection broke, or nothing came for 120 s. acceptedLink() is 0 from then on.
+    /// connection broke, or nothing came for 120 s. Not told of a link that connectToPC gives up for a dial.
+    /// acceptedLink() is 0 from then on.
     void disconnected();
+    /// The accepted link has ended without a goodbye of either side. What else is told of its end follows.
+    void linkBroke();
     /// A dial or the link has failed, or the peer said no. For an accepted link `disconnected` follows.
     void connectionFailed(const QString &reason);
     /// Nothing has come on the accepted link for so long: after 15 s, then every 5 s. The link stands.
@@ -160,7 +163,7 @@ Q_SIGNALS:
     void connectionTimeout();                  ///< followed by connectionFailed
     void dataReceived(const QByteArray &data); ///< never emitted
     /// Every message that the connection layer does not consume itself, in order of arrival, from any peer:
-    /// whether the peer was accepted is for the listener to ask.
+    /// whether the peer was accepted is for the listener to ask. A heartbeat is one if it says something.
     void commandReceived(Zandrove::Protocol::MessageType type, const QByteArray &payload);
 
 private:

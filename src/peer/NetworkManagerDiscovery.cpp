@@ -7,7 +7,9 @@
 #include "peer/Log.h"
 #include "peer/PeerText.h"
 #include "peer/WaitingRoom.h"
+#include "platform/PortHolders.h"
 #include "support/Json.h"
+#include "support/PeerChoice.h"
 #include "support/Utilities.h"
 
 #include <QJsonObject>
@@ -48,6 +50,12 @@ std::optional<QByteArray> discoveryPayloadOf(const QByteArray &datagram)
         qint64(header->length) + Protocol::HeaderSize > datagram.size())
         return std::nullopt;
     return datagram.mid(Protocol::HeaderSize, qsizetype(header->length));
+}
+
+QString programAt(Platform::Transport transport, quint16 port)
+{
+    const QList<Platform::PortHolder> holders = Platform::portHolders(transport, port);
+    return holders.isEmpty() ? QString() : holders.first().program;
 }
 
 PCInfo peerFrom(const QJsonObject &json, const QString &senderIP)
@@ -130,10 +138,12 @@ bool NetworkManager::listen()
 void NetworkManager::openPorts()
 {
     setupServer();
+    const quint16 tcpPort = m_environment.tcpPort;
     if (!m_tcpServer->isListening())
-        Q_EMIT portTaken(m_environment.tcpPort, {});
+        Q_EMIT portTaken(tcpPort, programAt(Platform::Transport::Tcp, tcpPort));
+    const quint16 udpPort = m_environment.udpPort;
     if (!m_beacon->bind())
-        Q_EMIT portTaken(m_environment.udpPort, {});
+        Q_EMIT portTaken(udpPort, programAt(Platform::Transport::Udp, udpPort));
 }
 
 void NetworkManager::startDiscovery()
@@ -191,8 +201,8 @@ void NetworkManager::startTimers()
 
 QByteArray NetworkManager::discoveryFrame()
 {
-    qCDebug(logPeer) << "Sending broadcast... Role:" << m_role;
-    m_cableHelper->refreshLocalIPs(); // a peer may have the address by now that this machine had
+    qCDebug(logPeer) << "Sending broadcast... Role:" << roleName(m_role);
+    m_cableHelper->watchLocalIPs(); // a peer may have the address by now that this machine had
     const QString name = getComputerName();
     const quint16 port = m_environment.tcpPort == TcpPort ? TcpPort : serverPort();
     const QString ip =
@@ -365,8 +375,7 @@ void NetworkManager::onAsked(const ConnectionQuestion &question)
 
 bool NetworkManager::isBusyFor(const QString &ip) const
 {
-    return isAccepted() && m_isBusy && m_isBusy() && !m_link->isSilent() &&
-           CableModeHelper::normalizeIP(m_link->peerAddress().toString()) != ip;
+    return isAccepted() && m_isBusy && m_isBusy() && !m_link->isSilent() && m_link->peerIp() != ip;
 }
 
 bool NetworkManager::isDialling(const QString &ip) const

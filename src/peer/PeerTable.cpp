@@ -246,20 +246,4 @@ bool PeerTable::makeRoom()
     return true;
 }
 
-QList<PCInfo> peersWithCode(const QList<PCInfo> &peers, const QString &code)
-{
-    QList<PCInfo> result;
-    for (const PCInfo &peer : peers) {
-        if (peer.verifyCode != code)
-            continue;
-        const auto same = std::find_if(result.begin(), result.end(),
-                                       [&peer](const PCInfo &each) { return each.ip == peer.ip; });
-        if (same == result.end())
-            result.append(peer);
-        else if (same->lastSeen < peer.lastSeen)
-            *same = peer;
-    }
-    return result;
-}
-
 } // namespace Zandrove

@@ -98,8 +98,4 @@ private:
     QHash<QString, QDateTime> m_sameRole; ///< when each was told of
 };
 
-/// Those of `peers` that show `code`. Records that would be dialled at one address are one peer, whatever
-/// they call themselves; of them the last one counts that was heard.
-[[nodiscard]] QList<PCInfo> peersWithCode(const QList<PCInfo> &peers, const QString &code);
-
 } // namespace Zandrove

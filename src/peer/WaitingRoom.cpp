@@ -1,6 +1,5 @@
 #include "peer/WaitingRoom.h"
 
-#include "peer/CableModeHelper.h"
 #include "peer/Link.h"
 #include "peer/Log.h"
 #include "peer/PeerText.h"
@@ -27,11 +26,6 @@ constexpr qsizetype MostAddresses = 256;
 /// A request is a few hundred bytes.
 constexpr qsizetype LimitBytes = 64 << 10;
 
-QString addressOf(const Link *link)
-{
-    return CableModeHelper::normalizeIP(link->peerAddress().toString());
-}
-
 } // namespace
 
 WaitingRoom::WaitingRoom(std::chrono::milliseconds second, std::function<bool(const QString &ip)> isBusy,
@@ -45,7 +39,7 @@ WaitingRoom::WaitingRoom(std::chrono::milliseconds second, std::function<bool(co
 void WaitingRoom::admit(Link *link)
 {
     ConnectionQuestion question;
-    question.ip = addressOf(link);
+    question.ip = link->peerIp();
     m_newcomers.push_back({link, question});
     link->setFrameLimit(LimitBytes);
     connect(link, &Link::frameReceived, this,
@@ -152,8 +146,10 @@ void WaitingRoom::onRequest(Link *link, const QByteArray &payload)
     if (place == m_newcomers.end() || place->question.number != 0)
         return;
     ConnectionQuestion &question = place->question;
-    question.name = boundedText(parseJsonObject(payload).value_or(QJsonObject())["name"_L1]);
-    qCDebug(logPeer) << "Received ConnectRequest from:" << question.name << "at" << question.ip;
+    const QJsonObject json = parseJsonObject(payload).value_or(QJsonObject());
+    question.name = boundedText(json["name"_L1]);
+    question.os = boundedText(json["os"_L1]);
+    qCDebug(logPeer) << "Received ConnectRequest from:" << question.name;
     if (isUnheard(question.ip) || m_isBusy(question.ip)) {
         turnDown(place);
         return;

@@ -95,7 +95,6 @@ void FileReceiverWorker::receiveChunk(const QByteArray &data)
 
     const QByteArrayView bytes = QByteArrayView(data).sliced(ChunkHeader::Size, chunk.chunkSize);
     if (!m_incoming.take(bytes)) {
-        qCDebug(logPipeline) << "[FileData] Write failed! path:" << m_currentPath;
         settle();
         Q_EMIT fileFailed(bareName(), reasonOfFailure());
         return;

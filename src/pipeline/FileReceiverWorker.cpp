@@ -55,7 +55,7 @@ void FileReceiverWorker::startReceiving()
     m_totalBytes = 0;
     m_received.clear();
     m_incoming.forgetFolders();
-    m_spaceCompared = false;
+    m_isListAnnounced = false;
     m_lastHeaderTaskId = -1;
     m_lastHeaderPath.clear();
     m_batchResults.clear();
@@ -100,14 +100,15 @@ void FileReceiverWorker::removeOpenFile()
 
 void FileReceiverWorker::setTotalInfo(int fileCount, qlonglong totalBytes)
 {
+    const bool isFirst = m_totalBytes == 0; // with anything in it
+    const bool isOfApps = std::exchange(m_isListAnnounced, true);
     m_totalFiles = int(std::min<qint64>(qint64(m_totalFiles) + fileCount, std::numeric_limits<int>::max()));
     m_totalBytes = saturatingAdd(m_totalBytes, totalBytes);
     qCDebug(logPipeline) << "setTotalInfo: +" << fileCount << totalBytes << "| Total:" << m_totalFiles
                          << m_totalBytes;
-    // Later lists are those of applications, which go elsewhere at first.
-    if (!m_running || std::exchange(m_spaceCompared, true))
+    if (!m_running || !isFirst)
         return;
-    const Volume volume = volumeOf(destinationPath(u"x"_s));
+    const Volume volume = volumeOf(destinationPath(isOfApps ? u"Apps/x"_s : u"x"_s));
     if (volume.availableBytes >= 0 && totalBytes > volume.availableBytes)
         Q_EMIT spaceShort(totalBytes, volume.availableBytes, volume.name);
 }
@@ -181,7 +182,7 @@ QString FileReceiverWorker::reasonOfFailure() const
     case IncomingFile::Problem::Mismatch:
         return tr("Checksum mismatch");
     case IncomingFile::Problem::Changed:
-        return tr("Changed while it was sent");
+        return tr("changed while it was sent");
     case IncomingFile::Problem::Unfinished:
         return tr("It did not arrive whole");
     }
@@ -210,9 +211,11 @@ void FileReceiverWorker::onFileEnd(const QString &relativePath, uint finalChecks
         result.identical = m_incoming.isIdentical();
         if (result.skipped && before == IncomingFile::State::Writing)
             ++m_skippedCount; // it has come to stand there meanwhile
-        result.fullVolume = m_incoming.record().fullVolume;
         settle();
     }
+    // Also of a file that has found no room before its end.
+    if (before != IncomingFile::State::None)
+        result.fullVolume = m_incoming.record().fullVolume;
     finishResult(result);
 }
 

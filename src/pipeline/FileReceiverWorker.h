@@ -61,7 +61,7 @@ public Q_SLOTS:
     /// as this worker gets to it.
     void cancel();
     /// A list of files is announced; the lists of one run add up. `totalBytes` in bytes. Emits `spaceShort`
-    /// where the first list doesn't fit.
+    /// where the first list that has any doesn't fit.
     void setTotalInfo(int fileCount, qlonglong totalBytes);
     /// A file begins; a repeat of the last header changes nothing. `checksum` is stored and not used.
     void onFileHeader(const QString &relativePath, qlonglong size, uint checksum, int taskId);
@@ -86,8 +86,8 @@ Q_SIGNALS:
     /// What became of a file; once for each file whose header was taken, in their order. One whose end never
     /// came has failed when the next file begins or the run ends.
     void taskSettled(const Zandrove::ReceivedFile &file);
-    /// The volume that files go to by default has less room than the announced bytes need. Once a run at
-    /// most, which goes on.
+    /// The volume that files go to by default, or applications at first where there is nothing else, has less
+    /// room than the announced bytes need. Once a run at most, which goes on.
     void spaceShort(qlonglong neededBytes, qlonglong availableBytes, const QString &volume);
     void overallProgress(const Zandrove::TransferProgress &progress);
     void allCompleted(int success, int failed, int skipped, qlonglong totalBytes);
@@ -141,7 +141,7 @@ private:
     int m_headerCount = 0;
     int m_totalFiles = 0;
     qint64 m_totalBytes = 0;
-    bool m_spaceCompared = false;
+    bool m_isListAnnounced = false; // further ones are those of applications
     SpeedMeter m_speed;
 };
 

@@ -145,7 +145,7 @@ QString FileSenderWorker::reasonOfChange(const Sending &sending, bool rewritten)
         return tr("Cannot read file: %1").arg(sending.readError);
     if (sending.sentBytes < sending.size && isCancelled())
         return tr("Cancelled before it was sent whole");
-    return rewritten || sending.sentBytes != sending.size ? tr("Changed while it was sent") : QString();
+    return rewritten || sending.sentBytes != sending.size ? tr("changed while it was sent") : QString();
 }
 
 bool FileSenderWorker::endFile(const Sending &sending, const QString &reasonOfChange)

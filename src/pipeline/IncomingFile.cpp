@@ -62,17 +62,21 @@ IncomingFile::State IncomingFile::findPlace()
 IncomingFile::State IncomingFile::create()
 {
     const QString folder = QFileInfo(m_file.destination).absolutePath();
+    qCDebug(logPipeline) << "  Target directory:" << folder;
     if (!QDir().mkpath(folder)) {
+        qCDebug(logPipeline) << "  ERROR: Failed to create directory:" << folder;
         failByDisk(Problem::CannotCreate, Platform::lastErrorCode());
         return m_state;
     }
+    qCDebug(logPipeline) << "  Directory ready:" << folder;
     // What was not there at the first look may have been put there by somebody else since.
     if (!isSafeDestination(m_file.relativePath, m_file.destination)) {
         fail(Problem::CannotCreate);
     } else if (!m_partial.create(m_file.destination)) {
-        qCDebug(logPipeline) << "  ERROR: Failed to create file in:" << folder;
         failByDisk(Problem::CannotCreate, m_partial.error());
+        qCDebug(logPipeline) << "  ERROR: Failed to open file:" << m_systemText;
     } else {
+        qCDebug(logPipeline) << "  File opened successfully";
         return State::Writing;
     }
     return m_state;
@@ -87,8 +91,12 @@ bool IncomingFile::take(QByteArrayView bytes)
     if (m_state != State::Writing)
         return true;
     m_buffer.append(bytes);
-    if (m_buffer.size() >= WriteBufferBytes && !flush())
+    const qsizetype buffered = m_buffer.size();
+    if (buffered >= WriteBufferBytes && !flush()) {
+        qCDebug(logPipeline) << "[FileData] flushWriteBuffer failed!"
+                             << "path:" << m_file.relativePath << "bufferSize:" << buffered;
         return failByDisk(Problem::WriteError, m_partial.error());
+    }
     m_received += bytes.size();
     m_checksum.update(bytes);
     return true;
@@ -96,7 +104,12 @@ bool IncomingFile::take(QByteArrayView bytes)
 
 bool IncomingFile::flush()
 {
+    const qint64 before = m_partial.writtenBytes();
     const bool written = m_partial.write(m_buffer);
+    if (!written)
+        qCDebug(logPipeline) << "[flushWriteBuffer] Write failed at" << m_partial.writtenBytes() - before
+                             << "/" << m_buffer.size() << "error:" << Platform::errorText(m_partial.error())
+                             << "path:" << m_file.relativePath;
     m_buffer.resize(0);
     return written;
 }
@@ -110,8 +123,12 @@ bool IncomingFile::end(quint32 checksum, bool changed)
         judgeStanding(checksum);
         succeeded = checksum == FileChecksum().value(); // as if nothing had come
     } else if (m_checksum.value() != checksum) {
+        qCDebug(logPipeline) << "[finalizeFile] Checksum mismatch!" << Qt::hex << "expected:" << checksum
+                             << "calculated:" << m_checksum.value() << Qt::dec << "fileSize:" << m_file.bytes
+                             << "received:" << m_received << "path:" << m_file.relativePath;
         fail(Problem::Mismatch);
     } else if (!flush()) {
+        qCDebug(logPipeline) << "[finalizeFile] flushWriteBuffer failed for:" << m_file.relativePath;
         failByDisk(Problem::WriteError, m_partial.error());
     } else {
         succeeded = place();

@@ -26,7 +26,7 @@ constexpr int LastTransferType = int(MessageType::SettingComplete);
 } // namespace
 
 MigrationManager::MigrationManager(QObject *parent)
-    : QObject(parent)
+    : RunEvents(parent)
 {
     m_waitAgainTimer.setSingleShot(true);
     connect(&m_waitAgainTimer, &QTimer::timeout, this, &MigrationManager::wait);
@@ -39,37 +39,6 @@ MigrationManager::~MigrationManager()
     retire();
     for (MigrationRun *run : std::as_const(m_past))
         run->waitForThreads();
-}
-
-void MigrationManager::setNetworkManager(NetworkManager *networkManager)
-{
-    if (m_networkManager == networkManager)
-        return;
-    if (m_networkManager)
-        QObject::disconnect(m_networkManager, nullptr, this, nullptr);
-    m_networkManager = networkManager;
-    setLink(RunLink::over(networkManager));
-    if (networkManager)
-        connect(networkManager, &NetworkManager::commandReceived, this,
-                &MigrationManager::onLinkCommandReceived);
-}
-
-void MigrationManager::setLink(RunLink link)
-{
-    if (m_link.setGate)
-        m_link.setGate({});
-    m_link = std::move(link);
-    if (m_link.setGate)
-        m_link.setGate([this] { return mayReadLink(); });
-    if (m_link.watch)
-        m_link.watch(this, [this] { onLinkChanged(); });
-}
-
-void MigrationManager::setRole(int role)
-{
-    if (role != m_role)
-        endSession();
-    m_role = role;
 }
 
 bool MigrationManager::isMigrating() const
@@ -111,6 +80,7 @@ void MigrationManager::start(const QList<AppInfo> &apps, const QList<FolderInfo>
         return startReceiving();
     endSession();
     retire();
+    m_aftermath.close();
     beginRun(new SendingRun(m_link, {apps, folders, settings, m_conflictConfig.policy}, this));
 }
 
@@ -135,37 +105,13 @@ void MigrationManager::beginRun(MigrationRun *run)
     for (MigrationRun *past : std::as_const(m_past))
         past->waitForThreads();
     m_run = run;
-    forward(run);
+    connect(run, &MigrationRun::ended, this, &MigrationManager::onRunEnded);
+    connect(run, &MigrationRun::stateChanged, this, &MigrationManager::onRunStateChanged);
+    repeat(run);
     qCDebug(logPipeline) << "MigrationManager::setupConnections() - role:" << roleName(m_role);
     Q_EMIT started();
     run->begin();
     resumeReadingLink();
-}
-
-void MigrationManager::forward(const MigrationRun *run)
-{
-    using Run = MigrationRun;
-    using Face = MigrationManager;
-    connect(run, &Run::ended, this, &Face::onRunEnded);
-    connect(run, &Run::stateChanged, this, &Face::onRunStateChanged);
-    connect(run, &Run::paused, this, &Face::paused);
-    connect(run, &Run::resumed, this, &Face::resumed);
-    connect(run, &Run::pausedByPeer, this, &Face::pausedByPeer);
-    connect(run, &Run::resumedByPeer, this, &Face::resumedByPeer);
-    connect(run, &Run::progressChanged, this, &Face::progressChanged);
-    connect(run, &Run::failed, this, &Face::failed);
-    connect(run, &Run::fileTransferStarted, this, &Face::fileTransferStarted);
-    connect(run, &Run::fileTransferProgress, this, &Face::fileTransferProgress);
-    connect(run, &Run::fileTransferCompleted, this, &Face::fileTransferCompleted);
-    connect(run, &Run::fileTransferFailed, this, &Face::fileTransferFailed);
-    connect(run, &Run::appInstallProgress, this, &Face::appInstallProgress);
-    connect(run, &Run::appInstallFinished, this, &Face::appInstallFinished);
-    connect(run, &Run::appOutcome, this, &Face::appOutcome);
-    connect(run, &Run::settingOutcome, this, &Face::settingOutcome);
-    connect(run, &Run::settingsFinished, this, &Face::settingsFinished);
-    connect(run, &Run::itemSettled, this, &Face::itemSettled);
-    connect(run, &Run::spaceShort, this, &Face::spaceShort);
-    connect(run, &Run::installing, this, &Face::installing);
 }
 
 /// What the run was is over; what its threads still do, nobody hears of.
@@ -178,11 +124,21 @@ void MigrationManager::retire()
     run->end(RunEnd::Reset);
     run->closeLedger();
     m_summary = run->summary();
+    tellSettled(*run);
     m_past.append(run);
     connect(run, &MigrationRun::gone, this, [this, run] {
         m_past.removeOne(run);
         run->deleteLater();
     });
+}
+
+/// The Old PC's user is told of a loss only where something was still open.
+void MigrationManager::tellSettled(const MigrationRun &run)
+{
+    const bool brought = m_summary.apps.total() + m_summary.settings.total() > 0;
+    if (m_summary.role == NewPC && m_summary.end == RunEnd::Complete && brought && m_link.send &&
+        run.belongsTo(m_link.number()))
+        m_link.send(MessageType::Heartbeat, TransferMessages::settledPayload());
 }
 
 void MigrationManager::onRunEnded(RunEnd how, const MigrationReport &report)
@@ -194,6 +150,7 @@ void MigrationManager::onRunEnded(RunEnd how, const MigrationReport &report)
     resumeReadingLink();
     switch (how) {
     case RunEnd::Complete:
+        m_aftermath.begin(summary, m_link.number());
         Q_EMIT completed(report);
         qCDebug(logPipeline) << "All migration completed!";
         break;
@@ -278,16 +235,52 @@ void MigrationManager::resetAndListen()
     resumeReadingLink();
 }
 
+void MigrationManager::setNetworkManager(NetworkManager *networkManager)
+{
+    if (m_networkManager == networkManager)
+        return;
+    if (m_networkManager)
+        QObject::disconnect(m_networkManager, nullptr, this, nullptr);
+    m_networkManager = networkManager;
+    setLink(RunLink::over(networkManager));
+    if (networkManager)
+        connect(networkManager, &NetworkManager::commandReceived, this,
+                &MigrationManager::onLinkCommandReceived);
+}
+
+void MigrationManager::setLink(RunLink link)
+{
+    if (m_link.setGate)
+        m_link.setGate({});
+    m_link = std::move(link);
+    if (m_link.setGate)
+        m_link.setGate([this] { return mayReadLink(); });
+    if (m_link.watch)
+        m_link.watch(this, [this] { onLinkChanged(); });
+    if (m_link.watchBreaks)
+        m_link.watchBreaks(this, [this] { onCutOff(RunEnd::LinkLost); });
+}
+
 /// The run in hand may have lost its link, to nobody or to another peer. What waits behind it came by that
 /// link.
 void MigrationManager::onLinkChanged()
 {
     if (std::exchange(m_knownLink, m_link.number()) != m_link.number())
         (void)m_inbox.drop();
+    m_aftermath.noteLink(m_link.number());
     if (!isMigrating() || m_run->belongsTo(m_link.number()))
         return;
     endSession();
     m_run->end(RunEnd::LinkLost);
+}
+
+void MigrationManager::onCutOff(RunEnd how)
+{
+    const std::optional<RunSummary> revised = m_aftermath.cutOff(how);
+    if (!revised)
+        return;
+    m_summary = *revised;
+    Q_EMIT runRevised(m_summary);
 }
 
 /// Whether there is a peer that this side said yes to, and the run is one with that peer.
@@ -350,9 +343,17 @@ void MigrationManager::process(MessageType type, const QByteArray &payload)
     if (type == MessageType::SessionEnd) {
         qCDebug(logPipeline) << "Received SessionEnd from peer";
         endSession();
+        m_aftermath.close();
         Q_EMIT sessionEndReceived();
         return;
     }
+    if (type == MessageType::Heartbeat) {
+        if (TransferMessages::saysSettled(payload))
+            m_aftermath.settled(isMigrating() && m_run->hasAllLeft());
+        return;
+    }
+    if (type == MessageType::TransferCancel)
+        onCutOff(RunEnd::CancelledThere);
     if (!isMigrating() && !admitWhileIdle(type))
         return;
     if (int(type) >= FirstTransferType && int(type) <= LastTransferType)
@@ -388,12 +389,6 @@ bool MigrationManager::mayReadLink() const
         !m_run->isPaused())
         return false;
     return !m_run || m_run->mayReadLink();
-}
-
-void MigrationManager::resumeReadingLink()
-{
-    if (m_link.resumeReading)
-        m_link.resumeReading();
 }
 
 } // namespace Zandrove

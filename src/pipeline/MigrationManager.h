@@ -3,6 +3,8 @@
 #include "core/common/Records.h"
 #include "core/common/RunSummary.h"
 #include "peer/Protocol.h"
+#include "pipeline/Aftermath.h"
+#include "pipeline/RunEvents.h"
 #include "pipeline/RunInbox.h"
 #include "pipeline/RunLink.h"
 
@@ -29,7 +31,7 @@ class ReceivingRun;
 /// What arrives on a link that is not accepted is ignored, and nothing of a run leaves on such a link. A run
 /// of the Old PC belongs to the link it began on, one of the New PC to the link by which its first message
 /// came: it has nothing to do with a later one.
-class MigrationManager : public QObject
+class MigrationManager : public RunEvents
 {
     Q_OBJECT
 
@@ -43,7 +45,12 @@ public:
     /// What the next runs send by. `setNetworkManager` sets the one over that network.
     void setLink(RunLink link);
     /// A `Role`.
-    void setRole(int role);
+    void setRole(int role)
+    {
+        if (role != m_role)
+            endSession();
+        m_role = role;
+    }
     void setConflictConfig(const ConflictConfig &config) { m_conflictConfig = config; }
     /// Where the New PC puts files that no standard folder is named for.
     void setDestinationRoot(const QString &root) { m_destRoot = root; }
@@ -85,46 +92,23 @@ public:
     }
 
 Q_SIGNALS:
-    void peerCancelled();
     void started();
-    void paused();
-    void resumed();
     void cancelled();
-    void progressChanged(const Zandrove::TransferProgress &progress);
+    void peerCancelled();
+    void transferReset();
     void completed(const Zandrove::MigrationReport &report);
-    void failed(const QString &reason);               ///< no worker causes it
     void bufferStatusChanged(qlonglong bytesToWrite); ///< never emitted
-    /// An item of the run has its outcome.
-    void itemSettled(const Zandrove::ItemResult &item);
     /// A run in which something was sent or came is over, behind the signal that tells how. On the New PC
     /// settings may still have no outcome then; `settingsFinished` follows.
     void runEnded(const Zandrove::RunSummary &summary);
-    /// New PC: the peer has announced more bytes than its destination has room for. The run goes on.
-    void spaceShort(qlonglong needed, qlonglong available, const QString &volume);
-    /// The New PC installs this application; `percent` is 0 on the Old PC, which doesn't know how far it is.
-    void installing(const QString &appName, int percent);
+    /// Old PC: the last run is to be told of anew. It was complete, and the New PC is gone, or has called the
+    /// run off, before it said that what was sent is installed and applied.
+    void runRevised(const Zandrove::RunSummary &summary);
     /// New PC: a run waits for what the peer sends, behind one that was called off.
     void waiting();
     /// The peer began a run while none was on here; it is being received.
     void newTransferStarted();
     void sessionEndReceived();
-    void pausedByPeer();
-    void resumedByPeer();
-    void fileTransferStarted(const QString &fileName);
-    void fileTransferProgress(const QString &fileName, int percent);
-    void fileTransferCompleted(const QString &fileName);
-    void fileTransferFailed(const QString &fileName, const QString &reason);
-    void transferReset();
-    void appInstallProgress(const QString &appName, int percent, const QString &status);
-    void appInstallFinished(const QString &appName, bool success, const QString &error);
-    /// What became of one application: on the Old PC whether it was packed, on the New
-    /// PC whether it is installed.
-    void appOutcome(const QString &appName, bool success, const QString &error);
-    /// What became of one setting: on the Old PC whether it was exported, on the New
-    /// PC whether it is applied.
-    void settingOutcome(const QString &name, bool success, const QString &error);
-    /// All settings of the run are through.
-    void settingsFinished(int succeeded, int failed);
 
 public Q_SLOTS:
     /// The one entry of transfer messages, whatever link they came by.
@@ -139,13 +123,22 @@ private:
     void boundWaitForSettings();
 
     void onLinkChanged();
+    void onCutOff(RunEnd how);
+    [[nodiscard]] bool isLinkOfRun() const;
+    [[nodiscard]] bool mayReadLink() const;
+    void resumeReadingLink()
+    {
+        if (m_link.resumeReading)
+            m_link.resumeReading();
+    }
+
     void beginRun(MigrationRun *run);
     void beginReceiving();
     void wait();
-    void forward(const MigrationRun *run);
     void onRunEnded(RunEnd how, const MigrationReport &report);
     void onRunStateChanged();
     void retire();
+    void tellSettled(const MigrationRun &run);
     void waitAgain(std::chrono::milliseconds delay)
     {
         if (m_waits)
@@ -154,9 +147,6 @@ private:
 
     [[nodiscard]] ReceivingRun *receivingRun() const;
     [[nodiscard]] RunState runState() const;
-    [[nodiscard]] bool isLinkOfRun() const;
-    [[nodiscard]] bool mayReadLink() const;
-    void resumeReadingLink();
 
     QPointer<NetworkManager> m_networkManager;
     RunLink m_link;
@@ -165,6 +155,7 @@ private:
     ConflictConfig m_conflictConfig;
     QString m_destRoot;
     RunSummary m_summary;          // of the last run that is over
+    Aftermath m_aftermath;         // of the same
     MigrationRun *m_run = nullptr; // child: the one that is on, or whose settings are being applied
     QList<MigrationRun *> m_past;  // children: over, with threads that are still ending
     RunInbox m_inbox;

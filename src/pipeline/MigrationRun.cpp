@@ -23,7 +23,7 @@ constexpr qsizetype TracedPayloadBytes = 300;
 } // namespace
 
 MigrationRun::MigrationRun(int role, RunLink link, QObject *parent)
-    : QObject(parent)
+    : RunEvents(parent)
     , m_link(std::move(link))
     , m_ledger(role, getComputerName(), m_link.peer(), QDateTime::currentDateTime())
     , m_appMigrator(new AppMigrator)
@@ -50,7 +50,7 @@ void MigrationRun::wireMigrators()
         Q_EMIT fileTransferProgress(rowName(ItemKind::Application, name), percent);
     });
     connect(m_appMigrator, &AppMigrator::appFinished, this, &MigrationRun::onAppFinished);
-    connect(m_appMigrator, &AppMigrator::requestSendCommand, this, &MigrationRun::onRequestSendCommand);
+    connect(m_appMigrator, &AppMigrator::requestSendCommand, this, &MigrationRun::onWorkerRequestSendCommand);
     connect(m_settingMigrator, &SettingMigrator::settingStarted, this, [this](const QString &name) {
         qCDebug(logPipeline) << "[Setting] Started:" << name;
         Q_EMIT fileTransferStarted(rowName(ItemKind::Setting, name));
@@ -62,7 +62,7 @@ void MigrationRun::wireMigrators()
     connect(m_settingMigrator, &SettingMigrator::settingFinished, this, &MigrationRun::onSettingFinished);
     connect(m_settingMigrator, &SettingMigrator::finished, this, &MigrationRun::onSettingsThrough);
     connect(m_settingMigrator, &SettingMigrator::requestSendCommand, this,
-            &MigrationRun::onRequestSendCommand);
+            &MigrationRun::onWorkerRequestSendCommand);
 }
 
 void MigrationRun::onAppFinished(const QString &name, bool success, const QString &error)
@@ -239,6 +239,16 @@ void MigrationRun::sendToPeer(MessageType type, const QByteArray &payload)
         return;
     }
     m_link.send(type, payload);
+}
+
+void MigrationRun::onWorkerRequestSendCommand(int type, const QByteArray &payload)
+{
+    if (type != int(MessageType::FileData))
+        qCDebug(logPipeline) << ">>> onWorkerRequestSendCommand called! type:" << type
+                             << "size:" << payload.size();
+    if (!m_link.send)
+        qCDebug(logPipeline) << ">>> ERROR: m_networkManager is NULL!";
+    onRequestSendCommand(type, payload);
 }
 
 void MigrationRun::onRequestSendCommand(int type, const QByteArray &payload)

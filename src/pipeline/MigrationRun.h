@@ -3,6 +3,7 @@
 #include "core/common/Records.h"
 #include "core/common/RunSummary.h"
 #include "peer/Protocol.h"
+#include "pipeline/RunEvents.h"
 #include "pipeline/RunInbox.h"
 #include "pipeline/RunLedger.h"
 #include "pipeline/RunLink.h"
@@ -23,7 +24,7 @@ class SettingMigrator;
 /// Lives on the main thread. It ends once, by `ended`; behind that its workers are asked to end and are heard
 /// no more. Only settings that have arrived by then are still applied, and told of. `gone` says that no
 /// thread of it runs any more.
-class MigrationRun : public QObject
+class MigrationRun : public RunEvents
 {
     Q_OBJECT
 
@@ -51,6 +52,8 @@ public:
     virtual void end(RunEnd how);
     /// Whether anything of it has left or come.
     [[nodiscard]] virtual bool hasBegun() const { return true; }
+    /// Old PC: everything has left, and only answers are waited for.
+    [[nodiscard]] virtual bool hasAllLeft() const { return false; }
     /// Its link is lost, and what has arrived is still being worked off.
     [[nodiscard]] virtual bool isLinkLost() const { return false; }
     /// What its user is told, as far as it is known.
@@ -70,30 +73,6 @@ Q_SIGNALS:
     void stateChanged();
     /// No thread of a run that is over runs any more.
     void gone();
-
-    /// An item has its outcome.
-    void itemSettled(const Zandrove::ItemResult &item);
-    /// New PC: the peer has announced more than fits, in bytes.
-    void spaceShort(qlonglong needed, qlonglong available, const QString &volume);
-    /// An application is being installed on the New PC; `percent` is 0 where only the other PC knows.
-    void installing(const QString &appName, int percent);
-
-    // As in MigrationManager.
-    void paused();
-    void resumed();
-    void pausedByPeer();
-    void resumedByPeer();
-    void progressChanged(const Zandrove::TransferProgress &progress);
-    void failed(const QString &reason);
-    void fileTransferStarted(const QString &fileName);
-    void fileTransferProgress(const QString &fileName, int percent);
-    void fileTransferCompleted(const QString &fileName);
-    void fileTransferFailed(const QString &fileName, const QString &reason);
-    void appInstallProgress(const QString &appName, int percent, const QString &status);
-    void appInstallFinished(const QString &appName, bool success, const QString &error);
-    void appOutcome(const QString &appName, bool success, const QString &error);
-    void settingOutcome(const QString &name, bool success, const QString &error);
-    void settingsFinished(int succeeded, int failed);
 
 protected:
     /// How long settings that have arrived may still be applied when the next run wants to begin.
@@ -122,6 +101,7 @@ protected:
     [[nodiscard]] bool outlivedBySettings() const { return m_end == RunEnd::Complete && owesSettings(); }
 
     // What the workers tell.
+    /// A message of any of them, which is to leave.
     virtual void onRequestSendCommand(int type, const QByteArray &payload);
     virtual void onFilesThrough(int success, int failed, int skipped, qlonglong bytes) = 0;
     virtual void onSettingsThrough(int succeeded, int failed) = 0;
@@ -149,6 +129,7 @@ protected:
     bool m_pausedByPeer = false; // and not here
 
 private:
+    void onWorkerRequestSendCommand(int type, const QByteArray &payload);
     void onPeerPause();
     void onPeerResume();
     void onFileAck(const QByteArray &payload);
@@ -181,7 +162,7 @@ void MigrationRun::startFileWorker(Worker *worker)
     connect(worker, &Worker::overallProgress, this, &MigrationRun::progressChanged);
     connect(worker, &Worker::allCompleted, this, &MigrationRun::onFilesThrough);
     connect(worker, &Worker::error, this, &MigrationRun::failed);
-    connect(worker, &Worker::requestSendCommand, this, &MigrationRun::onRequestSendCommand);
+    connect(worker, &Worker::requestSendCommand, this, &MigrationRun::onWorkerRequestSendCommand);
     m_fileThread.carry(worker);
 }
 

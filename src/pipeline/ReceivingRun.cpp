@@ -271,7 +271,8 @@ void ReceivingRun::onTransferComplete()
 void ReceivingRun::onFilesThrough(int success, int failed, int skipped, qlonglong bytes)
 {
     qCDebug(logPipeline) << "[Serial] MigrationManager::onWorkerAllCompleted - success:" << success
-                         << "failed:" << failed << "skipped:" << skipped << "bytes:" << bytes;
+                         << "failed:" << failed << "skipped:" << skipped << "bytes:" << bytes
+                         << "sendingAppPhase:" << false;
     m_report.filesSuccess = success;
     m_report.filesFailed = failed;
     m_report.filesSkipped = skipped;
@@ -287,6 +288,8 @@ void ReceivingRun::onAppsThrough()
         return;
     const ReceivedFolders &received = m_receiver->receivedFolders();
     m_ledger.setSavedFolders(received.paths, received.counts, received.samples());
+    if (!isBroken)
+        logAllCompletedCheck(true, true, true, NewPC);
     finish(isBroken ? RunEnd::LinkLost : RunEnd::Complete);
 }
 
@@ -375,6 +378,7 @@ void ReceivingRun::onSettingsThrough(int succeeded, int failed)
     m_report.settingsSuccess = succeeded;
     m_report.settingsFailed = failed;
     m_settings = Settings::Through;
+    logAllCompletedCheck(!isOn(), !isOn() || m_workingOff, true, NewPC);
     m_settingsBound.stop();
     if (!isOn())
         closeLedger();

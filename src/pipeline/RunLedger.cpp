@@ -85,20 +85,20 @@ void RunLedger::answered(const BatchAnswer &answer)
     }
 }
 
-/// The files that an answer covers, and ends its request. Nothing for an answer out of turn. A request that
-/// is overdue may never have been answered: then it makes way for the next one.
+/// The files that an answer covers, and ends its request. Nothing where no request has its number. A request
+/// that was never answered makes way: the answer to the next one speaks of its files too.
 std::optional<QList<int>> RunLedger::takeCovered(int batchId)
 {
-    for (qsizetype position = 0; position < m_requests.size(); ++position) {
-        if (m_requests.at(position).batchId == batchId) {
-            QList<int> covered = m_requests.at(position).covers;
-            m_requests.remove(0, position + 1);
-            return covered;
-        }
-        if (!m_requests.at(position).overdue)
-            break;
-    }
-    return std::nullopt;
+    const auto answered =
+        std::find_if(m_requests.cbegin(), m_requests.cend(),
+                     [batchId](const Request &request) { return request.batchId == batchId; });
+    if (answered == m_requests.cend())
+        return std::nullopt;
+    QList<int> covered;
+    for (auto request = m_requests.cbegin(); request <= answered; ++request)
+        covered += request->covers;
+    m_requests.erase(m_requests.cbegin(), answered + 1);
+    return covered;
 }
 
 /// Believes what an answer says of one file. Returns whether it is a file that has left from here.
@@ -177,7 +177,7 @@ void RunLedger::received(const ReceivedItem &item)
     ItemResult result{ItemKind::File, item.outcome, item.path.isEmpty() ? item.relativePath : item.path,
                       item.reason, item.bytes};
     if (result.reason.isEmpty() && item.outcome == ItemOutcome::WasThere)
-        result.reason = wasThereText(std::nullopt);
+        result.reason = wasThereText(true);
     if (result.reason.isEmpty() && item.outcome == ItemOutcome::WasDifferent)
         result.reason = wasThereText(false);
     --m_open;

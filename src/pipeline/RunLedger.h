@@ -46,11 +46,11 @@ struct ReceivedItem
 /// The outcome of every file, application and setting of one run on one PC, and so what its user is told. Fed
 /// with what happens; knows no thread, no socket and no clock: times are milliseconds since any fixed moment.
 ///
-/// On the Old PC an answer belongs to the request that left first and is not answered yet. It covers the
-/// files whose `FileEnd` left between the request before and its own: these have arrived unless it names
-/// them. Nothing else makes a file arrive. A failure that an answer names counts for any file that has left,
-/// whether or not the answer was asked for; of several reasons the first stays, and a failure on this PC goes
-/// before every answer.
+/// On the Old PC an answer belongs to the first request of its number that is not answered yet. It covers the
+/// files whose `FileEnd` left between the request answered before and its own: these have arrived unless it
+/// names them. Nothing else makes a file arrive. A failure that an answer names counts for any file that has
+/// left, whether or not the answer was asked for; of several reasons the first stays, and a failure on this
+/// PC goes before every answer.
 class RunLedger final
 {
     Q_DECLARE_TR_FUNCTIONS(Zandrove::RunLedger)

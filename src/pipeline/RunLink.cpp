@@ -30,6 +30,10 @@ RunLink RunLink::over(NetworkManager *network)
         QObject::connect(guarded, &NetworkManager::disconnected, context, onChange);
         QObject::connect(guarded, &NetworkManager::connectionFailed, context, onChange);
     };
+    link.watchBreaks = [guarded](const QObject *context, const std::function<void()> &onBreak) {
+        if (guarded)
+            QObject::connect(guarded, &NetworkManager::linkBroke, context, onBreak);
+    };
     link.setGate = [guarded](std::function<bool()> mayRead) {
         if (guarded)
             guarded->setReadGate(std::move(mayRead));

@@ -33,6 +33,9 @@ struct RunLink
     /// Has `onChange` called, for as long as `context` lives, whenever the answer of `acceptedNumber` may be
     /// another one: the link is lost, or there is a new one.
     std::function<void(const QObject *context, std::function<void()> onChange)> watch = {};
+    /// Has `onBreak` called, for as long as `context` lives and ahead of `onChange`, whenever the accepted
+    /// link has ended without a goodbye of either side.
+    std::function<void(const QObject *context, std::function<void()> onBreak)> watchBreaks = {};
     /// Asks `mayRead` before each read of the link; an empty function always reads.
     std::function<void(std::function<bool()> mayRead)> setGate = {};
 

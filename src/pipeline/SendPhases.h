@@ -26,8 +26,15 @@ public:
     /// A run begins; what has nothing to do is through.
     SendPhases(bool withApps, bool withSettings);
 
-    /// A file of an application is to follow those of the folders.
-    void appFileQueued() { ++m_appFiles; }
+    /// A file of an application is announced. One that `isThere` is to follow those of the folders.
+    void appFileAnnounced(bool isThere)
+    {
+        ++m_announcedAppFiles;
+        m_appFiles += isThere ? 1 : 0;
+    }
+    [[nodiscard]] int announcedAppFiles() const { return m_announcedAppFiles; }
+    /// The sender has the second list.
+    [[nodiscard]] bool isSendingAppFiles() const { return m_appLane == AppFiles::Sending; }
     /// All applications are packed, or have failed.
     [[nodiscard]] Actions packed();
     /// The sender has worked off a list.
@@ -40,13 +47,17 @@ public:
     [[nodiscard]] bool isAnnounced() const { return m_announced; }
 
 private:
+    [[nodiscard]] bool areFilesThrough() const;
+    void logFiles() const;
     [[nodiscard]] Actions checked(bool sendHeldEnds = false) const;
 
+    bool m_withApps;
     Files m_files = Files::Sending;
     Packing m_packing;
     AppFiles m_appLane = AppFiles::Waiting;
     Settings m_settings;
-    int m_appFiles = 0;
+    int m_announcedAppFiles = 0;
+    int m_appFiles = 0; // of these
     bool m_announced = false;
 };
 

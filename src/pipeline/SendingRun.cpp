@@ -180,6 +180,7 @@ void SendingRun::queueAppFile(const QString &filePath, const QString &relativePa
 {
     m_appOfFile.insert(filePath, appOfPath(relativePath));
     const std::optional<qint64> size = sizeToSend(filePath);
+    m_phases.appFileAnnounced(size.has_value());
     if (!size) {
         qCDebug(logPipeline) << "[AppQueue] missing:" << filePath;
         m_ledger.failedBeforehand(filePath, tr("File not found: %1").arg(filePath));
@@ -192,7 +193,6 @@ void SendingRun::queueAppFile(const QString &filePath, const QString &relativePa
     task.relativePath = relativePath;
     task.fileSize = *size;
     m_appTasks.append(task);
-    m_phases.appFileQueued();
     qCDebug(logPipeline) << "[AppQueue] queued:" << relativePath << "size:" << *size
                          << "taskId:" << task.taskId;
 }
@@ -204,6 +204,7 @@ void SendingRun::onAppsPacked(int success, int failed, int skipped)
     m_report.appsSkipped = skipped;
     qCDebug(logPipeline) << "[Serial] App migration finished (queue done) - appsSuccess:" << success
                          << "appsFailed:" << failed << "appsSkipped:" << skipped
+                         << "appFilesQueued:" << m_phases.announcedAppFiles()
                          << "pendingAppTasks:" << m_appTasks.size();
     act(m_phases.packed());
 }
@@ -211,7 +212,8 @@ void SendingRun::onAppsPacked(int success, int failed, int skipped)
 void SendingRun::onFilesThrough(int success, int failed, int skipped, qlonglong bytes)
 {
     qCDebug(logPipeline) << "[Serial] MigrationManager::onWorkerAllCompleted - success:" << success
-                         << "failed:" << failed << "skipped:" << skipped << "bytes:" << bytes;
+                         << "failed:" << failed << "skipped:" << skipped << "bytes:" << bytes
+                         << "sendingAppPhase:" << m_phases.isSendingAppFiles();
     m_through.filesSuccess += success;
     m_through.filesFailed += failed;
     m_through.filesSkipped += skipped;
@@ -313,8 +315,10 @@ void SendingRun::noteSettled(const ItemResult &item)
 
 void SendingRun::end(RunEnd how)
 {
-    // The last answers may have come ahead of the end of the link.
-    if (how == RunEnd::LinkLost && m_confirmTimer.isActive() && m_ledger.isSettled()) {
+    // The last answers may have come ahead of the end of the link. What is to be installed is not through
+    // then.
+    if (how == RunEnd::LinkLost && m_confirmTimer.isActive() && m_ledger.isSettled() &&
+        m_sentItems.isEmpty()) {
         settleItems();
         finish(RunEnd::Complete);
     }
@@ -325,8 +329,8 @@ void SendingRun::onAnswer(const TransferMessages::Ack &answer)
 {
     BatchAnswer outcome{answer.batchId, answer.success, {}};
     for (const TransferMessages::Ack::NamedFile &file : answer.namedFiles)
-        outcome.files.append({file.taskId, file.relativePath, file.error, file.skipped,
-                              file.skipped ? std::optional(file.identical) : std::nullopt, file.fullVolume});
+        outcome.files.append(
+            {file.taskId, file.relativePath, file.error, file.skipped, file.identical, file.fullVolume});
     m_ledger.answered(outcome);
     tellSettled();
     qCDebug(logPipeline) << ">>> Calling onBatchAckReceived: batchId=" << answer.batchId

@@ -39,6 +39,7 @@ public:
     void begin() override;
     void end(RunEnd how) override;
     [[nodiscard]] bool belongsTo(quint64 link) const override { return link != 0 && link == m_linkNumber; }
+    [[nodiscard]] bool hasAllLeft() const override { return m_confirmTimer.isActive(); }
 
 protected:
     void pauseWorkers(bool paused) override;

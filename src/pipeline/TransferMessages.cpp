@@ -36,11 +36,12 @@ Ack::NamedFile readNamedFile(const QJsonObject &object)
     constexpr qsizetype MaxErrorLength = 1000;
     constexpr qsizetype MaxVolumeLength = 255;
     const bool skipped = object.value("skipped"_L1).toBool();
+    const QJsonValue identical = skipped ? object.value("identical"_L1) : QJsonValue();
     return {object.value("taskId"_L1).toInt(),
             object.value("relativePath"_L1).toString(),
             object.value("error"_L1).toString().left(MaxErrorLength),
             skipped,
-            skipped && object.value("identical"_L1).toBool(),
+            identical.isBool() ? std::optional(identical.toBool()) : std::nullopt,
             object.value("fullVolume"_L1).toString().left(MaxVolumeLength)};
 }
 
@@ -163,6 +164,16 @@ QByteArray completePayload(const MigrationReport &report)
                         {u"settingsFailed"_s, report.settingsFailed},
                         {u"totalBytes"_s, report.totalBytes},
                         {u"isFinal"_s, true}});
+}
+
+QByteArray settledPayload()
+{
+    return compactJson({{u"settled"_s, true}});
+}
+
+bool saysSettled(const QByteArray &payload)
+{
+    return readObject(payload).value("settled"_L1).toBool();
 }
 
 } // namespace Zandrove::TransferMessages

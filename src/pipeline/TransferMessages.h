@@ -95,9 +95,9 @@ struct Ack
         int taskId = 0;
         QString relativePath;
         QString error;
-        bool skipped = false;   ///< something stood in its place, and stays there
-        bool identical = false; ///< and has the same content
-        QString fullVolume;     ///< the volume that had no room for it; else empty
+        bool skipped = false;          ///< something stood in its place, and stays there
+        std::optional<bool> identical; ///< and has the same content, where the peer has compared
+        QString fullVolume;            ///< the volume that had no room for it; else empty
     };
 
     bool isRequest = false;
@@ -114,5 +114,9 @@ struct Ack
 
 /// `TransferComplete`: the counts of the sender's report.
 [[nodiscard]] QByteArray completePayload(const MigrationReport &report);
+
+/// `Heartbeat` of a New PC behind a run: everything that had come is installed and applied, or has failed.
+[[nodiscard]] QByteArray settledPayload();
+[[nodiscard]] bool saysSettled(const QByteArray &payload);
 
 } // namespace Zandrove::TransferMessages

@@ -25,6 +25,8 @@ public:
     [[nodiscard]] bool isOpen() const { return m_handle != NoHandle; }
     /// Writes all `count` bytes, or fails.
     [[nodiscard]] bool write(const char *bytes, qint64 count);
+    /// By all writes together, one that failed halfway included.
+    [[nodiscard]] qint64 writtenBytes() const { return m_writtenBytes; }
     /// Hands everything to the file system, some of which tell of a full disk only now.
     [[nodiscard]] bool flush();
     /// Moves the file to `target` in the same folder, where it is an ordinary visible one, and closes it.
@@ -47,6 +49,7 @@ private:
     qintptr m_handle = NoHandle;
     QString m_path; // empty when there is no such file, or no longer
     unsigned long m_error = 0;
+    qint64 m_writtenBytes = 0;
 };
 
 /// Removes the file at `path`, which an `OwnedFile` of the process number `owner` has left, unless a living

@@ -25,6 +25,8 @@ public:
     [[nodiscard]] bool create(const QString &place);
     /// False when not all could be written: the file is of no use then.
     [[nodiscard]] bool write(QByteArrayView bytes);
+    /// By all writes together, one that failed halfway included.
+    [[nodiscard]] qint64 writtenBytes() const { return m_file.writtenBytes(); }
     /// Gives the whole file its name `place`, in the same folder. What stands there is replaced, in one step,
     /// if `mayReplace`; otherwise it is `Occupied`, and can be tried at another place. Also `Failed` when the
     /// system has lost what was written.

@@ -13,6 +13,7 @@
 #include <QJsonObject>
 #include <QLocale>
 #include <QSaveFile>
+#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -112,8 +113,9 @@ QString countTable(const RunSummary &summary)
     if (summary.settings.total() > 0)
         rows += countRow(Text::tr("Settings"), summary.settings);
     QString head = element("th"_L1, {});
-    for (const QString &text : {Text::tr("Moved"), Text::tr("There already"),
-                                Text::tr("There, but different"), Text::tr("Failed"), Text::tr("All")})
+    for (const QString &text :
+         {Text::tr("Moved"), Text::tr("There already, identical"), Text::tr("There already, and different"),
+          Text::tr("Failed"), Text::tr("All")})
         head += element("th"_L1, text, "n"_L1);
     return u"<table><thead><tr>"_s + head + u"</tr></thead><tbody>\n"_s + rows + u"</tbody></table>\n"_s;
 }
@@ -155,18 +157,9 @@ QString itemsSection(const RunSummary &summary)
            tableOf({{}, Text::tr("Name"), Text::tr("What became of it")}, rows);
 }
 
-/// What is said of the files that have no row.
-QString restText(int rest, bool isAll, int role)
-{
-    const QString count = countText(rest);
-    if (role == NewPC)
-        return isAll ? Text::tr("%1 files, which only the report of the Old PC can name.").arg(count)
-                     : Text::tr("And %1 more, which only the report of the Old PC can name.").arg(count);
-    return isAll ? Text::tr("%1 files.").arg(count) : Text::tr("And %1 more.").arg(count);
-}
-
-/// The files of `results` with their reasons, of `all` that there are.
-QString filesSection(const QString &title, const QList<ItemResult> &results, int all, int role)
+/// The files of `results` with their reasons, of `all` that there are in `summary`.
+QString filesSection(const QString &title, const QList<ItemResult> &results, int all,
+                     const RunSummary &summary)
 {
     if (all <= 0)
         return {};
@@ -179,8 +172,9 @@ QString filesSection(const QString &title, const QList<ItemResult> &results, int
         ++listed;
     }
     const QString table = listed > 0 ? tableOf({Text::tr("File"), Text::tr("Reason")}, rows) : QString();
-    const QString rest =
-        all > listed ? element("p"_L1, restText(all - listed, listed == 0, role)) : QString();
+    QString rest;
+    for (const QString &text : unlistedTexts(summary, all - listed))
+        rest += element("p"_L1, text);
     return element("h2"_L1, title) + table + rest;
 }
 
@@ -191,7 +185,8 @@ QString header(const RunSummary &summary)
     const QString begin = mark.isEmpty() ? u"<header>\n"_s : u"<header class=\""_s + mark + u"\">\n"_s;
     const QString there =
         summary.files.wasThere > 0
-            ? element("p"_L1, Text::tr("%1 were there already.").arg(countText(summary.files.wasThere)))
+            ? element("p"_L1,
+                      Text::tr("%1 were there already, identical.").arg(countText(summary.files.wasThere)))
             : QString();
     return begin + element("h1"_L1, headlineOf(summary)) + element("p"_L1, arrivedFilesText(summary) + u'.') +
            there + u"</header>\n"_s;
@@ -249,9 +244,9 @@ QByteArray reportAsHtml(const RunSummary &summary)
         element("h2"_L1, Text::tr("This transfer")) + facts(summary) + placesSection(summary) +
         itemsSection(summary) +
         filesSection(Text::tr("Files that did not arrive"), summary.notArrived,
-                     files.failed + files.notConfirmed + files.pending, summary.role) +
+                     files.failed + files.notConfirmed + files.pending, summary) +
         filesSection(Text::tr("Files that were there already, with other content"), summary.different,
-                     files.wasDifferent, summary.role) +
+                     files.wasDifferent, {}) +
         element("footer"_L1, title) + u"</main>\n</body>\n</html>\n"_s;
     return page.toUtf8();
 }
@@ -287,6 +282,12 @@ QByteArray reportAsJson(const RunSummary &summary)
                              {u"fullVolumes"_s, volumes},
                              {u"savedFolders"_s, folders}};
     return QJsonDocument(object).toJson();
+}
+
+QString reportPathFor(const RunSummary &summary)
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + u'/' +
+           Text::tr("Zandrove report") + summary.endTime.toString(u" yyyy-MM-dd HHmmss"_s) + u".html"_s;
 }
 
 QString saveReport(const RunSummary &summary, const QString &path)

@@ -16,6 +16,9 @@ namespace Zandrove {
 /// The same for a program: one JSON object, UTF-8. Times are ISO 8601 with the offset from UTC.
 [[nodiscard]] QByteArray reportAsJson(const RunSummary &summary);
 
+/// Where a face puts the report of `summary`, or proposes to: in the user's documents, by a name of its own.
+[[nodiscard]] QString reportPathFor(const RunSummary &summary);
+
 /// Writes the report to the file `path`, as JSON for a name that ends in ".json", else as a page. A file of
 /// that name is replaced when the new one is whole; a folder and what is no regular file stay. Returns what
 /// went wrong, translated, or an empty text.

@@ -83,6 +83,21 @@ QString missingFilesText(const RunSummary &summary)
         .arg(countText(missing), countText(summary.files.total()));
 }
 
+QStringList unlistedTexts(const RunSummary &summary, int unlisted)
+{
+    const int absent = summary.role == NewPC ? summary.files.notConfirmed + summary.files.pending : 0;
+    QStringList texts;
+    if (unlisted > absent)
+        texts.append(Text::tr("And %1 more.").arg(countText(unlisted - absent)));
+    if (absent == 1)
+        texts.append(
+            Text::tr("1 announced file did not come. The report of %1 names it.").arg(summary.peerName));
+    else if (absent > 0)
+        texts.append(Text::tr("%1 announced files did not come. The report of %2 names them.")
+                         .arg(countText(absent), summary.peerName));
+    return texts;
+}
+
 QString arrivedFilesText(const RunSummary &summary)
 {
     return Text::tr("%1 of %2 files arrived; nothing was deleted on the Old PC")
@@ -161,9 +176,11 @@ QStringList nextSteps(const RunSummary &summary)
             Text::tr("Connect the two PCs again and start the same transfer: what has arrived is skipped, "
                      "only what is missing is moved."));
     } else if (missingItems(summary) > summary.files.wasDifferent) {
-        steps.append(
-            Text::tr("Read the reasons in the list. Once they are gone, start the same transfer again: what "
-                     "has arrived is skipped, only what is missing is moved."));
+        const bool knows = summary.role != NewPC || !summary.notArrived.isEmpty();
+        steps.append(knows ? Text::tr("Read the reasons in the list.")
+                           : Text::tr("Read the reasons in the report of %1.").arg(summary.peerName));
+        steps.append(Text::tr("Once they are gone, start the same transfer again: what has arrived is "
+                              "skipped, only what is missing is moved."));
     }
     steps.append(
         Text::tr("Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there."));

@@ -18,6 +18,10 @@ namespace Zandrove {
 /// "12 of 40 files arrived; nothing was deleted on the Old PC".
 [[nodiscard]] QString arrivedFilesText(const RunSummary &summary);
 
+/// What is said below a list of what did not arrive of `unlisted` items that it has no row for; on the New PC
+/// it can't name the files that were announced and did not come.
+[[nodiscard]] QStringList unlistedTexts(const RunSummary &summary, int unlisted);
+
 /// "no space left on drive D: of NEWBOX: 1,204 files, 3.1 GB did not fit".
 [[nodiscard]] QString fullVolumeText(const FullVolume &volume);
 

@@ -28,6 +28,7 @@ LinkWatch::LinkWatch(TransferEngine *engine, NoticeBar *bar, QObject *parent)
 {
     connect(m_engine, &TransferEngine::connected, this, &LinkWatch::onConnected);
     connect(m_engine, &TransferEngine::runEnded, this, &LinkWatch::onRunEnded);
+    connect(m_engine, &TransferEngine::runRevised, this, &LinkWatch::onRunEnded);
     connect(m_engine, &TransferEngine::disconnected, this, &LinkWatch::onLinkGone);
     connect(m_engine, &TransferEngine::connectionFailed, this, [this] {
         if (!m_engine->isConnected())

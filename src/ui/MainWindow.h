@@ -34,8 +34,8 @@ class WelcomePage;
 /// back to the page of connections by itself, the Old PC keeps its selection and comes back to it once the
 /// two are joined.
 ///
-/// Closing it in a running transfer asks first, and then cancels that; the end of the system's session
-/// cancels it without a question.
+/// Closing it in a running transfer asks first, and then cancels that; the end of the system's session, and
+/// whoever wants the program to end at once, cancel it without a question. A report is left behind.
 class MainWindow final : public QMainWindow
 {
     Q_OBJECT
@@ -57,6 +57,10 @@ public:
     explicit MainWindow(QWidget *parent = nullptr, License &license = License::ofThisCopy(),
                         TransferEngine *engine = nullptr);
     ~MainWindow() override;
+
+public Q_SLOTS:
+    /// Ends the program politely, without a question, whatever is open.
+    void endProgram();
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -245,6 +245,12 @@ void MainWindow::backToConnections()
     goToPage(PageConnection);
 }
 
+void MainWindow::endProgram()
+{
+    m_transferPage->cancelRun();
+    QCoreApplication::exit();
+}
+
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     event->setAccepted(m_currentPage != PageTransfer || m_transferPage->letGo());

@@ -174,8 +174,9 @@ private Q_SLOTS:
         row("code before a name of four digits", u"2024"_s, u"Green"_s);
         row("name of four digits", u"1999"_s, u"1999"_s);
         row("name in another case", u"gReEn"_s, u"Green"_s);
-        row("announced address", u"10.0.0.1"_s, u"Blue"_s);
-        row("address it spoke from", u"192.168.1.9"_s, u"Green"_s);
+        row("two of one name", u"twin"_s, u"Twin Twin"_s);
+        row("address that would be dialled", u"10.0.0.2"_s, u"Green"_s);
+        row("another address of it", u"192.168.1.9"_s, QString());
         row("part of a name", u"Gre"_s, QString());
         row("nobody", u"7777"_s, QString());
     }
@@ -185,9 +186,13 @@ private Q_SLOTS:
         const QList<PCInfo> peers = {peer(u"2024"_s, u"10.0.0.5"_s, u"10.0.0.5"_s, u"1111"_s),
                                      peer(u"Blue"_s, u"10.0.0.1"_s, u"192.168.1.8"_s, u"0427"_s),
                                      peer(u"Green"_s, u"10.0.0.2"_s, u"192.168.1.9"_s, u"2024"_s),
-                                     peer(u"1999"_s, u"10.0.0.6"_s, u"10.0.0.6"_s, {})};
-        const std::optional<PCInfo> found = findPeer(peers, target);
-        QTEST(found ? found->name : QString(), "expected");
+                                     peer(u"1999"_s, u"10.0.0.6"_s, u"10.0.0.6"_s, {}),
+                                     peer(u"Twin"_s, u"10.0.0.7"_s, u"10.0.0.7"_s, u"1112"_s),
+                                     peer(u"Twin"_s, u"10.0.0.8"_s, u"10.0.0.8"_s, u"1113"_s)};
+        QStringList names;
+        for (const PCInfo &found : findPeers(peers, target))
+            names.append(found.name);
+        QTEST(names.join(u' '), "expected");
     }
 
     void readsControlLines_data()
@@ -286,8 +291,13 @@ private Q_SLOTS:
         QVERIFY(
             captured.out.contains("\nno space left on drive D: of NEWBOX: 12 files, 1.0 KB did not fit\n"));
         QVERIFY(captured.out.contains("\n52 of 61 files did not arrive:\n  /d/a\uFFFD: locked\n"));
-        QVERIFY(captured.out.contains("locked\n  and 31 more\n  /d/b: other\n"));
+        QVERIFY(captured.out.contains("locked\n  And 31 more.\n  /d/b: other\n"));
         QCOMPARE(captured.out.count(": locked\n"), 20);
+        run.role = NewPC; // which can't name what did not come
+        run.peerName = u"OLDBOX"_s;
+        TextOutput(captured.streams(), NewPC, false).report(run);
+        QVERIFY(
+            captured.out.contains("  And 30 more.\n  1 announced file did not come. The report of OLDBOX "));
     }
 
     void namesOfPeersCannotSteerTheTerminal()

@@ -152,6 +152,9 @@ int main(int argc, char *argv[])
     application.setStyleSheet(StartUp::styleSheet());
 
     MainWindow window;
+    const Platform::InterruptNotifier interrupts;
+    QObject::connect(&interrupts, &Platform::InterruptNotifier::interrupted, &window,
+                     &MainWindow::endProgram);
     window.show();
     const Driver driver(window);
     return QApplication::exec();

@@ -24,6 +24,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 EVENT_DEADLINE = 30.0  # seconds
 SKIPPED = 77  # exit code by which CTest sees that nothing could be tested
 LINK = "cable"  # the network adapter in either PC
+SWITCH = "switch"  # takes its place in the Old PC where there are more than two
 
 
 def cli_path():
@@ -253,6 +254,7 @@ class TwoPcs:
         self._addresses = (old_address, new_address)
         self._kinds = (old_kind, new_kind)
         self._place = place
+        self._others = []
 
     def __enter__(self):
         self._stack = contextlib.ExitStack()
@@ -283,6 +285,24 @@ class TwoPcs:
     def _made_pc(self, kind, name):
         pc = kind(name, self.folder / name)
         self._stack.callback(pc.close)
+        return pc
+
+    def add_pc(self, name, address):
+        """A further PC, on a switch in place of the cable."""
+        holder = self.old.holder.pid
+        pc = self._made_pc(Pc, name)
+        if not self._others:
+            self.old.run("ip", "link", "add", SWITCH, "type", "bridge")
+            self.old.run("ip", "link", "set", SWITCH, "up")
+            self.old.run("ip", "address", "flush", "dev", LINK)
+            self.old.run("ip", "link", "set", LINK, "master", SWITCH)
+            self.old.run("ip", "address", "add", self._addresses[0], "broadcast", "+", "dev", SWITCH)
+        self._others.append(name)
+        port = f"port{len(self._others)}"
+        pc.run("ip", "link", "add", LINK, "type", "veth", "peer", "name", port, "netns", holder)
+        self.old.run("ip", "link", "set", port, "up", "master", SWITCH)
+        pc.run("ip", "address", "add", address, "broadcast", "+", "dev", LINK)
+        pc.run("ip", "link", "set", LINK, "up")
         return pc
 
     def __exit__(self, *exc_info):

@@ -1,5 +1,7 @@
 """Two people move a PC with the window alone."""
 
+import pathlib
+import signal
 import time
 import unittest
 
@@ -22,8 +24,8 @@ class WizardTest(pcs.TestCase):
         self.album = pcs.small_tree(home / "Documents" / "Größe 写真", count=12, seed=7)
         pcs.small_tree(home / "Documents" / "Not ticked", count=3)
 
-    def window(self, pc):
-        window = wizard.Wizard(pc, pc.name)
+    def window(self, pc, **rights):
+        window = wizard.Wizard(pc, pc.name, **rights)
         self.addCleanup(window.end)
         return window
 
@@ -251,9 +253,48 @@ class WizardTest(pcs.TestCase):
         self.to_selection(old, new)
         self.assertCloses(new, old)
 
-    def test_close_in_mid_transfer(self):
-        for closes_old in (True, False):
-            with self.subTest(closes_old=closes_old):
+    def test_what_does_not_arrive_and_then_does(self):
+        closed = self.work / "part 1"
+        closed.chmod(0)
+        disk = self.enterContext(self.pair.new.small_disk(self.pair.new.home / "Documents", 8))
+        old, new = self.window(self.pair.old, obeys_permissions=True), self.window(self.pair.new)
+        self.to_selection(old, new)
+        self.tick(old, self.work)
+        old.click("Next")
+        for window, headline in ((old, "Transfer finished, 2 of 22"), (new, "Transfer finished, 1 of 21")):
+            window.wait(page=6, text=headline)
+            window.wait(text="^no space left on .* of NewBox: 1 files, 24.0 MB did not fit")
+            window.picture("6-not-all")
+        closed.chmod(0o755)
+        disk.grow(50)
+        old.click("Send More Files...")
+        old.wait(page=4, enabled="Next")
+        new.wait(page=5)
+        old.click("Next")
+        for window in (old, new):
+            window.wait(page=6, text="^Files: 11 arrived, 20 were there already and identical")
+        self.assertSameTree(self.work, pathlib.Path(f"{disk.root}{self.pair.new.home}") / "Documents" / "Work")
+        self.assertCloses(old, new)
+
+    def end_in_mid_transfer(self, window, how):
+        if how == "Close":
+            window.click("Close")
+            window.wait(dialog="Close Zandrove")
+            window._tell("click", "Cancel and Close")
+        else:
+            window.process.send_signal(how)
+        self.assertEqual(window.exit_code(), -how if how == signal.SIGKILL else 0, window.log[-4000:])
+        reports = list((window.pc.home / "Documents").glob("Zandrove report *.html"))
+        self.assertEqual(len(reports), 0 if how == signal.SIGKILL else 1)
+        for report in reports:
+            self.assertIn("Transfer cancelled", report.read_text())
+            report.unlink()
+
+    def test_ends_in_mid_transfer(self):
+        """After each the other PC says so, and a second transfer completes the tree."""
+        half = lambda: list(self.pair.new.home.rglob("*.zandrove-part"))
+        for ends_old, how in ((True, "Close"), (False, "Close"), (True, signal.SIGHUP), (False, signal.SIGTERM), (False, signal.SIGKILL)):
+            with self.subTest(ends_old=ends_old, how=how):
                 old, new = self.both()
                 self.to_selection(old, new)
                 self.tick(old, self.work)
@@ -261,14 +302,37 @@ class WizardTest(pcs.TestCase):
                 old.click("Next")
                 old.wait(page=5, text="^Sending Data - [1-9]")
                 new.wait(page=5, text="^Receiving Data - [1-9]")
-                first, second = (old, new) if closes_old else (new, old)
-                first.click("Close")
-                first.wait(dialog="Close Zandrove")
-                first._tell("click", "Cancel and Close")
-                self.assertEqual(first.exit_code(), 0)
+                first, second = (old, new) if ends_old else (new, old)
+                self.end_in_mid_transfer(first, how)
                 second.wait(text="is lost")
-                self.assertCloses(second)
                 self.pair.free_speed()
+                if how == signal.SIGKILL:
+                    self.moves_what_is_missing(old)
+                else:
+                    pcs.wait_until(lambda: not half(), "half files are removed")
+                self.assertCloses(second)
+        self.assertMoved(self.work)
+        self.assertEqual(half(), [])
+
+    def moves_what_is_missing(self, old):
+        """From the page of the lost link: the New PC's window is opened anew, and the selection still stands."""
+        old.wait(text="31 files arrived; nothing was deleted on the Old PC", enabled="Back to connections")
+        old.picture("5-lost")
+        new = self.window(self.pair.new)
+        self.to_connection(new, "New PC")
+        old.click("Back to connections")
+        old.wait(text="NewBox")
+        old.click("Their code, character 1")
+        old.type(new.code())
+        old.click("Connect")
+        new.wait(dialog="Connection Request", text="OldBox")
+        new.click("Yes")
+        old.wait(page=4, enabled="Next")
+        old.click("Next")
+        for window in (old, new):
+            window.wait(page=6, text="Transfer [Cf]")
+            window.picture("6-after-a-loss")
+        self.assertCloses(new)
 
 
 class EquippedWizardTest(WizardTest):

@@ -25,14 +25,15 @@ def driver_path():
 class Wizard:
     """One window with a pair of hands. Pictures go to the folder $ZANDROVE_PICTURES, if there is one."""
 
-    def __init__(self, pc, title):
+    def __init__(self, pc, title, obeys_permissions=False):
         self.pc = pc
         self.title = title
         self.state = {}
         self.log = ""
         self._pictures = os.environ.get("ZANDROVE_PICTURES")
-        self.process = pc.popen("env", "QT_QPA_PLATFORM=offscreen", driver_path(), stdin=subprocess.PIPE,
-                                stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True, encoding="utf-8")
+        self.process = pc.popen(*pc.program()[:-1], "env", "QT_QPA_PLATFORM=offscreen", driver_path(),
+                                obeys_permissions=obeys_permissions, stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                                stderr=subprocess.PIPE, text=True, encoding="utf-8")
         self._numbers = itertools.count(GREETING + 1)
         self._answers = queue.Queue()
         self._readers = [threading.Thread(target=reader, daemon=True) for reader in (self._read_answers, self._read_log)]

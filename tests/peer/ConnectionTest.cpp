@@ -1,6 +1,7 @@
 #include "PeerTest.h"
 
 #include "peer/Link.h"
+#include "support/Utilities.h"
 
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -126,6 +127,7 @@ private Q_SLOTS:
         QVERIFY(m_newPC->manager.isAccepted() && m_oldPC->manager.isAccepted());
         QCOMPARE(m_oldPC->manager.connectedPC().senderIp, OtherMachine.toString());
         QCOMPARE(m_newPC->manager.connectedPC().id, m_newPC->requested.last().at(0).toString());
+        QCOMPARE(m_newPC->manager.connectedPC().os, getOSVersion());
 
         m_oldPC->manager.sendCommand(MessageType::Heartbeat);
         m_oldPC->sendChunks(1);
@@ -156,6 +158,24 @@ private Q_SLOTS:
             QTRY_COMPARE(m_oldPC->failed.size(), 1);
             QVERIFY(timeout.isEmpty() && m_oldPC->isAlone());
         }
+    }
+
+    void dialsOneAddressAfterTheOther()
+    {
+        QTcpServer listener;
+        const QHostAddress there(u"127.0.0.3"_s);
+        QVERIFY(listener.listen(there));
+        for (const QHostAddress &sender : {there, OtherMachine})
+            m_oldPC->manager.handleDatagram(discoveryFrame(u"pc"_s, {}, listener.serverPort()), sender);
+        QCOMPARE(m_oldPC->manager.discoveredPCs().first().ip, OtherMachine.toString());
+        QSignalSpy reached(&m_oldPC->manager, &NetworkManager::waitingForAnswer);
+        m_oldPC->manager.connectToPC({}, m_oldPC->manager.discoveredPCs().first().key);
+        QVERIFY(reached.wait());
+        QCOMPARE(m_oldPC->failed.size(), 0);
+        m_oldPC->manager.connectToAddress(OtherMachine.toString());
+        QTRY_COMPARE(m_oldPC->failed.size(), 1);
+        m_oldPC->manager.connectToAddress(there.toString());
+        QVERIFY(reached.wait());
     }
 
     void blackHoleTimesOut()

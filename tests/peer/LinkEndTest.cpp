@@ -1,6 +1,6 @@
 #include "PeerTest.h"
 
-#include "peer/LinkWatch.h"
+#include "peer/Liveness.h"
 
 #include <QRegularExpression>
 #include <QTcpSocket>
@@ -56,7 +56,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, script);
         QFETCH(const QString, told);
-        LinkWatch watch;
+        Liveness watch;
         QStringList said;
         bool lost = false;
         for (const QString &event : script.split(u' ')) {
@@ -66,10 +66,10 @@ private Q_SLOTS:
                 said.append(u"answers"_s);
             for (int left = event.chopped(1).toInt(); left > 0 && !lost; --left) {
                 const auto verdict = watch.secondPassed(event.endsWith(u's'));
-                lost = verdict == LinkWatch::Verdict::Lost;
+                lost = verdict == Liveness::Verdict::Lost;
                 if (lost)
                     said.append(u"lost"_s);
-                else if (verdict == LinkWatch::Verdict::Silent)
+                else if (verdict == Liveness::Verdict::Silent)
                     said.append(QString::number(watch.silentSeconds()));
             }
         }
@@ -99,7 +99,7 @@ private Q_SLOTS:
         if (beats)
             peer.write(frame(MessageType::Heartbeat));
         QVERIFY(silent.wait());
-        QCOMPARE(silent.first().first().toInt(), LinkWatch::SilentAfter);
+        QCOMPARE(silent.first().first().toInt(), Liveness::SilentAfter);
         peer.write(frame(MessageType::SessionEnd));
         QVERIFY(answers.wait());
         manager.setReadGate([gateIsOpen] { return gateIsOpen; });

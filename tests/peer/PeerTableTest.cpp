@@ -1,6 +1,7 @@
 #include "PeerTest.h"
 
 #include "peer/PeerTable.h"
+#include "support/PeerChoice.h"
 
 class PeerTableTest : public QObject
 {

@@ -17,7 +17,7 @@ inline const QHostAddress OtherMachine(u"127.0.0.2"_s);
 
 inline NetworkAdapter adapter(const QString &name, const QStringList &ips)
 {
-    NetworkAdapter result{name, true, true, false, true, {}};
+    NetworkAdapter result{name, true, true, false, true, {}, false, {}};
     for (const QString &ip : ips)
         result.addresses.append({QHostAddress(ip), QHostAddress()});
     return result;

@@ -263,7 +263,7 @@ private Q_SLOTS:
         header(u"a"_s);
         data("abc");
         m_receiver->onFileEnd(u"Photos/a"_s, checksumOf("abc"), 1, true);
-        QCOMPARE(m_settled.first().reason, u"Changed while it was sent"_s);
+        QCOMPARE(m_settled.first().reason, u"changed while it was sent"_s);
         QCOMPARE(names(), QStringList());
     }
 
@@ -333,6 +333,18 @@ private Q_SLOTS:
                                 record.completedItems}),
                  (QList<qint64>{3, 100, 50, 1}));
         QCOMPARE(record.currentFile, u"a"_s);
+    }
+
+    void roomIsComparedWithTheFirstBytes()
+    {
+        for (const qint64 first : {0, 1}) {
+            FileReceiverWorker receiver;
+            receiver.startReceiving();
+            QSignalSpy tooMuch(&receiver, &FileReceiverWorker::spaceShort);
+            receiver.setTotalInfo(1, first);
+            receiver.setTotalInfo(1, qint64(1) << 60);
+            QCOMPARE(tooMuch.size(), first == 0 ? 1 : 0);
+        }
     }
 
     void inflowIsCountedDown()

@@ -59,11 +59,13 @@ class FileSenderTest : public QObject
         });
     }
 
-    void sendOnAThread(const FileTransferTask &task)
+    /// Each task is a list by itself.
+    void sendOnAThread(const QList<FileTransferTask> &tasks)
     {
         m_sender->moveToThread(&m_thread);
         m_thread.start();
-        QMetaObject::invokeMethod(m_sender.get(), [this, task] { m_sender->startSending({task}); });
+        for (const FileTransferTask &task : tasks)
+            QMetaObject::invokeMethod(m_sender.get(), [this, task] { m_sender->startSending({task}); });
     }
     bool endThread()
     {
@@ -190,7 +192,7 @@ private Q_SLOTS:
         QSignalSpy failed(m_sender.get(), &FileSenderWorker::taskFailed);
         QSignalSpy ended(m_sender.get(), &FileSenderWorker::fileEndSent);
         m_sender->startSending({task, taskFor(u"b"_s, "abc")});
-        QCOMPARE(failed, (QList<QVariantList>{{0, u"Changed while it was sent"_s}}));
+        QCOMPARE(failed, (QList<QVariantList>{{0, u"changed while it was sent"_s}}));
         QCOMPARE(ended, (QList<QVariantList>{{0, true}, {1, false}}));
         QCOMPARE(json(m_sent[MessageType::FileEnd].first()).value(u"changed"_s), QJsonValue(true));
     }
@@ -200,30 +202,39 @@ private Q_SLOTS:
         std::atomic<bool> asked = false;
         onMessage(
             [&](MessageType type, const QByteArray &) { asked = asked || type == MessageType::FileAck; });
-        sendOnAThread(taskFor(u"a"_s, "abc"));
+        sendOnAThread({taskFor(u"a"_s, "abc")});
         const bool askedInTime = QTest::qWaitFor([&asked] { return asked.load(); });
         m_sender->cancel();
         QVERIFY(endThread());
         QVERIFY(askedInTime);
     }
 
-    void pauseHoldsTheFileAndResumeLetsItGo()
+    void pauseHoldsWhatFollows_data()
     {
+        const auto row = addColumns<MessageType, int>("pausedAt", "nth");
+        row("in a file", MessageType::FileHeader, 2);
+        row("in the last wait of a list", MessageType::FileAck, 1);
+    }
+    void pauseHoldsWhatFollows()
+    {
+        QFETCH(MessageType, pausedAt);
+        QFETCH(int, nth);
         answerBatches(true);
-        std::atomic<bool> begun = false;
-        std::atomic<bool> over = false;
+        std::atomic<int> seen = 0;
+        std::atomic<int> ends = 0;
         onMessage([&](MessageType type, const QByteArray &) {
-            if (type == MessageType::FileHeader)
-                m_sender->setPaused(begun = true);
-            over = over || type == MessageType::FileEnd;
+            if (type == pausedAt && ++seen == nth)
+                m_sender->setPaused(true);
+            ends += type == MessageType::FileEnd ? 1 : 0;
         });
-        sendOnAThread(taskFor(u"big"_s, someBytes(2 * FileSenderWorker::ChunkBytes)));
-        const bool started = QTest::qWaitFor([&begun] { return begun.load(); });
-        const bool held = !QTest::qWaitFor([&over] { return over.load(); }, 300);
+        sendOnAThread(
+            {taskFor(u"a"_s, "abc"), taskFor(u"big"_s, someBytes(2 * FileSenderWorker::ChunkBytes))});
+        const bool begun = QTest::qWaitFor([&] { return seen == nth; });
+        const bool held = !QTest::qWaitFor([&ends] { return ends > 1; }, 300);
         m_sender->setPaused(false);
-        const bool ended = QTest::qWaitFor([&over] { return over.load(); });
+        const bool ended = QTest::qWaitFor([&ends] { return ends == 2; });
         QVERIFY(endThread());
-        QVERIFY(started && held && ended);
+        QVERIFY(begun && held && ended);
     }
 
     void fullSocketHoldsTheNextChunk()

@@ -337,6 +337,16 @@ private Q_SLOTS:
             QCOMPARE(TransferMessages::Header::fromPayload(broken).taskId, 0);
     }
 
+    void whatIsNotSaidStaysUnknown()
+    {
+        const auto files = TransferMessages::Ack::fromPayload(R"({"failedFiles": [{"skipped": true},
+            {"skipped": true, "identical": false}, {"skipped": true, "identical": 1}, {"identical": true}]})")
+                               .namedFiles;
+        QCOMPARE(files.size(), 4);
+        QVERIFY(files[1].identical == false && !files[0].identical && !files[2].identical &&
+                !files[3].identical);
+    }
+
     void progressStaysInRange()
     {
         FileProgress progress;

@@ -133,8 +133,8 @@ private Q_SLOTS:
         row("numbers begin anew with a list", u"l0 l1 l2 l3 q1 a1 n l10 q1 l11 q2 a1 a2:11"_s, u"AAAAAF."_s);
         row("an answer nobody asked for", u"l0 l1 l2 l3 a1 a0 b1"_s, u"PPPP"_s);
         row("one answer too many", u"l0 l1 q1 a1 l2 l3 a1 a2 q2"_s, u"AAPP"_s);
-        row("out of turn", u"l0 q1 l1 q2 a2 a3"_s, u"PPPP"_s);
-        row("its failures hold in any case", u"l0 q1 l1 q2 a2:0,1s a1 a2"_s, u"FAPP"_s);
+        row("one speaks for those that never came", u"l0 q1 l1 l2 q2 a2:1 a1 l3"_s, u"AFAP"_s);
+        row("out of turn", u"l0 q1 l1 a2:0,1s q2 a1 a2"_s, u"FAPP"_s);
         row("a file that has not left", u"l0 q1 a1:3 l3 q2 a2"_s, u"APPA"_s);
         row("a stranger is named", u"l0 q1 a1:77"_s, u"APPP"_s);
         row("a number and another path", u"l0 l1 l2 q1 a1:2p"_s, u"AAFP"_s);
@@ -142,7 +142,7 @@ private Q_SLOTS:
         row("no answer in time", u"l0 l1 l2 l3 q1 w"_s, u"PPPP."_s);
         row("a late one counts", u"l0 l1 l2 l3 q1 w a1:0"_s, u"FAAA."_s);
         row("time stands still in a pause", u"l0 l1 l2 l3 q1 r w q2 r"_s, u"PPPP."_s);
-        row("one that never comes makes way", u"l0 l1 q1 w l2 l3 q2 a2 c"_s, u"NNAA."_s);
+        row("also where its time was over", u"l0 l1 q1 w l2 l3 q2 a2:1 c"_s, u"AFAA."_s);
         row("what has no request", u"l0 f1 e"_s, u"PHNN."_s);
         row("the end", u"l0 l1 q1 a1 l2 q2 c a2 l3"_s, u"AANN."_s);
     }

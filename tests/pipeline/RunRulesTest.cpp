@@ -1,5 +1,6 @@
 #include "PipelineTests.h"
 
+#include "pipeline/Aftermath.h"
 #include "pipeline/RunInbox.h"
 #include "pipeline/SendPhases.h"
 
@@ -40,7 +41,7 @@ private Q_SLOTS:
         for (const QChar event : std::as_const(events)) {
             SendPhases::Actions actions;
             if (event == u'q')
-                phases.appFileQueued();
+                phases.appFileAnnounced(true);
             else
                 actions = event == u'p'   ? phases.packed()
                           : event == u'l' ? phases.listThrough()
@@ -91,6 +92,49 @@ private Q_SLOTS:
         QVERIFY(!inbox.drop());
         QVERIFY(inbox.keep(MessageType::SessionEnd, {}, RunState::WorkingOff, false));
         QVERIFY2(inbox.drop(), "the end of the session was lost");
+    }
+
+    void whatWasSentIsConfirmedByWordAlone_data()
+    {
+        // Before the run is over, and behind it: a the New PC is through ahead, s it is through, l another
+        // link, x the link breaks, c the New PC calls off.
+        const auto row =
+            addColumns<int, QString, QString, int>("settings", "before", "behind", "notConfirmed");
+        row("broken", 2, {}, u"x"_s, 2);
+        row("called off", 2, {}, u"c"_s, 2);
+        row("through, then broken", 2, {}, u"sx"_s, 0);
+        row("through before the run is over", 2, u"a"_s, u"x"_s, 0);
+        row("through with the run before", 2, u"s"_s, u"x"_s, 2);
+        row("told once", 2, {}, u"xx"_s, 2);
+        row("broken on another link", 2, {}, u"lx"_s, 0);
+        row("files alone", 0, {}, u"x"_s, 0);
+    }
+    void whatWasSentIsConfirmedByWordAlone()
+    {
+        QFETCH(int, settings);
+        QFETCH(QString, before);
+        QFETCH(QString, behind);
+        RunSummary summary;
+        summary.end = RunEnd::Complete;
+        summary.settings.arrived = settings;
+        summary.items.fill({ItemKind::Setting, ItemOutcome::Arrived, u"x"_s, {}, 0}, settings);
+        Aftermath aftermath;
+        for (const QChar event : std::as_const(before))
+            aftermath.settled(event == u'a');
+        aftermath.begin(summary, 1);
+        QList<RunSummary> told;
+        for (const QChar event : std::as_const(behind)) {
+            const auto how = event == u'x' ? RunEnd::LinkLost : RunEnd::CancelledThere;
+            if (event == u's')
+                aftermath.settled(false);
+            else if (event == u'l')
+                aftermath.noteLink(2);
+            else if (const auto revised = aftermath.cutOff(how))
+                told.append(*revised);
+        }
+        QTEST(told.isEmpty() ? 0 : told.constFirst().settings.notConfirmed, "notConfirmed");
+        QCOMPARE(told.isEmpty() ? 0 : told.constFirst().notArrived.size(), told.size() * settings);
+        QVERIFY(told.size() <= 1);
     }
 };
 

@@ -123,8 +123,14 @@ private Q_SLOTS:
         const Step newTransfer = [this] { Q_EMIT m_engine->newTransferStarted(); };
         const Step sendMore = [this] { Q_EMIT the<CompletePage>().backToSelectionRequested(); };
         const Step finish = [this] { Q_EMIT the<CompletePage>().sessionEndRequested(); };
-        const auto back = [this](const QString &name) {
-            return [this, name] { Q_EMIT the<TransferPage>().navigateBack(name); };
+        const Step endedThere = [this] {
+            RunSummary ended;
+            ended.end = RunEnd::Reset;
+            ended.peerName = u"NEWBOX"_s;
+            Q_EMIT m_engine->runEnded(ended);
+            QCoreApplication::processEvents();
+            QVERIFY(view().texts().contains(u"Transfer ended by NEWBOX"_s) && !view().control(u"Pause"_s));
+            view().click(u"Back to selection"_s);
         };
 
         row("welcome", OldPC, 0, 0, [] {});
@@ -145,8 +151,7 @@ private Q_SLOTS:
         row("new transfer, Old PC", OldPC, 6, 6, newTransfer);
         row("send more", OldPC, 6, 4, sendMore);
         row("finished", OldPC, 6, 1, finish);
-        row("back to selection", OldPC, 5, 4, back(u"SelectionPage"_s));
-        row("back to waiting", NewPC, 5, 2, back(u"WaitingPage"_s));
+        row("ended by the other PC", OldPC, 5, 4, endedThere);
     }
 
     void signalsMoveTheWizard()

@@ -1,6 +1,7 @@
 #include "core/app/Log.h"
 #include "core/app/StartUp.h"
 #include "core/common/License.h"
+#include "platform/Terminal.h"
 #include "support/LinkManager.h"
 #include "ui/MainWindow.h"
 
@@ -28,6 +29,9 @@ int main(int argc, char *argv[])
     qCDebug(logApp) << "[Main] Registered:" << registered;
 
     const auto window = std::make_unique<MainWindow>(nullptr);
+    const Platform::InterruptNotifier interrupts;
+    QObject::connect(&interrupts, &Platform::InterruptNotifier::interrupted, window.get(),
+                     &MainWindow::endProgram);
     window->show();
     return QApplication::exec();
 }

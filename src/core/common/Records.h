@@ -60,6 +60,7 @@ struct ConnectionQuestion
     quint64 number = 0; ///< another one for each question
     QString name;       ///< as the PC calls itself
     QString ip;         ///< where its connection comes from
+    QString os;         ///< what it says that it runs on
 };
 
 /// One installed application.

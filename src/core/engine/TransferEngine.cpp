@@ -134,6 +134,7 @@ void TransferEngine::setupMigrationConnections()
     connect(m_migrationManager, &Run::settingsFinished, this, &TransferEngine::settingsFinished);
     connect(m_migrationManager, &Run::itemSettled, this, &TransferEngine::itemSettled);
     connect(m_migrationManager, &Run::runEnded, this, &TransferEngine::onRunEnded);
+    connect(m_migrationManager, &Run::runRevised, this, &TransferEngine::runRevised);
     connect(m_migrationManager, &Run::spaceShort, this, &TransferEngine::spaceShort);
     connect(m_migrationManager, &Run::installing, this, &TransferEngine::installing);
 }

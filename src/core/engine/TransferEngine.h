@@ -198,9 +198,12 @@ Q_SIGNALS:
     void settingOutcome(const QString &name, bool success, const QString &error);
     /// A file, an application or a setting has its outcome.
     void itemSettled(const Zandrove::ItemResult &item);
-    /// A run is over, however it ended: once for each, and after the signal that tells
-    /// how, where there is one.
+    /// A run is over, however it ended: once for each. After the signal that tells how, where there is one,
+    /// but before transferCancelled.
     void runEnded(const Zandrove::RunSummary &summary);
+    /// Old PC, behind a complete run: the New PC is gone, or has called the run off, before it said that it
+    /// is through with installing and applying. What was sent for that is not confirmed.
+    void runRevised(const Zandrove::RunSummary &summary);
     void linkSilent(int seconds); ///< nothing has come from the peer for so long; the link stands
     void linkAnswers();           ///< it has answered again
     /// New PC: the peer has announced more than fits on the destination's volume, in bytes. The run goes on.

@@ -4,26 +4,17 @@
 #include "core/engine/TransferEngine.h"
 #include "peer/NetworkManager.h"
 #include "pipeline/MigrationManager.h"
+#include "support/PeerChoice.h"
 
 #include <QRandomGenerator>
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace Zandrove {
 
 namespace {
 
 constexpr int CodeDigits = 4;
-
-QString namesOf(const QList<PCInfo> &peers)
-{
-    QStringList names;
-    for (const PCInfo &peer : peers)
-        names.append(u"%1 (%2)"_s.arg(peer.name, peer.ip));
-    return names.join(u", "_s);
-}
 
 } // namespace
 
@@ -133,7 +124,8 @@ void TransferEngine::connectByCode(const QString &code)
     if (peers.isEmpty())
         Q_EMIT connectionFailed(tr("No PC found with verification code: %1").arg(code));
     else if (peers.size() > 1)
-        Q_EMIT connectionFailed(tr("More than one PC shows the code %1: %2").arg(code, namesOf(peers)));
+        Q_EMIT connectionFailed(
+            tr("More than one PC shows the code %1: %2").arg(code, describedPeers(peers)));
     else
         m_networkManager->connectToPC(peers.first().id, peers.first().key);
 }

@@ -55,6 +55,7 @@ bool renameWithoutReplacing(const char *from, const char *to)
 
 bool OwnedFile::create(const QString &path)
 {
+    m_writtenBytes = 0;
     close();
     m_path.clear();
     const int file = ::open(QFile::encodeName(path).constData(),
@@ -80,6 +81,7 @@ bool OwnedFile::write(const char *bytes, qint64 count)
             return fail();
         bytes += written;
         count -= written;
+        m_writtenBytes += written;
     }
     return true;
 }

@@ -120,6 +120,11 @@ FirewallReport judged(const FirewallQuestion &question, const QList<ConnectedNet
     QStringList blockers;
     FirewallReport report;
     report.name = u"Windows Firewall"_s;
+    if (rules.isEmpty()) { // Windows brings hundreds
+        report.state = FirewallReport::NoAnswer;
+        report.command = u"netsh advfirewall firewall show rule name=\"Zandrove TCP\""_s;
+        return report;
+    }
     report.tcp = report.udp = Passage::Open;
     const QList<ConnectedNetwork> judgedNetworks =
         networks.isEmpty() ? QList<ConnectedNetwork>{{}} : networks;

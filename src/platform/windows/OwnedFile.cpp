@@ -53,6 +53,7 @@ bool isAlive(qint64 owner, const FILETIME &lastWritten)
 
 bool OwnedFile::create(const QString &path)
 {
+    m_writtenBytes = 0;
     close();
     m_path.clear();
     // Whoever doesn't share the right to delete it keeps others from removing it.
@@ -79,6 +80,7 @@ bool OwnedFile::write(const char *bytes, qint64 count)
         }
         bytes += written;
         count -= written;
+        m_writtenBytes += written;
     }
     return true;
 }

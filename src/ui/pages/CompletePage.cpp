@@ -88,6 +88,7 @@ CompletePage::CompletePage(TransferEngine *engine, QWidget *parent)
     setupUi();
     connect(m_engine, &TransferEngine::transferCompleted, this, &CompletePage::setReport);
     connect(m_engine, &TransferEngine::runEnded, this, &CompletePage::setSummary);
+    connect(m_engine, &TransferEngine::runRevised, this, &CompletePage::setSummary);
     connect(m_engine, &TransferEngine::settingsFinished, this, &CompletePage::onSettingsFinished);
 }
 
@@ -301,6 +302,10 @@ void CompletePage::showCounts()
     if (const int missing = m_summary.settings.missing())
         lines.append(tr("%1 of %2 settings did not arrive")
                          .arg(countText(missing), countText(m_summary.settings.total())));
+    const bool tellsOfSending = m_summary.role == OldPC && !m_summary.peerName.isEmpty();
+    if (tellsOfSending && m_summary.apps.arrived + m_summary.settings.arrived > 0)
+        lines.append(tr("Apps and settings were sent. What became of them stands on the page of %1.")
+                         .arg(printable(m_summary.peerName)));
     m_counts->setText(lines.join(u'\n'));
     m_counts->setVisible(!lines.isEmpty());
 }

@@ -2,6 +2,7 @@
 
 #include "core/engine/TransferEngine.h"
 #include "support/PrintableText.h"
+#include "support/ReportDocument.h"
 #include "support/RunTexts.h"
 #include "support/Utilities.h"
 #include "ui/Log.h"
@@ -87,6 +88,7 @@ void TransferPage::setupConnections()
     listen(&Engine::runEnded, &TransferPage::onRunEnded);
     listen(&Engine::spaceShort, &TransferPage::onSpaceShort);
     listen(&Engine::installing, &TransferPage::onInstalling);
+    connect(m_notice, &NoticeBar::actionClicked, this, [this] { Q_EMIT navigateBack(u"SelectionPage"_s); });
 
     // At once: an answer that is given to the open question before the queued calls arrive
     // is too late as well.
@@ -188,16 +190,19 @@ void TransferPage::onTransferCompleted(const MigrationReport &report)
     Q_EMIT transferFinished();
 }
 
-/// The window says what was lost, and offers the way back.
+/// Of a lost link the window says what was lost, and offers the way back.
 void TransferPage::onRunEnded(const RunSummary &summary)
 {
     // One that outlived its link has nothing to do with the page of the next.
     if (summary.end == RunEnd::LinkLost && m_engine->hasAcceptedLink())
         return;
     m_running = false;
-    if (summary.end != RunEnd::LinkLost)
+    const bool isReset = summary.end == RunEnd::Reset && !isNewPC();
+    if (summary.end != RunEnd::LinkLost && !isReset)
         return;
-    m_titleLabel->setText(tr("Connection lost"));
+    m_titleLabel->setText(isReset ? printable(headlineOf(summary)) : tr("Connection lost"));
+    if (isReset)
+        m_notice->tell(arrivedFilesText(summary) + u'.', tr("Back to selection"));
     m_progressCard->setSpeed(u"--"_s);
     m_progressCard->setRemaining(noRemaining());
     m_files->stop();
@@ -277,7 +282,8 @@ bool TransferPage::letGo()
                          tr("A transfer is running. Closing the window cancels it."),
                          QMessageBox::Ok | QMessageBox::Cancel, this);
     question.setInformativeText(
-        tr("What has arrived stays on the New PC, and nothing is deleted on the Old PC."));
+        tr("What has arrived stays on the New PC, and nothing is deleted on the Old PC. A report is left in "
+           "your documents."));
     question.button(QMessageBox::Ok)->setText(tr("Cancel and Close"));
     if (!confirm(question))
         return false;
@@ -287,8 +293,12 @@ bool TransferPage::letGo()
 
 void TransferPage::cancelRun()
 {
-    if (std::exchange(m_running, false))
-        m_engine->cancelTransfer();
+    if (!std::exchange(m_running, false))
+        return;
+    m_engine->cancelTransfer();
+    const RunSummary summary = m_engine->summary();
+    if (const QString problem = saveReport(summary, reportPathFor(summary)); !problem.isEmpty())
+        qCWarning(logUi) << problem;
 }
 
 /// There is nothing left to cancel, and who ended it says what comes next.
@@ -305,7 +315,7 @@ void TransferPage::onCancelClicked()
                          tr("Are you sure you want to cancel the transfer?"),
                          QMessageBox::Ok | QMessageBox::Cancel, this);
     question.setInformativeText(
-        tr("All progress will be lost and incomplete files may remain on the destination."));
+        tr("All progress will be lost. Files that have arrived stay; nothing incomplete remains."));
     question.button(QMessageBox::Ok)->setText(tr("Yes, Cancel"));
     if (!confirm(question))
         return;

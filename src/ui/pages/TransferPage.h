@@ -45,14 +45,16 @@ public:
     /// For a window that is to be closed: asks the user whether a running transfer may end, and ends it then
     /// as a cancel. False when the window is to stay.
     [[nodiscard]] bool letGo();
-    /// Ends a running transfer as a cancel of the user's, without a question.
+    /// For a program that is to end: ends a running transfer as a cancel of the user's, without a question,
+    /// and leaves its report in the user's documents.
     void cancelRun();
 
 Q_SIGNALS:
     void transferFinished();
     /// Comes just before `transferFinished`.
     void transferFinishedWithReport(const Zandrove::MigrationReport &report);
-    void navigateBack(const QString &pageName); ///< reserved; nothing emits it yet
+    /// The user wants to go on from a run that the other PC has ended: "SelectionPage".
+    void navigateBack(const QString &pageName);
     /// The transfer was cancelled: here, or on the Old PC also by the peer.
     void transferCancelled();
     void navigateToPage(int pageIndex); ///< reserved; nothing emits it yet

@@ -13,7 +13,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QStandardPaths>
 #include <QTreeView>
 
 using namespace Qt::StringLiterals;
@@ -177,9 +176,9 @@ void MissingItems::setSummary(const RunSummary &summary)
     m_list->header()->resizeSection(ItemModel::Path, 340);
 
     const int all = summary.files.missing() + summary.apps.missing() + summary.settings.missing();
-    const int unnamed = all - items->rowCount();
-    m_more->setText(tr("And %1 more.").arg(countText(unnamed)));
-    m_more->setVisible(unnamed > 0);
+    const QStringList unlisted = unlistedTexts(summary, all - items->rowCount());
+    m_more->setText(printable(unlisted.join(u'\n')));
+    m_more->setVisible(!unlisted.isEmpty());
     m_steps->setText(printableLines(nextSteps(summary)));
     m_status->clear();
 }
@@ -196,11 +195,8 @@ void MissingItems::onCopyClicked()
 
 void MissingItems::onSaveClicked()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QString proposal = folder + u'/' + tr("Zandrove report") +
-                             m_summary.endTime.toString(u" yyyy-MM-dd HHmm"_s) + u".html"_s;
-    const QString path =
-        QFileDialog::getSaveFileName(this, tr("Save report"), proposal, tr("Page (*.html);;JSON (*.json)"));
+    const QString path = QFileDialog::getSaveFileName(this, tr("Save report"), reportPathFor(m_summary),
+                                                      tr("Page (*.html);;JSON (*.json)"));
     if (path.isEmpty())
         return;
     const QString problem = saveReport(m_summary, path);

@@ -1,15 +1,15 @@
-#include "peer/LinkWatch.h"
+#include "peer/Liveness.h"
 
 #include <utility>
 
 namespace Zandrove {
 
-bool LinkWatch::came()
+bool Liveness::came()
 {
     return std::exchange(m_seconds, 0) >= SilentAfter;
 }
 
-LinkWatch::Verdict LinkWatch::secondPassed(bool reading)
+Liveness::Verdict Liveness::secondPassed(bool reading)
 {
     m_seconds = reading ? m_seconds + 1 : 0;
     if (m_seconds >= LostAfter && m_beats)

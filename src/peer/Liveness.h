@@ -5,7 +5,7 @@ namespace Zandrove {
 /// Judges from what comes, and from the seconds that pass without, whether the peer of a link is still there.
 /// It knows no clock: whoever owns it counts the seconds. One that this program spends stuck, or this PC
 /// asleep, is no second of silence then, as nobody listened.
-class LinkWatch final
+class Liveness final
 {
 public:
     static constexpr int SilentAfter = 15; ///< seconds
