@@ -13,7 +13,7 @@ namespace {
 AdapterFacts adapter(const QString &name, const QString &ip, AdapterKind kind = AdapterKind::Wired)
 {
     AdapterFacts facts;
-    facts.adapter = {name, true, true, false, true, {}, name};
+    facts.adapter = {name, true, true, false, true, {}, false, name};
     if (!ip.isEmpty())
         facts.adapter.addresses = {{QHostAddress(ip), {}, 24}};
     facts.kind = kind;
