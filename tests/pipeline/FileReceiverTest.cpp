@@ -30,7 +30,7 @@ class FileReceiverTest : public QObject
     }
     void data(const QByteArray &bytes, int taskId = 1)
     {
-        m_receiver->onFileData(chunkPayload(taskId, bytes));
+        m_receiver->onFileData(chunkPayload(taskId, bytes + "behind it", 0, qint32(bytes.size())));
     }
     void end(const QString &name, quint32 sum, int taskId = 1)
     {

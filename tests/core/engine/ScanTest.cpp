@@ -73,6 +73,8 @@ private Q_SLOTS:
 
         m_engine->setSelectedApps({int(names.indexOf(u"Lonely Sketch"_s)), 99, -1});
         QCOMPARE(m_engine->selectedCount(), 2);
+        m_engine->setSelectedApps({});
+        QCOMPARE(m_engine->selectedCount(), 1);
     }
 
     void refusesWhatCannotBegin()

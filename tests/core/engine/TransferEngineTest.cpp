@@ -142,16 +142,6 @@ private Q_SLOTS:
         QCOMPARE(m_old->failed, QList<QVariantList>(3, failure));
     }
 
-    void failedDialLeavesNoPeerBehind()
-    {
-        QVERIFY(m_old->hears(*m_new));
-        const PCInfo peer = m_old->engine.discoveredPCs().first();
-        m_new.reset();
-        m_old->engine.connectToPC(peer);
-        QTRY_COMPARE(m_old->refused.size(), 1);
-        QVERIFY(!m_old->engine.isConnected());
-    }
-
     void brokenRunDoesNotGoOnWithALaterPeer()
     {
         for (int i = 0; i < 40; ++i)
