@@ -28,11 +28,33 @@ if(ZANDROVE_SANITIZERS)
     target_link_options(zandrove_options INTERFACE -fsanitize=${ZANDROVE_SANITIZERS})
 endif()
 
+# What nearly every source reads first is read once: ZANDROVE_PRECOMPILED_HEADERS halves the time of a full build. The
+# preset debug does without, so that a source that forgets an include is found. Tests have a set of their own, because
+# they are compiled with other macros.
+function(zandrove_precompile target from)
+    if(NOT ZANDROVE_PRECOMPILED_HEADERS)
+        return()
+    endif()
+    if(NOT TARGET ${from})
+        file(WRITE ${CMAKE_BINARY_DIR}/${from}.cpp "")
+        add_library(${from} OBJECT ${CMAKE_BINARY_DIR}/${from}.cpp)
+        set_target_properties(${from} PROPERTIES AUTOMOC OFF)
+        target_link_libraries(${from} PRIVATE zandrove_options Qt6::Core)
+        target_compile_definitions(${from} PRIVATE ${ARGN})
+        target_precompile_headers(${from} PRIVATE
+            <QByteArray> <QCoreApplication> <QDir> <QFile> <QFileInfo> <QHash> <QJsonArray> <QJsonObject> <QList> <QObject>
+            <QString> <QStringList> <QThread> <QTimer> <QVariant> <algorithm> <functional> <memory> <optional> <utility>)
+    endif()
+    target_precompile_headers(${target} REUSE_FROM ${from})
+    target_compile_options(${target} PRIVATE -fpch-preprocess) # so that ccache sees what lies in it
+endfunction()
+
 # zandrove_library(NAME SOURCES file... LINKS target...): one layer of the program, a static library.
 function(zandrove_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC zandrove_options Qt6::Core ${ARG_LINKS})
+    zandrove_precompile(${name} zandrove_headers)
 endfunction()
 
 # zandrove_test(NAME SOURCES file... LINKS target... [LOCK resource]): one QtTest executable, run by CTest. LOCK keeps
@@ -44,6 +66,7 @@ function(zandrove_test name)
     target_link_libraries(${name} PRIVATE
         zandrove_options zandrove_test_main Qt6::Core Qt6::Test zandrove_platform ${ARG_LINKS})
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests/harness)
+    zandrove_precompile(${name} zandrove_test_headers QT_FORCE_ASSERTS)
     add_test(NAME ${name} COMMAND ${name})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)

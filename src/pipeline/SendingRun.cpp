@@ -322,6 +322,10 @@ void SendingRun::end(RunEnd how)
         settleItems();
         finish(RunEnd::Complete);
     }
+    for (const ItemResult &item : std::exchange(m_sentItems, {}))
+        m_ledger.settleItem(
+            item.kind, item.path, ItemOutcome::NotConfirmed,
+            tr("sent, but %1 has not confirmed that it arrived").arg(m_ledger.summary().peerName));
     MigrationRun::end(how);
 }
 
