@@ -221,6 +221,10 @@
         <source>Another ticked folder has a file of this name</source>
         <translation>Ein anderer ausgewählter Ordner enthält eine Datei mit diesem Namen</translation>
     </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>Nicht erreichbar</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::AccountScanner</name>
@@ -231,6 +235,25 @@
     <message>
         <source>Enumerating Windows accounts...</source>
         <translation>Windows-Konten werden aufgelistet...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Aftermath</name>
+    <message>
+        <source>%1 was lost before it said that this is installed</source>
+        <translation>Die Verbindung zu %1 ging verloren, bevor die Installation dort bestätigt wurde</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that this is applied</source>
+        <translation>Die Verbindung zu %1 ging verloren, bevor die Anwendung der Einstellung dort bestätigt wurde</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is installed</source>
+        <translation>%1 hat die Übertragung abgebrochen, bevor die Installation bestätigt wurde</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is applied</source>
+        <translation>%1 hat die Übertragung abgebrochen, bevor die Anwendung der Einstellung bestätigt wurde</translation>
     </message>
 </context>
 <context>
@@ -394,6 +417,49 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::Notices</name>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1 ist auch da, aber ebenfalls als alter PC: Wählen Sie auf einem der beiden „Neuer PC“</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1 ist auch da, aber ebenfalls als neuer PC: Wählen Sie auf einem der beiden „Alter PC“</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>ein anderes Programm</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: this PC hears no other one. End that program, and begin anew.</source>
+        <translation>Port %1 ist durch %2 belegt: Dieser PC hört keinen anderen. Beenden Sie dieses Programm, und beginnen Sie von vorn.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can reach this one. End that program, and begin anew.</source>
+        <translation>Port %1 ist durch %2 belegt: Kein anderer PC kann diesen erreichen. Beenden Sie dieses Programm, und beginnen Sie von vorn.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can ask this one, which can still ask others.</source>
+        <translation>Port %1 ist durch %2 belegt: Kein anderer PC kann bei diesem anfragen; dieser kann aber weiterhin bei anderen anfragen.</translation>
+    </message>
+    <message>
+        <source>%1 was not found for 20 seconds. In reach are: %2.</source>
+        <translation>%1 wurde 20 Sekunden lang nicht gefunden. In Reichweite sind: %2.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>Neuer PC</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>Alter PC</translation>
+    </message>
+    <message>
+        <source>Nobody was found for 20 seconds. What to look at, the likeliest first: Zandrove runs on the other PC, as %1; both PCs are in the same network, or joined by a cable; neither of them uses a VPN; their firewalls let TCP port %2 and UDP port %3 in. zandrove-cli diagnose looks for the cause.</source>
+        <translation>20 Sekunden lang wurde niemand gefunden. Was zu prüfen ist, das Wahrscheinlichste zuerst: Zandrove läuft auf dem anderen PC, und zwar als „%1“; beide PCs sind im selben Netzwerk oder durch ein Kabel verbunden; keiner der beiden benutzt ein VPN; ihre Firewalls lassen TCP-Port %2 und UDP-Port %3 herein. zandrove-cli diagnose sucht nach der Ursache.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -508,10 +574,6 @@
         <translation>Unerwartetes Argument %1. Siehe --help.</translation>
     </message>
     <message>
-        <source>Say receive, send, discover or scan. See --help.</source>
-        <translation>Geben Sie receive, send, discover oder scan an. Siehe --help.</translation>
-    </message>
-    <message>
         <source>Unknown command %1. See --help.</source>
         <translation>Unbekannter Befehl %1. Siehe --help.</translation>
     </message>
@@ -552,8 +614,28 @@
         <translation>Den Bericht jeder Übertragung in FILE schreiben, anstelle des vorherigen: als Seite zum Lesen oder, wenn der Name auf .json endet, als JSON.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Exitcodes: 0 alles übertragen oder aufgelistet; 1 Verbindung oder Lauf fehlgeschlagen oder abgelehnt; 2 falscher Aufruf; 3 Zeitüberschreitung; 4 beendet, aber etwas ist fehlgeschlagen oder war schon vorhanden; 130 mit Strg+C abgebrochen (der andere PC erfährt davon; ein zweites Strg+C beendet sofort).</translation>
+        <source>The address or host name of a PC that is tried as well.</source>
+        <translation>Adresse oder Hostname eines PCs, der zusätzlich versucht wird.</translation>
+    </message>
+    <message>
+        <source>What this PC is, to be compared with those that are heard.</source>
+        <translation>Was dieser PC ist, zum Vergleich mit denen, die zu hören sind.</translation>
+    </message>
+    <message>
+        <source>Listen for N seconds; without it, for 5.</source>
+        <translation>N Sekunden lang lauschen; ohne diese Angabe 5.</translation>
+    </message>
+    <message>
+        <source>Find out why the other PC isn&apos;t found: look at adapters, ports, firewalls and VPNs, and at who is heard and answers. Changes nothing.</source>
+        <translation>Herausfinden, warum der andere PC nicht gefunden wird: Adapter, Ports, Firewalls und VPNs prüfen, und wer zu hören ist und antwortet. Ändert nichts.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before, or diagnose has found what stands in the way; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Exitcodes: 0 alles übertragen oder aufgelistet; 1 Verbindung oder Lauf fehlgeschlagen oder abgelehnt; 2 falscher Aufruf; 3 Zeitüberschreitung; 4 beendet, aber etwas ist fehlgeschlagen oder war schon vorhanden, oder diagnose hat ein Hindernis gefunden; 130 mit Strg+C abgebrochen (der andere PC erfährt davon; ein zweites Strg+C beendet sofort).</translation>
+    </message>
+    <message>
+        <source>Say receive, send, discover, diagnose or scan. See --help.</source>
+        <translation>Geben Sie receive, send, discover, diagnose oder scan an. Siehe --help.</translation>
     </message>
 </context>
 <context>
@@ -635,6 +717,10 @@
         <source>%1 ended the transfer.</source>
         <translation>%1 hat die Übertragung beendet.</translation>
     </message>
+    <message>
+        <source>More than one PC goes by %1: %2. Name the one that is meant by its address.</source>
+        <translation>Mehr als ein PC ist unter %1 zu finden: %2. Geben Sie den gewünschten mit seiner Adresse an.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -647,16 +733,24 @@
         <translation>Der andere PC hat die Sitzung nicht beendet: Möglicherweise ist nicht alles angekommen.</translation>
     </message>
     <message>
-        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
-        <translation>%1 sind unterwegs, aber auf %3 sind nur %2 frei: Es wird nicht alles passen.</translation>
-    </message>
-    <message>
         <source>No answer from %1 for %2 s</source>
-        <translation>Keine Antwort von %1 seit %2 s</translation>
+        <translation>Keine Antwort von %1 seit %2&#xa0;s</translation>
     </message>
     <message>
         <source>%1 answers again</source>
         <translation>%1 antwortet wieder</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>%1 sind unterwegs, aber auf %3 sind nur %2 frei: Es wird nicht alles passen.</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that everything is installed.</source>
+        <translation>Die Verbindung zu %1 ging verloren, bevor bestätigt wurde, dass alles installiert ist.</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before everything was installed.</source>
+        <translation>%1 hat die Übertragung abgebrochen, bevor alles installiert war.</translation>
     </message>
 </context>
 <context>
@@ -806,8 +900,32 @@
         <translation>Dateien: %1 angekommen, %2 fehlgeschlagen, %3 schon vorhanden.</translation>
     </message>
     <message>
-        <source>and %1 more</source>
-        <translation>und %1 weitere</translation>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message>
+        <source>PROBLEM</source>
+        <translation>PROBLEM</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>Warten auf %1: Dort muss jemand auf „Ja“ drücken</translation>
+    </message>
+    <message>
+        <source>Further ones are counted in the report.</source>
+        <translation>Weitere sind im Bericht mitgezählt.</translation>
+    </message>
+    <message>
+        <source>Nothing was found that stands in the way.</source>
+        <translation>Es wurde kein Hindernis gefunden.</translation>
+    </message>
+    <message>
+        <source>Found in the way: %1.</source>
+        <translation>Gefundene Hindernisse: %1.</translation>
     </message>
 </context>
 <context>
@@ -875,6 +993,10 @@
     <message>
         <source>%1 of %2 settings did not arrive</source>
         <translation>%1 von %2 Einstellungen nicht angekommen</translation>
+    </message>
+    <message>
+        <source>Apps and settings were sent. What became of them stands on the page of %1.</source>
+        <translation>Apps und Einstellungen wurden gesendet. Was daraus geworden ist, steht auf der Seite von %1.</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1125,425 @@ Möchten Sie das zulassen?</translation>
         <source>Their code, character %1</source>
         <translation>Code des anderen PCs, Zeichen %1</translation>
     </message>
+    <message>
+        <source>This is the address of this PC.</source>
+        <translation>Das ist die Adresse dieses PCs.</translation>
+    </message>
+    <message>
+        <source>Only IPv4 addresses work here, such as 192.168.1.23.</source>
+        <translation>Hier funktionieren nur IPv4-Adressen, zum Beispiel 192.168.1.23.</translation>
+    </message>
+    <message>
+        <source>An address has four numbers from 0 to 255, such as 192.168.1.23.</source>
+        <translation>Eine Adresse hat vier Zahlen von 0 bis 255, zum Beispiel 192.168.1.23.</translation>
+    </message>
+    <message>
+        <source>This is not the address of one PC.</source>
+        <translation>Das ist nicht die Adresse eines einzelnen PCs.</translation>
+    </message>
+    <message>
+        <source>This is neither an address nor the name of a PC.</source>
+        <translation>Das ist weder eine Adresse noch der Name eines PCs.</translation>
+    </message>
+    <message>
+        <source>Address or name of the other PC</source>
+        <translation>Adresse oder Name des anderen PCs</translation>
+    </message>
+    <message>
+        <source>Or Enter Their Address</source>
+        <translation>Oder dessen Adresse eingeben</translation>
+    </message>
+    <message>
+        <source>Looking for %1...</source>
+        <translation>%1 wird gesucht...</translation>
+    </message>
+    <message>
+        <source>No PC named %1 was found. Its address may work instead.</source>
+        <translation>Es wurde kein PC mit dem Namen %1 gefunden. Vielleicht klappt es mit seiner Adresse.</translation>
+    </message>
+    <message>
+        <source>%1 has no IPv4 address.</source>
+        <translation>%1 hat keine IPv4-Adresse.</translation>
+    </message>
+    <message>
+        <source>Address of this PC: %1</source>
+        <translation>Adresse dieses PCs: %1</translation>
+    </message>
+    <message>
+        <source>Enter their code instead</source>
+        <translation>Stattdessen den Code eingeben</translation>
+    </message>
+    <message>
+        <source>Enter an address instead</source>
+        <translation>Stattdessen eine Adresse eingeben</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>Warten auf %1: Dort muss jemand auf „Ja“ drücken</translation>
+    </message>
+    <message>
+        <source>No connection to %1: %2.</source>
+        <translation>Keine Verbindung zu %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its address: %1</source>
+        <translation>Seine Adresse: %1</translation>
+    </message>
+    <message>
+        <source>Zandrove is open on the other PC too, and shows this page there.</source>
+        <translation>Zandrove ist auch auf dem anderen PC geöffnet und zeigt dort diese Seite.</translation>
+    </message>
+    <message>
+        <source>The network cable is plugged in on both PCs, and its lights are on.</source>
+        <translation>Das Netzwerkkabel steckt an beiden PCs, und die Lämpchen daran leuchten.</translation>
+    </message>
+    <message>
+        <source>Both are in the same network, and neither in a guest Wi-Fi or a VPN.</source>
+        <translation>Beide sind im selben Netzwerk, und keiner ist in einem Gast-WLAN oder VPN.</translation>
+    </message>
+    <message>
+        <source>One of the two is the Old PC, and the other one the New PC.</source>
+        <translation>Einer der beiden ist der alte PC, der andere der neue PC.</translation>
+    </message>
+    <message>
+        <source>The firewalls of both PCs let Zandrove through.</source>
+        <translation>Die Firewalls beider PCs lassen Zandrove durch.</translation>
+    </message>
+    <message>
+        <source>Nobody found yet. Please check, the likeliest first:</source>
+        <translation>Noch niemand gefunden. Bitte prüfen Sie, das Wahrscheinlichste zuerst:</translation>
+    </message>
+    <message>
+        <source>Can&apos;t find the other PC?</source>
+        <translation>Sie finden den anderen PC nicht?</translation>
+    </message>
+    <message>
+        <source>Back to the devices</source>
+        <translation>Zurück zu den Geräten</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>Erneut prüfen</translation>
+    </message>
+    <message>
+        <source>Looking at this PC and its network. This takes some seconds...</source>
+        <translation>Dieser PC und sein Netzwerk werden geprüft. Das dauert einige Sekunden...</translation>
+    </message>
+    <message>
+        <source>Nothing was found here that stands in the way. Please check on the other PC as well.</source>
+        <translation>Hier wurde kein Hindernis gefunden. Bitte prüfen Sie auch auf dem anderen PC.</translation>
+    </message>
+    <message>
+        <source>What is marked with ✗ stands in the way.</source>
+        <translation>Was mit ✗ markiert ist, steht im Weg.</translation>
+    </message>
+    <message>
+        <source>another program, maybe a second Zandrove</source>
+        <translation>ein anderes Programm, vielleicht ein zweites Zandrove</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so no other PC can connect to this one. Please close that program, then try again.</source>
+        <translation>Port %1 ist durch %2 belegt. Deshalb kann sich kein anderer PC mit diesem verbinden. Bitte schließen Sie dieses Programm, und versuchen Sie es dann noch einmal.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so this PC does not hear other PCs. Please close that program, then try again.</source>
+        <translation>Port %1 ist durch %2 belegt. Deshalb hört dieser PC keine anderen PCs. Bitte schließen Sie dieses Programm, und versuchen Sie es dann noch einmal.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1 ist auch da, aber ebenfalls als alter PC: Wählen Sie auf einem der beiden „Neuer PC“</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1 ist auch da, aber ebenfalls als neuer PC: Wählen Sie auf einem der beiden „Alter PC“</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Noch einmal versuchen</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Diagnosis</name>
+    <message>
+        <source>wired</source>
+        <translation>Kabel</translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>virtual</source>
+        <translation>virtuell</translation>
+    </message>
+    <message>
+        <source>VPN</source>
+        <translation>VPN</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2.</source>
+        <translation>%1 hat die Adresse %2.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but is connected to nothing.</source>
+        <translation>%1 hat die Adresse %2, ist aber mit nichts verbunden.</translation>
+    </message>
+    <message>
+        <source>Plug in its cable, or join a network with it.</source>
+        <translation>Stecken Sie das Kabel ein, oder verbinden Sie den Adapter mit einem Netzwerk.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but no broadcast can leave by it: %3.</source>
+        <translation>%1 hat die Adresse %2, kann aber keinen Broadcast senden: %3.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps Zandrove from sending.</source>
+        <translation>Suchen Sie auf diesem PC nach einer Firewall oder einem Sicherheitsprogramm, das Zandrove am Senden hindert.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, and broadcasts leave by it.</source>
+        <translation>%1 hat die Adresse %2 und sendet Broadcasts.</translation>
+    </message>
+    <message>
+        <source>%1 is connected, but has no address yet.</source>
+        <translation>%1 ist verbunden, hat aber noch keine Adresse.</translation>
+    </message>
+    <message>
+        <source>Wait a minute. If none comes, see whether the router is on; over a direct cable, set this connection to link-local addresses.</source>
+        <translation>Warten Sie eine Minute. Wenn dann keine Adresse kommt, prüfen Sie, ob der Router eingeschaltet ist; bei einem direkten Kabel stellen Sie diese Verbindung auf Link-Local-Adressen ein.</translation>
+    </message>
+    <message>
+        <source>%1 is connected to nothing.</source>
+        <translation>%1 ist mit nichts verbunden.</translation>
+    </message>
+    <message>
+        <source>This PC has only an address that it gave itself, %1.</source>
+        <translation>Dieser PC hat nur eine Adresse, die er sich selbst gegeben hat: %1.</translation>
+    </message>
+    <message>
+        <source>Over a direct cable that is as it should be: choose Cable Mode on both PCs. In a network, see whether the router is on.</source>
+        <translation>Bei einem direkten Kabel ist das in Ordnung: Wählen Sie auf beiden PCs den Kabelmodus. In einem Netzwerk prüfen Sie, ob der Router eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is meant for the network %2 of %3.</source>
+        <translation>Das VPN %1 nimmt an sich, was für das Netzwerk %2 von %3 bestimmt ist.</translation>
+    </message>
+    <message>
+        <source>Disconnect the VPN until everything has moved.</source>
+        <translation>Trennen Sie das VPN, bis alles übertragen ist.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is not for a local network.</source>
+        <translation>Das VPN %1 nimmt an sich, was nicht für ein lokales Netzwerk bestimmt ist.</translation>
+    </message>
+    <message>
+        <source>Disconnect it if the PCs don&apos;t find each other: many a VPN keeps its PC away from the local network.</source>
+        <translation>Trennen Sie es, wenn die PCs einander nicht finden: Viele VPNs halten ihren PC vom lokalen Netzwerk fern.</translation>
+    </message>
+    <message>
+        <source>This PC is in no network.</source>
+        <translation>Dieser PC ist in keinem Netzwerk.</translation>
+    </message>
+    <message>
+        <source>Plug in a cable, or join a Wi-Fi.</source>
+        <translation>Stecken Sie ein Kabel ein, oder verbinden Sie den PC mit einem WLAN.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>Neuer PC</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>Alter PC</translation>
+    </message>
+    <message>
+        <source>What is meant for it leaves by the VPN %1: disconnect that first.</source>
+        <translation>Was für diesen PC bestimmt ist, geht über das VPN %1 hinaus: Trennen Sie es zuerst.</translation>
+    </message>
+    <message>
+        <source>Run this diagnosis on %1: its port may be taken there, or its firewall turns connections away.</source>
+        <translation>Führen Sie diese Diagnose auf %1 aus: Vielleicht ist dort der Port belegt, oder die Firewall weist Verbindungen ab.</translation>
+    </message>
+    <message>
+        <source>Let Zandrove through the firewall of %1: TCP port %2.</source>
+        <translation>Lassen Sie Zandrove durch die Firewall von %1: TCP-Port %2.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but refuses connections on TCP port %4.</source>
+        <translation>%1 (%2) meldet sich als „%3“, lehnt aber Verbindungen an TCP-Port %4 ab.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but can&apos;t be connected to: %4.</source>
+        <translation>%1 (%2) meldet sich als „%3“, aber eine Verbindung ist nicht möglich: %4.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but does not answer on TCP port %4.</source>
+        <translation>%1 (%2) meldet sich als „%3“, antwortet aber nicht an TCP-Port %4.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as %2.</source>
+        <translation>%1 ist auch da, aber ebenfalls als „%2“.</translation>
+    </message>
+    <message>
+        <source>Choose %1 on one of the two.</source>
+        <translation>Wählen Sie auf einem der beiden „%1“.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, and answers.</source>
+        <translation>%1 (%2) meldet sich als „%3“ und antwortet.</translation>
+    </message>
+    <message>
+        <source>Nobody here knows a PC by the name %1.</source>
+        <translation>Niemand hier kennt einen PC mit dem Namen %1.</translation>
+    </message>
+    <message>
+        <source>Give its address instead; its page of connections shows it.</source>
+        <translation>Geben Sie stattdessen seine Adresse an; seine Verbindungsseite zeigt sie.</translation>
+    </message>
+    <message>
+        <source>%1 is this PC itself.</source>
+        <translation>%1 ist dieser PC selbst.</translation>
+    </message>
+    <message>
+        <source>Give the address of the other PC.</source>
+        <translation>Geben Sie die Adresse des anderen PCs an.</translation>
+    </message>
+    <message>
+        <source>%1 answers on TCP port %2, but is not heard on UDP port %3.</source>
+        <translation>%1 antwortet an TCP-Port %2, ist aber an UDP-Port %3 nicht zu hören.</translation>
+    </message>
+    <message>
+        <source>Open the page of connections there, and UDP port %1 in the firewalls of both PCs; or connect by the address.</source>
+        <translation>Öffnen Sie dort die Verbindungsseite und in den Firewalls beider PCs UDP-Port %1; oder stellen Sie die Verbindung über die Adresse her.</translation>
+    </message>
+    <message>
+        <source>%1 is there, but refuses connections on TCP port %2.</source>
+        <translation>%1 ist da, lehnt aber Verbindungen an TCP-Port %2 ab.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove there, up to its page of connections.</source>
+        <translation>Öffnen Sie dort Zandrove, und gehen Sie bis zur Verbindungsseite.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be connected to: %2.</source>
+        <translation>Eine Verbindung zu %1 ist nicht möglich: %2.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, and both PCs are in the same network.</source>
+        <translation>Prüfen Sie, ob die Adresse stimmt und beide PCs im selben Netzwerk sind.</translation>
+    </message>
+    <message>
+        <source>%1 does not answer on TCP port %2, and is not heard.</source>
+        <translation>%1 antwortet nicht an TCP-Port %2 und ist nicht zu hören.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, that PC on, and its firewall open for Zandrove.</source>
+        <translation>Prüfen Sie, ob die Adresse stimmt, der PC eingeschaltet ist und seine Firewall Zandrove durchlässt.</translation>
+    </message>
+    <message>
+        <source>This PC doesn&apos;t hear its own broadcasts on %1.</source>
+        <translation>Dieser PC hört seine eigenen Broadcasts auf %1 nicht.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps out UDP port %1.</source>
+        <translation>Suchen Sie auf diesem PC nach einer Firewall oder einem Sicherheitsprogramm, das UDP-Port %1 sperrt.</translation>
+    </message>
+    <message>
+        <source>Nobody has answered on %1, and it has no router.</source>
+        <translation>Auf %1 hat niemand geantwortet, und dort gibt es keinen Router.</translation>
+    </message>
+    <message>
+        <source>If the other PC should be there, see whether its end of the cable, or its network, is on.</source>
+        <translation>Wenn der andere PC dort sein sollte, prüfen Sie, ob sein Ende des Kabels eingesteckt oder sein Netzwerk eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <source>No other PC was heard within %1 s.</source>
+        <translation>Innerhalb von %1 s war kein anderer PC zu hören.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove on the other PC, up to its page of connections, and put both PCs into the same network.</source>
+        <translation>Öffnen Sie Zandrove auf dem anderen PC, gehen Sie bis zur Verbindungsseite, und verbinden Sie beide PCs mit demselben Netzwerk.</translation>
+    </message>
+    <message>
+        <source>TCP port %1</source>
+        <translation>TCP-Port %1</translation>
+    </message>
+    <message>
+        <source>UDP port %1</source>
+        <translation>UDP-Port %1</translation>
+    </message>
+    <message>
+        <source>%1 is free.</source>
+        <translation>%1 ist frei.</translation>
+    </message>
+    <message>
+        <source>%1 is held by Zandrove, as it should be.</source>
+        <translation>%1 wird von Zandrove benutzt, wie es sein soll.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program.</source>
+        <translation>%1 ist durch ein anderes Programm belegt.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by %2.</source>
+        <translation>%1 ist durch %2 belegt.</translation>
+    </message>
+    <message>
+        <source>Find out which one it is, close it, and start Zandrove anew.</source>
+        <translation>Finden Sie heraus, welches es ist, schließen Sie es, und starten Sie Zandrove neu.</translation>
+    </message>
+    <message>
+        <source>Close that program, and start Zandrove anew.</source>
+        <translation>Schließen Sie dieses Programm, und starten Sie Zandrove neu.</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>%1 is on, and lets both ports in.</source>
+        <translation>%1 ist eingeschaltet und lässt beide Ports herein.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and keeps out %2.</source>
+        <translation>%1 ist eingeschaltet und sperrt %2.</translation>
+    </message>
+    <message>
+        <source>Have it let both ports in.</source>
+        <translation>Lassen Sie dort beide Ports zu.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and it depends on the sender, or on rules that can&apos;t be judged here, whether it lets both ports in.</source>
+        <translation>%1 ist eingeschaltet; ob beide Ports hereingelassen werden, hängt vom Absender ab oder von Regeln, die sich hier nicht beurteilen lassen.</translation>
+    </message>
+    <message>
+        <source>See whether its rules let in %1 and %2.</source>
+        <translation>Prüfen Sie, ob die Regeln %1 und %2 hereinlassen.</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be read without administrator rights.</source>
+        <translation>%1 konnte ohne Administratorrechte nicht abgefragt werden.</translation>
+    </message>
+    <message>
+        <source>%1 gave no answer that could be read.</source>
+        <translation>%1 gab keine lesbare Antwort.</translation>
+    </message>
+    <message>
+        <source>%1 is off.</source>
+        <translation>%1 ist ausgeschaltet.</translation>
+    </message>
+    <message>
+        <source>No firewall was found of those that can be asked.</source>
+        <translation>Es wurde keine Firewall gefunden, die sich abfragen lässt.</translation>
+    </message>
+    <message>
+        <source>The system treats the network %1 as public.</source>
+        <translation>Das System behandelt das Netzwerk %1 als öffentlich.</translation>
+    </message>
+    <message>
+        <source>If it is your own, set it to private in the network settings.</source>
+        <translation>Wenn es Ihr eigenes ist, stellen Sie es in den Netzwerkeinstellungen auf „Privat“.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::FileBrowserWidget</name>
@@ -1128,6 +1669,41 @@ Möchten Sie das zulassen?</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::FindingRow</name>
+    <message>
+        <source>As it should be</source>
+        <translation>In Ordnung</translation>
+    </message>
+    <message>
+        <source>May matter</source>
+        <translation>Kann eine Rolle spielen</translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>Steht im Weg</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Kopiert</translation>
+    </message>
+    <message>
+        <source>Run as administrator</source>
+        <translation>Als Administrator ausführen</translation>
+    </message>
+    <message>
+        <source>Done. Please check again.</source>
+        <translation>Erledigt. Bitte prüfen Sie erneut.</translation>
+    </message>
+    <message>
+        <source>That did not work.</source>
+        <translation>Das hat nicht funktioniert.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::FolderListItem</name>
     <message>
         <source>%1 files, %2</source>
@@ -1167,11 +1743,11 @@ Kopieren Sie den Link, und öffnen Sie ihn selbst:
     <name>Zandrove::LinkWatch</name>
     <message>
         <source>No answer from the other PC for %1 s</source>
-        <translation>Keine Antwort vom anderen PC seit %1 s</translation>
+        <translation>Keine Antwort vom anderen PC seit %1&#xa0;s</translation>
     </message>
     <message>
         <source>No answer from %1 for %2 s</source>
-        <translation>Keine Antwort von %1 seit %2 s</translation>
+        <translation>Keine Antwort von %1 seit %2&#xa0;s</translation>
     </message>
     <message>
         <source>The connection to %1 is lost.</source>
@@ -1258,17 +1834,6 @@ Die App wird jetzt neu gestartet.</translation>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationRun</name>
-    <message>
-        <source>[App] %1</source>
-        <translation>[App] %1</translation>
-    </message>
-    <message>
-        <source>[Setting] %1</source>
-        <translation>[Einstellung] %1</translation>
-    </message>
-</context>
-<context>
     <name>Zandrove::MissingItems</name>
     <message>
         <source>Did not arrive</source>
@@ -1287,16 +1852,8 @@ Die App wird jetzt neu gestartet.</translation>
         <translation>Bericht speichern…</translation>
     </message>
     <message>
-        <source>And %1 more.</source>
-        <translation>Und %1 weitere.</translation>
-    </message>
-    <message>
         <source>The list is on the clipboard.</source>
         <translation>Die Liste ist in der Zwischenablage.</translation>
-    </message>
-    <message>
-        <source>Zandrove report</source>
-        <translation>Zandrove-Bericht</translation>
     </message>
     <message>
         <source>Save report</source>
@@ -1377,6 +1934,10 @@ Die App wird jetzt neu gestartet.</translation>
         <source>the link was lost</source>
         <translation>die Verbindung ging verloren</translation>
     </message>
+    <message>
+        <source>its installation was stopped at %1 %</source>
+        <translation>die Installation wurde bei %1 % abgebrochen</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::ReplacingFile</name>
@@ -1432,14 +1993,6 @@ Die App wird jetzt neu gestartet.</translation>
         <translation>Einstellungen</translation>
     </message>
     <message>
-        <source>There already</source>
-        <translation>Schon vorhanden</translation>
-    </message>
-    <message>
-        <source>There, but different</source>
-        <translation>Vorhanden, aber anders</translation>
-    </message>
-    <message>
         <source>Failed</source>
         <translation>Fehlgeschlagen</translation>
     </message>
@@ -1484,32 +2037,12 @@ Die App wird jetzt neu gestartet.</translation>
         <translation>Ergebnis</translation>
     </message>
     <message>
-        <source>%1 files, which only the report of the Old PC can name.</source>
-        <translation>Dateien: %1, namentlich nur im Bericht des alten PCs.</translation>
-    </message>
-    <message>
-        <source>And %1 more, which only the report of the Old PC can name.</source>
-        <translation>Und %1 weitere, namentlich nur im Bericht des alten PCs.</translation>
-    </message>
-    <message>
-        <source>%1 files.</source>
-        <translation>Dateien: %1.</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>Und %1 weitere.</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>Datei</translation>
     </message>
     <message>
         <source>Reason</source>
         <translation>Grund</translation>
-    </message>
-    <message>
-        <source>%1 were there already.</source>
-        <translation>Schon vorhanden: %1.</translation>
     </message>
     <message>
         <source>en</source>
@@ -1539,6 +2072,22 @@ Die App wird jetzt neu gestartet.</translation>
     <message>
         <source>it is no ordinary file</source>
         <translation>es ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>There already, identical</source>
+        <translation>Schon vorhanden, identisch</translation>
+    </message>
+    <message>
+        <source>There already, and different</source>
+        <translation>Schon vorhanden, aber anders</translation>
+    </message>
+    <message>
+        <source>%1 were there already, identical.</source>
+        <translation>Schon vorhanden, identisch: %1.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Zandrove-Bericht</translation>
     </message>
 </context>
 <context>
@@ -1697,12 +2246,40 @@ Die App wird jetzt neu gestartet.</translation>
         <translation>Verbinden Sie die beiden PCs wieder, und starten Sie dieselbe Übertragung: Was angekommen ist, wird übersprungen, nur was fehlt, wird übertragen.</translation>
     </message>
     <message>
-        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
-        <translation>Lesen Sie die Gründe in der Liste. Sobald sie behoben sind, starten Sie dieselbe Übertragung noch einmal: Was angekommen ist, wird übersprungen, nur was fehlt, wird übertragen.</translation>
-    </message>
-    <message>
         <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
         <translation>Lassen Sie den alten PC, wie er ist, bis nichts mehr fehlt. Dort wurde nichts gelöscht.</translation>
+    </message>
+    <message>
+        <source>[App] %1</source>
+        <translation>[App] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[Einstellung] %1</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Und %1 weitere.</translation>
+    </message>
+    <message>
+        <source>1 announced file did not come. The report of %1 names it.</source>
+        <translation>1 angekündigte Datei ist nicht angekommen. Der Bericht von %1 nennt sie.</translation>
+    </message>
+    <message>
+        <source>%1 announced files did not come. The report of %2 names them.</source>
+        <translation>%1 angekündigte Dateien sind nicht angekommen. Der Bericht von %2 nennt sie.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list.</source>
+        <translation>Lesen Sie die Gründe in der Liste.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the report of %1.</source>
+        <translation>Lesen Sie die Gründe im Bericht von %1.</translation>
+    </message>
+    <message>
+        <source>Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Sobald sie behoben sind, starten Sie dieselbe Übertragung noch einmal: Was angekommen ist, wird übersprungen, nur was fehlt, wird übertragen.</translation>
     </message>
 </context>
 <context>
@@ -1824,6 +2401,10 @@ Die App wird jetzt neu gestartet.</translation>
     <message>
         <source>sent; what became of it stands in the report of %1</source>
         <translation>gesendet; das Ergebnis steht im Bericht von %1</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>gesendet, aber %1 hat die Ankunft nicht bestätigt</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2737,10 @@ Die App wird jetzt neu gestartet.</translation>
         <source>Scan error: %1</source>
         <translation>Fehler bei der Suche: %1</translation>
     </message>
+    <message>
+        <source>More than one PC shows the code %1: %2</source>
+        <translation>Mehr als ein PC zeigt den Code %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::TransferPage</name>
@@ -2202,10 +2787,6 @@ Die App wird jetzt neu gestartet.</translation>
     <message>
         <source>Are you sure you want to cancel the transfer?</source>
         <translation>Möchten Sie die Übertragung wirklich abbrechen?</translation>
-    </message>
-    <message>
-        <source>All progress will be lost and incomplete files may remain on the destination.</source>
-        <translation>Der bisherige Fortschritt geht verloren, und auf dem Ziel-PC können unvollständige Dateien zurückbleiben.</translation>
     </message>
     <message>
         <source>Yes, Cancel</source>
@@ -2273,7 +2854,7 @@ Die App wird jetzt neu gestartet.</translation>
     </message>
     <message>
         <source>Installing %1 - %2 %</source>
-        <translation>%1 wird installiert – %2 %</translation>
+        <translation>%1 wird installiert – %2&#xa0;%</translation>
     </message>
     <message>
         <source>%1 is installing...</source>
@@ -2288,12 +2869,20 @@ Die App wird jetzt neu gestartet.</translation>
         <translation>Es läuft eine Übertragung. Wenn Sie das Fenster schließen, wird sie abgebrochen.</translation>
     </message>
     <message>
-        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
-        <translation>Was angekommen ist, bleibt auf dem neuen PC, und auf dem alten PC wird nichts gelöscht.</translation>
-    </message>
-    <message>
         <source>Cancel and Close</source>
         <translation>Abbrechen und schließen</translation>
+    </message>
+    <message>
+        <source>Back to selection</source>
+        <translation>Zurück zur Auswahl</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC. A report is left in your documents.</source>
+        <translation>Was angekommen ist, bleibt auf dem neuen PC, und auf dem alten PC wird nichts gelöscht. Ein Bericht wird in Ihren Dokumenten abgelegt.</translation>
+    </message>
+    <message>
+        <source>All progress will be lost. Files that have arrived stay; nothing incomplete remains.</source>
+        <translation>Der bisherige Fortschritt geht verloren. Angekommene Dateien bleiben erhalten; Unvollständiges bleibt nicht zurück.</translation>
     </message>
 </context>
 <context>

@@ -221,6 +221,10 @@
         <source>Another ticked folder has a file of this name</source>
         <translation>Another ticked folder has a file of this name</translation>
     </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>Cannot be reached</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::AccountScanner</name>
@@ -231,6 +235,25 @@
     <message>
         <source>Enumerating Windows accounts...</source>
         <translation>Enumerating Windows accounts...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Aftermath</name>
+    <message>
+        <source>%1 was lost before it said that this is installed</source>
+        <translation>%1 was lost before it said that this is installed</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that this is applied</source>
+        <translation>%1 was lost before it said that this is applied</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is installed</source>
+        <translation>%1 called the transfer off before it said that this is installed</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is applied</source>
+        <translation>%1 called the transfer off before it said that this is applied</translation>
     </message>
 </context>
 <context>
@@ -394,6 +417,49 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::Notices</name>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1 is here too, but also as Old PC: choose New PC on one of the two</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1 is here too, but also as New PC: choose Old PC on one of the two</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>another program</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: this PC hears no other one. End that program, and begin anew.</source>
+        <translation>Port %1 is taken by %2: this PC hears no other one. End that program, and begin anew.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can reach this one. End that program, and begin anew.</source>
+        <translation>Port %1 is taken by %2: no other PC can reach this one. End that program, and begin anew.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can ask this one, which can still ask others.</source>
+        <translation>Port %1 is taken by %2: no other PC can ask this one, which can still ask others.</translation>
+    </message>
+    <message>
+        <source>%1 was not found for 20 seconds. In reach are: %2.</source>
+        <translation>%1 was not found for 20 seconds. In reach are: %2.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>New PC</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>Old PC</translation>
+    </message>
+    <message>
+        <source>Nobody was found for 20 seconds. What to look at, the likeliest first: Zandrove runs on the other PC, as %1; both PCs are in the same network, or joined by a cable; neither of them uses a VPN; their firewalls let TCP port %2 and UDP port %3 in. zandrove-cli diagnose looks for the cause.</source>
+        <translation>Nobody was found for 20 seconds. What to look at, the likeliest first: Zandrove runs on the other PC, as %1; both PCs are in the same network, or joined by a cable; neither of them uses a VPN; their firewalls let TCP port %2 and UDP port %3 in. zandrove-cli diagnose looks for the cause.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -508,10 +574,6 @@
         <translation>Unexpected argument %1. See --help.</translation>
     </message>
     <message>
-        <source>Say receive, send, discover or scan. See --help.</source>
-        <translation>Say receive, send, discover or scan. See --help.</translation>
-    </message>
-    <message>
         <source>Unknown command %1. See --help.</source>
         <translation>Unknown command %1. See --help.</translation>
     </message>
@@ -552,8 +614,28 @@
         <translation>Write the report of each transfer to FILE, in place of the one before: a page to read or, for a name that ends in .json, JSON.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</translation>
+        <source>The address or host name of a PC that is tried as well.</source>
+        <translation>The address or host name of a PC that is tried as well.</translation>
+    </message>
+    <message>
+        <source>What this PC is, to be compared with those that are heard.</source>
+        <translation>What this PC is, to be compared with those that are heard.</translation>
+    </message>
+    <message>
+        <source>Listen for N seconds; without it, for 5.</source>
+        <translation>Listen for N seconds; without it, for 5.</translation>
+    </message>
+    <message>
+        <source>Find out why the other PC isn&apos;t found: look at adapters, ports, firewalls and VPNs, and at who is heard and answers. Changes nothing.</source>
+        <translation>Find out why the other PC isn&apos;t found: look at adapters, ports, firewalls and VPNs, and at who is heard and answers. Changes nothing.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before, or diagnose has found what stands in the way; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before, or diagnose has found what stands in the way; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</translation>
+    </message>
+    <message>
+        <source>Say receive, send, discover, diagnose or scan. See --help.</source>
+        <translation>Say receive, send, discover, diagnose or scan. See --help.</translation>
     </message>
 </context>
 <context>
@@ -635,6 +717,10 @@
         <source>%1 ended the transfer.</source>
         <translation>%1 ended the transfer.</translation>
     </message>
+    <message>
+        <source>More than one PC goes by %1: %2. Name the one that is meant by its address.</source>
+        <translation>More than one PC goes by %1: %2. Name the one that is meant by its address.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -647,16 +733,24 @@
         <translation>The other PC did not end the session: not everything may have arrived.</translation>
     </message>
     <message>
-        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
-        <translation>%1 are on their way, but only %2 are free on %3: not everything will fit.</translation>
-    </message>
-    <message>
         <source>No answer from %1 for %2 s</source>
         <translation>No answer from %1 for %2 s</translation>
     </message>
     <message>
         <source>%1 answers again</source>
         <translation>%1 answers again</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>%1 are on their way, but only %2 are free on %3. Not everything will fit.</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that everything is installed.</source>
+        <translation>%1 was lost before it said that everything is installed.</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before everything was installed.</source>
+        <translation>%1 called the transfer off before everything was installed.</translation>
     </message>
 </context>
 <context>
@@ -806,8 +900,32 @@
         <translation>Files: %1 arrived, %2 failed, %3 were there before.</translation>
     </message>
     <message>
-        <source>and %1 more</source>
-        <translation>and %1 more</translation>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>hint</translation>
+    </message>
+    <message>
+        <source>PROBLEM</source>
+        <translation>PROBLEM</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>Waiting for %1: somebody has to press Yes there</translation>
+    </message>
+    <message>
+        <source>Further ones are counted in the report.</source>
+        <translation>Further ones are counted in the report.</translation>
+    </message>
+    <message>
+        <source>Nothing was found that stands in the way.</source>
+        <translation>Nothing was found that stands in the way.</translation>
+    </message>
+    <message>
+        <source>Found in the way: %1.</source>
+        <translation>Found in the way: %1.</translation>
     </message>
 </context>
 <context>
@@ -875,6 +993,10 @@
     <message>
         <source>%1 of %2 settings did not arrive</source>
         <translation>%1 of %2 settings did not arrive</translation>
+    </message>
+    <message>
+        <source>Apps and settings were sent. What became of them stands on the page of %1.</source>
+        <translation>Apps and settings were sent. What became of them stands on the page of %1.</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1125,425 @@ Do you want to accept?</translation>
         <source>Their code, character %1</source>
         <translation>Their code, character %1</translation>
     </message>
+    <message>
+        <source>This is the address of this PC.</source>
+        <translation>This is the address of this PC.</translation>
+    </message>
+    <message>
+        <source>Only IPv4 addresses work here, such as 192.168.1.23.</source>
+        <translation>Only IPv4 addresses work here, such as 192.168.1.23.</translation>
+    </message>
+    <message>
+        <source>An address has four numbers from 0 to 255, such as 192.168.1.23.</source>
+        <translation>An address has four numbers from 0 to 255, such as 192.168.1.23.</translation>
+    </message>
+    <message>
+        <source>This is not the address of one PC.</source>
+        <translation>This is not the address of one PC.</translation>
+    </message>
+    <message>
+        <source>This is neither an address nor the name of a PC.</source>
+        <translation>This is neither an address nor the name of a PC.</translation>
+    </message>
+    <message>
+        <source>Address or name of the other PC</source>
+        <translation>Address or name of the other PC</translation>
+    </message>
+    <message>
+        <source>Or Enter Their Address</source>
+        <translation>Or Enter Their Address</translation>
+    </message>
+    <message>
+        <source>Looking for %1...</source>
+        <translation>Looking for %1...</translation>
+    </message>
+    <message>
+        <source>No PC named %1 was found. Its address may work instead.</source>
+        <translation>No PC named %1 was found. Its address may work instead.</translation>
+    </message>
+    <message>
+        <source>%1 has no IPv4 address.</source>
+        <translation>%1 has no IPv4 address.</translation>
+    </message>
+    <message>
+        <source>Address of this PC: %1</source>
+        <translation>Address of this PC: %1</translation>
+    </message>
+    <message>
+        <source>Enter their code instead</source>
+        <translation>Enter their code instead</translation>
+    </message>
+    <message>
+        <source>Enter an address instead</source>
+        <translation>Enter an address instead</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>Waiting for %1: somebody has to press Yes there</translation>
+    </message>
+    <message>
+        <source>No connection to %1: %2.</source>
+        <translation>No connection to %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its address: %1</source>
+        <translation>Its address: %1</translation>
+    </message>
+    <message>
+        <source>Zandrove is open on the other PC too, and shows this page there.</source>
+        <translation>Zandrove is open on the other PC too, and shows this page there.</translation>
+    </message>
+    <message>
+        <source>The network cable is plugged in on both PCs, and its lights are on.</source>
+        <translation>The network cable is plugged in on both PCs, and its lights are on.</translation>
+    </message>
+    <message>
+        <source>Both are in the same network, and neither in a guest Wi-Fi or a VPN.</source>
+        <translation>Both are in the same network, and neither in a guest Wi-Fi or a VPN.</translation>
+    </message>
+    <message>
+        <source>One of the two is the Old PC, and the other one the New PC.</source>
+        <translation>One of the two is the Old PC, and the other one the New PC.</translation>
+    </message>
+    <message>
+        <source>The firewalls of both PCs let Zandrove through.</source>
+        <translation>The firewalls of both PCs let Zandrove through.</translation>
+    </message>
+    <message>
+        <source>Nobody found yet. Please check, the likeliest first:</source>
+        <translation>Nobody found yet. Please check, the likeliest first:</translation>
+    </message>
+    <message>
+        <source>Can&apos;t find the other PC?</source>
+        <translation>Can&apos;t find the other PC?</translation>
+    </message>
+    <message>
+        <source>Back to the devices</source>
+        <translation>Back to the devices</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>Check again</translation>
+    </message>
+    <message>
+        <source>Looking at this PC and its network. This takes some seconds...</source>
+        <translation>Looking at this PC and its network. This takes some seconds...</translation>
+    </message>
+    <message>
+        <source>Nothing was found here that stands in the way. Please check on the other PC as well.</source>
+        <translation>Nothing was found here that stands in the way. Please check on the other PC as well.</translation>
+    </message>
+    <message>
+        <source>What is marked with ✗ stands in the way.</source>
+        <translation>What is marked with ✗ stands in the way.</translation>
+    </message>
+    <message>
+        <source>another program, maybe a second Zandrove</source>
+        <translation>another program, maybe a second Zandrove</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so no other PC can connect to this one. Please close that program, then try again.</source>
+        <translation>Port %1 is taken by %2, so no other PC can connect to this one. Please close that program, then try again.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so this PC does not hear other PCs. Please close that program, then try again.</source>
+        <translation>Port %1 is taken by %2, so this PC does not hear other PCs. Please close that program, then try again.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1 is here too, but also as Old PC: choose New PC on one of the two</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1 is here too, but also as New PC: choose Old PC on one of the two</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Try again</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Diagnosis</name>
+    <message>
+        <source>wired</source>
+        <translation>wired</translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>virtual</source>
+        <translation>virtual</translation>
+    </message>
+    <message>
+        <source>VPN</source>
+        <translation>VPN</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2.</source>
+        <translation>%1 has the address %2.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but is connected to nothing.</source>
+        <translation>%1 has the address %2, but is connected to nothing.</translation>
+    </message>
+    <message>
+        <source>Plug in its cable, or join a network with it.</source>
+        <translation>Plug in its cable, or join a network with it.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but no broadcast can leave by it: %3.</source>
+        <translation>%1 has the address %2, but no broadcast can leave by it: %3.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps Zandrove from sending.</source>
+        <translation>Look for a firewall or security program on this PC that keeps Zandrove from sending.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, and broadcasts leave by it.</source>
+        <translation>%1 has the address %2, and broadcasts leave by it.</translation>
+    </message>
+    <message>
+        <source>%1 is connected, but has no address yet.</source>
+        <translation>%1 is connected, but has no address yet.</translation>
+    </message>
+    <message>
+        <source>Wait a minute. If none comes, see whether the router is on; over a direct cable, set this connection to link-local addresses.</source>
+        <translation>Wait a minute. If none comes, see whether the router is on; over a direct cable, set this connection to link-local addresses.</translation>
+    </message>
+    <message>
+        <source>%1 is connected to nothing.</source>
+        <translation>%1 is connected to nothing.</translation>
+    </message>
+    <message>
+        <source>This PC has only an address that it gave itself, %1.</source>
+        <translation>This PC has only an address that it gave itself, %1.</translation>
+    </message>
+    <message>
+        <source>Over a direct cable that is as it should be: choose Cable Mode on both PCs. In a network, see whether the router is on.</source>
+        <translation>Over a direct cable that is as it should be: choose Cable Mode on both PCs. In a network, see whether the router is on.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is meant for the network %2 of %3.</source>
+        <translation>The VPN %1 takes what is meant for the network %2 of %3.</translation>
+    </message>
+    <message>
+        <source>Disconnect the VPN until everything has moved.</source>
+        <translation>Disconnect the VPN until everything has moved.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is not for a local network.</source>
+        <translation>The VPN %1 takes what is not for a local network.</translation>
+    </message>
+    <message>
+        <source>Disconnect it if the PCs don&apos;t find each other: many a VPN keeps its PC away from the local network.</source>
+        <translation>Disconnect it if the PCs don&apos;t find each other: many a VPN keeps its PC away from the local network.</translation>
+    </message>
+    <message>
+        <source>This PC is in no network.</source>
+        <translation>This PC is in no network.</translation>
+    </message>
+    <message>
+        <source>Plug in a cable, or join a Wi-Fi.</source>
+        <translation>Plug in a cable, or join a Wi-Fi.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>New PC</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>Old PC</translation>
+    </message>
+    <message>
+        <source>What is meant for it leaves by the VPN %1: disconnect that first.</source>
+        <translation>What is meant for it leaves by the VPN %1: disconnect that first.</translation>
+    </message>
+    <message>
+        <source>Run this diagnosis on %1: its port may be taken there, or its firewall turns connections away.</source>
+        <translation>Run this diagnosis on %1: its port may be taken there, or its firewall turns connections away.</translation>
+    </message>
+    <message>
+        <source>Let Zandrove through the firewall of %1: TCP port %2.</source>
+        <translation>Let Zandrove through the firewall of %1: TCP port %2.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but refuses connections on TCP port %4.</source>
+        <translation>%1 (%2) is heard as %3, but refuses connections on TCP port %4.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but can&apos;t be connected to: %4.</source>
+        <translation>%1 (%2) is heard as %3, but can&apos;t be connected to: %4.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but does not answer on TCP port %4.</source>
+        <translation>%1 (%2) is heard as %3, but does not answer on TCP port %4.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as %2.</source>
+        <translation>%1 is here too, but also as %2.</translation>
+    </message>
+    <message>
+        <source>Choose %1 on one of the two.</source>
+        <translation>Choose %1 on one of the two.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, and answers.</source>
+        <translation>%1 (%2) is heard as %3, and answers.</translation>
+    </message>
+    <message>
+        <source>Nobody here knows a PC by the name %1.</source>
+        <translation>Nobody here knows a PC by the name %1.</translation>
+    </message>
+    <message>
+        <source>Give its address instead; its page of connections shows it.</source>
+        <translation>Give its address instead; its page of connections shows it.</translation>
+    </message>
+    <message>
+        <source>%1 is this PC itself.</source>
+        <translation>%1 is this PC itself.</translation>
+    </message>
+    <message>
+        <source>Give the address of the other PC.</source>
+        <translation>Give the address of the other PC.</translation>
+    </message>
+    <message>
+        <source>%1 answers on TCP port %2, but is not heard on UDP port %3.</source>
+        <translation>%1 answers on TCP port %2, but is not heard on UDP port %3.</translation>
+    </message>
+    <message>
+        <source>Open the page of connections there, and UDP port %1 in the firewalls of both PCs; or connect by the address.</source>
+        <translation>Open the page of connections there, and UDP port %1 in the firewalls of both PCs; or connect by the address.</translation>
+    </message>
+    <message>
+        <source>%1 is there, but refuses connections on TCP port %2.</source>
+        <translation>%1 is there, but refuses connections on TCP port %2.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove there, up to its page of connections.</source>
+        <translation>Open Zandrove there, up to its page of connections.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be connected to: %2.</source>
+        <translation>%1 can&apos;t be connected to: %2.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, and both PCs are in the same network.</source>
+        <translation>See whether the address is right, and both PCs are in the same network.</translation>
+    </message>
+    <message>
+        <source>%1 does not answer on TCP port %2, and is not heard.</source>
+        <translation>%1 does not answer on TCP port %2, and is not heard.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, that PC on, and its firewall open for Zandrove.</source>
+        <translation>See whether the address is right, that PC on, and its firewall open for Zandrove.</translation>
+    </message>
+    <message>
+        <source>This PC doesn&apos;t hear its own broadcasts on %1.</source>
+        <translation>This PC doesn&apos;t hear its own broadcasts on %1.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps out UDP port %1.</source>
+        <translation>Look for a firewall or security program on this PC that keeps out UDP port %1.</translation>
+    </message>
+    <message>
+        <source>Nobody has answered on %1, and it has no router.</source>
+        <translation>Nobody has answered on %1, and it has no router.</translation>
+    </message>
+    <message>
+        <source>If the other PC should be there, see whether its end of the cable, or its network, is on.</source>
+        <translation>If the other PC should be there, see whether its end of the cable, or its network, is on.</translation>
+    </message>
+    <message>
+        <source>No other PC was heard within %1 s.</source>
+        <translation>No other PC was heard within %1 s.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove on the other PC, up to its page of connections, and put both PCs into the same network.</source>
+        <translation>Open Zandrove on the other PC, up to its page of connections, and put both PCs into the same network.</translation>
+    </message>
+    <message>
+        <source>TCP port %1</source>
+        <translation>TCP port %1</translation>
+    </message>
+    <message>
+        <source>UDP port %1</source>
+        <translation>UDP port %1</translation>
+    </message>
+    <message>
+        <source>%1 is free.</source>
+        <translation>%1 is free.</translation>
+    </message>
+    <message>
+        <source>%1 is held by Zandrove, as it should be.</source>
+        <translation>%1 is held by Zandrove, as it should be.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program.</source>
+        <translation>%1 is taken by another program.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by %2.</source>
+        <translation>%1 is taken by %2.</translation>
+    </message>
+    <message>
+        <source>Find out which one it is, close it, and start Zandrove anew.</source>
+        <translation>Find out which one it is, close it, and start Zandrove anew.</translation>
+    </message>
+    <message>
+        <source>Close that program, and start Zandrove anew.</source>
+        <translation>Close that program, and start Zandrove anew.</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 and %2</translation>
+    </message>
+    <message>
+        <source>%1 is on, and lets both ports in.</source>
+        <translation>%1 is on, and lets both ports in.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and keeps out %2.</source>
+        <translation>%1 is on, and keeps out %2.</translation>
+    </message>
+    <message>
+        <source>Have it let both ports in.</source>
+        <translation>Have it let both ports in.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and it depends on the sender, or on rules that can&apos;t be judged here, whether it lets both ports in.</source>
+        <translation>%1 is on, and it depends on the sender, or on rules that can&apos;t be judged here, whether it lets both ports in.</translation>
+    </message>
+    <message>
+        <source>See whether its rules let in %1 and %2.</source>
+        <translation>See whether its rules let in %1 and %2.</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be read without administrator rights.</source>
+        <translation>%1 couldn&apos;t be read without administrator rights.</translation>
+    </message>
+    <message>
+        <source>%1 gave no answer that could be read.</source>
+        <translation>%1 gave no answer that could be read.</translation>
+    </message>
+    <message>
+        <source>%1 is off.</source>
+        <translation>%1 is off.</translation>
+    </message>
+    <message>
+        <source>No firewall was found of those that can be asked.</source>
+        <translation>No firewall was found of those that can be asked.</translation>
+    </message>
+    <message>
+        <source>The system treats the network %1 as public.</source>
+        <translation>The system treats the network %1 as public.</translation>
+    </message>
+    <message>
+        <source>If it is your own, set it to private in the network settings.</source>
+        <translation>If it is your own, set it to private in the network settings.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::FileBrowserWidget</name>
@@ -1125,6 +1666,41 @@ Do you want to accept?</translation>
     <message>
         <source>changed while it was sent</source>
         <translation>changed while it was sent</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FindingRow</name>
+    <message>
+        <source>As it should be</source>
+        <translation>As it should be</translation>
+    </message>
+    <message>
+        <source>May matter</source>
+        <translation>May matter</translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>In the way</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copied</translation>
+    </message>
+    <message>
+        <source>Run as administrator</source>
+        <translation>Run as administrator</translation>
+    </message>
+    <message>
+        <source>Done. Please check again.</source>
+        <translation>Done. Please check again.</translation>
+    </message>
+    <message>
+        <source>That did not work.</source>
+        <translation>That did not work.</translation>
     </message>
 </context>
 <context>
@@ -1258,17 +1834,6 @@ The application will restart now.</translation>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationRun</name>
-    <message>
-        <source>[App] %1</source>
-        <translation>[App] %1</translation>
-    </message>
-    <message>
-        <source>[Setting] %1</source>
-        <translation>[Setting] %1</translation>
-    </message>
-</context>
-<context>
     <name>Zandrove::MissingItems</name>
     <message>
         <source>Did not arrive</source>
@@ -1287,16 +1852,8 @@ The application will restart now.</translation>
         <translation>Save report…</translation>
     </message>
     <message>
-        <source>And %1 more.</source>
-        <translation>And %1 more.</translation>
-    </message>
-    <message>
         <source>The list is on the clipboard.</source>
         <translation>The list is on the clipboard.</translation>
-    </message>
-    <message>
-        <source>Zandrove report</source>
-        <translation>Zandrove report</translation>
     </message>
     <message>
         <source>Save report</source>
@@ -1377,6 +1934,10 @@ The application will restart now.</translation>
         <source>the link was lost</source>
         <translation>the link was lost</translation>
     </message>
+    <message>
+        <source>its installation was stopped at %1 %</source>
+        <translation>its installation was stopped at %1 %</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::ReplacingFile</name>
@@ -1432,14 +1993,6 @@ The application will restart now.</translation>
         <translation>Settings</translation>
     </message>
     <message>
-        <source>There already</source>
-        <translation>There already</translation>
-    </message>
-    <message>
-        <source>There, but different</source>
-        <translation>There, but different</translation>
-    </message>
-    <message>
         <source>Failed</source>
         <translation>Failed</translation>
     </message>
@@ -1484,32 +2037,12 @@ The application will restart now.</translation>
         <translation>What became of it</translation>
     </message>
     <message>
-        <source>%1 files, which only the report of the Old PC can name.</source>
-        <translation>%1 files, which only the report of the Old PC can name.</translation>
-    </message>
-    <message>
-        <source>And %1 more, which only the report of the Old PC can name.</source>
-        <translation>And %1 more, which only the report of the Old PC can name.</translation>
-    </message>
-    <message>
-        <source>%1 files.</source>
-        <translation>%1 files.</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>And %1 more.</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>File</translation>
     </message>
     <message>
         <source>Reason</source>
         <translation>Reason</translation>
-    </message>
-    <message>
-        <source>%1 were there already.</source>
-        <translation>%1 were there already.</translation>
     </message>
     <message>
         <source>en</source>
@@ -1539,6 +2072,22 @@ The application will restart now.</translation>
     <message>
         <source>it is no ordinary file</source>
         <translation>it is no ordinary file</translation>
+    </message>
+    <message>
+        <source>There already, identical</source>
+        <translation>There already, identical</translation>
+    </message>
+    <message>
+        <source>There already, and different</source>
+        <translation>There already, and different</translation>
+    </message>
+    <message>
+        <source>%1 were there already, identical.</source>
+        <translation>%1 were there already, identical.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Zandrove report</translation>
     </message>
 </context>
 <context>
@@ -1697,12 +2246,40 @@ The application will restart now.</translation>
         <translation>Connect the two PCs again and start the same transfer: what has arrived is skipped, only what is missing is moved.</translation>
     </message>
     <message>
-        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
-        <translation>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</translation>
-    </message>
-    <message>
         <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
         <translation>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</translation>
+    </message>
+    <message>
+        <source>[App] %1</source>
+        <translation>[App] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[Setting] %1</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>And %1 more.</translation>
+    </message>
+    <message>
+        <source>1 announced file did not come. The report of %1 names it.</source>
+        <translation>1 announced file did not come. The report of %1 names it.</translation>
+    </message>
+    <message>
+        <source>%1 announced files did not come. The report of %2 names them.</source>
+        <translation>%1 announced files did not come. The report of %2 names them.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list.</source>
+        <translation>Read the reasons in the list.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the report of %1.</source>
+        <translation>Read the reasons in the report of %1.</translation>
+    </message>
+    <message>
+        <source>Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</translation>
     </message>
 </context>
 <context>
@@ -1824,6 +2401,10 @@ The application will restart now.</translation>
     <message>
         <source>sent; what became of it stands in the report of %1</source>
         <translation>sent; what became of it stands in the report of %1</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>sent, but %1 has not confirmed that it arrived</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2737,10 @@ The application will restart now.</translation>
         <source>Scan error: %1</source>
         <translation>Scan error: %1</translation>
     </message>
+    <message>
+        <source>More than one PC shows the code %1: %2</source>
+        <translation>More than one PC shows the code %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::TransferPage</name>
@@ -2202,10 +2787,6 @@ The application will restart now.</translation>
     <message>
         <source>Are you sure you want to cancel the transfer?</source>
         <translation>Are you sure you want to cancel the transfer?</translation>
-    </message>
-    <message>
-        <source>All progress will be lost and incomplete files may remain on the destination.</source>
-        <translation>All progress will be lost and incomplete files may remain on the destination.</translation>
     </message>
     <message>
         <source>Yes, Cancel</source>
@@ -2288,12 +2869,20 @@ The application will restart now.</translation>
         <translation>A transfer is running. Closing the window cancels it.</translation>
     </message>
     <message>
-        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
-        <translation>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</translation>
-    </message>
-    <message>
         <source>Cancel and Close</source>
         <translation>Cancel and Close</translation>
+    </message>
+    <message>
+        <source>Back to selection</source>
+        <translation>Back to selection</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC. A report is left in your documents.</source>
+        <translation>What has arrived stays on the New PC, and nothing is deleted on the Old PC. A report is left in your documents.</translation>
+    </message>
+    <message>
+        <source>All progress will be lost. Files that have arrived stay; nothing incomplete remains.</source>
+        <translation>All progress will be lost. Files that have arrived stay; nothing incomplete remains.</translation>
     </message>
 </context>
 <context>

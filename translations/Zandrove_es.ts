@@ -221,6 +221,10 @@
         <source>Another ticked folder has a file of this name</source>
         <translation>Otra carpeta marcada contiene un archivo con este nombre</translation>
     </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>No se puede acceder</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::AccountScanner</name>
@@ -231,6 +235,25 @@
     <message>
         <source>Enumerating Windows accounts...</source>
         <translation>Enumerando las cuentas de Windows...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Aftermath</name>
+    <message>
+        <source>%1 was lost before it said that this is installed</source>
+        <translation>Se perdió la conexión con %1 antes de que confirmara que se había instalado</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that this is applied</source>
+        <translation>Se perdió la conexión con %1 antes de que confirmara que se había aplicado</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is installed</source>
+        <translation>%1 canceló la transferencia antes de confirmar que se había instalado</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is applied</source>
+        <translation>%1 canceló la transferencia antes de confirmar que se había aplicado</translation>
     </message>
 </context>
 <context>
@@ -394,6 +417,49 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::Notices</name>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1 también está aquí, pero igualmente como PC antiguo: elija «PC nuevo» en uno de los dos</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1 también está aquí, pero igualmente como PC nuevo: elija «PC antiguo» en uno de los dos</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>otro programa</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: this PC hears no other one. End that program, and begin anew.</source>
+        <translation>El puerto %1 está ocupado por %2: este PC no detecta ningún otro. Cierre ese programa y empiece de nuevo.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can reach this one. End that program, and begin anew.</source>
+        <translation>El puerto %1 está ocupado por %2: ningún otro PC puede acceder a este. Cierre ese programa y empiece de nuevo.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can ask this one, which can still ask others.</source>
+        <translation>El puerto %1 está ocupado por %2: ningún otro PC puede enviar solicitudes a este, que sí puede enviarlas a otros.</translation>
+    </message>
+    <message>
+        <source>%1 was not found for 20 seconds. In reach are: %2.</source>
+        <translation>No se ha encontrado %1 en 20 segundos. PC disponibles: %2.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>PC nuevo</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>PC antiguo</translation>
+    </message>
+    <message>
+        <source>Nobody was found for 20 seconds. What to look at, the likeliest first: Zandrove runs on the other PC, as %1; both PCs are in the same network, or joined by a cable; neither of them uses a VPN; their firewalls let TCP port %2 and UDP port %3 in. zandrove-cli diagnose looks for the cause.</source>
+        <translation>No se ha encontrado a nadie en 20 segundos. Qué comprobar, empezando por lo más probable: que Zandrove esté abierto en el otro PC, como «%1»; que los dos PC estén en la misma red o unidos por un cable; que ninguno de ellos use una VPN; que sus firewalls dejen entrar el puerto TCP %2 y el puerto UDP %3. zandrove-cli diagnose busca la causa.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -508,10 +574,6 @@
         <translation>Argumento inesperado: %1. Consulte --help.</translation>
     </message>
     <message>
-        <source>Say receive, send, discover or scan. See --help.</source>
-        <translation>Indique receive, send, discover o scan. Consulte --help.</translation>
-    </message>
-    <message>
         <source>Unknown command %1. See --help.</source>
         <translation>Orden desconocida: %1. Consulte --help.</translation>
     </message>
@@ -552,8 +614,28 @@
         <translation>Escribir el informe de cada transferencia en FILE, en lugar del anterior: una página para leer o, si el nombre termina en .json, JSON.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Códigos de salida: 0 todo se ha transferido o mostrado; 1 la conexión o la ejecución ha fallado o se ha rechazado; 2 uso incorrecto; 3 tiempo de espera agotado; 4 terminado, pero algo ha fallado o ya existía; 130 cancelado con Ctrl-C (se avisa al otro PC; un segundo Ctrl-C termina de inmediato).</translation>
+        <source>The address or host name of a PC that is tried as well.</source>
+        <translation>La dirección o el nombre de host de un PC que también se probará.</translation>
+    </message>
+    <message>
+        <source>What this PC is, to be compared with those that are heard.</source>
+        <translation>La función de este PC, para compararla con la de los PC detectados.</translation>
+    </message>
+    <message>
+        <source>Listen for N seconds; without it, for 5.</source>
+        <translation>Escuchar durante N segundos; si no se indica, durante 5.</translation>
+    </message>
+    <message>
+        <source>Find out why the other PC isn&apos;t found: look at adapters, ports, firewalls and VPNs, and at who is heard and answers. Changes nothing.</source>
+        <translation>Averiguar por qué no se encuentra el otro PC: examinar los adaptadores, los puertos, los firewalls y las VPN, y qué PC se detectan y responden. No cambia nada.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before, or diagnose has found what stands in the way; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Códigos de salida: 0 todo se ha transferido o mostrado; 1 la conexión o la ejecución ha fallado o se ha rechazado; 2 uso incorrecto; 3 tiempo de espera agotado; 4 terminado, pero algo ha fallado o ya existía, o diagnose ha encontrado un obstáculo; 130 cancelado con Ctrl-C (se avisa al otro PC; un segundo Ctrl-C termina de inmediato).</translation>
+    </message>
+    <message>
+        <source>Say receive, send, discover, diagnose or scan. See --help.</source>
+        <translation>Indique receive, send, discover, diagnose o scan. Consulte --help.</translation>
     </message>
 </context>
 <context>
@@ -635,6 +717,10 @@
         <source>%1 ended the transfer.</source>
         <translation>%1 ha finalizado la transferencia.</translation>
     </message>
+    <message>
+        <source>More than one PC goes by %1: %2. Name the one that is meant by its address.</source>
+        <translation>%1 corresponde a más de un PC: %2. Indique la dirección del que desea.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -647,16 +733,24 @@
         <translation>El otro PC no ha finalizado la sesión: es posible que no haya llegado todo.</translation>
     </message>
     <message>
-        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
-        <translation>Hay %1 en camino, pero el espacio libre en %3 es de solo %2: no cabrá todo.</translation>
-    </message>
-    <message>
         <source>No answer from %1 for %2 s</source>
-        <translation>Sin respuesta de %1 desde hace %2 s</translation>
+        <translation>Sin respuesta de %1 desde hace %2&#xa0;s</translation>
     </message>
     <message>
         <source>%1 answers again</source>
         <translation>%1 vuelve a responder</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>Hay %1 en camino, pero el espacio libre en %3 es de solo %2: no cabrá todo.</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that everything is installed.</source>
+        <translation>Se perdió la conexión con %1 antes de que confirmara que todo se había instalado.</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before everything was installed.</source>
+        <translation>%1 canceló la transferencia antes de que todo se hubiera instalado.</translation>
     </message>
 </context>
 <context>
@@ -806,8 +900,32 @@
         <translation>Archivos que han llegado: %1, con error: %2, ya existentes: %3.</translation>
     </message>
     <message>
-        <source>and %1 more</source>
-        <translation>y %1 más</translation>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>aviso</translation>
+    </message>
+    <message>
+        <source>PROBLEM</source>
+        <translation>PROBLEMA</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>Esperando a %1: alguien tiene que pulsar «Sí» allí</translation>
+    </message>
+    <message>
+        <source>Further ones are counted in the report.</source>
+        <translation>Los demás se contabilizan en el informe.</translation>
+    </message>
+    <message>
+        <source>Nothing was found that stands in the way.</source>
+        <translation>No se ha encontrado ningún obstáculo.</translation>
+    </message>
+    <message>
+        <source>Found in the way: %1.</source>
+        <translation>Obstáculos encontrados: %1.</translation>
     </message>
 </context>
 <context>
@@ -875,6 +993,10 @@
     <message>
         <source>%1 of %2 settings did not arrive</source>
         <translation>Opciones de configuración que no han llegado: %1 de %2</translation>
+    </message>
+    <message>
+        <source>Apps and settings were sent. What became of them stands on the page of %1.</source>
+        <translation>Se han enviado aplicaciones y configuración. El resultado figura en la pantalla de %1.</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1125,425 @@ Do you want to accept?</source>
         <source>Their code, character %1</source>
         <translation>Código del otro PC, carácter %1</translation>
     </message>
+    <message>
+        <source>This is the address of this PC.</source>
+        <translation>Esta es la dirección de este PC.</translation>
+    </message>
+    <message>
+        <source>Only IPv4 addresses work here, such as 192.168.1.23.</source>
+        <translation>Aquí solo sirven las direcciones IPv4, como 192.168.1.23.</translation>
+    </message>
+    <message>
+        <source>An address has four numbers from 0 to 255, such as 192.168.1.23.</source>
+        <translation>Una dirección consta de cuatro números del 0 al 255, como 192.168.1.23.</translation>
+    </message>
+    <message>
+        <source>This is not the address of one PC.</source>
+        <translation>Esta no es la dirección de un único PC.</translation>
+    </message>
+    <message>
+        <source>This is neither an address nor the name of a PC.</source>
+        <translation>Esto no es ni una dirección ni el nombre de un PC.</translation>
+    </message>
+    <message>
+        <source>Address or name of the other PC</source>
+        <translation>Dirección o nombre del otro PC</translation>
+    </message>
+    <message>
+        <source>Or Enter Their Address</source>
+        <translation>O escriba la dirección del otro PC</translation>
+    </message>
+    <message>
+        <source>Looking for %1...</source>
+        <translation>Buscando %1...</translation>
+    </message>
+    <message>
+        <source>No PC named %1 was found. Its address may work instead.</source>
+        <translation>No se encontró ningún PC con el nombre %1. Pruebe con su dirección.</translation>
+    </message>
+    <message>
+        <source>%1 has no IPv4 address.</source>
+        <translation>%1 no tiene ninguna dirección IPv4.</translation>
+    </message>
+    <message>
+        <source>Address of this PC: %1</source>
+        <translation>Dirección de este PC: %1</translation>
+    </message>
+    <message>
+        <source>Enter their code instead</source>
+        <translation>Escribir el código del otro PC</translation>
+    </message>
+    <message>
+        <source>Enter an address instead</source>
+        <translation>Escribir una dirección</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>Esperando a %1: alguien tiene que pulsar «Sí» allí</translation>
+    </message>
+    <message>
+        <source>No connection to %1: %2.</source>
+        <translation>No hay conexión con %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its address: %1</source>
+        <translation>Su dirección: %1</translation>
+    </message>
+    <message>
+        <source>Zandrove is open on the other PC too, and shows this page there.</source>
+        <translation>Zandrove también está abierto en el otro PC y muestra allí esta página.</translation>
+    </message>
+    <message>
+        <source>The network cable is plugged in on both PCs, and its lights are on.</source>
+        <translation>El cable de red está conectado a los dos PC y sus luces están encendidas.</translation>
+    </message>
+    <message>
+        <source>Both are in the same network, and neither in a guest Wi-Fi or a VPN.</source>
+        <translation>Los dos están en la misma red y ninguno está en una red Wi-Fi de invitados ni en una VPN.</translation>
+    </message>
+    <message>
+        <source>One of the two is the Old PC, and the other one the New PC.</source>
+        <translation>Uno de los dos es el PC antiguo y el otro, el PC nuevo.</translation>
+    </message>
+    <message>
+        <source>The firewalls of both PCs let Zandrove through.</source>
+        <translation>Los firewalls de los dos PC permiten el paso a Zandrove.</translation>
+    </message>
+    <message>
+        <source>Nobody found yet. Please check, the likeliest first:</source>
+        <translation>Aún no se ha encontrado a nadie. Compruebe lo siguiente, empezando por lo más probable:</translation>
+    </message>
+    <message>
+        <source>Can&apos;t find the other PC?</source>
+        <translation>¿No encuentra el otro PC?</translation>
+    </message>
+    <message>
+        <source>Back to the devices</source>
+        <translation>Volver a los dispositivos</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>Comprobar de nuevo</translation>
+    </message>
+    <message>
+        <source>Looking at this PC and its network. This takes some seconds...</source>
+        <translation>Examinando este PC y su red. Tardará unos segundos...</translation>
+    </message>
+    <message>
+        <source>Nothing was found here that stands in the way. Please check on the other PC as well.</source>
+        <translation>Aquí no se ha encontrado ningún obstáculo. Compruebe también el otro PC.</translation>
+    </message>
+    <message>
+        <source>What is marked with ✗ stands in the way.</source>
+        <translation>Lo marcado con ✗ impide la conexión.</translation>
+    </message>
+    <message>
+        <source>another program, maybe a second Zandrove</source>
+        <translation>otro programa, quizá otro Zandrove</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so no other PC can connect to this one. Please close that program, then try again.</source>
+        <translation>El puerto %1 está ocupado por %2, por lo que ningún otro PC puede conectarse a este. Cierre ese programa y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so this PC does not hear other PCs. Please close that program, then try again.</source>
+        <translation>El puerto %1 está ocupado por %2, por lo que este PC no detecta otros PC. Cierre ese programa y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1 también está aquí, pero igualmente como PC antiguo: elija «PC nuevo» en uno de los dos</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1 también está aquí, pero igualmente como PC nuevo: elija «PC antiguo» en uno de los dos</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Reintentar</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Diagnosis</name>
+    <message>
+        <source>wired</source>
+        <translation>por cable</translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>virtual</source>
+        <translation>virtual</translation>
+    </message>
+    <message>
+        <source>VPN</source>
+        <translation>VPN</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2.</source>
+        <translation>%1 tiene la dirección %2.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but is connected to nothing.</source>
+        <translation>%1 tiene la dirección %2, pero no está conectado a nada.</translation>
+    </message>
+    <message>
+        <source>Plug in its cable, or join a network with it.</source>
+        <translation>Conecte su cable o conéctelo a una red.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but no broadcast can leave by it: %3.</source>
+        <translation>%1 tiene la dirección %2, pero no puede enviar ninguna difusión: %3.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps Zandrove from sending.</source>
+        <translation>Busque en este PC un firewall o programa de seguridad que impida enviar a Zandrove.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, and broadcasts leave by it.</source>
+        <translation>%1 tiene la dirección %2 y envía difusiones.</translation>
+    </message>
+    <message>
+        <source>%1 is connected, but has no address yet.</source>
+        <translation>%1 está conectado, pero aún no tiene dirección.</translation>
+    </message>
+    <message>
+        <source>Wait a minute. If none comes, see whether the router is on; over a direct cable, set this connection to link-local addresses.</source>
+        <translation>Espere un minuto. Si no recibe ninguna, compruebe que el router esté encendido; con un cable directo, configure esta conexión para usar direcciones de enlace local.</translation>
+    </message>
+    <message>
+        <source>%1 is connected to nothing.</source>
+        <translation>%1 no está conectado a nada.</translation>
+    </message>
+    <message>
+        <source>This PC has only an address that it gave itself, %1.</source>
+        <translation>Este PC solo tiene una dirección que se ha asignado él mismo, %1.</translation>
+    </message>
+    <message>
+        <source>Over a direct cable that is as it should be: choose Cable Mode on both PCs. In a network, see whether the router is on.</source>
+        <translation>Con un cable directo, es lo normal: elija «Modo de cable» en los dos PC. En una red, compruebe que el router esté encendido.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is meant for the network %2 of %3.</source>
+        <translation>La VPN %1 desvía lo que va destinado a la red %2 de %3.</translation>
+    </message>
+    <message>
+        <source>Disconnect the VPN until everything has moved.</source>
+        <translation>Desconecte la VPN hasta que se haya transferido todo.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is not for a local network.</source>
+        <translation>La VPN %1 desvía lo que no va destinado a una red local.</translation>
+    </message>
+    <message>
+        <source>Disconnect it if the PCs don&apos;t find each other: many a VPN keeps its PC away from the local network.</source>
+        <translation>Desconéctela si los PC no se encuentran: muchas VPN aíslan el PC de la red local.</translation>
+    </message>
+    <message>
+        <source>This PC is in no network.</source>
+        <translation>Este PC no está en ninguna red.</translation>
+    </message>
+    <message>
+        <source>Plug in a cable, or join a Wi-Fi.</source>
+        <translation>Conecte un cable o únase a una red Wi-Fi.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>PC nuevo</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>PC antiguo</translation>
+    </message>
+    <message>
+        <source>What is meant for it leaves by the VPN %1: disconnect that first.</source>
+        <translation>Lo que va destinado a ese PC sale por la VPN %1: desconéctela primero.</translation>
+    </message>
+    <message>
+        <source>Run this diagnosis on %1: its port may be taken there, or its firewall turns connections away.</source>
+        <translation>Ejecute este diagnóstico en %1: puede que allí el puerto esté ocupado o que el firewall rechace las conexiones.</translation>
+    </message>
+    <message>
+        <source>Let Zandrove through the firewall of %1: TCP port %2.</source>
+        <translation>Permita el paso a Zandrove en el firewall de %1: puerto TCP %2.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but refuses connections on TCP port %4.</source>
+        <translation>%1 (%2) se anuncia como «%3», pero rechaza las conexiones en el puerto TCP %4.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but can&apos;t be connected to: %4.</source>
+        <translation>%1 (%2) se anuncia como «%3», pero no es posible conectarse a él: %4.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but does not answer on TCP port %4.</source>
+        <translation>%1 (%2) se anuncia como «%3», pero no responde en el puerto TCP %4.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as %2.</source>
+        <translation>%1 también está aquí, pero igualmente como «%2».</translation>
+    </message>
+    <message>
+        <source>Choose %1 on one of the two.</source>
+        <translation>Elija «%1» en uno de los dos.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, and answers.</source>
+        <translation>%1 (%2) se anuncia como «%3» y responde.</translation>
+    </message>
+    <message>
+        <source>Nobody here knows a PC by the name %1.</source>
+        <translation>Aquí nadie conoce ningún PC con el nombre %1.</translation>
+    </message>
+    <message>
+        <source>Give its address instead; its page of connections shows it.</source>
+        <translation>Indique su dirección; la muestra su página de conexión.</translation>
+    </message>
+    <message>
+        <source>%1 is this PC itself.</source>
+        <translation>%1 es este mismo PC.</translation>
+    </message>
+    <message>
+        <source>Give the address of the other PC.</source>
+        <translation>Indique la dirección del otro PC.</translation>
+    </message>
+    <message>
+        <source>%1 answers on TCP port %2, but is not heard on UDP port %3.</source>
+        <translation>%1 responde en el puerto TCP %2, pero no se detecta en el puerto UDP %3.</translation>
+    </message>
+    <message>
+        <source>Open the page of connections there, and UDP port %1 in the firewalls of both PCs; or connect by the address.</source>
+        <translation>Abra allí la página de conexión, y el puerto UDP %1 en los firewalls de los dos PC; o conéctese mediante la dirección.</translation>
+    </message>
+    <message>
+        <source>%1 is there, but refuses connections on TCP port %2.</source>
+        <translation>%1 está ahí, pero rechaza las conexiones en el puerto TCP %2.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove there, up to its page of connections.</source>
+        <translation>Abra Zandrove allí, hasta llegar a la página de conexión.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be connected to: %2.</source>
+        <translation>No es posible conectarse a %1: %2.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, and both PCs are in the same network.</source>
+        <translation>Compruebe que la dirección sea correcta y que los dos PC estén en la misma red.</translation>
+    </message>
+    <message>
+        <source>%1 does not answer on TCP port %2, and is not heard.</source>
+        <translation>%1 no responde en el puerto TCP %2 y no se detecta.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, that PC on, and its firewall open for Zandrove.</source>
+        <translation>Compruebe que la dirección sea correcta, que ese PC esté encendido y que su firewall permita el paso a Zandrove.</translation>
+    </message>
+    <message>
+        <source>This PC doesn&apos;t hear its own broadcasts on %1.</source>
+        <translation>Este PC no recibe sus propias difusiones en %1.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps out UDP port %1.</source>
+        <translation>Busque en este PC un firewall o programa de seguridad que bloquee el puerto UDP %1.</translation>
+    </message>
+    <message>
+        <source>Nobody has answered on %1, and it has no router.</source>
+        <translation>Nadie ha respondido en %1, que no tiene router.</translation>
+    </message>
+    <message>
+        <source>If the other PC should be there, see whether its end of the cable, or its network, is on.</source>
+        <translation>Si el otro PC debería estar ahí, compruebe que su extremo del cable o su red estén activos.</translation>
+    </message>
+    <message>
+        <source>No other PC was heard within %1 s.</source>
+        <translation>No se ha detectado ningún otro PC en %1 s.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove on the other PC, up to its page of connections, and put both PCs into the same network.</source>
+        <translation>Abra Zandrove en el otro PC, hasta llegar a la página de conexión, y conecte los dos PC a la misma red.</translation>
+    </message>
+    <message>
+        <source>TCP port %1</source>
+        <translation>puerto TCP %1</translation>
+    </message>
+    <message>
+        <source>UDP port %1</source>
+        <translation>puerto UDP %1</translation>
+    </message>
+    <message>
+        <source>%1 is free.</source>
+        <translation>El %1 está libre.</translation>
+    </message>
+    <message>
+        <source>%1 is held by Zandrove, as it should be.</source>
+        <translation>El %1 está en uso por Zandrove, como debe ser.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program.</source>
+        <translation>El %1 está ocupado por otro programa.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by %2.</source>
+        <translation>El %1 está ocupado por %2.</translation>
+    </message>
+    <message>
+        <source>Find out which one it is, close it, and start Zandrove anew.</source>
+        <translation>Averigüe cuál es, ciérrelo y vuelva a iniciar Zandrove.</translation>
+    </message>
+    <message>
+        <source>Close that program, and start Zandrove anew.</source>
+        <translation>Cierre ese programa y vuelva a iniciar Zandrove.</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 y el %2</translation>
+    </message>
+    <message>
+        <source>%1 is on, and lets both ports in.</source>
+        <translation>%1 está activado y deja entrar los dos puertos.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and keeps out %2.</source>
+        <translation>%1 está activado y bloquea el %2.</translation>
+    </message>
+    <message>
+        <source>Have it let both ports in.</source>
+        <translation>Configúrelo para que deje entrar los dos puertos.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and it depends on the sender, or on rules that can&apos;t be judged here, whether it lets both ports in.</source>
+        <translation>%1 está activado y que deje entrar los dos puertos depende del remitente o de reglas que no se pueden evaluar aquí.</translation>
+    </message>
+    <message>
+        <source>See whether its rules let in %1 and %2.</source>
+        <translation>Compruebe que sus reglas dejen entrar el %1 y el %2.</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be read without administrator rights.</source>
+        <translation>%1 no se ha podido consultar sin derechos de administrador.</translation>
+    </message>
+    <message>
+        <source>%1 gave no answer that could be read.</source>
+        <translation>%1 no ha dado ninguna respuesta legible.</translation>
+    </message>
+    <message>
+        <source>%1 is off.</source>
+        <translation>%1 está desactivado.</translation>
+    </message>
+    <message>
+        <source>No firewall was found of those that can be asked.</source>
+        <translation>No se ha encontrado ninguno de los firewalls que se pueden consultar.</translation>
+    </message>
+    <message>
+        <source>The system treats the network %1 as public.</source>
+        <translation>El sistema considera pública la red %1.</translation>
+    </message>
+    <message>
+        <source>If it is your own, set it to private in the network settings.</source>
+        <translation>Si es su propia red, márquela como privada en la configuración de red.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::FileBrowserWidget</name>
@@ -1128,6 +1669,41 @@ Do you want to accept?</source>
     </message>
 </context>
 <context>
+    <name>Zandrove::FindingRow</name>
+    <message>
+        <source>As it should be</source>
+        <translation>Correcto</translation>
+    </message>
+    <message>
+        <source>May matter</source>
+        <translation>Puede influir</translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>Impide la conexión</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copiado</translation>
+    </message>
+    <message>
+        <source>Run as administrator</source>
+        <translation>Ejecutar como administrador</translation>
+    </message>
+    <message>
+        <source>Done. Please check again.</source>
+        <translation>Hecho. Compruebe de nuevo.</translation>
+    </message>
+    <message>
+        <source>That did not work.</source>
+        <translation>No ha funcionado.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::FolderListItem</name>
     <message>
         <source>%1 files, %2</source>
@@ -1167,11 +1743,11 @@ Copie el vínculo y ábralo manualmente:
     <name>Zandrove::LinkWatch</name>
     <message>
         <source>No answer from the other PC for %1 s</source>
-        <translation>Sin respuesta del otro PC desde hace %1 s</translation>
+        <translation>Sin respuesta del otro PC desde hace %1&#xa0;s</translation>
     </message>
     <message>
         <source>No answer from %1 for %2 s</source>
-        <translation>Sin respuesta de %1 desde hace %2 s</translation>
+        <translation>Sin respuesta de %1 desde hace %2&#xa0;s</translation>
     </message>
     <message>
         <source>The connection to %1 is lost.</source>
@@ -1258,17 +1834,6 @@ La aplicación se reiniciará ahora.</translation>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationRun</name>
-    <message>
-        <source>[App] %1</source>
-        <translation>[Aplicación] %1</translation>
-    </message>
-    <message>
-        <source>[Setting] %1</source>
-        <translation>[Configuración] %1</translation>
-    </message>
-</context>
-<context>
     <name>Zandrove::MissingItems</name>
     <message>
         <source>Did not arrive</source>
@@ -1287,16 +1852,8 @@ La aplicación se reiniciará ahora.</translation>
         <translation>Guardar el informe…</translation>
     </message>
     <message>
-        <source>And %1 more.</source>
-        <translation>Y %1 más.</translation>
-    </message>
-    <message>
         <source>The list is on the clipboard.</source>
         <translation>La lista está en el Portapapeles.</translation>
-    </message>
-    <message>
-        <source>Zandrove report</source>
-        <translation>Informe de Zandrove</translation>
     </message>
     <message>
         <source>Save report</source>
@@ -1377,6 +1934,10 @@ La aplicación se reiniciará ahora.</translation>
         <source>the link was lost</source>
         <translation>se ha perdido la conexión</translation>
     </message>
+    <message>
+        <source>its installation was stopped at %1 %</source>
+        <translation>su instalación se interrumpió al %1 %</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::ReplacingFile</name>
@@ -1432,14 +1993,6 @@ La aplicación se reiniciará ahora.</translation>
         <translation>Configuración</translation>
     </message>
     <message>
-        <source>There already</source>
-        <translation>Ya existía</translation>
-    </message>
-    <message>
-        <source>There, but different</source>
-        <translation>Existía, pero distinto</translation>
-    </message>
-    <message>
         <source>Failed</source>
         <translation>Con error</translation>
     </message>
@@ -1484,32 +2037,12 @@ La aplicación se reiniciará ahora.</translation>
         <translation>Resultado</translation>
     </message>
     <message>
-        <source>%1 files, which only the report of the Old PC can name.</source>
-        <translation>Archivos: %1; solo el informe del PC antiguo puede dar los nombres.</translation>
-    </message>
-    <message>
-        <source>And %1 more, which only the report of the Old PC can name.</source>
-        <translation>Y %1 más; solo el informe del PC antiguo puede dar los nombres.</translation>
-    </message>
-    <message>
-        <source>%1 files.</source>
-        <translation>Archivos: %1.</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>Y %1 más.</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>Archivo</translation>
     </message>
     <message>
         <source>Reason</source>
         <translation>Motivo</translation>
-    </message>
-    <message>
-        <source>%1 were there already.</source>
-        <translation>Ya existentes: %1.</translation>
     </message>
     <message>
         <source>en</source>
@@ -1539,6 +2072,22 @@ La aplicación se reiniciará ahora.</translation>
     <message>
         <source>it is no ordinary file</source>
         <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>There already, identical</source>
+        <translation>Ya existía, idéntico</translation>
+    </message>
+    <message>
+        <source>There already, and different</source>
+        <translation>Ya existía, pero distinto</translation>
+    </message>
+    <message>
+        <source>%1 were there already, identical.</source>
+        <translation>Ya existentes, idénticos: %1.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Informe de Zandrove</translation>
     </message>
 </context>
 <context>
@@ -1697,12 +2246,40 @@ La aplicación se reiniciará ahora.</translation>
         <translation>Vuelva a conectar los dos PC e inicie la misma transferencia: lo que ya ha llegado se omite y solo se transfiere lo que falta.</translation>
     </message>
     <message>
-        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
-        <translation>Lea los motivos en la lista. Cuando estén resueltos, inicie de nuevo la misma transferencia: lo que ya ha llegado se omite y solo se transfiere lo que falta.</translation>
-    </message>
-    <message>
         <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
         <translation>Conserve el PC antiguo tal como está hasta que no falte nada. En él no se ha eliminado nada.</translation>
+    </message>
+    <message>
+        <source>[App] %1</source>
+        <translation>[Aplicación] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[Configuración] %1</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Y %1 más.</translation>
+    </message>
+    <message>
+        <source>1 announced file did not come. The report of %1 names it.</source>
+        <translation>No ha llegado 1 archivo anunciado. El informe de %1 indica cuál es.</translation>
+    </message>
+    <message>
+        <source>%1 announced files did not come. The report of %2 names them.</source>
+        <translation>No han llegado %1 archivos anunciados. El informe de %2 indica cuáles son.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list.</source>
+        <translation>Lea los motivos en la lista.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the report of %1.</source>
+        <translation>Lea los motivos en el informe de %1.</translation>
+    </message>
+    <message>
+        <source>Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Cuando estén resueltos, inicie de nuevo la misma transferencia: lo que ya ha llegado se omite y solo se transfiere lo que falta.</translation>
     </message>
 </context>
 <context>
@@ -1824,6 +2401,10 @@ La aplicación se reiniciará ahora.</translation>
     <message>
         <source>sent; what became of it stands in the report of %1</source>
         <translation>se ha enviado; el resultado figura en el informe de %1</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>se ha enviado, pero %1 no ha confirmado que haya llegado</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2737,10 @@ La aplicación se reiniciará ahora.</translation>
         <source>Scan error: %1</source>
         <translation>Error de análisis: %1</translation>
     </message>
+    <message>
+        <source>More than one PC shows the code %1: %2</source>
+        <translation>Hay más de un PC que muestra el código %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::TransferPage</name>
@@ -2202,10 +2787,6 @@ La aplicación se reiniciará ahora.</translation>
     <message>
         <source>Are you sure you want to cancel the transfer?</source>
         <translation>¿Seguro que desea cancelar la transferencia?</translation>
-    </message>
-    <message>
-        <source>All progress will be lost and incomplete files may remain on the destination.</source>
-        <translation>Se perderá todo el progreso y podrían quedar archivos incompletos en el destino.</translation>
     </message>
     <message>
         <source>Yes, Cancel</source>
@@ -2273,7 +2854,7 @@ La aplicación se reiniciará ahora.</translation>
     </message>
     <message>
         <source>Installing %1 - %2 %</source>
-        <translation>Instalando %1 – %2 %</translation>
+        <translation>Instalando %1 – %2&#xa0;%</translation>
     </message>
     <message>
         <source>%1 is installing...</source>
@@ -2288,12 +2869,20 @@ La aplicación se reiniciará ahora.</translation>
         <translation>Hay una transferencia en curso. Si cierra la ventana, se cancelará.</translation>
     </message>
     <message>
-        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
-        <translation>Lo que ha llegado se queda en el PC nuevo y en el PC antiguo no se elimina nada.</translation>
-    </message>
-    <message>
         <source>Cancel and Close</source>
         <translation>Cancelar y cerrar</translation>
+    </message>
+    <message>
+        <source>Back to selection</source>
+        <translation>Volver a la selección</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC. A report is left in your documents.</source>
+        <translation>Lo que ha llegado se queda en el PC nuevo y en el PC antiguo no se elimina nada. Se guarda un informe en su carpeta de documentos.</translation>
+    </message>
+    <message>
+        <source>All progress will be lost. Files that have arrived stay; nothing incomplete remains.</source>
+        <translation>Se perderá todo el progreso. Los archivos que han llegado se conservan; no queda nada incompleto.</translation>
     </message>
 </context>
 <context>

@@ -211,7 +211,7 @@
     </message>
     <message>
         <source>Cannot list folder: %1</source>
-        <translation>Impossible de lire le contenu du dossier : %1</translation>
+        <translation>Impossible de lire le contenu du dossier&#xa0;: %1</translation>
     </message>
     <message>
         <source>Its path contains a backslash, which separates folders on the New PC</source>
@@ -220,6 +220,10 @@
     <message>
         <source>Another ticked folder has a file of this name</source>
         <translation>Un autre dossier coché contient un fichier de ce nom</translation>
+    </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>Inaccessible</translation>
     </message>
 </context>
 <context>
@@ -231,6 +235,25 @@
     <message>
         <source>Enumerating Windows accounts...</source>
         <translation>Recensement des comptes Windows...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Aftermath</name>
+    <message>
+        <source>%1 was lost before it said that this is installed</source>
+        <translation>La connexion avec %1 a été perdue avant la confirmation de l’installation</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that this is applied</source>
+        <translation>La connexion avec %1 a été perdue avant la confirmation de l’application du paramètre</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is installed</source>
+        <translation>%1 a annulé le transfert avant de confirmer l’installation</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is applied</source>
+        <translation>%1 a annulé le transfert avant de confirmer l’application du paramètre</translation>
     </message>
 </context>
 <context>
@@ -261,7 +284,7 @@
     </message>
     <message>
         <source>Stopped: %1 of %2 files copied</source>
-        <translation>Installation interrompue, fichiers copiés : %1 sur %2</translation>
+        <translation>Installation interrompue, fichiers copiés&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>Stopped before all of its keys and shortcuts were there</source>
@@ -269,11 +292,11 @@
     </message>
     <message>
         <source>Files of %1 that did not arrive: %2</source>
-        <translation>Fichiers de %1 qui ne sont pas arrivés : %2</translation>
+        <translation>Fichiers de %1 qui ne sont pas arrivés&#xa0;: %2</translation>
     </message>
     <message>
         <source>Files that could not be copied: %1 of %2 (%3: %4)</source>
-        <translation>Fichiers qui n’ont pas pu être copiés : %1 sur %2 (%3 : %4)</translation>
+        <translation>Fichiers qui n’ont pas pu être copiés&#xa0;: %1 sur %2 (%3&#xa0;: %4)</translation>
     </message>
 </context>
 <context>
@@ -394,6 +417,49 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::Notices</name>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1 est là aussi, mais également comme Ancien PC : choisissez Nouveau PC sur l’un des deux</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1 est là aussi, mais également comme Nouveau PC : choisissez Ancien PC sur l’un des deux</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>un autre programme</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: this PC hears no other one. End that program, and begin anew.</source>
+        <translation>Le port %1 est occupé par %2 : ce PC n’entend aucun autre PC. Fermez ce programme, puis recommencez.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can reach this one. End that program, and begin anew.</source>
+        <translation>Le port %1 est occupé par %2 : aucun autre PC ne peut joindre celui-ci. Fermez ce programme, puis recommencez.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can ask this one, which can still ask others.</source>
+        <translation>Le port %1 est occupé par %2 : aucun autre PC ne peut adresser de demande à celui-ci, qui peut encore en adresser aux autres.</translation>
+    </message>
+    <message>
+        <source>%1 was not found for 20 seconds. In reach are: %2.</source>
+        <translation>%1 est resté introuvable pendant 20 secondes. À portée : %2.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>Nouveau PC</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>Ancien PC</translation>
+    </message>
+    <message>
+        <source>Nobody was found for 20 seconds. What to look at, the likeliest first: Zandrove runs on the other PC, as %1; both PCs are in the same network, or joined by a cable; neither of them uses a VPN; their firewalls let TCP port %2 and UDP port %3 in. zandrove-cli diagnose looks for the cause.</source>
+        <translation>Personne n’a été trouvé en 20 secondes. À vérifier, en commençant par le plus probable : Zandrove est ouvert sur l’autre PC, comme %1 ; les deux PC sont sur le même réseau ou reliés par un câble ; aucun des deux n’utilise de VPN ; leurs pare-feu laissent entrer le port TCP %2 et le port UDP %3. zandrove-cli diagnose recherche la cause.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -508,10 +574,6 @@
         <translation>Argument inattendu&#xa0;: %1. Voir --help.</translation>
     </message>
     <message>
-        <source>Say receive, send, discover or scan. See --help.</source>
-        <translation>Indiquez receive, send, discover ou scan. Voir --help.</translation>
-    </message>
-    <message>
         <source>Unknown command %1. See --help.</source>
         <translation>Commande inconnue&#xa0;: %1. Voir --help.</translation>
     </message>
@@ -549,25 +611,45 @@
     </message>
     <message>
         <source>Write the report of each transfer to FILE, in place of the one before: a page to read or, for a name that ends in .json, JSON.</source>
-        <translation>Écrire le rapport de chaque transfert dans FILE, à la place du précédent : une page à lire ou, si le nom se termine par .json, du JSON.</translation>
+        <translation>Écrire le rapport de chaque transfert dans FILE, à la place du précédent&#xa0;: une page à lire ou, si le nom se termine par .json, du JSON.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Codes de sortie : 0 tout a été transféré ou affiché ; 1 la connexion ou l’exécution a échoué ou a été refusée ; 2 utilisation incorrecte ; 3 délai dépassé ; 4 terminé, mais des éléments ont échoué ou existaient déjà ; 130 annulé par Ctrl-C (l’autre PC en est informé ; un second Ctrl-C arrête immédiatement).</translation>
+        <source>The address or host name of a PC that is tried as well.</source>
+        <translation>L’adresse ou le nom d’hôte d’un PC à essayer également.</translation>
+    </message>
+    <message>
+        <source>What this PC is, to be compared with those that are heard.</source>
+        <translation>Le rôle de ce PC, à comparer avec celui des PC entendus.</translation>
+    </message>
+    <message>
+        <source>Listen for N seconds; without it, for 5.</source>
+        <translation>Écouter pendant N secondes ; sans cette option, pendant 5.</translation>
+    </message>
+    <message>
+        <source>Find out why the other PC isn&apos;t found: look at adapters, ports, firewalls and VPNs, and at who is heard and answers. Changes nothing.</source>
+        <translation>Chercher pourquoi l’autre PC est introuvable : examiner les cartes réseau, les ports, les pare-feu et les VPN, et voir quels PC sont entendus et répondent. Ne modifie rien.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before, or diagnose has found what stands in the way; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Codes de sortie : 0 tout a été transféré ou affiché ; 1 la connexion ou l’exécution a échoué ou a été refusée ; 2 utilisation incorrecte ; 3 délai dépassé ; 4 terminé, mais des éléments ont échoué ou existaient déjà, ou diagnose a trouvé un obstacle ; 130 annulé par Ctrl-C (l’autre PC en est informé ; un second Ctrl-C arrête immédiatement).</translation>
+    </message>
+    <message>
+        <source>Say receive, send, discover, diagnose or scan. See --help.</source>
+        <translation>Indiquez receive, send, discover, diagnose ou scan. Voir --help.</translation>
     </message>
 </context>
 <context>
     <name>Zandrove::Cli::Output</name>
     <message>
         <source>Allow %1 (%2) to connect? [y/N] </source>
-        <translation>Autoriser %1 (%2) à se connecter ? [y/N] </translation>
+        <translation>Autoriser %1 (%2) à se connecter&#xa0;? [y/N] </translation>
     </message>
 </context>
 <context>
     <name>Zandrove::Cli::Program</name>
     <message>
         <source>The report can&apos;t be written: %1 is a folder.</source>
-        <translation>Impossible d’écrire le rapport : %1 est un dossier.</translation>
+        <translation>Impossible d’écrire le rapport&#xa0;: %1 est un dossier.</translation>
     </message>
 </context>
 <context>
@@ -635,6 +717,10 @@
         <source>%1 ended the transfer.</source>
         <translation>%1 a mis fin au transfert.</translation>
     </message>
+    <message>
+        <source>More than one PC goes by %1: %2. Name the one that is meant by its address.</source>
+        <translation>Plusieurs PC répondent à %1 : %2. Désignez celui que vous voulez par son adresse.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -647,16 +733,24 @@
         <translation>L’autre PC n’a pas mis fin à la session&#xa0;: il se peut que tout ne soit pas arrivé.</translation>
     </message>
     <message>
-        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
-        <translation>Le transfert compte %1, mais il n’y a que %2 de libre sur %3 : tout ne tiendra pas.</translation>
-    </message>
-    <message>
         <source>No answer from %1 for %2 s</source>
-        <translation>Aucune réponse de %1 depuis %2 s</translation>
+        <translation>Aucune réponse de %1 depuis %2&#xa0;s</translation>
     </message>
     <message>
         <source>%1 answers again</source>
         <translation>%1 répond à nouveau</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>Le transfert compte %1, mais il n’y a que %2 de libre sur %3 : tout ne tiendra pas.</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that everything is installed.</source>
+        <translation>La connexion avec %1 a été perdue avant la confirmation que tout est installé.</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before everything was installed.</source>
+        <translation>%1 a annulé le transfert avant que tout soit installé.</translation>
     </message>
 </context>
 <context>
@@ -803,11 +897,35 @@
     </message>
     <message>
         <source>Files: %1 arrived, %2 failed, %3 were there before.</source>
-        <translation>Fichiers arrivés : %1, en échec : %2, existant déjà : %3.</translation>
+        <translation>Fichiers arrivés&#xa0;: %1, en échec&#xa0;: %2, existant déjà&#xa0;: %3.</translation>
     </message>
     <message>
-        <source>and %1 more</source>
-        <translation>et %1 de plus</translation>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>conseil</translation>
+    </message>
+    <message>
+        <source>PROBLEM</source>
+        <translation>PROBLÈME</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>En attente de %1 : quelqu’un doit y appuyer sur Oui</translation>
+    </message>
+    <message>
+        <source>Further ones are counted in the report.</source>
+        <translation>Les suivants sont comptés dans le rapport.</translation>
+    </message>
+    <message>
+        <source>Nothing was found that stands in the way.</source>
+        <translation>Aucun obstacle trouvé.</translation>
+    </message>
+    <message>
+        <source>Found in the way: %1.</source>
+        <translation>Obstacles trouvés : %1.</translation>
     </message>
 </context>
 <context>
@@ -866,15 +984,19 @@
     </message>
     <message>
         <source>Files: %1 arrived, %2 were there already and identical, %3 were there already and different, %4 failed or are not confirmed</source>
-        <translation>Fichiers arrivés : %1, existant déjà à l’identique : %2, existant déjà avec un autre contenu : %3, en échec ou non confirmés : %4</translation>
+        <translation>Fichiers arrivés&#xa0;: %1, existant déjà à l’identique&#xa0;: %2, existant déjà avec un autre contenu&#xa0;: %3, en échec ou non confirmés&#xa0;: %4</translation>
     </message>
     <message>
         <source>%1 of %2 apps did not arrive</source>
-        <translation>Applications non arrivées : %1 sur %2</translation>
+        <translation>Applications non arrivées&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>%1 of %2 settings did not arrive</source>
-        <translation>Paramètres non arrivés : %1 sur %2</translation>
+        <translation>Paramètres non arrivés&#xa0;: %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Apps and settings were sent. What became of them stands on the page of %1.</source>
+        <translation>Les applications et les paramètres ont été envoyés. Le résultat figure sur la page de %1.</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1125,425 @@ Voulez-vous accepter cette demande&#xa0;?</translation>
         <source>Their code, character %1</source>
         <translation>Code de l’autre PC, caractère %1</translation>
     </message>
+    <message>
+        <source>This is the address of this PC.</source>
+        <translation>C’est l’adresse de ce PC.</translation>
+    </message>
+    <message>
+        <source>Only IPv4 addresses work here, such as 192.168.1.23.</source>
+        <translation>Seules les adresses IPv4 fonctionnent ici, par exemple 192.168.1.23.</translation>
+    </message>
+    <message>
+        <source>An address has four numbers from 0 to 255, such as 192.168.1.23.</source>
+        <translation>Une adresse comporte quatre nombres de 0 à 255, par exemple 192.168.1.23.</translation>
+    </message>
+    <message>
+        <source>This is not the address of one PC.</source>
+        <translation>Ce n’est pas l’adresse d’un PC en particulier.</translation>
+    </message>
+    <message>
+        <source>This is neither an address nor the name of a PC.</source>
+        <translation>Ce n’est ni une adresse ni le nom d’un PC.</translation>
+    </message>
+    <message>
+        <source>Address or name of the other PC</source>
+        <translation>Adresse ou nom de l’autre PC</translation>
+    </message>
+    <message>
+        <source>Or Enter Their Address</source>
+        <translation>Ou saisissez l’adresse de l’autre PC</translation>
+    </message>
+    <message>
+        <source>Looking for %1...</source>
+        <translation>Recherche de %1...</translation>
+    </message>
+    <message>
+        <source>No PC named %1 was found. Its address may work instead.</source>
+        <translation>Aucun PC nommé %1 n’a été trouvé. Essayez plutôt son adresse.</translation>
+    </message>
+    <message>
+        <source>%1 has no IPv4 address.</source>
+        <translation>%1 n’a pas d’adresse IPv4.</translation>
+    </message>
+    <message>
+        <source>Address of this PC: %1</source>
+        <translation>Adresse de ce PC : %1</translation>
+    </message>
+    <message>
+        <source>Enter their code instead</source>
+        <translation>Saisir plutôt le code</translation>
+    </message>
+    <message>
+        <source>Enter an address instead</source>
+        <translation>Saisir plutôt une adresse</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>En attente de %1 : quelqu’un doit y appuyer sur Oui</translation>
+    </message>
+    <message>
+        <source>No connection to %1: %2.</source>
+        <translation>Pas de connexion avec %1 : %2.</translation>
+    </message>
+    <message>
+        <source>Its address: %1</source>
+        <translation>Son adresse : %1</translation>
+    </message>
+    <message>
+        <source>Zandrove is open on the other PC too, and shows this page there.</source>
+        <translation>Zandrove est ouvert aussi sur l’autre PC et y affiche cette page.</translation>
+    </message>
+    <message>
+        <source>The network cable is plugged in on both PCs, and its lights are on.</source>
+        <translation>Le câble réseau est branché sur les deux PC, et ses voyants sont allumés.</translation>
+    </message>
+    <message>
+        <source>Both are in the same network, and neither in a guest Wi-Fi or a VPN.</source>
+        <translation>Les deux PC sont sur le même réseau, et aucun n’est sur un Wi-Fi invité ni sur un VPN.</translation>
+    </message>
+    <message>
+        <source>One of the two is the Old PC, and the other one the New PC.</source>
+        <translation>L’un des deux est l’Ancien PC, l’autre le Nouveau PC.</translation>
+    </message>
+    <message>
+        <source>The firewalls of both PCs let Zandrove through.</source>
+        <translation>Les pare-feu des deux PC laissent passer Zandrove.</translation>
+    </message>
+    <message>
+        <source>Nobody found yet. Please check, the likeliest first:</source>
+        <translation>Personne pour l’instant. Vérifiez, en commençant par le plus probable :</translation>
+    </message>
+    <message>
+        <source>Can&apos;t find the other PC?</source>
+        <translation>L’autre PC est introuvable ?</translation>
+    </message>
+    <message>
+        <source>Back to the devices</source>
+        <translation>Retour aux appareils</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>Vérifier à nouveau</translation>
+    </message>
+    <message>
+        <source>Looking at this PC and its network. This takes some seconds...</source>
+        <translation>Examen de ce PC et de son réseau. Cela prend quelques secondes...</translation>
+    </message>
+    <message>
+        <source>Nothing was found here that stands in the way. Please check on the other PC as well.</source>
+        <translation>Aucun obstacle trouvé ici. Vérifiez aussi sur l’autre PC.</translation>
+    </message>
+    <message>
+        <source>What is marked with ✗ stands in the way.</source>
+        <translation>Ce qui est marqué d’un ✗ fait obstacle.</translation>
+    </message>
+    <message>
+        <source>another program, maybe a second Zandrove</source>
+        <translation>un autre programme, peut-être un second Zandrove</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so no other PC can connect to this one. Please close that program, then try again.</source>
+        <translation>Le port %1 est occupé par %2 : aucun autre PC ne peut donc se connecter à celui-ci. Fermez ce programme, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so this PC does not hear other PCs. Please close that program, then try again.</source>
+        <translation>Le port %1 est occupé par %2 : ce PC n’entend donc pas les autres. Fermez ce programme, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1 est là aussi, mais également comme Ancien PC : choisissez Nouveau PC sur l’un des deux</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1 est là aussi, mais également comme Nouveau PC : choisissez Ancien PC sur l’un des deux</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Diagnosis</name>
+    <message>
+        <source>wired</source>
+        <translation>filaire</translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>virtual</source>
+        <translation>virtuel</translation>
+    </message>
+    <message>
+        <source>VPN</source>
+        <translation>VPN</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2.</source>
+        <translation>%1 a l’adresse %2.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but is connected to nothing.</source>
+        <translation>%1 a l’adresse %2, mais n’est relié à rien.</translation>
+    </message>
+    <message>
+        <source>Plug in its cable, or join a network with it.</source>
+        <translation>Branchez son câble, ou connectez-le à un réseau.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but no broadcast can leave by it: %3.</source>
+        <translation>%1 a l’adresse %2, mais aucune diffusion ne peut en sortir : %3.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps Zandrove from sending.</source>
+        <translation>Cherchez sur ce PC un pare-feu ou un logiciel de sécurité qui empêche Zandrove d’émettre.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, and broadcasts leave by it.</source>
+        <translation>%1 a l’adresse %2, et les diffusions en sortent.</translation>
+    </message>
+    <message>
+        <source>%1 is connected, but has no address yet.</source>
+        <translation>%1 est connecté, mais n’a pas encore d’adresse.</translation>
+    </message>
+    <message>
+        <source>Wait a minute. If none comes, see whether the router is on; over a direct cable, set this connection to link-local addresses.</source>
+        <translation>Attendez une minute. Si aucune adresse n’arrive, vérifiez que le routeur est allumé ; avec un câble direct, réglez cette connexion sur des adresses de liaison locale.</translation>
+    </message>
+    <message>
+        <source>%1 is connected to nothing.</source>
+        <translation>%1 n’est relié à rien.</translation>
+    </message>
+    <message>
+        <source>This PC has only an address that it gave itself, %1.</source>
+        <translation>Ce PC n’a qu’une adresse qu’il s’est donnée lui-même, %1.</translation>
+    </message>
+    <message>
+        <source>Over a direct cable that is as it should be: choose Cable Mode on both PCs. In a network, see whether the router is on.</source>
+        <translation>Avec un câble direct, c’est normal : choisissez Mode câble sur les deux PC. Sur un réseau, vérifiez que le routeur est allumé.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is meant for the network %2 of %3.</source>
+        <translation>Le VPN %1 capte ce qui est destiné au réseau %2 de %3.</translation>
+    </message>
+    <message>
+        <source>Disconnect the VPN until everything has moved.</source>
+        <translation>Déconnectez le VPN jusqu’à ce que tout soit transféré.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is not for a local network.</source>
+        <translation>Le VPN %1 capte ce qui n’est pas destiné à un réseau local.</translation>
+    </message>
+    <message>
+        <source>Disconnect it if the PCs don&apos;t find each other: many a VPN keeps its PC away from the local network.</source>
+        <translation>Déconnectez-le si les PC ne se trouvent pas : bien des VPN tiennent leur PC à l’écart du réseau local.</translation>
+    </message>
+    <message>
+        <source>This PC is in no network.</source>
+        <translation>Ce PC n’est sur aucun réseau.</translation>
+    </message>
+    <message>
+        <source>Plug in a cable, or join a Wi-Fi.</source>
+        <translation>Branchez un câble, ou connectez-vous à un réseau Wi-Fi.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>Nouveau PC</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>Ancien PC</translation>
+    </message>
+    <message>
+        <source>What is meant for it leaves by the VPN %1: disconnect that first.</source>
+        <translation>Ce qui lui est destiné sort par le VPN %1 : déconnectez-le d’abord.</translation>
+    </message>
+    <message>
+        <source>Run this diagnosis on %1: its port may be taken there, or its firewall turns connections away.</source>
+        <translation>Lancez ce diagnostic sur %1 : son port y est peut-être occupé, ou son pare-feu rejette les connexions.</translation>
+    </message>
+    <message>
+        <source>Let Zandrove through the firewall of %1: TCP port %2.</source>
+        <translation>Autorisez Zandrove dans le pare-feu de %1 : port TCP %2.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but refuses connections on TCP port %4.</source>
+        <translation>%1 (%2) s’annonce comme %3, mais refuse les connexions sur le port TCP %4.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but can&apos;t be connected to: %4.</source>
+        <translation>%1 (%2) s’annonce comme %3, mais la connexion est impossible : %4.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but does not answer on TCP port %4.</source>
+        <translation>%1 (%2) s’annonce comme %3, mais ne répond pas sur le port TCP %4.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as %2.</source>
+        <translation>%1 est là aussi, mais également comme %2.</translation>
+    </message>
+    <message>
+        <source>Choose %1 on one of the two.</source>
+        <translation>Choisissez %1 sur l’un des deux.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, and answers.</source>
+        <translation>%1 (%2) s’annonce comme %3, et répond.</translation>
+    </message>
+    <message>
+        <source>Nobody here knows a PC by the name %1.</source>
+        <translation>Personne ici ne connaît de PC du nom de %1.</translation>
+    </message>
+    <message>
+        <source>Give its address instead; its page of connections shows it.</source>
+        <translation>Indiquez plutôt son adresse ; sa page des connexions l’affiche.</translation>
+    </message>
+    <message>
+        <source>%1 is this PC itself.</source>
+        <translation>%1 est ce PC lui-même.</translation>
+    </message>
+    <message>
+        <source>Give the address of the other PC.</source>
+        <translation>Indiquez l’adresse de l’autre PC.</translation>
+    </message>
+    <message>
+        <source>%1 answers on TCP port %2, but is not heard on UDP port %3.</source>
+        <translation>%1 répond sur le port TCP %2, mais n’est pas entendu sur le port UDP %3.</translation>
+    </message>
+    <message>
+        <source>Open the page of connections there, and UDP port %1 in the firewalls of both PCs; or connect by the address.</source>
+        <translation>Ouvrez-y la page des connexions, et ouvrez le port UDP %1 dans les pare-feu des deux PC ; ou connectez-vous par l’adresse.</translation>
+    </message>
+    <message>
+        <source>%1 is there, but refuses connections on TCP port %2.</source>
+        <translation>%1 est là, mais refuse les connexions sur le port TCP %2.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove there, up to its page of connections.</source>
+        <translation>Ouvrez-y Zandrove, et allez jusqu’à la page des connexions.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be connected to: %2.</source>
+        <translation>Impossible de se connecter à %1 : %2.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, and both PCs are in the same network.</source>
+        <translation>Vérifiez que l’adresse est correcte et que les deux PC sont sur le même réseau.</translation>
+    </message>
+    <message>
+        <source>%1 does not answer on TCP port %2, and is not heard.</source>
+        <translation>%1 ne répond pas sur le port TCP %2, et n’est pas entendu.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, that PC on, and its firewall open for Zandrove.</source>
+        <translation>Vérifiez que l’adresse est correcte, que ce PC est allumé et que son pare-feu laisse passer Zandrove.</translation>
+    </message>
+    <message>
+        <source>This PC doesn&apos;t hear its own broadcasts on %1.</source>
+        <translation>Ce PC n’entend pas ses propres diffusions sur %1.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps out UDP port %1.</source>
+        <translation>Cherchez sur ce PC un pare-feu ou un logiciel de sécurité qui bloque le port UDP %1.</translation>
+    </message>
+    <message>
+        <source>Nobody has answered on %1, and it has no router.</source>
+        <translation>Personne n’a répondu sur %1, et il n’y a pas de routeur de ce côté.</translation>
+    </message>
+    <message>
+        <source>If the other PC should be there, see whether its end of the cable, or its network, is on.</source>
+        <translation>Si l’autre PC devrait s’y trouver, vérifiez que le câble est branché de son côté, ou que son réseau est activé.</translation>
+    </message>
+    <message>
+        <source>No other PC was heard within %1 s.</source>
+        <translation>Aucun autre PC n’a été entendu en %1 s.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove on the other PC, up to its page of connections, and put both PCs into the same network.</source>
+        <translation>Ouvrez Zandrove sur l’autre PC, allez jusqu’à la page des connexions, et mettez les deux PC sur le même réseau.</translation>
+    </message>
+    <message>
+        <source>TCP port %1</source>
+        <translation>port TCP %1</translation>
+    </message>
+    <message>
+        <source>UDP port %1</source>
+        <translation>port UDP %1</translation>
+    </message>
+    <message>
+        <source>%1 is free.</source>
+        <translation>Aucun programme n’occupe le %1.</translation>
+    </message>
+    <message>
+        <source>%1 is held by Zandrove, as it should be.</source>
+        <translation>Zandrove utilise le %1, comme il se doit.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program.</source>
+        <translation>Un autre programme occupe le %1.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by %2.</source>
+        <translation>Le %1 est occupé par %2.</translation>
+    </message>
+    <message>
+        <source>Find out which one it is, close it, and start Zandrove anew.</source>
+        <translation>Cherchez lequel, fermez-le, puis redémarrez Zandrove.</translation>
+    </message>
+    <message>
+        <source>Close that program, and start Zandrove anew.</source>
+        <translation>Fermez ce programme, puis redémarrez Zandrove.</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 et le %2</translation>
+    </message>
+    <message>
+        <source>%1 is on, and lets both ports in.</source>
+        <translation>Le pare-feu %1 est activé et laisse entrer les deux ports.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and keeps out %2.</source>
+        <translation>Le pare-feu %1 est activé et bloque le %2.</translation>
+    </message>
+    <message>
+        <source>Have it let both ports in.</source>
+        <translation>Faites-lui laisser entrer les deux ports.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and it depends on the sender, or on rules that can&apos;t be judged here, whether it lets both ports in.</source>
+        <translation>Le pare-feu %1 est activé ; qu’il laisse entrer les deux ports dépend de l’expéditeur ou de règles impossibles à évaluer ici.</translation>
+    </message>
+    <message>
+        <source>See whether its rules let in %1 and %2.</source>
+        <translation>Vérifiez que ses règles laissent entrer le %1 et le %2.</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be read without administrator rights.</source>
+        <translation>Impossible de lire le pare-feu %1 sans droits d’administrateur.</translation>
+    </message>
+    <message>
+        <source>%1 gave no answer that could be read.</source>
+        <translation>Le pare-feu %1 n’a donné aucune réponse lisible.</translation>
+    </message>
+    <message>
+        <source>%1 is off.</source>
+        <translation>Le pare-feu %1 est désactivé.</translation>
+    </message>
+    <message>
+        <source>No firewall was found of those that can be asked.</source>
+        <translation>Aucun pare-feu pouvant être interrogé n’a été trouvé.</translation>
+    </message>
+    <message>
+        <source>The system treats the network %1 as public.</source>
+        <translation>Le système considère le réseau %1 comme public.</translation>
+    </message>
+    <message>
+        <source>If it is your own, set it to private in the network settings.</source>
+        <translation>Si c’est le vôtre, définissez-le comme privé dans les paramètres réseau.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::FileBrowserWidget</name>
@@ -1120,11 +1661,46 @@ Voulez-vous accepter cette demande&#xa0;?</translation>
     </message>
     <message>
         <source>Cannot read file: %1</source>
-        <translation>Impossible de lire le fichier : %1</translation>
+        <translation>Impossible de lire le fichier&#xa0;: %1</translation>
     </message>
     <message>
         <source>changed while it was sent</source>
         <translation>modifié pendant l’envoi</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FindingRow</name>
+    <message>
+        <source>As it should be</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>May matter</source>
+        <translation>Peut avoir une incidence</translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>Fait obstacle</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copié</translation>
+    </message>
+    <message>
+        <source>Run as administrator</source>
+        <translation>Exécuter en tant qu’administrateur</translation>
+    </message>
+    <message>
+        <source>Done. Please check again.</source>
+        <translation>C’est fait. Vérifiez à nouveau.</translation>
+    </message>
+    <message>
+        <source>That did not work.</source>
+        <translation>Cela n’a pas fonctionné.</translation>
     </message>
 </context>
 <context>
@@ -1167,11 +1743,11 @@ Copiez le lien et ouvrez-le manuellement&#xa0;:
     <name>Zandrove::LinkWatch</name>
     <message>
         <source>No answer from the other PC for %1 s</source>
-        <translation>Aucune réponse de l’autre PC depuis %1 s</translation>
+        <translation>Aucune réponse de l’autre PC depuis %1&#xa0;s</translation>
     </message>
     <message>
         <source>No answer from %1 for %2 s</source>
-        <translation>Aucune réponse de %1 depuis %2 s</translation>
+        <translation>Aucune réponse de %1 depuis %2&#xa0;s</translation>
     </message>
     <message>
         <source>The connection to %1 is lost.</source>
@@ -1258,17 +1834,6 @@ L’application va maintenant redémarrer.</translation>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationRun</name>
-    <message>
-        <source>[App] %1</source>
-        <translation>[Application] %1</translation>
-    </message>
-    <message>
-        <source>[Setting] %1</source>
-        <translation>[Paramètre] %1</translation>
-    </message>
-</context>
-<context>
     <name>Zandrove::MissingItems</name>
     <message>
         <source>Did not arrive</source>
@@ -1287,16 +1852,8 @@ L’application va maintenant redémarrer.</translation>
         <translation>Enregistrer le rapport…</translation>
     </message>
     <message>
-        <source>And %1 more.</source>
-        <translation>Et %1 de plus.</translation>
-    </message>
-    <message>
         <source>The list is on the clipboard.</source>
         <translation>La liste est dans le Presse-papiers.</translation>
-    </message>
-    <message>
-        <source>Zandrove report</source>
-        <translation>Rapport Zandrove</translation>
     </message>
     <message>
         <source>Save report</source>
@@ -1377,6 +1934,10 @@ L’application va maintenant redémarrer.</translation>
         <source>the link was lost</source>
         <translation>la connexion a été perdue</translation>
     </message>
+    <message>
+        <source>its installation was stopped at %1 %</source>
+        <translation>son installation a été interrompue à %1 %</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::ReplacingFile</name>
@@ -1432,14 +1993,6 @@ L’application va maintenant redémarrer.</translation>
         <translation>Paramètres</translation>
     </message>
     <message>
-        <source>There already</source>
-        <translation>Existaient déjà</translation>
-    </message>
-    <message>
-        <source>There, but different</source>
-        <translation>Existaient, mais différents</translation>
-    </message>
-    <message>
         <source>Failed</source>
         <translation>Échecs</translation>
     </message>
@@ -1484,32 +2037,12 @@ L’application va maintenant redémarrer.</translation>
         <translation>Résultat</translation>
     </message>
     <message>
-        <source>%1 files, which only the report of the Old PC can name.</source>
-        <translation>Fichiers : %1 ; seul le rapport de l’Ancien PC peut en donner le détail.</translation>
-    </message>
-    <message>
-        <source>And %1 more, which only the report of the Old PC can name.</source>
-        <translation>Et %1 de plus ; seul le rapport de l’Ancien PC peut en donner le détail.</translation>
-    </message>
-    <message>
-        <source>%1 files.</source>
-        <translation>Fichiers : %1.</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>Et %1 de plus.</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>Fichier</translation>
     </message>
     <message>
         <source>Reason</source>
         <translation>Raison</translation>
-    </message>
-    <message>
-        <source>%1 were there already.</source>
-        <translation>Existaient déjà : %1.</translation>
     </message>
     <message>
         <source>en</source>
@@ -1534,11 +2067,27 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>The report %1 can&apos;t be written: %2</source>
-        <translation>Impossible d’écrire le rapport %1 : %2</translation>
+        <translation>Impossible d’écrire le rapport %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>it is no ordinary file</source>
         <translation>ce n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>There already, identical</source>
+        <translation>Existaient déjà, à l’identique</translation>
+    </message>
+    <message>
+        <source>There already, and different</source>
+        <translation>Existaient déjà, mais différents</translation>
+    </message>
+    <message>
+        <source>%1 were there already, identical.</source>
+        <translation>Existaient déjà, à l’identique : %1.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Rapport Zandrove</translation>
     </message>
 </context>
 <context>
@@ -1591,7 +2140,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>not moved: the transfer ended before its turn</source>
-        <translation>transfert non effectué : l’opération s’est terminée avant son tour</translation>
+        <translation>transfert non effectué&#xa0;: l’opération s’est terminée avant son tour</translation>
     </message>
     <message>
         <source>there already</source>
@@ -1603,7 +2152,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>there already, and different: the one from the Old PC was not moved</source>
-        <translation>existait déjà, mais différent : la version de l’Ancien PC n’a pas été transférée</translation>
+        <translation>existait déjà, mais différent&#xa0;: la version de l’Ancien PC n’a pas été transférée</translation>
     </message>
 </context>
 <context>
@@ -1618,7 +2167,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>%1 of %2 files arrived; nothing was deleted on the Old PC</source>
-        <translation>Fichiers arrivés : %1 sur %2 ; rien n’a été supprimé sur l’Ancien PC</translation>
+        <translation>Fichiers arrivés&#xa0;: %1 sur %2&#xa0;; rien n’a été supprimé sur l’Ancien PC</translation>
     </message>
     <message>
         <source>Transfer cancelled</source>
@@ -1654,7 +2203,7 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>no space left on %1 of %2: %3 files, %4 did not fit</source>
-        <translation>plus de place sur %1 de %2, fichiers restés sans place : %3 (%4)</translation>
+        <translation>plus de place sur %1 de %2, fichiers restés sans place&#xa0;: %3 (%4)</translation>
     </message>
     <message>
         <source>moved</source>
@@ -1694,15 +2243,43 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Connect the two PCs again and start the same transfer: what has arrived is skipped, only what is missing is moved.</source>
-        <translation>Reconnectez les deux PC et lancez le même transfert : ce qui est arrivé est ignoré, seul ce qui manque est transféré.</translation>
-    </message>
-    <message>
-        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
-        <translation>Lisez les raisons dans la liste. Une fois les problèmes résolus, relancez le même transfert : ce qui est arrivé est ignoré, seul ce qui manque est transféré.</translation>
+        <translation>Reconnectez les deux PC et lancez le même transfert&#xa0;: ce qui est arrivé est ignoré, seul ce qui manque est transféré.</translation>
     </message>
     <message>
         <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
         <translation>Conservez l’Ancien PC tel quel jusqu’à ce qu’il ne manque plus rien. Rien n’y a été supprimé.</translation>
+    </message>
+    <message>
+        <source>[App] %1</source>
+        <translation>[Application] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[Paramètre] %1</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>Et %1 de plus.</translation>
+    </message>
+    <message>
+        <source>1 announced file did not come. The report of %1 names it.</source>
+        <translation>1 fichier annoncé n’est pas arrivé. Le rapport de %1 indique lequel.</translation>
+    </message>
+    <message>
+        <source>%1 announced files did not come. The report of %2 names them.</source>
+        <translation>%1 fichiers annoncés ne sont pas arrivés. Le rapport de %2 indique lesquels.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list.</source>
+        <translation>Lisez les raisons dans la liste.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the report of %1.</source>
+        <translation>Lisez les raisons dans le rapport de %1.</translation>
+    </message>
+    <message>
+        <source>Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Une fois les problèmes résolus, relancez le même transfert : ce qui est arrivé est ignoré, seul ce qui manque est transféré.</translation>
     </message>
 </context>
 <context>
@@ -1819,11 +2396,15 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>Files of %1 that did not arrive: %2</source>
-        <translation>Fichiers de %1 qui ne sont pas arrivés : %2</translation>
+        <translation>Fichiers de %1 qui ne sont pas arrivés&#xa0;: %2</translation>
     </message>
     <message>
         <source>sent; what became of it stands in the report of %1</source>
-        <translation>envoi effectué ; le résultat figure dans le rapport de %1</translation>
+        <translation>envoi effectué&#xa0;; le résultat figure dans le rapport de %1</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>envoi effectué, mais %1 n’en a pas confirmé l’arrivée</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2737,10 @@ L’application va maintenant redémarrer.</translation>
         <source>Scan error: %1</source>
         <translation>Erreur d’analyse&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>More than one PC shows the code %1: %2</source>
+        <translation>Plusieurs PC affichent le code %1 : %2</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::TransferPage</name>
@@ -2202,10 +2787,6 @@ L’application va maintenant redémarrer.</translation>
     <message>
         <source>Are you sure you want to cancel the transfer?</source>
         <translation>Voulez-vous vraiment annuler le transfert&#xa0;?</translation>
-    </message>
-    <message>
-        <source>All progress will be lost and incomplete files may remain on the destination.</source>
-        <translation>La progression sera perdue et des fichiers incomplets pourraient rester sur la cible.</translation>
     </message>
     <message>
         <source>Yes, Cancel</source>
@@ -2269,11 +2850,11 @@ L’application va maintenant redémarrer.</translation>
     </message>
     <message>
         <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
-        <translation>Le transfert compte %1, mais il n’y a que %2 de libre sur %3 : tout ne tiendra pas.</translation>
+        <translation>Le transfert compte %1, mais il n’y a que %2 de libre sur %3&#xa0;: tout ne tiendra pas.</translation>
     </message>
     <message>
         <source>Installing %1 - %2 %</source>
-        <translation>Installation de %1 – %2 %</translation>
+        <translation>Installation de %1 – %2&#xa0;%</translation>
     </message>
     <message>
         <source>%1 is installing...</source>
@@ -2288,12 +2869,20 @@ L’application va maintenant redémarrer.</translation>
         <translation>Un transfert est en cours. Fermer la fenêtre l’annule.</translation>
     </message>
     <message>
-        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
-        <translation>Ce qui est arrivé reste sur le Nouveau PC, et rien n’est supprimé sur l’Ancien PC.</translation>
-    </message>
-    <message>
         <source>Cancel and Close</source>
         <translation>Annuler et fermer</translation>
+    </message>
+    <message>
+        <source>Back to selection</source>
+        <translation>Retour à la sélection</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC. A report is left in your documents.</source>
+        <translation>Ce qui est arrivé reste sur le Nouveau PC, et rien n’est supprimé sur l’Ancien PC. Un rapport est enregistré dans vos documents.</translation>
+    </message>
+    <message>
+        <source>All progress will be lost. Files that have arrived stay; nothing incomplete remains.</source>
+        <translation>La progression sera perdue. Les fichiers arrivés restent ; rien d’incomplet ne subsiste.</translation>
     </message>
 </context>
 <context>

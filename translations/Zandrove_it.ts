@@ -221,6 +221,10 @@
         <source>Another ticked folder has a file of this name</source>
         <translation>Un’altra cartella selezionata contiene un file con questo nome</translation>
     </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>Non raggiungibile</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::AccountScanner</name>
@@ -231,6 +235,25 @@
     <message>
         <source>Enumerating Windows accounts...</source>
         <translation>Lettura degli account di Windows...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Aftermath</name>
+    <message>
+        <source>%1 was lost before it said that this is installed</source>
+        <translation>La connessione a %1 si è interrotta prima che ne confermasse l’installazione</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that this is applied</source>
+        <translation>La connessione a %1 si è interrotta prima che ne confermasse l’applicazione</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is installed</source>
+        <translation>%1 ha annullato il trasferimento prima di confermarne l’installazione</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is applied</source>
+        <translation>%1 ha annullato il trasferimento prima di confermarne l’applicazione</translation>
     </message>
 </context>
 <context>
@@ -394,6 +417,49 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::Notices</name>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>C’è anche %1, ma anch’esso come Vecchio PC: scegli “Nuovo PC” su uno dei due</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>C’è anche %1, ma anch’esso come Nuovo PC: scegli “Vecchio PC” su uno dei due</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>un altro programma</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: this PC hears no other one. End that program, and begin anew.</source>
+        <translation>La porta %1 è occupata da %2: questo PC non rileva nessun altro PC. Chiudi quel programma e ricomincia.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can reach this one. End that program, and begin anew.</source>
+        <translation>La porta %1 è occupata da %2: nessun altro PC può raggiungere questo. Chiudi quel programma e ricomincia.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can ask this one, which can still ask others.</source>
+        <translation>La porta %1 è occupata da %2: nessun altro PC può inviare richieste a questo, che può comunque inviarle ad altri.</translation>
+    </message>
+    <message>
+        <source>%1 was not found for 20 seconds. In reach are: %2.</source>
+        <translation>%1 non è stato trovato in 20 secondi. PC raggiungibili: %2.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>Nuovo PC</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>Vecchio PC</translation>
+    </message>
+    <message>
+        <source>Nobody was found for 20 seconds. What to look at, the likeliest first: Zandrove runs on the other PC, as %1; both PCs are in the same network, or joined by a cable; neither of them uses a VPN; their firewalls let TCP port %2 and UDP port %3 in. zandrove-cli diagnose looks for the cause.</source>
+        <translation>In 20 secondi non è stato trovato nessuno. Che cosa controllare, a partire dal caso più probabile: Zandrove è aperto sull’altro PC, come “%1”; i due PC sono nella stessa rete o collegati da un cavo; nessuno dei due usa una VPN; i loro firewall lasciano entrare la porta TCP %2 e la porta UDP %3. zandrove-cli diagnose cerca la causa.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -508,10 +574,6 @@
         <translation>Argomento imprevisto: %1. Vedi --help.</translation>
     </message>
     <message>
-        <source>Say receive, send, discover or scan. See --help.</source>
-        <translation>Indica receive, send, discover o scan. Vedi --help.</translation>
-    </message>
-    <message>
         <source>Unknown command %1. See --help.</source>
         <translation>Comando sconosciuto: %1. Vedi --help.</translation>
     </message>
@@ -552,8 +614,28 @@
         <translation>Scrivi il report di ogni trasferimento in FILE, al posto di quello precedente: una pagina da leggere oppure, se il nome termina con .json, JSON.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Codici di uscita: 0 tutto è stato trasferito o elencato; 1 la connessione o l’esecuzione non è riuscita o è stata rifiutata; 2 uso errato; 3 tempo scaduto; 4 terminato, ma qualcosa non è riuscito o era già presente; 130 annullato con Ctrl-C (l’altro PC viene avvisato; un secondo Ctrl-C termina subito).</translation>
+        <source>The address or host name of a PC that is tried as well.</source>
+        <translation>L’indirizzo o il nome host di un PC da provare in aggiunta.</translation>
+    </message>
+    <message>
+        <source>What this PC is, to be compared with those that are heard.</source>
+        <translation>Il ruolo di questo PC, da confrontare con quello dei PC rilevati.</translation>
+    </message>
+    <message>
+        <source>Listen for N seconds; without it, for 5.</source>
+        <translation>Resta in ascolto per N secondi; se non indicato, per 5.</translation>
+    </message>
+    <message>
+        <source>Find out why the other PC isn&apos;t found: look at adapters, ports, firewalls and VPNs, and at who is heard and answers. Changes nothing.</source>
+        <translation>Scopri perché l’altro PC non viene trovato: esamina schede di rete, porte, firewall e VPN, e quali PC vengono rilevati e rispondono. Non modifica nulla.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before, or diagnose has found what stands in the way; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Codici di uscita: 0 tutto è stato trasferito o elencato; 1 la connessione o l’esecuzione non è riuscita o è stata rifiutata; 2 uso errato; 3 tempo scaduto; 4 terminato, ma qualcosa non è riuscito o era già presente, oppure diagnose ha trovato un ostacolo; 130 annullato con Ctrl-C (l’altro PC viene avvisato; un secondo Ctrl-C termina subito).</translation>
+    </message>
+    <message>
+        <source>Say receive, send, discover, diagnose or scan. See --help.</source>
+        <translation>Indica receive, send, discover, diagnose o scan. Vedi --help.</translation>
     </message>
 </context>
 <context>
@@ -635,6 +717,10 @@
         <source>%1 ended the transfer.</source>
         <translation>%1 ha terminato il trasferimento.</translation>
     </message>
+    <message>
+        <source>More than one PC goes by %1: %2. Name the one that is meant by its address.</source>
+        <translation>%1 corrisponde a più di un PC: %2. Indica l’indirizzo di quello desiderato.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -647,16 +733,24 @@
         <translation>L’altro PC non ha terminato la sessione: è possibile che non sia arrivato tutto.</translation>
     </message>
     <message>
-        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
-        <translation>In arrivo %1, ma lo spazio disponibile su %3 è solo %2: non ci sarà posto per tutto.</translation>
-    </message>
-    <message>
         <source>No answer from %1 for %2 s</source>
         <translation>%1 non risponde da %2 s</translation>
     </message>
     <message>
         <source>%1 answers again</source>
         <translation>%1 risponde di nuovo</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>In arrivo %1, ma lo spazio disponibile su %3 è solo %2: non ci sarà posto per tutto.</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that everything is installed.</source>
+        <translation>La connessione a %1 si è interrotta prima che confermasse l’installazione di tutto.</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before everything was installed.</source>
+        <translation>%1 ha annullato il trasferimento prima che tutto fosse installato.</translation>
     </message>
 </context>
 <context>
@@ -806,8 +900,32 @@
         <translation>File arrivati: %1, non riusciti: %2, già presenti: %3.</translation>
     </message>
     <message>
-        <source>and %1 more</source>
-        <translation>e ancora %1</translation>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>avviso</translation>
+    </message>
+    <message>
+        <source>PROBLEM</source>
+        <translation>PROBLEMA</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>In attesa di %1: qualcuno deve premere “Sì” su quel PC</translation>
+    </message>
+    <message>
+        <source>Further ones are counted in the report.</source>
+        <translation>Gli altri sono conteggiati nel report.</translation>
+    </message>
+    <message>
+        <source>Nothing was found that stands in the way.</source>
+        <translation>Non è stato trovato alcun ostacolo.</translation>
+    </message>
+    <message>
+        <source>Found in the way: %1.</source>
+        <translation>Ostacoli trovati: %1.</translation>
     </message>
 </context>
 <context>
@@ -875,6 +993,10 @@
     <message>
         <source>%1 of %2 settings did not arrive</source>
         <translation>Impostazioni non arrivate: %1 su %2</translation>
+    </message>
+    <message>
+        <source>Apps and settings were sent. What became of them stands on the page of %1.</source>
+        <translation>Le app e le impostazioni sono state inviate. L’esito è indicato sullo schermo di %1.</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1125,425 @@ Vuoi accettare la richiesta?</translation>
         <source>Their code, character %1</source>
         <translation>Codice dell’altro PC, carattere %1</translation>
     </message>
+    <message>
+        <source>This is the address of this PC.</source>
+        <translation>Questo è l’indirizzo di questo PC.</translation>
+    </message>
+    <message>
+        <source>Only IPv4 addresses work here, such as 192.168.1.23.</source>
+        <translation>Qui funzionano solo gli indirizzi IPv4, ad esempio 192.168.1.23.</translation>
+    </message>
+    <message>
+        <source>An address has four numbers from 0 to 255, such as 192.168.1.23.</source>
+        <translation>Un indirizzo è composto da quattro numeri da 0 a 255, ad esempio 192.168.1.23.</translation>
+    </message>
+    <message>
+        <source>This is not the address of one PC.</source>
+        <translation>Questo non è l’indirizzo di un singolo PC.</translation>
+    </message>
+    <message>
+        <source>This is neither an address nor the name of a PC.</source>
+        <translation>Questo non è né un indirizzo né il nome di un PC.</translation>
+    </message>
+    <message>
+        <source>Address or name of the other PC</source>
+        <translation>Indirizzo o nome dell’altro PC</translation>
+    </message>
+    <message>
+        <source>Or Enter Their Address</source>
+        <translation>O inserisci l’indirizzo dell’altro PC</translation>
+    </message>
+    <message>
+        <source>Looking for %1...</source>
+        <translation>Ricerca di %1...</translation>
+    </message>
+    <message>
+        <source>No PC named %1 was found. Its address may work instead.</source>
+        <translation>Nessun PC trovato con il nome %1. Prova con il suo indirizzo.</translation>
+    </message>
+    <message>
+        <source>%1 has no IPv4 address.</source>
+        <translation>%1 non ha un indirizzo IPv4.</translation>
+    </message>
+    <message>
+        <source>Address of this PC: %1</source>
+        <translation>Indirizzo di questo PC: %1</translation>
+    </message>
+    <message>
+        <source>Enter their code instead</source>
+        <translation>Inserisci invece il codice dell’altro PC</translation>
+    </message>
+    <message>
+        <source>Enter an address instead</source>
+        <translation>Inserisci invece un indirizzo</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>In attesa di %1: qualcuno deve premere “Sì” su quel PC</translation>
+    </message>
+    <message>
+        <source>No connection to %1: %2.</source>
+        <translation>Nessuna connessione a %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its address: %1</source>
+        <translation>Il suo indirizzo: %1</translation>
+    </message>
+    <message>
+        <source>Zandrove is open on the other PC too, and shows this page there.</source>
+        <translation>Zandrove è aperto anche sull’altro PC e vi mostra questa pagina.</translation>
+    </message>
+    <message>
+        <source>The network cable is plugged in on both PCs, and its lights are on.</source>
+        <translation>Il cavo di rete è collegato a entrambi i PC e le sue spie sono accese.</translation>
+    </message>
+    <message>
+        <source>Both are in the same network, and neither in a guest Wi-Fi or a VPN.</source>
+        <translation>Entrambi sono nella stessa rete e nessuno dei due è in una rete Wi-Fi per ospiti o in una VPN.</translation>
+    </message>
+    <message>
+        <source>One of the two is the Old PC, and the other one the New PC.</source>
+        <translation>Uno dei due è il Vecchio PC e l’altro il Nuovo PC.</translation>
+    </message>
+    <message>
+        <source>The firewalls of both PCs let Zandrove through.</source>
+        <translation>I firewall di entrambi i PC lasciano passare Zandrove.</translation>
+    </message>
+    <message>
+        <source>Nobody found yet. Please check, the likeliest first:</source>
+        <translation>Non è stato ancora trovato nessuno. Verifica quanto segue, a partire dal caso più probabile:</translation>
+    </message>
+    <message>
+        <source>Can&apos;t find the other PC?</source>
+        <translation>Non trovi l’altro PC?</translation>
+    </message>
+    <message>
+        <source>Back to the devices</source>
+        <translation>Torna ai dispositivi</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>Controlla di nuovo</translation>
+    </message>
+    <message>
+        <source>Looking at this PC and its network. This takes some seconds...</source>
+        <translation>Analisi di questo PC e della sua rete. Ci vorrà qualche secondo...</translation>
+    </message>
+    <message>
+        <source>Nothing was found here that stands in the way. Please check on the other PC as well.</source>
+        <translation>Qui non è stato trovato alcun ostacolo. Controlla anche sull’altro PC.</translation>
+    </message>
+    <message>
+        <source>What is marked with ✗ stands in the way.</source>
+        <translation>Ciò che è contrassegnato con ✗ impedisce la connessione.</translation>
+    </message>
+    <message>
+        <source>another program, maybe a second Zandrove</source>
+        <translation>un altro programma, forse un secondo Zandrove</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so no other PC can connect to this one. Please close that program, then try again.</source>
+        <translation>La porta %1 è occupata da %2, quindi nessun altro PC può connettersi a questo. Chiudi quel programma e riprova.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so this PC does not hear other PCs. Please close that program, then try again.</source>
+        <translation>La porta %1 è occupata da %2, quindi questo PC non rileva altri PC. Chiudi quel programma e riprova.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>C’è anche %1, ma anch’esso come Vecchio PC: scegli “Nuovo PC” su uno dei due</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>C’è anche %1, ma anch’esso come Nuovo PC: scegli “Vecchio PC” su uno dei due</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Riprova</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Diagnosis</name>
+    <message>
+        <source>wired</source>
+        <translation>via cavo</translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>virtual</source>
+        <translation>virtuale</translation>
+    </message>
+    <message>
+        <source>VPN</source>
+        <translation>VPN</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2.</source>
+        <translation>%1 ha l’indirizzo %2.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but is connected to nothing.</source>
+        <translation>%1 ha l’indirizzo %2, ma non è connessa a nulla.</translation>
+    </message>
+    <message>
+        <source>Plug in its cable, or join a network with it.</source>
+        <translation>Collega il suo cavo o connettila a una rete.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but no broadcast can leave by it: %3.</source>
+        <translation>%1 ha l’indirizzo %2, ma non può inviare broadcast: %3.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps Zandrove from sending.</source>
+        <translation>Cerca su questo PC un firewall o un programma di sicurezza che impedisce a Zandrove di inviare.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, and broadcasts leave by it.</source>
+        <translation>%1 ha l’indirizzo %2 e invia broadcast.</translation>
+    </message>
+    <message>
+        <source>%1 is connected, but has no address yet.</source>
+        <translation>%1 è connessa, ma non ha ancora un indirizzo.</translation>
+    </message>
+    <message>
+        <source>Wait a minute. If none comes, see whether the router is on; over a direct cable, set this connection to link-local addresses.</source>
+        <translation>Attendi un minuto. Se non ne arriva uno, controlla che il router sia acceso; con un cavo diretto, imposta questa connessione sugli indirizzi link-local.</translation>
+    </message>
+    <message>
+        <source>%1 is connected to nothing.</source>
+        <translation>%1 non è connessa a nulla.</translation>
+    </message>
+    <message>
+        <source>This PC has only an address that it gave itself, %1.</source>
+        <translation>Questo PC ha solo un indirizzo che si è assegnato da sé, %1.</translation>
+    </message>
+    <message>
+        <source>Over a direct cable that is as it should be: choose Cable Mode on both PCs. In a network, see whether the router is on.</source>
+        <translation>Con un cavo diretto è normale: scegli “Modalità cavo” su entrambi i PC. In una rete, controlla che il router sia acceso.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is meant for the network %2 of %3.</source>
+        <translation>La VPN %1 intercetta ciò che è destinato alla rete %2 di %3.</translation>
+    </message>
+    <message>
+        <source>Disconnect the VPN until everything has moved.</source>
+        <translation>Disconnetti la VPN finché tutto non è stato trasferito.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is not for a local network.</source>
+        <translation>La VPN %1 intercetta ciò che non è destinato a una rete locale.</translation>
+    </message>
+    <message>
+        <source>Disconnect it if the PCs don&apos;t find each other: many a VPN keeps its PC away from the local network.</source>
+        <translation>Disconnettila se i PC non si trovano: molte VPN isolano il PC dalla rete locale.</translation>
+    </message>
+    <message>
+        <source>This PC is in no network.</source>
+        <translation>Questo PC non è in alcuna rete.</translation>
+    </message>
+    <message>
+        <source>Plug in a cable, or join a Wi-Fi.</source>
+        <translation>Collega un cavo o connettiti a una rete Wi-Fi.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>Nuovo PC</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>Vecchio PC</translation>
+    </message>
+    <message>
+        <source>What is meant for it leaves by the VPN %1: disconnect that first.</source>
+        <translation>Ciò che è destinato a quel PC esce attraverso la VPN %1: prima disconnettila.</translation>
+    </message>
+    <message>
+        <source>Run this diagnosis on %1: its port may be taken there, or its firewall turns connections away.</source>
+        <translation>Esegui questa diagnosi su %1: forse lì la porta è occupata o il firewall respinge le connessioni.</translation>
+    </message>
+    <message>
+        <source>Let Zandrove through the firewall of %1: TCP port %2.</source>
+        <translation>Consenti il passaggio a Zandrove nel firewall di %1: porta TCP %2.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but refuses connections on TCP port %4.</source>
+        <translation>%1 (%2) si annuncia come “%3”, ma rifiuta le connessioni sulla porta TCP %4.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but can&apos;t be connected to: %4.</source>
+        <translation>%1 (%2) si annuncia come “%3”, ma non è possibile connettersi: %4.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but does not answer on TCP port %4.</source>
+        <translation>%1 (%2) si annuncia come “%3”, ma non risponde sulla porta TCP %4.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as %2.</source>
+        <translation>C’è anche %1, ma anch’esso come “%2”.</translation>
+    </message>
+    <message>
+        <source>Choose %1 on one of the two.</source>
+        <translation>Scegli “%1” su uno dei due.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, and answers.</source>
+        <translation>%1 (%2) si annuncia come “%3” e risponde.</translation>
+    </message>
+    <message>
+        <source>Nobody here knows a PC by the name %1.</source>
+        <translation>Qui nessuno conosce un PC con il nome %1.</translation>
+    </message>
+    <message>
+        <source>Give its address instead; its page of connections shows it.</source>
+        <translation>Indica invece il suo indirizzo; è mostrato nella sua pagina di connessione.</translation>
+    </message>
+    <message>
+        <source>%1 is this PC itself.</source>
+        <translation>%1 è proprio questo PC.</translation>
+    </message>
+    <message>
+        <source>Give the address of the other PC.</source>
+        <translation>Indica l’indirizzo dell’altro PC.</translation>
+    </message>
+    <message>
+        <source>%1 answers on TCP port %2, but is not heard on UDP port %3.</source>
+        <translation>%1 risponde sulla porta TCP %2, ma non viene rilevato sulla porta UDP %3.</translation>
+    </message>
+    <message>
+        <source>Open the page of connections there, and UDP port %1 in the firewalls of both PCs; or connect by the address.</source>
+        <translation>Apri su quel PC la pagina di connessione, e la porta UDP %1 nei firewall di entrambi i PC; oppure connettiti tramite l’indirizzo.</translation>
+    </message>
+    <message>
+        <source>%1 is there, but refuses connections on TCP port %2.</source>
+        <translation>%1 c’è, ma rifiuta le connessioni sulla porta TCP %2.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove there, up to its page of connections.</source>
+        <translation>Apri Zandrove su quel PC, fino alla pagina di connessione.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be connected to: %2.</source>
+        <translation>Impossibile connettersi a %1: %2.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, and both PCs are in the same network.</source>
+        <translation>Controlla che l’indirizzo sia corretto e che i due PC siano nella stessa rete.</translation>
+    </message>
+    <message>
+        <source>%1 does not answer on TCP port %2, and is not heard.</source>
+        <translation>%1 non risponde sulla porta TCP %2 e non viene rilevato.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, that PC on, and its firewall open for Zandrove.</source>
+        <translation>Controlla che l’indirizzo sia corretto, che quel PC sia acceso e che il suo firewall lasci passare Zandrove.</translation>
+    </message>
+    <message>
+        <source>This PC doesn&apos;t hear its own broadcasts on %1.</source>
+        <translation>Questo PC non riceve i propri broadcast su %1.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps out UDP port %1.</source>
+        <translation>Cerca su questo PC un firewall o un programma di sicurezza che blocca la porta UDP %1.</translation>
+    </message>
+    <message>
+        <source>Nobody has answered on %1, and it has no router.</source>
+        <translation>Nessuno ha risposto su %1, che non ha un router.</translation>
+    </message>
+    <message>
+        <source>If the other PC should be there, see whether its end of the cable, or its network, is on.</source>
+        <translation>Se l’altro PC dovrebbe trovarsi lì, controlla che la sua estremità del cavo, o la sua rete, sia attiva.</translation>
+    </message>
+    <message>
+        <source>No other PC was heard within %1 s.</source>
+        <translation>Nessun altro PC rilevato entro %1 s.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove on the other PC, up to its page of connections, and put both PCs into the same network.</source>
+        <translation>Apri Zandrove sull’altro PC, fino alla pagina di connessione, e connetti i due PC alla stessa rete.</translation>
+    </message>
+    <message>
+        <source>TCP port %1</source>
+        <translation>porta TCP %1</translation>
+    </message>
+    <message>
+        <source>UDP port %1</source>
+        <translation>porta UDP %1</translation>
+    </message>
+    <message>
+        <source>%1 is free.</source>
+        <translation>La %1 è libera.</translation>
+    </message>
+    <message>
+        <source>%1 is held by Zandrove, as it should be.</source>
+        <translation>La %1 è in uso da parte di Zandrove, come previsto.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program.</source>
+        <translation>La %1 è occupata da un altro programma.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by %2.</source>
+        <translation>La %1 è occupata da %2.</translation>
+    </message>
+    <message>
+        <source>Find out which one it is, close it, and start Zandrove anew.</source>
+        <translation>Scopri qual è, chiudilo e riavvia Zandrove.</translation>
+    </message>
+    <message>
+        <source>Close that program, and start Zandrove anew.</source>
+        <translation>Chiudi quel programma e riavvia Zandrove.</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 e la %2</translation>
+    </message>
+    <message>
+        <source>%1 is on, and lets both ports in.</source>
+        <translation>%1 è attivo e lascia entrare entrambe le porte.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and keeps out %2.</source>
+        <translation>%1 è attivo e blocca la %2.</translation>
+    </message>
+    <message>
+        <source>Have it let both ports in.</source>
+        <translation>Impostalo in modo che lasci entrare entrambe le porte.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and it depends on the sender, or on rules that can&apos;t be judged here, whether it lets both ports in.</source>
+        <translation>%1 è attivo; se lascia entrare entrambe le porte dipende dal mittente o da regole che qui non si possono valutare.</translation>
+    </message>
+    <message>
+        <source>See whether its rules let in %1 and %2.</source>
+        <translation>Controlla che le sue regole lascino entrare la %1 e la %2.</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be read without administrator rights.</source>
+        <translation>Impossibile leggere %1 senza diritti di amministratore.</translation>
+    </message>
+    <message>
+        <source>%1 gave no answer that could be read.</source>
+        <translation>%1 non ha dato alcuna risposta leggibile.</translation>
+    </message>
+    <message>
+        <source>%1 is off.</source>
+        <translation>%1 è disattivato.</translation>
+    </message>
+    <message>
+        <source>No firewall was found of those that can be asked.</source>
+        <translation>Non è stato trovato nessuno dei firewall che si possono interrogare.</translation>
+    </message>
+    <message>
+        <source>The system treats the network %1 as public.</source>
+        <translation>Il sistema considera pubblica la rete %1.</translation>
+    </message>
+    <message>
+        <source>If it is your own, set it to private in the network settings.</source>
+        <translation>Se è la tua, impostala come privata nelle impostazioni di rete.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::FileBrowserWidget</name>
@@ -1125,6 +1666,41 @@ Vuoi accettare la richiesta?</translation>
     <message>
         <source>changed while it was sent</source>
         <translation>modificato durante l’invio</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FindingRow</name>
+    <message>
+        <source>As it should be</source>
+        <translation>Tutto a posto</translation>
+    </message>
+    <message>
+        <source>May matter</source>
+        <translation>Può influire</translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>Impedisce la connessione</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copiato</translation>
+    </message>
+    <message>
+        <source>Run as administrator</source>
+        <translation>Esegui come amministratore</translation>
+    </message>
+    <message>
+        <source>Done. Please check again.</source>
+        <translation>Fatto. Controlla di nuovo.</translation>
+    </message>
+    <message>
+        <source>That did not work.</source>
+        <translation>Non ha funzionato.</translation>
     </message>
 </context>
 <context>
@@ -1258,17 +1834,6 @@ L’app verrà ora riavviata.</translation>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationRun</name>
-    <message>
-        <source>[App] %1</source>
-        <translation>[App] %1</translation>
-    </message>
-    <message>
-        <source>[Setting] %1</source>
-        <translation>[Impostazione] %1</translation>
-    </message>
-</context>
-<context>
     <name>Zandrove::MissingItems</name>
     <message>
         <source>Did not arrive</source>
@@ -1287,16 +1852,8 @@ L’app verrà ora riavviata.</translation>
         <translation>Salva report…</translation>
     </message>
     <message>
-        <source>And %1 more.</source>
-        <translation>E ancora %1.</translation>
-    </message>
-    <message>
         <source>The list is on the clipboard.</source>
         <translation>L’elenco è stato copiato negli Appunti.</translation>
-    </message>
-    <message>
-        <source>Zandrove report</source>
-        <translation>Report di Zandrove</translation>
     </message>
     <message>
         <source>Save report</source>
@@ -1377,6 +1934,10 @@ L’app verrà ora riavviata.</translation>
         <source>the link was lost</source>
         <translation>la connessione si è interrotta</translation>
     </message>
+    <message>
+        <source>its installation was stopped at %1 %</source>
+        <translation>la sua installazione si è interrotta al %1%</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::ReplacingFile</name>
@@ -1432,14 +1993,6 @@ L’app verrà ora riavviata.</translation>
         <translation>Impostazioni</translation>
     </message>
     <message>
-        <source>There already</source>
-        <translation>Già presenti</translation>
-    </message>
-    <message>
-        <source>There, but different</source>
-        <translation>Presenti, ma diversi</translation>
-    </message>
-    <message>
         <source>Failed</source>
         <translation>Non riusciti</translation>
     </message>
@@ -1484,32 +2037,12 @@ L’app verrà ora riavviata.</translation>
         <translation>Esito</translation>
     </message>
     <message>
-        <source>%1 files, which only the report of the Old PC can name.</source>
-        <translation>File: %1. I nomi si trovano solo nel report del Vecchio PC.</translation>
-    </message>
-    <message>
-        <source>And %1 more, which only the report of the Old PC can name.</source>
-        <translation>E ancora %1: i nomi si trovano solo nel report del Vecchio PC.</translation>
-    </message>
-    <message>
-        <source>%1 files.</source>
-        <translation>File: %1.</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>E ancora %1.</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>File</translation>
     </message>
     <message>
         <source>Reason</source>
         <translation>Motivo</translation>
-    </message>
-    <message>
-        <source>%1 were there already.</source>
-        <translation>Già presenti: %1.</translation>
     </message>
     <message>
         <source>en</source>
@@ -1539,6 +2072,22 @@ L’app verrà ora riavviata.</translation>
     <message>
         <source>it is no ordinary file</source>
         <translation>non è un file normale</translation>
+    </message>
+    <message>
+        <source>There already, identical</source>
+        <translation>Già presenti, identici</translation>
+    </message>
+    <message>
+        <source>There already, and different</source>
+        <translation>Già presenti, ma diversi</translation>
+    </message>
+    <message>
+        <source>%1 were there already, identical.</source>
+        <translation>Già presenti, identici: %1.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Report di Zandrove</translation>
     </message>
 </context>
 <context>
@@ -1697,12 +2246,40 @@ L’app verrà ora riavviata.</translation>
         <translation>Connetti di nuovo i due PC e avvia lo stesso trasferimento: ciò che è già arrivato viene ignorato, si trasferisce solo ciò che manca.</translation>
     </message>
     <message>
-        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
-        <translation>Leggi i motivi nell’elenco. Quando non ci sono più, avvia di nuovo lo stesso trasferimento: ciò che è già arrivato viene ignorato, si trasferisce solo ciò che manca.</translation>
-    </message>
-    <message>
         <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
         <translation>Lascia il Vecchio PC così com’è finché non manca più nulla. Lì non è stato eliminato nulla.</translation>
+    </message>
+    <message>
+        <source>[App] %1</source>
+        <translation>[App] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[Impostazione] %1</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>E ancora %1.</translation>
+    </message>
+    <message>
+        <source>1 announced file did not come. The report of %1 names it.</source>
+        <translation>1 file annunciato non è arrivato. Il nome è indicato nel report di %1.</translation>
+    </message>
+    <message>
+        <source>%1 announced files did not come. The report of %2 names them.</source>
+        <translation>%1 file annunciati non sono arrivati. I nomi sono indicati nel report di %2.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list.</source>
+        <translation>Leggi i motivi nell’elenco.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the report of %1.</source>
+        <translation>Leggi i motivi nel report di %1.</translation>
+    </message>
+    <message>
+        <source>Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Quando non ci sono più, avvia di nuovo lo stesso trasferimento: ciò che è già arrivato viene ignorato, si trasferisce solo ciò che manca.</translation>
     </message>
 </context>
 <context>
@@ -1824,6 +2401,10 @@ L’app verrà ora riavviata.</translation>
     <message>
         <source>sent; what became of it stands in the report of %1</source>
         <translation>inviata; l’esito è indicato nel report di %1</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>inviato, ma %1 non ne ha confermato l’arrivo</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2737,10 @@ L’app verrà ora riavviata.</translation>
         <source>Scan error: %1</source>
         <translation>Errore di analisi: %1</translation>
     </message>
+    <message>
+        <source>More than one PC shows the code %1: %2</source>
+        <translation>Più di un PC mostra il codice %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::TransferPage</name>
@@ -2202,10 +2787,6 @@ L’app verrà ora riavviata.</translation>
     <message>
         <source>Are you sure you want to cancel the transfer?</source>
         <translation>Vuoi annullare il trasferimento?</translation>
-    </message>
-    <message>
-        <source>All progress will be lost and incomplete files may remain on the destination.</source>
-        <translation>L’avanzamento andrà perso e nella destinazione potrebbero restare file incompleti.</translation>
     </message>
     <message>
         <source>Yes, Cancel</source>
@@ -2288,12 +2869,20 @@ L’app verrà ora riavviata.</translation>
         <translation>È in corso un trasferimento. Se chiudi la finestra, viene annullato.</translation>
     </message>
     <message>
-        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
-        <translation>Ciò che è arrivato rimane nel Nuovo PC e nel Vecchio PC non viene eliminato nulla.</translation>
-    </message>
-    <message>
         <source>Cancel and Close</source>
         <translation>Annulla e chiudi</translation>
+    </message>
+    <message>
+        <source>Back to selection</source>
+        <translation>Torna alla selezione</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC. A report is left in your documents.</source>
+        <translation>Ciò che è arrivato rimane nel Nuovo PC e nel Vecchio PC non viene eliminato nulla. Un report viene salvato nei tuoi documenti.</translation>
+    </message>
+    <message>
+        <source>All progress will be lost. Files that have arrived stay; nothing incomplete remains.</source>
+        <translation>L’avanzamento andrà perso. I file arrivati restano; non rimane nulla di incompleto.</translation>
     </message>
 </context>
 <context>

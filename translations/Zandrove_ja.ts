@@ -221,6 +221,10 @@
         <source>Another ticked folder has a file of this name</source>
         <translation>選択した別のフォルダーに同じ名前のファイルがあります</translation>
     </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>アクセスできません</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::AccountScanner</name>
@@ -231,6 +235,25 @@
     <message>
         <source>Enumerating Windows accounts...</source>
         <translation>Windows のアカウントを列挙しています...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Aftermath</name>
+    <message>
+        <source>%1 was lost before it said that this is installed</source>
+        <translation>インストール完了の通知が届く前に、%1 との接続が切れました</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that this is applied</source>
+        <translation>適用完了の通知が届く前に、%1 との接続が切れました</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is installed</source>
+        <translation>インストール完了の通知が届く前に、%1 が転送をキャンセルしました</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is applied</source>
+        <translation>適用完了の通知が届く前に、%1 が転送をキャンセルしました</translation>
     </message>
 </context>
 <context>
@@ -394,6 +417,49 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::Notices</name>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1 も見つかりましたが、こちらと同じ旧 PC になっています。どちらか一方で新 PC を選択してください</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1 も見つかりましたが、こちらと同じ新 PC になっています。どちらか一方で旧 PC を選択してください</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>別のプログラム</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: this PC hears no other one. End that program, and begin anew.</source>
+        <translation>ポート %1 は %2 が使用しています。この PC は他の PC を検出できません。そのプログラムを終了してから、もう一度始めてください。</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can reach this one. End that program, and begin anew.</source>
+        <translation>ポート %1 は %2 が使用しています。他の PC はこの PC に接続できません。そのプログラムを終了してから、もう一度始めてください。</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can ask this one, which can still ask others.</source>
+        <translation>ポート %1 は %2 が使用しています。他の PC からこの PC に問い合わせることはできませんが、この PC から他の PC に問い合わせることはできます。</translation>
+    </message>
+    <message>
+        <source>%1 was not found for 20 seconds. In reach are: %2.</source>
+        <translation>20 秒間探しましたが、%1 は見つかりませんでした。見つかった PC: %2。</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>新 PC</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>旧 PC</translation>
+    </message>
+    <message>
+        <source>Nobody was found for 20 seconds. What to look at, the likeliest first: Zandrove runs on the other PC, as %1; both PCs are in the same network, or joined by a cable; neither of them uses a VPN; their firewalls let TCP port %2 and UDP port %3 in. zandrove-cli diagnose looks for the cause.</source>
+        <translation>20 秒間探しましたが、PC は見つかりませんでした。可能性の高い順に、次の点を確認してください: もう一方の PC で Zandrove が %1 として実行されていること。両方の PC が同じネットワークにあるか、ケーブルでつながっていること。どちらの PC も VPN を使っていないこと。両方のファイアウォールが TCP ポート %2 と UDP ポート %3 の受信を許可していること。zandrove-cli diagnose で原因を調べられます。</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -508,10 +574,6 @@
         <translation>余分な引数 %1。--help を参照してください。</translation>
     </message>
     <message>
-        <source>Say receive, send, discover or scan. See --help.</source>
-        <translation>receive、send、discover、scan のいずれかを指定してください。--help を参照してください。</translation>
-    </message>
-    <message>
         <source>Unknown command %1. See --help.</source>
         <translation>不明なコマンド %1。--help を参照してください。</translation>
     </message>
@@ -552,8 +614,28 @@
         <translation>転送ごとにレポートを FILE に書き込み、前のレポートと置き換えます。読むためのページになり、名前が .json で終わる場合は JSON になります。</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>終了コード: 0 すべて移行または一覧表示した、1 接続または実行が失敗したか拒否された、2 使い方の誤り、3 タイムアウト、4 終了したが、失敗したものまたは既にあったものがある、130 Ctrl-C でキャンセルした (もう一方の PC に通知します。もう一度 Ctrl-C を押すとすぐに終了します)。</translation>
+        <source>The address or host name of a PC that is tried as well.</source>
+        <translation>追加で接続を試す PC のアドレスまたはホスト名。</translation>
+    </message>
+    <message>
+        <source>What this PC is, to be compared with those that are heard.</source>
+        <translation>この PC の役割。検出した PC の役割と照らし合わせます。</translation>
+    </message>
+    <message>
+        <source>Listen for N seconds; without it, for 5.</source>
+        <translation>N 秒間、他の PC を待ち受けます。指定しなければ 5 秒です。</translation>
+    </message>
+    <message>
+        <source>Find out why the other PC isn&apos;t found: look at adapters, ports, firewalls and VPNs, and at who is heard and answers. Changes nothing.</source>
+        <translation>もう一方の PC が見つからない原因を調べます。アダプター、ポート、ファイアウォール、VPN と、検出された PC や応答する PC を確認します。何も変更しません。</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before, or diagnose has found what stands in the way; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>終了コード: 0 すべて移行または一覧表示した、1 接続または実行が失敗したか拒否された、2 使い方の誤り、3 タイムアウト、4 終了したが、失敗したものまたは既にあったものがある、または diagnose が妨げになっているものを見つけた、130 Ctrl-C でキャンセルした (もう一方の PC に通知します。もう一度 Ctrl-C を押すとすぐに終了します)。</translation>
+    </message>
+    <message>
+        <source>Say receive, send, discover, diagnose or scan. See --help.</source>
+        <translation>receive、send、discover、diagnose、scan のいずれかを指定してください。--help を参照してください。</translation>
     </message>
 </context>
 <context>
@@ -635,6 +717,10 @@
         <source>%1 ended the transfer.</source>
         <translation>%1 が転送を終了しました。</translation>
     </message>
+    <message>
+        <source>More than one PC goes by %1: %2. Name the one that is meant by its address.</source>
+        <translation>%1 に当てはまる PC が複数あります: %2。目的の PC をアドレスで指定してください。</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -647,16 +733,24 @@
         <translation>もう一方の PC がセッションを終了しませんでした。一部が届いていない可能性があります。</translation>
     </message>
     <message>
-        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
-        <translation>転送するデータは %1 ですが、%3 の空き領域は %2 しかないため、すべては収まりません。</translation>
-    </message>
-    <message>
         <source>No answer from %1 for %2 s</source>
         <translation>%1 から %2 秒間応答がありません</translation>
     </message>
     <message>
         <source>%1 answers again</source>
         <translation>%1 が再び応答しています</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>転送するデータは %1 ですが、%3 の空き領域は %2 しかないため、すべては収まりません。</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that everything is installed.</source>
+        <translation>すべてのインストール完了の通知が届く前に、%1 との接続が切れました。</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before everything was installed.</source>
+        <translation>すべてのインストールが終わる前に、%1 が転送をキャンセルしました。</translation>
     </message>
 </context>
 <context>
@@ -806,8 +900,32 @@
         <translation>ファイル: 到着 %1、失敗 %2、既存 %3。</translation>
     </message>
     <message>
-        <source>and %1 more</source>
-        <translation>ほか %1 件</translation>
+        <source>ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>注意</translation>
+    </message>
+    <message>
+        <source>PROBLEM</source>
+        <translation>問題</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>%1 を待っています: 相手の PC で「はい」を押してください</translation>
+    </message>
+    <message>
+        <source>Further ones are counted in the report.</source>
+        <translation>これ以降のものは、レポートに件数のみ記載されます。</translation>
+    </message>
+    <message>
+        <source>Nothing was found that stands in the way.</source>
+        <translation>妨げになっているものは見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>Found in the way: %1.</source>
+        <translation>妨げになっているもの: %1 件。</translation>
     </message>
 </context>
 <context>
@@ -875,6 +993,10 @@
     <message>
         <source>%1 of %2 settings did not arrive</source>
         <translation>設定 %2 件のうち %1 件が届いていません</translation>
+    </message>
+    <message>
+        <source>Apps and settings were sent. What became of them stands on the page of %1.</source>
+        <translation>アプリと設定を送信しました。結果は %1 の画面で確認できます。</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1125,425 @@ Do you want to accept?</source>
         <source>Their code, character %1</source>
         <translation>相手の確認コード、%1 文字目</translation>
     </message>
+    <message>
+        <source>This is the address of this PC.</source>
+        <translation>これはこの PC のアドレスです。</translation>
+    </message>
+    <message>
+        <source>Only IPv4 addresses work here, such as 192.168.1.23.</source>
+        <translation>ここで使えるのは、192.168.1.23 のような IPv4 アドレスだけです。</translation>
+    </message>
+    <message>
+        <source>An address has four numbers from 0 to 255, such as 192.168.1.23.</source>
+        <translation>アドレスは、192.168.1.23 のように 0 から 255 までの 4 つの数字でできています。</translation>
+    </message>
+    <message>
+        <source>This is not the address of one PC.</source>
+        <translation>これは 1 台の PC を示すアドレスではありません。</translation>
+    </message>
+    <message>
+        <source>This is neither an address nor the name of a PC.</source>
+        <translation>これは PC のアドレスでも名前でもありません。</translation>
+    </message>
+    <message>
+        <source>Address or name of the other PC</source>
+        <translation>もう一方の PC のアドレスまたは名前</translation>
+    </message>
+    <message>
+        <source>Or Enter Their Address</source>
+        <translation>または相手のアドレスを入力</translation>
+    </message>
+    <message>
+        <source>Looking for %1...</source>
+        <translation>%1 を探しています...</translation>
+    </message>
+    <message>
+        <source>No PC named %1 was found. Its address may work instead.</source>
+        <translation>%1 という名前の PC は見つかりませんでした。アドレスを入力すると接続できることがあります。</translation>
+    </message>
+    <message>
+        <source>%1 has no IPv4 address.</source>
+        <translation>%1 には IPv4 アドレスがありません。</translation>
+    </message>
+    <message>
+        <source>Address of this PC: %1</source>
+        <translation>この PC のアドレス: %1</translation>
+    </message>
+    <message>
+        <source>Enter their code instead</source>
+        <translation>代わりに相手の確認コードを入力</translation>
+    </message>
+    <message>
+        <source>Enter an address instead</source>
+        <translation>代わりにアドレスを入力</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>%1 を待っています: 相手の PC で「はい」を押してください</translation>
+    </message>
+    <message>
+        <source>No connection to %1: %2.</source>
+        <translation>%1 に接続できません: %2。</translation>
+    </message>
+    <message>
+        <source>Its address: %1</source>
+        <translation>相手のアドレス: %1</translation>
+    </message>
+    <message>
+        <source>Zandrove is open on the other PC too, and shows this page there.</source>
+        <translation>もう一方の PC でも Zandrove を開き、このページを表示している。</translation>
+    </message>
+    <message>
+        <source>The network cable is plugged in on both PCs, and its lights are on.</source>
+        <translation>ネットワーク ケーブルが両方の PC に差し込まれ、ランプが点灯している。</translation>
+    </message>
+    <message>
+        <source>Both are in the same network, and neither in a guest Wi-Fi or a VPN.</source>
+        <translation>両方とも同じネットワークにあり、どちらもゲスト Wi-Fi や VPN に接続していない。</translation>
+    </message>
+    <message>
+        <source>One of the two is the Old PC, and the other one the New PC.</source>
+        <translation>一方が旧 PC、もう一方が新 PC になっている。</translation>
+    </message>
+    <message>
+        <source>The firewalls of both PCs let Zandrove through.</source>
+        <translation>両方の PC のファイアウォールが Zandrove の通信を許可している。</translation>
+    </message>
+    <message>
+        <source>Nobody found yet. Please check, the likeliest first:</source>
+        <translation>まだ PC が見つかりません。可能性の高い順に、次の点を確認してください:</translation>
+    </message>
+    <message>
+        <source>Can&apos;t find the other PC?</source>
+        <translation>もう一方の PC が見つかりませんか？</translation>
+    </message>
+    <message>
+        <source>Back to the devices</source>
+        <translation>デバイス一覧に戻る</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>もう一度確認</translation>
+    </message>
+    <message>
+        <source>Looking at this PC and its network. This takes some seconds...</source>
+        <translation>この PC とネットワークを調べています。数秒かかります...</translation>
+    </message>
+    <message>
+        <source>Nothing was found here that stands in the way. Please check on the other PC as well.</source>
+        <translation>この PC には、妨げになっているものは見つかりませんでした。もう一方の PC でも確認してください。</translation>
+    </message>
+    <message>
+        <source>What is marked with ✗ stands in the way.</source>
+        <translation>✗ の付いたものが妨げになっています。</translation>
+    </message>
+    <message>
+        <source>another program, maybe a second Zandrove</source>
+        <translation>別のプログラム (もう 1 つの Zandrove の可能性があります)</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so no other PC can connect to this one. Please close that program, then try again.</source>
+        <translation>ポート %1 は %2 が使用しているため、他の PC はこの PC に接続できません。そのプログラムを終了してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so this PC does not hear other PCs. Please close that program, then try again.</source>
+        <translation>ポート %1 は %2 が使用しているため、この PC は他の PC を検出できません。そのプログラムを終了してから、もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1 も見つかりましたが、こちらと同じ旧 PC になっています。どちらか一方で新 PC を選択してください</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1 も見つかりましたが、こちらと同じ新 PC になっています。どちらか一方で旧 PC を選択してください</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>再試行</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Diagnosis</name>
+    <message>
+        <source>wired</source>
+        <translation>有線</translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>virtual</source>
+        <translation>仮想</translation>
+    </message>
+    <message>
+        <source>VPN</source>
+        <translation>VPN</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2.</source>
+        <translation>%1 のアドレスは %2 です。</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but is connected to nothing.</source>
+        <translation>%1 のアドレスは %2 ですが、どこにも接続されていません。</translation>
+    </message>
+    <message>
+        <source>Plug in its cable, or join a network with it.</source>
+        <translation>ケーブルを差し込むか、このアダプターでネットワークに接続してください。</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but no broadcast can leave by it: %3.</source>
+        <translation>%1 のアドレスは %2 ですが、ここからブロードキャストを送信できません: %3。</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps Zandrove from sending.</source>
+        <translation>この PC に、Zandrove の送信を妨げているファイアウォールやセキュリティ ソフトがないか確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, and broadcasts leave by it.</source>
+        <translation>%1 のアドレスは %2 で、ここからブロードキャストを送信できます。</translation>
+    </message>
+    <message>
+        <source>%1 is connected, but has no address yet.</source>
+        <translation>%1 は接続されていますが、まだアドレスがありません。</translation>
+    </message>
+    <message>
+        <source>Wait a minute. If none comes, see whether the router is on; over a direct cable, set this connection to link-local addresses.</source>
+        <translation>1 分ほどお待ちください。アドレスが割り当てられない場合は、ルーターの電源が入っているか確認してください。直接つないだケーブルの場合は、この接続をリンクローカル アドレスに設定してください。</translation>
+    </message>
+    <message>
+        <source>%1 is connected to nothing.</source>
+        <translation>%1 はどこにも接続されていません。</translation>
+    </message>
+    <message>
+        <source>This PC has only an address that it gave itself, %1.</source>
+        <translation>この PC には、自分で割り当てたアドレス %1 しかありません。</translation>
+    </message>
+    <message>
+        <source>Over a direct cable that is as it should be: choose Cable Mode on both PCs. In a network, see whether the router is on.</source>
+        <translation>直接つないだケーブルであれば、これで正常です。両方の PC でケーブル モードを選択してください。ネットワークの場合は、ルーターの電源が入っているか確認してください。</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is meant for the network %2 of %3.</source>
+        <translation>%3 のネットワーク %2 宛ての通信が、VPN %1 を通っています。</translation>
+    </message>
+    <message>
+        <source>Disconnect the VPN until everything has moved.</source>
+        <translation>すべての移行が終わるまで VPN を切断してください。</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is not for a local network.</source>
+        <translation>ローカル ネットワーク以外への通信は、VPN %1 を通っています。</translation>
+    </message>
+    <message>
+        <source>Disconnect it if the PCs don&apos;t find each other: many a VPN keeps its PC away from the local network.</source>
+        <translation>PC どうしが互いを見つけられない場合は、VPN を切断してください。多くの VPN は、PC をローカル ネットワークから切り離します。</translation>
+    </message>
+    <message>
+        <source>This PC is in no network.</source>
+        <translation>この PC はネットワークに接続されていません。</translation>
+    </message>
+    <message>
+        <source>Plug in a cable, or join a Wi-Fi.</source>
+        <translation>ケーブルを差し込むか、Wi-Fi に接続してください。</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>新 PC</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>旧 PC</translation>
+    </message>
+    <message>
+        <source>What is meant for it leaves by the VPN %1: disconnect that first.</source>
+        <translation>この PC 宛ての通信が VPN %1 を通っています。まず VPN を切断してください。</translation>
+    </message>
+    <message>
+        <source>Run this diagnosis on %1: its port may be taken there, or its firewall turns connections away.</source>
+        <translation>%1 でこの診断を実行してください。ポートが別のプログラムに使われているか、ファイアウォールが接続を拒否している可能性があります。</translation>
+    </message>
+    <message>
+        <source>Let Zandrove through the firewall of %1: TCP port %2.</source>
+        <translation>%1 のファイアウォールで Zandrove を許可してください: TCP ポート %2。</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but refuses connections on TCP port %4.</source>
+        <translation>%1 (%2) は %3 として検出されましたが、TCP ポート %4 への接続を拒否しています。</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but can&apos;t be connected to: %4.</source>
+        <translation>%1 (%2) は %3 として検出されましたが、接続できません: %4。</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but does not answer on TCP port %4.</source>
+        <translation>%1 (%2) は %3 として検出されましたが、TCP ポート %4 で応答しません。</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as %2.</source>
+        <translation>%1 も見つかりましたが、こちらと同じ %2 になっています。</translation>
+    </message>
+    <message>
+        <source>Choose %1 on one of the two.</source>
+        <translation>どちらか一方で %1 を選択してください。</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, and answers.</source>
+        <translation>%1 (%2) は %3 として検出され、応答しています。</translation>
+    </message>
+    <message>
+        <source>Nobody here knows a PC by the name %1.</source>
+        <translation>このネットワークでは、%1 という名前の PC が見つかりません。</translation>
+    </message>
+    <message>
+        <source>Give its address instead; its page of connections shows it.</source>
+        <translation>代わりにアドレスを指定してください。アドレスは相手の PC の接続ページに表示されます。</translation>
+    </message>
+    <message>
+        <source>%1 is this PC itself.</source>
+        <translation>%1 はこの PC 自身です。</translation>
+    </message>
+    <message>
+        <source>Give the address of the other PC.</source>
+        <translation>もう一方の PC のアドレスを指定してください。</translation>
+    </message>
+    <message>
+        <source>%1 answers on TCP port %2, but is not heard on UDP port %3.</source>
+        <translation>%1 は TCP ポート %2 で応答しますが、UDP ポート %3 では検出されません。</translation>
+    </message>
+    <message>
+        <source>Open the page of connections there, and UDP port %1 in the firewalls of both PCs; or connect by the address.</source>
+        <translation>相手の PC で接続ページを開き、両方の PC のファイアウォールで UDP ポート %1 を許可してください。または、アドレスを使って接続してください。</translation>
+    </message>
+    <message>
+        <source>%1 is there, but refuses connections on TCP port %2.</source>
+        <translation>%1 は見つかりましたが、TCP ポート %2 への接続を拒否しています。</translation>
+    </message>
+    <message>
+        <source>Open Zandrove there, up to its page of connections.</source>
+        <translation>相手の PC で Zandrove を開き、接続ページまで進んでください。</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be connected to: %2.</source>
+        <translation>%1 に接続できません: %2。</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, and both PCs are in the same network.</source>
+        <translation>アドレスが正しいか、両方の PC が同じネットワークにあるか確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 does not answer on TCP port %2, and is not heard.</source>
+        <translation>%1 は TCP ポート %2 で応答せず、検出もされません。</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, that PC on, and its firewall open for Zandrove.</source>
+        <translation>アドレスが正しいか、相手の PC の電源が入っているか、そのファイアウォールが Zandrove を許可しているか確認してください。</translation>
+    </message>
+    <message>
+        <source>This PC doesn&apos;t hear its own broadcasts on %1.</source>
+        <translation>この PC は、%1 で自分のブロードキャストを受信できません。</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps out UDP port %1.</source>
+        <translation>この PC に、UDP ポート %1 の受信を妨げているファイアウォールやセキュリティ ソフトがないか確認してください。</translation>
+    </message>
+    <message>
+        <source>Nobody has answered on %1, and it has no router.</source>
+        <translation>%1 では応答がなく、ルーターもありません。</translation>
+    </message>
+    <message>
+        <source>If the other PC should be there, see whether its end of the cable, or its network, is on.</source>
+        <translation>もう一方の PC がこの先にあるはずなら、相手側のケーブルがつながっているか、ネットワークがオンになっているか確認してください。</translation>
+    </message>
+    <message>
+        <source>No other PC was heard within %1 s.</source>
+        <translation>%1 秒以内に他の PC は検出されませんでした。</translation>
+    </message>
+    <message>
+        <source>Open Zandrove on the other PC, up to its page of connections, and put both PCs into the same network.</source>
+        <translation>もう一方の PC で Zandrove を開いて接続ページまで進み、両方の PC を同じネットワークに接続してください。</translation>
+    </message>
+    <message>
+        <source>TCP port %1</source>
+        <translation>TCP ポート %1</translation>
+    </message>
+    <message>
+        <source>UDP port %1</source>
+        <translation>UDP ポート %1</translation>
+    </message>
+    <message>
+        <source>%1 is free.</source>
+        <translation>%1 は空いています。</translation>
+    </message>
+    <message>
+        <source>%1 is held by Zandrove, as it should be.</source>
+        <translation>%1 は Zandrove が使用しています。これは正常です。</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program.</source>
+        <translation>%1 は別のプログラムが使用しています。</translation>
+    </message>
+    <message>
+        <source>%1 is taken by %2.</source>
+        <translation>%1 は %2 が使用しています。</translation>
+    </message>
+    <message>
+        <source>Find out which one it is, close it, and start Zandrove anew.</source>
+        <translation>どのプログラムかを調べて終了し、Zandrove を起動し直してください。</translation>
+    </message>
+    <message>
+        <source>Close that program, and start Zandrove anew.</source>
+        <translation>そのプログラムを終了し、Zandrove を起動し直してください。</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 と %2</translation>
+    </message>
+    <message>
+        <source>%1 is on, and lets both ports in.</source>
+        <translation>%1 はオンで、両方のポートの受信を許可しています。</translation>
+    </message>
+    <message>
+        <source>%1 is on, and keeps out %2.</source>
+        <translation>%1 はオンで、%2 の受信を遮断しています。</translation>
+    </message>
+    <message>
+        <source>Have it let both ports in.</source>
+        <translation>両方のポートの受信を許可するように設定してください。</translation>
+    </message>
+    <message>
+        <source>%1 is on, and it depends on the sender, or on rules that can&apos;t be judged here, whether it lets both ports in.</source>
+        <translation>%1 はオンです。両方のポートの受信を許可するかどうかは、送信元や、ここでは判断できない規則によって変わります。</translation>
+    </message>
+    <message>
+        <source>See whether its rules let in %1 and %2.</source>
+        <translation>%1 と %2 の受信が規則で許可されているか確認してください。</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be read without administrator rights.</source>
+        <translation>管理者権限がないため、%1 の状態を読み取れませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 gave no answer that could be read.</source>
+        <translation>%1 から読み取れる応答がありませんでした。</translation>
+    </message>
+    <message>
+        <source>%1 is off.</source>
+        <translation>%1 はオフです。</translation>
+    </message>
+    <message>
+        <source>No firewall was found of those that can be asked.</source>
+        <translation>状態を確認できるファイアウォールは見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>The system treats the network %1 as public.</source>
+        <translation>システムはネットワーク %1 をパブリックとして扱っています。</translation>
+    </message>
+    <message>
+        <source>If it is your own, set it to private in the network settings.</source>
+        <translation>ご自身のネットワークであれば、ネットワーク設定でプライベートに変更してください。</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::FileBrowserWidget</name>
@@ -1125,6 +1666,41 @@ Do you want to accept?</source>
     <message>
         <source>changed while it was sent</source>
         <translation>送信中に変更されました</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FindingRow</name>
+    <message>
+        <source>As it should be</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>May matter</source>
+        <translation>影響する可能性あり</translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>妨げになっている</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>コピーしました</translation>
+    </message>
+    <message>
+        <source>Run as administrator</source>
+        <translation>管理者として実行</translation>
+    </message>
+    <message>
+        <source>Done. Please check again.</source>
+        <translation>完了しました。もう一度確認してください。</translation>
+    </message>
+    <message>
+        <source>That did not work.</source>
+        <translation>実行できませんでした。</translation>
     </message>
 </context>
 <context>
@@ -1258,17 +1834,6 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationRun</name>
-    <message>
-        <source>[App] %1</source>
-        <translation>[アプリ] %1</translation>
-    </message>
-    <message>
-        <source>[Setting] %1</source>
-        <translation>[設定] %1</translation>
-    </message>
-</context>
-<context>
     <name>Zandrove::MissingItems</name>
     <message>
         <source>Did not arrive</source>
@@ -1287,16 +1852,8 @@ The application will restart now.</source>
         <translation>レポートを保存…</translation>
     </message>
     <message>
-        <source>And %1 more.</source>
-        <translation>ほか %1 件。</translation>
-    </message>
-    <message>
         <source>The list is on the clipboard.</source>
         <translation>一覧をクリップボードにコピーしました。</translation>
-    </message>
-    <message>
-        <source>Zandrove report</source>
-        <translation>Zandrove レポート</translation>
     </message>
     <message>
         <source>Save report</source>
@@ -1377,6 +1934,10 @@ The application will restart now.</source>
         <source>the link was lost</source>
         <translation>接続が切れました</translation>
     </message>
+    <message>
+        <source>its installation was stopped at %1 %</source>
+        <translation>インストールは %1 % で中止されました</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::ReplacingFile</name>
@@ -1432,14 +1993,6 @@ The application will restart now.</source>
         <translation>設定</translation>
     </message>
     <message>
-        <source>There already</source>
-        <translation>既存</translation>
-    </message>
-    <message>
-        <source>There, but different</source>
-        <translation>既存 (内容が異なる)</translation>
-    </message>
-    <message>
         <source>Failed</source>
         <translation>失敗</translation>
     </message>
@@ -1484,32 +2037,12 @@ The application will restart now.</source>
         <translation>結果</translation>
     </message>
     <message>
-        <source>%1 files, which only the report of the Old PC can name.</source>
-        <translation>ファイル %1 個。名前は旧 PC のレポートにのみ載っています。</translation>
-    </message>
-    <message>
-        <source>And %1 more, which only the report of the Old PC can name.</source>
-        <translation>ほか %1 件。名前は旧 PC のレポートにのみ載っています。</translation>
-    </message>
-    <message>
-        <source>%1 files.</source>
-        <translation>ファイル %1 個。</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>ほか %1 件。</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>ファイル</translation>
     </message>
     <message>
         <source>Reason</source>
         <translation>理由</translation>
-    </message>
-    <message>
-        <source>%1 were there already.</source>
-        <translation>%1 個は既にありました。</translation>
     </message>
     <message>
         <source>en</source>
@@ -1539,6 +2072,22 @@ The application will restart now.</source>
     <message>
         <source>it is no ordinary file</source>
         <translation>通常のファイルではありません</translation>
+    </message>
+    <message>
+        <source>There already, identical</source>
+        <translation>既存 (内容が同じ)</translation>
+    </message>
+    <message>
+        <source>There already, and different</source>
+        <translation>既存 (内容が異なる)</translation>
+    </message>
+    <message>
+        <source>%1 were there already, identical.</source>
+        <translation>%1 個は既にあり、内容も同じでした。</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Zandrove レポート</translation>
     </message>
 </context>
 <context>
@@ -1697,12 +2246,40 @@ The application will restart now.</source>
         <translation>2 台の PC をもう一度接続し、同じ転送を開始してください。届いているものはスキップされ、足りないものだけが移行されます。</translation>
     </message>
     <message>
-        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
-        <translation>一覧で理由を確認してください。原因を取り除いたら、同じ転送をもう一度開始してください。届いているものはスキップされ、足りないものだけが移行されます。</translation>
-    </message>
-    <message>
         <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
         <translation>足りないものがなくなるまで、旧 PC はそのままにしておいてください。旧 PC からは何も削除されていません。</translation>
+    </message>
+    <message>
+        <source>[App] %1</source>
+        <translation>[アプリ] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[設定] %1</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>ほか %1 件。</translation>
+    </message>
+    <message>
+        <source>1 announced file did not come. The report of %1 names it.</source>
+        <translation>送信予定のファイル 1 個が届きませんでした。名前は %1 のレポートにあります。</translation>
+    </message>
+    <message>
+        <source>%1 announced files did not come. The report of %2 names them.</source>
+        <translation>送信予定のファイル %1 個が届きませんでした。名前は %2 のレポートにあります。</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list.</source>
+        <translation>一覧で理由を確認してください。</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the report of %1.</source>
+        <translation>%1 のレポートで理由を確認してください。</translation>
+    </message>
+    <message>
+        <source>Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>原因を取り除いたら、同じ転送をもう一度開始してください。届いているものはスキップされ、足りないものだけが移行されます。</translation>
     </message>
 </context>
 <context>
@@ -1824,6 +2401,10 @@ The application will restart now.</source>
     <message>
         <source>sent; what became of it stands in the report of %1</source>
         <translation>送信しました。結果は %1 のレポートにあります</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>送信しましたが、%1 から到着の確認がありません</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2737,10 @@ The application will restart now.</source>
         <source>Scan error: %1</source>
         <translation>スキャン エラー: %1</translation>
     </message>
+    <message>
+        <source>More than one PC shows the code %1: %2</source>
+        <translation>確認コード %1 を表示している PC が複数あります: %2</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::TransferPage</name>
@@ -2202,10 +2787,6 @@ The application will restart now.</source>
     <message>
         <source>Are you sure you want to cancel the transfer?</source>
         <translation>転送をキャンセルしますか？</translation>
-    </message>
-    <message>
-        <source>All progress will be lost and incomplete files may remain on the destination.</source>
-        <translation>これまでの進行状況は失われ、不完全なファイルが転送先に残ることがあります。</translation>
     </message>
     <message>
         <source>Yes, Cancel</source>
@@ -2288,12 +2869,20 @@ The application will restart now.</source>
         <translation>転送を実行中です。ウィンドウを閉じると転送はキャンセルされます。</translation>
     </message>
     <message>
-        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
-        <translation>届いたものは新 PC に残り、旧 PC からは何も削除されません。</translation>
-    </message>
-    <message>
         <source>Cancel and Close</source>
         <translation>キャンセルして閉じる</translation>
+    </message>
+    <message>
+        <source>Back to selection</source>
+        <translation>選択に戻る</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC. A report is left in your documents.</source>
+        <translation>届いたものは新 PC に残り、旧 PC からは何も削除されません。レポートがドキュメント フォルダーに保存されます。</translation>
+    </message>
+    <message>
+        <source>All progress will be lost. Files that have arrived stay; nothing incomplete remains.</source>
+        <translation>これまでの進行状況は失われます。届いたファイルは残り、不完全なファイルは残りません。</translation>
     </message>
 </context>
 <context>

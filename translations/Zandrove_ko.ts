@@ -221,6 +221,10 @@
         <source>Another ticked folder has a file of this name</source>
         <translation>선택한 다른 폴더에 이름이 같은 파일이 있습니다</translation>
     </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>접근할 수 없음</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::AccountScanner</name>
@@ -231,6 +235,25 @@
     <message>
         <source>Enumerating Windows accounts...</source>
         <translation>Windows 계정을 열거하는 중...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Aftermath</name>
+    <message>
+        <source>%1 was lost before it said that this is installed</source>
+        <translation>설치되었다는 알림이 오기 전에 %1과(와)의 연결이 끊어졌습니다</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that this is applied</source>
+        <translation>적용되었다는 알림이 오기 전에 %1과(와)의 연결이 끊어졌습니다</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is installed</source>
+        <translation>설치되었다는 알림이 오기 전에 %1에서 전송을 취소했습니다</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is applied</source>
+        <translation>적용되었다는 알림이 오기 전에 %1에서 전송을 취소했습니다</translation>
     </message>
 </context>
 <context>
@@ -394,6 +417,49 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::Notices</name>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1도 있지만 똑같이 이전 PC로 되어 있습니다. 둘 중 하나에서 새 PC를 선택하십시오</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1도 있지만 똑같이 새 PC로 되어 있습니다. 둘 중 하나에서 이전 PC를 선택하십시오</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>다른 프로그램</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: this PC hears no other one. End that program, and begin anew.</source>
+        <translation>%2에서 포트 %1을(를) 사용 중이어서 이 PC가 다른 PC를 감지하지 못합니다. 그 프로그램을 종료한 다음 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can reach this one. End that program, and begin anew.</source>
+        <translation>%2에서 포트 %1을(를) 사용 중이어서 다른 PC가 이 PC에 연결할 수 없습니다. 그 프로그램을 종료한 다음 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can ask this one, which can still ask others.</source>
+        <translation>%2에서 포트 %1을(를) 사용 중이어서 다른 PC가 이 PC에 요청할 수 없습니다. 이 PC에서 다른 PC에 요청할 수는 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 was not found for 20 seconds. In reach are: %2.</source>
+        <translation>20초 동안 %1을(를) 찾지 못했습니다. 찾은 PC: %2.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>새 PC</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>이전 PC</translation>
+    </message>
+    <message>
+        <source>Nobody was found for 20 seconds. What to look at, the likeliest first: Zandrove runs on the other PC, as %1; both PCs are in the same network, or joined by a cable; neither of them uses a VPN; their firewalls let TCP port %2 and UDP port %3 in. zandrove-cli diagnose looks for the cause.</source>
+        <translation>20초 동안 PC를 찾지 못했습니다. 가능성이 큰 것부터 다음을 확인하십시오: 다른 PC에서 Zandrove가 %1(으)로 실행 중인지, 두 PC가 같은 네트워크에 있거나 케이블로 연결되어 있는지, 두 PC 모두 VPN을 사용하지 않는지, 두 PC의 방화벽이 TCP 포트 %2과(와) UDP 포트 %3의 수신을 허용하는지 확인하십시오. zandrove-cli diagnose로 원인을 찾을 수 있습니다.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -508,10 +574,6 @@
         <translation>예기치 않은 인수 %1. --help를 참조하십시오.</translation>
     </message>
     <message>
-        <source>Say receive, send, discover or scan. See --help.</source>
-        <translation>receive, send, discover, scan 중 하나를 지정하십시오. --help를 참조하십시오.</translation>
-    </message>
-    <message>
         <source>Unknown command %1. See --help.</source>
         <translation>알 수 없는 명령 %1. --help를 참조하십시오.</translation>
     </message>
@@ -552,8 +614,28 @@
         <translation>전송할 때마다 보고서를 FILE에 쓰고 이전 보고서를 대체합니다. 읽기용 페이지로 쓰며, 이름이 .json으로 끝나면 JSON으로 씁니다.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>종료 코드: 0 모두 옮겼거나 나열함, 1 연결 또는 실행이 실패했거나 거부됨, 2 잘못된 사용법, 3 시간 초과, 4 끝났으나 실패했거나 이미 있던 항목이 있음, 130 Ctrl-C로 취소됨(다른 PC에 알립니다. Ctrl-C를 한 번 더 누르면 바로 종료합니다).</translation>
+        <source>The address or host name of a PC that is tried as well.</source>
+        <translation>추가로 연결해 볼 PC의 주소 또는 호스트 이름.</translation>
+    </message>
+    <message>
+        <source>What this PC is, to be compared with those that are heard.</source>
+        <translation>이 PC의 역할. 감지된 PC의 역할과 비교합니다.</translation>
+    </message>
+    <message>
+        <source>Listen for N seconds; without it, for 5.</source>
+        <translation>N초 동안 다른 PC를 감지합니다. 지정하지 않으면 5초입니다.</translation>
+    </message>
+    <message>
+        <source>Find out why the other PC isn&apos;t found: look at adapters, ports, firewalls and VPNs, and at who is heard and answers. Changes nothing.</source>
+        <translation>다른 PC를 찾지 못하는 원인을 알아봅니다. 어댑터, 포트, 방화벽, VPN을 살펴보고 어떤 PC가 감지되고 응답하는지 확인합니다. 아무것도 변경하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before, or diagnose has found what stands in the way; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>종료 코드: 0 모두 옮겼거나 나열함, 1 연결 또는 실행이 실패했거나 거부됨, 2 잘못된 사용법, 3 시간 초과, 4 끝났으나 실패했거나 이미 있던 항목이 있음 또는 diagnose에서 방해 요인을 찾음, 130 Ctrl-C로 취소됨(다른 PC에 알립니다. Ctrl-C를 한 번 더 누르면 바로 종료합니다).</translation>
+    </message>
+    <message>
+        <source>Say receive, send, discover, diagnose or scan. See --help.</source>
+        <translation>receive, send, discover, diagnose, scan 중 하나를 지정하십시오. --help를 참조하십시오.</translation>
     </message>
 </context>
 <context>
@@ -635,6 +717,10 @@
         <source>%1 ended the transfer.</source>
         <translation>%1에서 전송을 끝냈습니다.</translation>
     </message>
+    <message>
+        <source>More than one PC goes by %1: %2. Name the one that is meant by its address.</source>
+        <translation>%1에 해당하는 PC가 둘 이상입니다: %2. 원하는 PC를 주소로 지정하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -647,16 +733,24 @@
         <translation>다른 PC가 세션을 끝내지 않았습니다. 일부가 도착하지 않았을 수 있습니다.</translation>
     </message>
     <message>
-        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
-        <translation>전송할 데이터는 %1인데 %3의 사용 가능한 공간은 %2뿐이므로 모두 담을 수 없습니다.</translation>
-    </message>
-    <message>
         <source>No answer from %1 for %2 s</source>
         <translation>%1에서 %2초 동안 응답이 없습니다</translation>
     </message>
     <message>
         <source>%1 answers again</source>
         <translation>%1에서 다시 응답합니다</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>전송할 데이터는 %1인데 %3의 사용 가능한 공간은 %2뿐이므로 모두 담을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that everything is installed.</source>
+        <translation>모두 설치되었다는 알림이 오기 전에 %1과(와)의 연결이 끊어졌습니다.</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before everything was installed.</source>
+        <translation>모두 설치되기 전에 %1에서 전송을 취소했습니다.</translation>
     </message>
 </context>
 <context>
@@ -806,8 +900,32 @@
         <translation>파일: 도착 %1, 실패 %2, 이미 있음 %3.</translation>
     </message>
     <message>
-        <source>and %1 more</source>
-        <translation>그 외 %1개</translation>
+        <source>ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>참고</translation>
+    </message>
+    <message>
+        <source>PROBLEM</source>
+        <translation>문제</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>%1 기다리는 중: 그 PC에서 [예]를 눌러야 합니다</translation>
+    </message>
+    <message>
+        <source>Further ones are counted in the report.</source>
+        <translation>나머지는 보고서에 개수로만 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>Nothing was found that stands in the way.</source>
+        <translation>방해가 되는 것을 찾지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>Found in the way: %1.</source>
+        <translation>방해가 되는 항목: %1개.</translation>
     </message>
 </context>
 <context>
@@ -875,6 +993,10 @@
     <message>
         <source>%1 of %2 settings did not arrive</source>
         <translation>설정 %2개 중 %1개가 도착하지 않았습니다</translation>
+    </message>
+    <message>
+        <source>Apps and settings were sent. What became of them stands on the page of %1.</source>
+        <translation>앱과 설정을 보냈습니다. 결과는 %1의 화면에서 확인할 수 있습니다.</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1125,425 @@ Do you want to accept?</source>
         <source>Their code, character %1</source>
         <translation>상대방 코드, %1번째 문자</translation>
     </message>
+    <message>
+        <source>This is the address of this PC.</source>
+        <translation>이 PC의 주소입니다.</translation>
+    </message>
+    <message>
+        <source>Only IPv4 addresses work here, such as 192.168.1.23.</source>
+        <translation>여기서는 192.168.1.23과 같은 IPv4 주소만 사용할 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>An address has four numbers from 0 to 255, such as 192.168.1.23.</source>
+        <translation>주소는 192.168.1.23처럼 0에서 255까지의 숫자 네 개로 되어 있습니다.</translation>
+    </message>
+    <message>
+        <source>This is not the address of one PC.</source>
+        <translation>한 대의 PC를 가리키는 주소가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>This is neither an address nor the name of a PC.</source>
+        <translation>PC의 주소도 이름도 아닙니다.</translation>
+    </message>
+    <message>
+        <source>Address or name of the other PC</source>
+        <translation>다른 PC의 주소 또는 이름</translation>
+    </message>
+    <message>
+        <source>Or Enter Their Address</source>
+        <translation>또는 상대방 주소 입력</translation>
+    </message>
+    <message>
+        <source>Looking for %1...</source>
+        <translation>%1 찾는 중...</translation>
+    </message>
+    <message>
+        <source>No PC named %1 was found. Its address may work instead.</source>
+        <translation>이름이 %1인 PC를 찾을 수 없습니다. 주소를 입력하면 연결될 수도 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 has no IPv4 address.</source>
+        <translation>%1에 IPv4 주소가 없습니다.</translation>
+    </message>
+    <message>
+        <source>Address of this PC: %1</source>
+        <translation>이 PC의 주소: %1</translation>
+    </message>
+    <message>
+        <source>Enter their code instead</source>
+        <translation>대신 상대방 코드 입력</translation>
+    </message>
+    <message>
+        <source>Enter an address instead</source>
+        <translation>대신 주소 입력</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>%1 기다리는 중: 그 PC에서 [예]를 눌러야 합니다</translation>
+    </message>
+    <message>
+        <source>No connection to %1: %2.</source>
+        <translation>%1에 연결할 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>Its address: %1</source>
+        <translation>상대방 주소: %1</translation>
+    </message>
+    <message>
+        <source>Zandrove is open on the other PC too, and shows this page there.</source>
+        <translation>다른 PC에서도 Zandrove가 열려 있고 이 페이지가 표시되어 있습니다.</translation>
+    </message>
+    <message>
+        <source>The network cable is plugged in on both PCs, and its lights are on.</source>
+        <translation>네트워크 케이블이 두 PC에 모두 꽂혀 있고 표시등이 켜져 있습니다.</translation>
+    </message>
+    <message>
+        <source>Both are in the same network, and neither in a guest Wi-Fi or a VPN.</source>
+        <translation>두 PC가 같은 네트워크에 있고, 어느 쪽도 게스트 Wi-Fi나 VPN에 연결되어 있지 않습니다.</translation>
+    </message>
+    <message>
+        <source>One of the two is the Old PC, and the other one the New PC.</source>
+        <translation>둘 중 하나는 이전 PC이고 다른 하나는 새 PC입니다.</translation>
+    </message>
+    <message>
+        <source>The firewalls of both PCs let Zandrove through.</source>
+        <translation>두 PC의 방화벽이 Zandrove를 허용합니다.</translation>
+    </message>
+    <message>
+        <source>Nobody found yet. Please check, the likeliest first:</source>
+        <translation>아직 PC를 찾지 못했습니다. 가능성이 큰 것부터 다음을 확인하십시오:</translation>
+    </message>
+    <message>
+        <source>Can&apos;t find the other PC?</source>
+        <translation>다른 PC를 찾을 수 없습니까?</translation>
+    </message>
+    <message>
+        <source>Back to the devices</source>
+        <translation>장치 목록으로 돌아가기</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>다시 확인</translation>
+    </message>
+    <message>
+        <source>Looking at this PC and its network. This takes some seconds...</source>
+        <translation>이 PC와 네트워크를 살펴보는 중입니다. 몇 초 정도 걸립니다...</translation>
+    </message>
+    <message>
+        <source>Nothing was found here that stands in the way. Please check on the other PC as well.</source>
+        <translation>여기서는 방해가 되는 것을 찾지 못했습니다. 다른 PC에서도 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>What is marked with ✗ stands in the way.</source>
+        <translation>✗ 표시가 있는 항목이 방해가 됩니다.</translation>
+    </message>
+    <message>
+        <source>another program, maybe a second Zandrove</source>
+        <translation>다른 프로그램(또 하나의 Zandrove일 수 있음)</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so no other PC can connect to this one. Please close that program, then try again.</source>
+        <translation>%2에서 포트 %1을(를) 사용 중이어서 다른 PC가 이 PC에 연결할 수 없습니다. 그 프로그램을 닫은 다음 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so this PC does not hear other PCs. Please close that program, then try again.</source>
+        <translation>%2에서 포트 %1을(를) 사용 중이어서 이 PC가 다른 PC를 감지하지 못합니다. 그 프로그램을 닫은 다음 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1도 있지만 똑같이 이전 PC로 되어 있습니다. 둘 중 하나에서 새 PC를 선택하십시오</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1도 있지만 똑같이 새 PC로 되어 있습니다. 둘 중 하나에서 이전 PC를 선택하십시오</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>다시 시도</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Diagnosis</name>
+    <message>
+        <source>wired</source>
+        <translation>유선</translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>virtual</source>
+        <translation>가상</translation>
+    </message>
+    <message>
+        <source>VPN</source>
+        <translation>VPN</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2.</source>
+        <translation>%1의 주소는 %2입니다.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but is connected to nothing.</source>
+        <translation>%1의 주소는 %2이지만 아무것에도 연결되어 있지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Plug in its cable, or join a network with it.</source>
+        <translation>케이블을 꽂거나 이 어댑터로 네트워크에 연결하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but no broadcast can leave by it: %3.</source>
+        <translation>%1의 주소는 %2이지만 이 연결로 브로드캐스트를 보낼 수 없습니다: %3.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps Zandrove from sending.</source>
+        <translation>이 PC에 Zandrove의 전송을 막는 방화벽이나 보안 프로그램이 있는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, and broadcasts leave by it.</source>
+        <translation>%1의 주소는 %2이며, 이 연결로 브로드캐스트를 보낼 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is connected, but has no address yet.</source>
+        <translation>%1이(가) 연결되어 있지만 아직 주소가 없습니다.</translation>
+    </message>
+    <message>
+        <source>Wait a minute. If none comes, see whether the router is on; over a direct cable, set this connection to link-local addresses.</source>
+        <translation>1분 정도 기다리십시오. 주소가 할당되지 않으면 공유기가 켜져 있는지 확인하십시오. 케이블로 직접 연결한 경우에는 이 연결을 링크-로컬 주소로 설정하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 is connected to nothing.</source>
+        <translation>%1이(가) 아무것에도 연결되어 있지 않습니다.</translation>
+    </message>
+    <message>
+        <source>This PC has only an address that it gave itself, %1.</source>
+        <translation>이 PC에는 스스로 할당한 주소 %1만 있습니다.</translation>
+    </message>
+    <message>
+        <source>Over a direct cable that is as it should be: choose Cable Mode on both PCs. In a network, see whether the router is on.</source>
+        <translation>케이블로 직접 연결한 경우에는 정상입니다. 두 PC에서 케이블 모드를 선택하십시오. 네트워크에 연결한 경우에는 공유기가 켜져 있는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is meant for the network %2 of %3.</source>
+        <translation>%3의 네트워크 %2(으)로 가야 할 통신이 VPN %1(으)로 나갑니다.</translation>
+    </message>
+    <message>
+        <source>Disconnect the VPN until everything has moved.</source>
+        <translation>모두 옮길 때까지 VPN 연결을 끊으십시오.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is not for a local network.</source>
+        <translation>로컬 네트워크 이외의 통신은 VPN %1(으)로 나갑니다.</translation>
+    </message>
+    <message>
+        <source>Disconnect it if the PCs don&apos;t find each other: many a VPN keeps its PC away from the local network.</source>
+        <translation>PC가 서로를 찾지 못하면 VPN 연결을 끊으십시오. 많은 VPN이 PC를 로컬 네트워크에서 분리합니다.</translation>
+    </message>
+    <message>
+        <source>This PC is in no network.</source>
+        <translation>이 PC가 네트워크에 연결되어 있지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Plug in a cable, or join a Wi-Fi.</source>
+        <translation>케이블을 꽂거나 Wi-Fi에 연결하십시오.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>새 PC</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>이전 PC</translation>
+    </message>
+    <message>
+        <source>What is meant for it leaves by the VPN %1: disconnect that first.</source>
+        <translation>그 PC로 가야 할 통신이 VPN %1(으)로 나갑니다. 먼저 VPN 연결을 끊으십시오.</translation>
+    </message>
+    <message>
+        <source>Run this diagnosis on %1: its port may be taken there, or its firewall turns connections away.</source>
+        <translation>%1에서 이 진단을 실행하십시오. 그 PC의 포트가 이미 사용 중이거나 방화벽이 연결을 거부하는 것일 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Let Zandrove through the firewall of %1: TCP port %2.</source>
+        <translation>%1의 방화벽에서 Zandrove를 허용하십시오: TCP 포트 %2.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but refuses connections on TCP port %4.</source>
+        <translation>%1(%2)이(가) %3(으)로 감지되지만 TCP 포트 %4에서 연결을 거부합니다.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but can&apos;t be connected to: %4.</source>
+        <translation>%1(%2)이(가) %3(으)로 감지되지만 연결할 수 없습니다: %4.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but does not answer on TCP port %4.</source>
+        <translation>%1(%2)이(가) %3(으)로 감지되지만 TCP 포트 %4에서 응답하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as %2.</source>
+        <translation>%1도 있지만 똑같이 %2(으)로 되어 있습니다.</translation>
+    </message>
+    <message>
+        <source>Choose %1 on one of the two.</source>
+        <translation>둘 중 하나에서 %1을(를) 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, and answers.</source>
+        <translation>%1(%2)이(가) %3(으)로 감지되고 응답합니다.</translation>
+    </message>
+    <message>
+        <source>Nobody here knows a PC by the name %1.</source>
+        <translation>이 네트워크에서 이름이 %1인 PC를 찾을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Give its address instead; its page of connections shows it.</source>
+        <translation>대신 주소를 지정하십시오. 주소는 그 PC의 연결 페이지에 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>%1 is this PC itself.</source>
+        <translation>%1은(는) 바로 이 PC입니다.</translation>
+    </message>
+    <message>
+        <source>Give the address of the other PC.</source>
+        <translation>다른 PC의 주소를 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 answers on TCP port %2, but is not heard on UDP port %3.</source>
+        <translation>%1이(가) TCP 포트 %2에서 응답하지만 UDP 포트 %3에서 감지되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Open the page of connections there, and UDP port %1 in the firewalls of both PCs; or connect by the address.</source>
+        <translation>그 PC에서 연결 페이지를 열고 두 PC의 방화벽에서 UDP 포트 %1을(를) 허용하십시오. 또는 주소로 연결하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 is there, but refuses connections on TCP port %2.</source>
+        <translation>%1이(가) 있지만 TCP 포트 %2에서 연결을 거부합니다.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove there, up to its page of connections.</source>
+        <translation>그 PC에서 Zandrove를 열고 연결 페이지까지 이동하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be connected to: %2.</source>
+        <translation>%1에 연결할 수 없습니다: %2.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, and both PCs are in the same network.</source>
+        <translation>주소가 올바른지, 두 PC가 같은 네트워크에 있는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 does not answer on TCP port %2, and is not heard.</source>
+        <translation>%1이(가) TCP 포트 %2에서 응답하지 않고 감지되지도 않습니다.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, that PC on, and its firewall open for Zandrove.</source>
+        <translation>주소가 올바른지, 그 PC가 켜져 있는지, 방화벽이 Zandrove를 허용하는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>This PC doesn&apos;t hear its own broadcasts on %1.</source>
+        <translation>이 PC가 %1에서 자신의 브로드캐스트를 받지 못합니다.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps out UDP port %1.</source>
+        <translation>이 PC에 UDP 포트 %1의 수신을 막는 방화벽이나 보안 프로그램이 있는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Nobody has answered on %1, and it has no router.</source>
+        <translation>%1에서 아무 응답도 없고 공유기도 없습니다.</translation>
+    </message>
+    <message>
+        <source>If the other PC should be there, see whether its end of the cable, or its network, is on.</source>
+        <translation>다른 PC가 이 연결에 있어야 한다면 케이블 반대쪽이 연결되어 있는지 또는 그 PC의 네트워크가 켜져 있는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>No other PC was heard within %1 s.</source>
+        <translation>%1초 안에 다른 PC가 감지되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove on the other PC, up to its page of connections, and put both PCs into the same network.</source>
+        <translation>다른 PC에서 Zandrove를 열어 연결 페이지까지 이동하고, 두 PC를 같은 네트워크에 연결하십시오.</translation>
+    </message>
+    <message>
+        <source>TCP port %1</source>
+        <translation>TCP 포트 %1</translation>
+    </message>
+    <message>
+        <source>UDP port %1</source>
+        <translation>UDP 포트 %1</translation>
+    </message>
+    <message>
+        <source>%1 is free.</source>
+        <translation>%1은(는) 비어 있습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is held by Zandrove, as it should be.</source>
+        <translation>%1은(는) Zandrove에서 사용 중이며, 정상입니다.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program.</source>
+        <translation>%1은(는) 다른 프로그램에서 사용 중입니다.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by %2.</source>
+        <translation>%1은(는) %2에서 사용 중입니다.</translation>
+    </message>
+    <message>
+        <source>Find out which one it is, close it, and start Zandrove anew.</source>
+        <translation>어떤 프로그램인지 알아내어 닫은 다음 Zandrove를 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>Close that program, and start Zandrove anew.</source>
+        <translation>그 프로그램을 닫은 다음 Zandrove를 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 및 %2</translation>
+    </message>
+    <message>
+        <source>%1 is on, and lets both ports in.</source>
+        <translation>%1이(가) 켜져 있고 두 포트의 수신을 모두 허용합니다.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and keeps out %2.</source>
+        <translation>%1이(가) 켜져 있고 %2의 수신을 차단합니다.</translation>
+    </message>
+    <message>
+        <source>Have it let both ports in.</source>
+        <translation>두 포트의 수신을 모두 허용하도록 설정하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and it depends on the sender, or on rules that can&apos;t be judged here, whether it lets both ports in.</source>
+        <translation>%1이(가) 켜져 있습니다. 두 포트의 수신을 허용하는지는 보내는 쪽이나 여기서 판단할 수 없는 규칙에 따라 달라집니다.</translation>
+    </message>
+    <message>
+        <source>See whether its rules let in %1 and %2.</source>
+        <translation>규칙에서 %1 및 %2의 수신을 허용하는지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be read without administrator rights.</source>
+        <translation>관리자 권한이 없어 %1의 상태를 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 gave no answer that could be read.</source>
+        <translation>%1에서 읽을 수 있는 응답이 없습니다.</translation>
+    </message>
+    <message>
+        <source>%1 is off.</source>
+        <translation>%1이(가) 꺼져 있습니다.</translation>
+    </message>
+    <message>
+        <source>No firewall was found of those that can be asked.</source>
+        <translation>상태를 확인할 수 있는 방화벽을 찾지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>The system treats the network %1 as public.</source>
+        <translation>시스템에서 네트워크 %1을(를) 공용으로 취급합니다.</translation>
+    </message>
+    <message>
+        <source>If it is your own, set it to private in the network settings.</source>
+        <translation>직접 사용하는 개인 네트워크라면 네트워크 설정에서 개인으로 변경하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::FileBrowserWidget</name>
@@ -1125,6 +1666,41 @@ Do you want to accept?</source>
     <message>
         <source>changed while it was sent</source>
         <translation>보내는 동안 변경되었습니다</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FindingRow</name>
+    <message>
+        <source>As it should be</source>
+        <translation>정상</translation>
+    </message>
+    <message>
+        <source>May matter</source>
+        <translation>영향을 줄 수 있음</translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>방해가 됨</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>복사됨</translation>
+    </message>
+    <message>
+        <source>Run as administrator</source>
+        <translation>관리자 권한으로 실행</translation>
+    </message>
+    <message>
+        <source>Done. Please check again.</source>
+        <translation>완료했습니다. 다시 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>That did not work.</source>
+        <translation>실행하지 못했습니다.</translation>
     </message>
 </context>
 <context>
@@ -1258,17 +1834,6 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationRun</name>
-    <message>
-        <source>[App] %1</source>
-        <translation>[앱] %1</translation>
-    </message>
-    <message>
-        <source>[Setting] %1</source>
-        <translation>[설정] %1</translation>
-    </message>
-</context>
-<context>
     <name>Zandrove::MissingItems</name>
     <message>
         <source>Did not arrive</source>
@@ -1287,16 +1852,8 @@ The application will restart now.</source>
         <translation>보고서 저장…</translation>
     </message>
     <message>
-        <source>And %1 more.</source>
-        <translation>그 외 %1개.</translation>
-    </message>
-    <message>
         <source>The list is on the clipboard.</source>
         <translation>목록을 클립보드에 복사했습니다.</translation>
-    </message>
-    <message>
-        <source>Zandrove report</source>
-        <translation>Zandrove 보고서</translation>
     </message>
     <message>
         <source>Save report</source>
@@ -1377,6 +1934,10 @@ The application will restart now.</source>
         <source>the link was lost</source>
         <translation>연결이 끊어졌습니다</translation>
     </message>
+    <message>
+        <source>its installation was stopped at %1 %</source>
+        <translation>설치가 %1 %에서 중지되었습니다</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::ReplacingFile</name>
@@ -1432,14 +1993,6 @@ The application will restart now.</source>
         <translation>설정</translation>
     </message>
     <message>
-        <source>There already</source>
-        <translation>이미 있음</translation>
-    </message>
-    <message>
-        <source>There, but different</source>
-        <translation>있으나 다름</translation>
-    </message>
-    <message>
         <source>Failed</source>
         <translation>실패</translation>
     </message>
@@ -1484,32 +2037,12 @@ The application will restart now.</source>
         <translation>결과</translation>
     </message>
     <message>
-        <source>%1 files, which only the report of the Old PC can name.</source>
-        <translation>파일 %1개. 이름은 이전 PC의 보고서에만 나옵니다.</translation>
-    </message>
-    <message>
-        <source>And %1 more, which only the report of the Old PC can name.</source>
-        <translation>그 외 %1개. 이름은 이전 PC의 보고서에만 나옵니다.</translation>
-    </message>
-    <message>
-        <source>%1 files.</source>
-        <translation>파일 %1개.</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>그 외 %1개.</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>파일</translation>
     </message>
     <message>
         <source>Reason</source>
         <translation>이유</translation>
-    </message>
-    <message>
-        <source>%1 were there already.</source>
-        <translation>%1개는 이미 있었습니다.</translation>
     </message>
     <message>
         <source>en</source>
@@ -1539,6 +2072,22 @@ The application will restart now.</source>
     <message>
         <source>it is no ordinary file</source>
         <translation>일반 파일이 아닙니다</translation>
+    </message>
+    <message>
+        <source>There already, identical</source>
+        <translation>이미 있음, 내용이 같음</translation>
+    </message>
+    <message>
+        <source>There already, and different</source>
+        <translation>이미 있음, 내용이 다름</translation>
+    </message>
+    <message>
+        <source>%1 were there already, identical.</source>
+        <translation>%1개는 같은 내용으로 이미 있었습니다.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Zandrove 보고서</translation>
     </message>
 </context>
 <context>
@@ -1697,12 +2246,40 @@ The application will restart now.</source>
         <translation>두 PC를 다시 연결하고 같은 전송을 시작하십시오. 이미 도착한 것은 건너뛰고 빠진 것만 옮깁니다.</translation>
     </message>
     <message>
-        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
-        <translation>목록에서 이유를 확인하십시오. 원인을 해결한 다음 같은 전송을 다시 시작하십시오. 이미 도착한 것은 건너뛰고 빠진 것만 옮깁니다.</translation>
-    </message>
-    <message>
         <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
         <translation>빠진 것이 없을 때까지 이전 PC를 그대로 두십시오. 이전 PC에서는 아무것도 삭제되지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>[App] %1</source>
+        <translation>[앱] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[설정] %1</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>그 외 %1개.</translation>
+    </message>
+    <message>
+        <source>1 announced file did not come. The report of %1 names it.</source>
+        <translation>보낼 예정이던 파일 1개가 도착하지 않았습니다. 이름은 %1의 보고서에 나옵니다.</translation>
+    </message>
+    <message>
+        <source>%1 announced files did not come. The report of %2 names them.</source>
+        <translation>보낼 예정이던 파일 %1개가 도착하지 않았습니다. 이름은 %2의 보고서에 나옵니다.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list.</source>
+        <translation>목록에서 이유를 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the report of %1.</source>
+        <translation>%1의 보고서에서 이유를 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>원인을 해결한 다음 같은 전송을 다시 시작하십시오. 이미 도착한 것은 건너뛰고 빠진 것만 옮깁니다.</translation>
     </message>
 </context>
 <context>
@@ -1824,6 +2401,10 @@ The application will restart now.</source>
     <message>
         <source>sent; what became of it stands in the report of %1</source>
         <translation>보냈습니다. 결과는 %1의 보고서에 있습니다</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>보냈지만 %1에서 도착을 확인하지 않았습니다</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2737,10 @@ The application will restart now.</source>
         <source>Scan error: %1</source>
         <translation>검색 오류: %1</translation>
     </message>
+    <message>
+        <source>More than one PC shows the code %1: %2</source>
+        <translation>코드 %1을(를) 표시하는 PC가 둘 이상입니다: %2</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::TransferPage</name>
@@ -2202,10 +2787,6 @@ The application will restart now.</source>
     <message>
         <source>Are you sure you want to cancel the transfer?</source>
         <translation>전송을 취소하시겠습니까?</translation>
-    </message>
-    <message>
-        <source>All progress will be lost and incomplete files may remain on the destination.</source>
-        <translation>지금까지의 진행 내용이 사라지며, 완전하지 않은 파일이 대상 PC에 남을 수 있습니다.</translation>
     </message>
     <message>
         <source>Yes, Cancel</source>
@@ -2288,12 +2869,20 @@ The application will restart now.</source>
         <translation>전송이 진행 중입니다. 창을 닫으면 전송이 취소됩니다.</translation>
     </message>
     <message>
-        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
-        <translation>이미 도착한 것은 새 PC에 남으며, 이전 PC에서는 아무것도 삭제되지 않습니다.</translation>
-    </message>
-    <message>
         <source>Cancel and Close</source>
         <translation>취소하고 닫기</translation>
+    </message>
+    <message>
+        <source>Back to selection</source>
+        <translation>선택으로 돌아가기</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC. A report is left in your documents.</source>
+        <translation>이미 도착한 것은 새 PC에 남으며, 이전 PC에서는 아무것도 삭제되지 않습니다. 보고서는 문서 폴더에 저장됩니다.</translation>
+    </message>
+    <message>
+        <source>All progress will be lost. Files that have arrived stay; nothing incomplete remains.</source>
+        <translation>지금까지의 진행 내용이 사라집니다. 이미 도착한 파일은 남고, 완전하지 않은 파일은 남지 않습니다.</translation>
     </message>
 </context>
 <context>

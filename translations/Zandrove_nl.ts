@@ -221,6 +221,10 @@
         <source>Another ticked folder has a file of this name</source>
         <translation>Een andere aangevinkte map bevat een bestand met deze naam</translation>
     </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>Niet bereikbaar</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::AccountScanner</name>
@@ -231,6 +235,25 @@
     <message>
         <source>Enumerating Windows accounts...</source>
         <translation>Windows-accounts opvragen...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Aftermath</name>
+    <message>
+        <source>%1 was lost before it said that this is installed</source>
+        <translation>De verbinding met %1 is verbroken voordat de installatie daar werd bevestigd</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that this is applied</source>
+        <translation>De verbinding met %1 is verbroken voordat het toepassen daar werd bevestigd</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is installed</source>
+        <translation>%1 heeft de overdracht geannuleerd voordat de installatie werd bevestigd</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is applied</source>
+        <translation>%1 heeft de overdracht geannuleerd voordat het toepassen werd bevestigd</translation>
     </message>
 </context>
 <context>
@@ -394,6 +417,49 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::Notices</name>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1 is er ook, maar eveneens als oude pc: kies op een van de twee ‘Nieuwe pc’</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1 is er ook, maar eveneens als nieuwe pc: kies op een van de twee ‘Oude pc’</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>een ander programma</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: this PC hears no other one. End that program, and begin anew.</source>
+        <translation>Poort %1 is bezet door %2: deze pc hoort geen andere. Sluit dat programma af en begin opnieuw.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can reach this one. End that program, and begin anew.</source>
+        <translation>Poort %1 is bezet door %2: geen andere pc kan deze bereiken. Sluit dat programma af en begin opnieuw.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can ask this one, which can still ask others.</source>
+        <translation>Poort %1 is bezet door %2: geen andere pc kan deze een verzoek sturen; deze kan dat bij andere nog wel.</translation>
+    </message>
+    <message>
+        <source>%1 was not found for 20 seconds. In reach are: %2.</source>
+        <translation>%1 is 20 seconden lang niet gevonden. Binnen bereik: %2.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>Nieuwe pc</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>Oude pc</translation>
+    </message>
+    <message>
+        <source>Nobody was found for 20 seconds. What to look at, the likeliest first: Zandrove runs on the other PC, as %1; both PCs are in the same network, or joined by a cable; neither of them uses a VPN; their firewalls let TCP port %2 and UDP port %3 in. zandrove-cli diagnose looks for the cause.</source>
+        <translation>Er is 20 seconden lang niemand gevonden. Wat u kunt nagaan, het meest waarschijnlijke eerst: Zandrove is actief op de andere pc, als ‘%1’; beide pc’s zitten in hetzelfde netwerk of zijn met een kabel verbonden; geen van beide gebruikt een VPN; hun firewalls laten TCP-poort %2 en UDP-poort %3 binnen. zandrove-cli diagnose zoekt naar de oorzaak.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -508,10 +574,6 @@
         <translation>Onverwacht argument %1. Zie --help.</translation>
     </message>
     <message>
-        <source>Say receive, send, discover or scan. See --help.</source>
-        <translation>Geef receive, send, discover of scan op. Zie --help.</translation>
-    </message>
-    <message>
         <source>Unknown command %1. See --help.</source>
         <translation>Onbekende opdracht %1. Zie --help.</translation>
     </message>
@@ -552,8 +614,28 @@
         <translation>Het rapport van elke overdracht naar FILE schrijven, in plaats van het vorige: een pagina om te lezen of, bij een naam die op .json eindigt, JSON.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Afsluitcodes: 0 alles overgezet of getoond; 1 de verbinding of de overdracht is mislukt of geweigerd; 2 verkeerd gebruik; 3 time-out; 4 voltooid, maar er is iets mislukt of er was al iets aanwezig; 130 geannuleerd met Ctrl+C (de andere pc krijgt bericht; een tweede Ctrl+C stopt meteen).</translation>
+        <source>The address or host name of a PC that is tried as well.</source>
+        <translation>Het adres of de hostnaam van een pc die ook wordt geprobeerd.</translation>
+    </message>
+    <message>
+        <source>What this PC is, to be compared with those that are heard.</source>
+        <translation>Wat deze pc is, om te vergelijken met de pc’s die te horen zijn.</translation>
+    </message>
+    <message>
+        <source>Listen for N seconds; without it, for 5.</source>
+        <translation>N seconden luisteren; zonder deze optie 5.</translation>
+    </message>
+    <message>
+        <source>Find out why the other PC isn&apos;t found: look at adapters, ports, firewalls and VPNs, and at who is heard and answers. Changes nothing.</source>
+        <translation>Nagaan waarom de andere pc niet wordt gevonden: adapters, poorten, firewalls en VPN’s bekijken, en wie te horen is en antwoordt. Wijzigt niets.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before, or diagnose has found what stands in the way; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Afsluitcodes: 0 alles overgezet of getoond; 1 de verbinding of de overdracht is mislukt of geweigerd; 2 verkeerd gebruik; 3 time-out; 4 voltooid, maar er is iets mislukt of er was al iets aanwezig, of diagnose heeft een belemmering gevonden; 130 geannuleerd met Ctrl+C (de andere pc krijgt bericht; een tweede Ctrl+C stopt meteen).</translation>
+    </message>
+    <message>
+        <source>Say receive, send, discover, diagnose or scan. See --help.</source>
+        <translation>Geef receive, send, discover, diagnose of scan op. Zie --help.</translation>
     </message>
 </context>
 <context>
@@ -635,6 +717,10 @@
         <source>%1 ended the transfer.</source>
         <translation>%1 heeft de overdracht beëindigd.</translation>
     </message>
+    <message>
+        <source>More than one PC goes by %1: %2. Name the one that is meant by its address.</source>
+        <translation>Er is meer dan één pc te vinden onder %1: %2. Geef het adres op van de pc die u bedoelt.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -647,16 +733,24 @@
         <translation>De andere pc heeft de sessie niet beëindigd: mogelijk is niet alles aangekomen.</translation>
     </message>
     <message>
-        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
-        <translation>Er is %1 onderweg, maar op %3 is maar %2 vrij: niet alles past.</translation>
-    </message>
-    <message>
         <source>No answer from %1 for %2 s</source>
-        <translation>Al %2 s geen antwoord van %1</translation>
+        <translation>Al %2&#xa0;s geen antwoord van %1</translation>
     </message>
     <message>
         <source>%1 answers again</source>
         <translation>%1 antwoordt weer</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>Er is %1 onderweg, maar op %3 is maar %2 vrij: niet alles past.</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that everything is installed.</source>
+        <translation>De verbinding met %1 is verbroken voordat werd bevestigd dat alles is geïnstalleerd.</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before everything was installed.</source>
+        <translation>%1 heeft de overdracht geannuleerd voordat alles was geïnstalleerd.</translation>
     </message>
 </context>
 <context>
@@ -806,8 +900,32 @@
         <translation>Bestanden: %1 aangekomen, %2 mislukt, %3 al aanwezig.</translation>
     </message>
     <message>
-        <source>and %1 more</source>
-        <translation>en nog %1</translation>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>tip</translation>
+    </message>
+    <message>
+        <source>PROBLEM</source>
+        <translation>PROBLEEM</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>Wachten op %1: daar moet iemand op ‘Ja’ drukken</translation>
+    </message>
+    <message>
+        <source>Further ones are counted in the report.</source>
+        <translation>Verdere worden in het rapport meegeteld.</translation>
+    </message>
+    <message>
+        <source>Nothing was found that stands in the way.</source>
+        <translation>Er is niets gevonden dat in de weg staat.</translation>
+    </message>
+    <message>
+        <source>Found in the way: %1.</source>
+        <translation>Gevonden belemmeringen: %1.</translation>
     </message>
 </context>
 <context>
@@ -875,6 +993,10 @@
     <message>
         <source>%1 of %2 settings did not arrive</source>
         <translation>%1 van %2 instellingen niet aangekomen</translation>
+    </message>
+    <message>
+        <source>Apps and settings were sent. What became of them stands on the page of %1.</source>
+        <translation>Apps en instellingen zijn verzonden. Het resultaat staat op de pagina van %1.</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1125,425 @@ Wilt u dit toestaan?</translation>
         <source>Their code, character %1</source>
         <translation>Code van de andere pc, teken %1</translation>
     </message>
+    <message>
+        <source>This is the address of this PC.</source>
+        <translation>Dit is het adres van deze pc.</translation>
+    </message>
+    <message>
+        <source>Only IPv4 addresses work here, such as 192.168.1.23.</source>
+        <translation>Alleen IPv4-adressen werken hier, bijvoorbeeld 192.168.1.23.</translation>
+    </message>
+    <message>
+        <source>An address has four numbers from 0 to 255, such as 192.168.1.23.</source>
+        <translation>Een adres heeft vier getallen van 0 tot en met 255, bijvoorbeeld 192.168.1.23.</translation>
+    </message>
+    <message>
+        <source>This is not the address of one PC.</source>
+        <translation>Dit is niet het adres van één pc.</translation>
+    </message>
+    <message>
+        <source>This is neither an address nor the name of a PC.</source>
+        <translation>Dit is geen adres en ook geen naam van een pc.</translation>
+    </message>
+    <message>
+        <source>Address or name of the other PC</source>
+        <translation>Adres of naam van de andere pc</translation>
+    </message>
+    <message>
+        <source>Or Enter Their Address</source>
+        <translation>Of het adres van de andere pc</translation>
+    </message>
+    <message>
+        <source>Looking for %1...</source>
+        <translation>%1 zoeken...</translation>
+    </message>
+    <message>
+        <source>No PC named %1 was found. Its address may work instead.</source>
+        <translation>Er is geen pc met de naam %1 gevonden. Misschien werkt het adres wel.</translation>
+    </message>
+    <message>
+        <source>%1 has no IPv4 address.</source>
+        <translation>%1 heeft geen IPv4-adres.</translation>
+    </message>
+    <message>
+        <source>Address of this PC: %1</source>
+        <translation>Adres van deze pc: %1</translation>
+    </message>
+    <message>
+        <source>Enter their code instead</source>
+        <translation>In plaats daarvan de code invoeren</translation>
+    </message>
+    <message>
+        <source>Enter an address instead</source>
+        <translation>In plaats daarvan een adres invoeren</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>Wachten op %1: daar moet iemand op ‘Ja’ drukken</translation>
+    </message>
+    <message>
+        <source>No connection to %1: %2.</source>
+        <translation>Geen verbinding met %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its address: %1</source>
+        <translation>Het adres: %1</translation>
+    </message>
+    <message>
+        <source>Zandrove is open on the other PC too, and shows this page there.</source>
+        <translation>Zandrove is ook op de andere pc geopend en toont daar deze pagina.</translation>
+    </message>
+    <message>
+        <source>The network cable is plugged in on both PCs, and its lights are on.</source>
+        <translation>De netwerkkabel is op beide pc’s aangesloten en de lampjes branden.</translation>
+    </message>
+    <message>
+        <source>Both are in the same network, and neither in a guest Wi-Fi or a VPN.</source>
+        <translation>Beide zitten in hetzelfde netwerk, en geen van beide in een gasten-Wi-Fi of een VPN.</translation>
+    </message>
+    <message>
+        <source>One of the two is the Old PC, and the other one the New PC.</source>
+        <translation>Een van de twee is de oude pc en de andere de nieuwe pc.</translation>
+    </message>
+    <message>
+        <source>The firewalls of both PCs let Zandrove through.</source>
+        <translation>De firewalls van beide pc’s laten Zandrove door.</translation>
+    </message>
+    <message>
+        <source>Nobody found yet. Please check, the likeliest first:</source>
+        <translation>Nog niemand gevonden. Controleer het volgende, het meest waarschijnlijke eerst:</translation>
+    </message>
+    <message>
+        <source>Can&apos;t find the other PC?</source>
+        <translation>Kunt u de andere pc niet vinden?</translation>
+    </message>
+    <message>
+        <source>Back to the devices</source>
+        <translation>Terug naar de apparaten</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>Opnieuw controleren</translation>
+    </message>
+    <message>
+        <source>Looking at this PC and its network. This takes some seconds...</source>
+        <translation>Deze pc en het netwerk worden bekeken. Dit duurt enkele seconden...</translation>
+    </message>
+    <message>
+        <source>Nothing was found here that stands in the way. Please check on the other PC as well.</source>
+        <translation>Hier is niets gevonden dat in de weg staat. Controleer ook de andere pc.</translation>
+    </message>
+    <message>
+        <source>What is marked with ✗ stands in the way.</source>
+        <translation>Wat met ✗ is gemarkeerd, staat in de weg.</translation>
+    </message>
+    <message>
+        <source>another program, maybe a second Zandrove</source>
+        <translation>een ander programma, misschien een tweede Zandrove</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so no other PC can connect to this one. Please close that program, then try again.</source>
+        <translation>Poort %1 is bezet door %2, zodat geen andere pc verbinding met deze kan maken. Sluit dat programma en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so this PC does not hear other PCs. Please close that program, then try again.</source>
+        <translation>Poort %1 is bezet door %2, zodat deze pc geen andere pc’s hoort. Sluit dat programma en probeer het opnieuw.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1 is er ook, maar eveneens als oude pc: kies op een van de twee ‘Nieuwe pc’</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1 is er ook, maar eveneens als nieuwe pc: kies op een van de twee ‘Oude pc’</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Opnieuw proberen</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Diagnosis</name>
+    <message>
+        <source>wired</source>
+        <translation>bekabeld</translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>virtual</source>
+        <translation>virtueel</translation>
+    </message>
+    <message>
+        <source>VPN</source>
+        <translation>VPN</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2.</source>
+        <translation>%1 heeft het adres %2.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but is connected to nothing.</source>
+        <translation>%1 heeft het adres %2, maar is nergens mee verbonden.</translation>
+    </message>
+    <message>
+        <source>Plug in its cable, or join a network with it.</source>
+        <translation>Sluit de kabel aan of maak er verbinding met een netwerk mee.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but no broadcast can leave by it: %3.</source>
+        <translation>%1 heeft het adres %2, maar kan geen broadcast verzenden: %3.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps Zandrove from sending.</source>
+        <translation>Zoek op deze pc naar een firewall of beveiligingsprogramma dat Zandrove belet te verzenden.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, and broadcasts leave by it.</source>
+        <translation>%1 heeft het adres %2 en verzendt broadcasts.</translation>
+    </message>
+    <message>
+        <source>%1 is connected, but has no address yet.</source>
+        <translation>%1 is verbonden, maar heeft nog geen adres.</translation>
+    </message>
+    <message>
+        <source>Wait a minute. If none comes, see whether the router is on; over a direct cable, set this connection to link-local addresses.</source>
+        <translation>Wacht een minuut. Komt er geen adres, controleer dan of de router aanstaat; bij een directe kabel stelt u deze verbinding in op link-local-adressen.</translation>
+    </message>
+    <message>
+        <source>%1 is connected to nothing.</source>
+        <translation>%1 is nergens mee verbonden.</translation>
+    </message>
+    <message>
+        <source>This PC has only an address that it gave itself, %1.</source>
+        <translation>Deze pc heeft alleen een adres dat hij zichzelf heeft gegeven, %1.</translation>
+    </message>
+    <message>
+        <source>Over a direct cable that is as it should be: choose Cable Mode on both PCs. In a network, see whether the router is on.</source>
+        <translation>Bij een directe kabel hoort dat zo: kies op beide pc’s de kabelmodus. Controleer in een netwerk of de router aanstaat.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is meant for the network %2 of %3.</source>
+        <translation>De VPN %1 vangt op wat voor het netwerk %2 van %3 is bestemd.</translation>
+    </message>
+    <message>
+        <source>Disconnect the VPN until everything has moved.</source>
+        <translation>Verbreek de VPN-verbinding tot alles is overgezet.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is not for a local network.</source>
+        <translation>De VPN %1 vangt op wat niet voor een lokaal netwerk is bestemd.</translation>
+    </message>
+    <message>
+        <source>Disconnect it if the PCs don&apos;t find each other: many a VPN keeps its PC away from the local network.</source>
+        <translation>Verbreek die verbinding als de pc’s elkaar niet vinden: veel VPN’s houden hun pc weg van het lokale netwerk.</translation>
+    </message>
+    <message>
+        <source>This PC is in no network.</source>
+        <translation>Deze pc zit in geen enkel netwerk.</translation>
+    </message>
+    <message>
+        <source>Plug in a cable, or join a Wi-Fi.</source>
+        <translation>Sluit een kabel aan of maak verbinding met een Wi-Fi-netwerk.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>Nieuwe pc</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>Oude pc</translation>
+    </message>
+    <message>
+        <source>What is meant for it leaves by the VPN %1: disconnect that first.</source>
+        <translation>Wat voor deze pc is bestemd, gaat via de VPN %1 naar buiten: verbreek die verbinding eerst.</translation>
+    </message>
+    <message>
+        <source>Run this diagnosis on %1: its port may be taken there, or its firewall turns connections away.</source>
+        <translation>Voer deze diagnose uit op %1: misschien is de poort daar bezet of wijst de firewall verbindingen af.</translation>
+    </message>
+    <message>
+        <source>Let Zandrove through the firewall of %1: TCP port %2.</source>
+        <translation>Laat Zandrove door de firewall van %1: TCP-poort %2.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but refuses connections on TCP port %4.</source>
+        <translation>%1 (%2) meldt zich als ‘%3’, maar weigert verbindingen op TCP-poort %4.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but can&apos;t be connected to: %4.</source>
+        <translation>%1 (%2) meldt zich als ‘%3’, maar er kan geen verbinding mee worden gemaakt: %4.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but does not answer on TCP port %4.</source>
+        <translation>%1 (%2) meldt zich als ‘%3’, maar antwoordt niet op TCP-poort %4.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as %2.</source>
+        <translation>%1 is er ook, maar eveneens als ‘%2’.</translation>
+    </message>
+    <message>
+        <source>Choose %1 on one of the two.</source>
+        <translation>Kies op een van de twee ‘%1’.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, and answers.</source>
+        <translation>%1 (%2) meldt zich als ‘%3’ en antwoordt.</translation>
+    </message>
+    <message>
+        <source>Nobody here knows a PC by the name %1.</source>
+        <translation>Niemand hier kent een pc met de naam %1.</translation>
+    </message>
+    <message>
+        <source>Give its address instead; its page of connections shows it.</source>
+        <translation>Geef in plaats daarvan het adres op; dat staat op de verbindingspagina van die pc.</translation>
+    </message>
+    <message>
+        <source>%1 is this PC itself.</source>
+        <translation>%1 is deze pc zelf.</translation>
+    </message>
+    <message>
+        <source>Give the address of the other PC.</source>
+        <translation>Geef het adres van de andere pc op.</translation>
+    </message>
+    <message>
+        <source>%1 answers on TCP port %2, but is not heard on UDP port %3.</source>
+        <translation>%1 antwoordt op TCP-poort %2, maar is niet te horen op UDP-poort %3.</translation>
+    </message>
+    <message>
+        <source>Open the page of connections there, and UDP port %1 in the firewalls of both PCs; or connect by the address.</source>
+        <translation>Open daar de verbindingspagina, en UDP-poort %1 in de firewalls van beide pc’s; of maak verbinding via het adres.</translation>
+    </message>
+    <message>
+        <source>%1 is there, but refuses connections on TCP port %2.</source>
+        <translation>%1 is er, maar weigert verbindingen op TCP-poort %2.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove there, up to its page of connections.</source>
+        <translation>Open daar Zandrove en ga door tot de verbindingspagina.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be connected to: %2.</source>
+        <translation>Er kan geen verbinding met %1 worden gemaakt: %2.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, and both PCs are in the same network.</source>
+        <translation>Controleer of het adres klopt en beide pc’s in hetzelfde netwerk zitten.</translation>
+    </message>
+    <message>
+        <source>%1 does not answer on TCP port %2, and is not heard.</source>
+        <translation>%1 antwoordt niet op TCP-poort %2 en is niet te horen.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, that PC on, and its firewall open for Zandrove.</source>
+        <translation>Controleer of het adres klopt, of die pc aanstaat en of de firewall ervan Zandrove doorlaat.</translation>
+    </message>
+    <message>
+        <source>This PC doesn&apos;t hear its own broadcasts on %1.</source>
+        <translation>Deze pc hoort zijn eigen broadcasts op %1 niet.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps out UDP port %1.</source>
+        <translation>Zoek op deze pc naar een firewall of beveiligingsprogramma dat UDP-poort %1 tegenhoudt.</translation>
+    </message>
+    <message>
+        <source>Nobody has answered on %1, and it has no router.</source>
+        <translation>Niemand heeft op %1 geantwoord, en er is daar geen router.</translation>
+    </message>
+    <message>
+        <source>If the other PC should be there, see whether its end of the cable, or its network, is on.</source>
+        <translation>Hoort de andere pc daar te zijn, controleer dan of de kabel aan die kant is aangesloten of het netwerk daar aanstaat.</translation>
+    </message>
+    <message>
+        <source>No other PC was heard within %1 s.</source>
+        <translation>Binnen %1 s is geen andere pc gehoord.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove on the other PC, up to its page of connections, and put both PCs into the same network.</source>
+        <translation>Open Zandrove op de andere pc, ga door tot de verbindingspagina en zet beide pc’s in hetzelfde netwerk.</translation>
+    </message>
+    <message>
+        <source>TCP port %1</source>
+        <translation>TCP-poort %1</translation>
+    </message>
+    <message>
+        <source>UDP port %1</source>
+        <translation>UDP-poort %1</translation>
+    </message>
+    <message>
+        <source>%1 is free.</source>
+        <translation>%1 is vrij.</translation>
+    </message>
+    <message>
+        <source>%1 is held by Zandrove, as it should be.</source>
+        <translation>%1 is in gebruik door Zandrove, zoals het hoort.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program.</source>
+        <translation>%1 is bezet door een ander programma.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by %2.</source>
+        <translation>%1 is bezet door %2.</translation>
+    </message>
+    <message>
+        <source>Find out which one it is, close it, and start Zandrove anew.</source>
+        <translation>Zoek uit welk programma het is, sluit het en start Zandrove opnieuw.</translation>
+    </message>
+    <message>
+        <source>Close that program, and start Zandrove anew.</source>
+        <translation>Sluit dat programma en start Zandrove opnieuw.</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 en %2</translation>
+    </message>
+    <message>
+        <source>%1 is on, and lets both ports in.</source>
+        <translation>%1 staat aan en laat beide poorten binnen.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and keeps out %2.</source>
+        <translation>%1 staat aan en houdt %2 tegen.</translation>
+    </message>
+    <message>
+        <source>Have it let both ports in.</source>
+        <translation>Laat de firewall beide poorten toelaten.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and it depends on the sender, or on rules that can&apos;t be judged here, whether it lets both ports in.</source>
+        <translation>%1 staat aan; of beide poorten worden binnengelaten, hangt af van de afzender of van regels die hier niet te beoordelen zijn.</translation>
+    </message>
+    <message>
+        <source>See whether its rules let in %1 and %2.</source>
+        <translation>Controleer of de regels %1 en %2 binnenlaten.</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be read without administrator rights.</source>
+        <translation>%1 kon zonder beheerdersrechten niet worden gelezen.</translation>
+    </message>
+    <message>
+        <source>%1 gave no answer that could be read.</source>
+        <translation>%1 gaf geen leesbaar antwoord.</translation>
+    </message>
+    <message>
+        <source>%1 is off.</source>
+        <translation>%1 staat uit.</translation>
+    </message>
+    <message>
+        <source>No firewall was found of those that can be asked.</source>
+        <translation>Er is geen firewall gevonden die kan worden geraadpleegd.</translation>
+    </message>
+    <message>
+        <source>The system treats the network %1 as public.</source>
+        <translation>Het systeem behandelt het netwerk %1 als openbaar.</translation>
+    </message>
+    <message>
+        <source>If it is your own, set it to private in the network settings.</source>
+        <translation>Is het uw eigen netwerk, stel het dan in de netwerkinstellingen in op ‘Privé’.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::FileBrowserWidget</name>
@@ -1128,6 +1669,41 @@ Wilt u dit toestaan?</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::FindingRow</name>
+    <message>
+        <source>As it should be</source>
+        <translation>In orde</translation>
+    </message>
+    <message>
+        <source>May matter</source>
+        <translation>Mogelijk van belang</translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>Staat in de weg</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopiëren</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Gekopieerd</translation>
+    </message>
+    <message>
+        <source>Run as administrator</source>
+        <translation>Als administrator uitvoeren</translation>
+    </message>
+    <message>
+        <source>Done. Please check again.</source>
+        <translation>Klaar. Controleer opnieuw.</translation>
+    </message>
+    <message>
+        <source>That did not work.</source>
+        <translation>Dat is niet gelukt.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::FolderListItem</name>
     <message>
         <source>%1 files, %2</source>
@@ -1167,11 +1743,11 @@ Kopieer de koppeling en open deze zelf:
     <name>Zandrove::LinkWatch</name>
     <message>
         <source>No answer from the other PC for %1 s</source>
-        <translation>Al %1 s geen antwoord van de andere pc</translation>
+        <translation>Al %1&#xa0;s geen antwoord van de andere pc</translation>
     </message>
     <message>
         <source>No answer from %1 for %2 s</source>
-        <translation>Al %2 s geen antwoord van %1</translation>
+        <translation>Al %2&#xa0;s geen antwoord van %1</translation>
     </message>
     <message>
         <source>The connection to %1 is lost.</source>
@@ -1258,17 +1834,6 @@ De app wordt nu opnieuw gestart.</translation>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationRun</name>
-    <message>
-        <source>[App] %1</source>
-        <translation>[App] %1</translation>
-    </message>
-    <message>
-        <source>[Setting] %1</source>
-        <translation>[Instelling] %1</translation>
-    </message>
-</context>
-<context>
     <name>Zandrove::MissingItems</name>
     <message>
         <source>Did not arrive</source>
@@ -1287,16 +1852,8 @@ De app wordt nu opnieuw gestart.</translation>
         <translation>Rapport opslaan…</translation>
     </message>
     <message>
-        <source>And %1 more.</source>
-        <translation>En nog %1.</translation>
-    </message>
-    <message>
         <source>The list is on the clipboard.</source>
         <translation>De lijst staat op het klembord.</translation>
-    </message>
-    <message>
-        <source>Zandrove report</source>
-        <translation>Zandrove-rapport</translation>
     </message>
     <message>
         <source>Save report</source>
@@ -1377,6 +1934,10 @@ De app wordt nu opnieuw gestart.</translation>
         <source>the link was lost</source>
         <translation>de verbinding is verbroken</translation>
     </message>
+    <message>
+        <source>its installation was stopped at %1 %</source>
+        <translation>de installatie is bij %1% gestopt</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::ReplacingFile</name>
@@ -1432,14 +1993,6 @@ De app wordt nu opnieuw gestart.</translation>
         <translation>Instellingen</translation>
     </message>
     <message>
-        <source>There already</source>
-        <translation>Al aanwezig</translation>
-    </message>
-    <message>
-        <source>There, but different</source>
-        <translation>Aanwezig, maar anders</translation>
-    </message>
-    <message>
         <source>Failed</source>
         <translation>Mislukt</translation>
     </message>
@@ -1484,32 +2037,12 @@ De app wordt nu opnieuw gestart.</translation>
         <translation>Resultaat</translation>
     </message>
     <message>
-        <source>%1 files, which only the report of the Old PC can name.</source>
-        <translation>Bestanden: %1. Welke dat zijn, staat alleen in het rapport van de oude pc.</translation>
-    </message>
-    <message>
-        <source>And %1 more, which only the report of the Old PC can name.</source>
-        <translation>En nog %1; welke dat zijn, staat alleen in het rapport van de oude pc.</translation>
-    </message>
-    <message>
-        <source>%1 files.</source>
-        <translation>Bestanden: %1.</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>En nog %1.</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>Bestand</translation>
     </message>
     <message>
         <source>Reason</source>
         <translation>Reden</translation>
-    </message>
-    <message>
-        <source>%1 were there already.</source>
-        <translation>Al aanwezig: %1.</translation>
     </message>
     <message>
         <source>en</source>
@@ -1539,6 +2072,22 @@ De app wordt nu opnieuw gestart.</translation>
     <message>
         <source>it is no ordinary file</source>
         <translation>het is geen gewoon bestand</translation>
+    </message>
+    <message>
+        <source>There already, identical</source>
+        <translation>Al aanwezig, identiek</translation>
+    </message>
+    <message>
+        <source>There already, and different</source>
+        <translation>Al aanwezig, maar anders</translation>
+    </message>
+    <message>
+        <source>%1 were there already, identical.</source>
+        <translation>Al aanwezig, identiek: %1.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Zandrove-rapport</translation>
     </message>
 </context>
 <context>
@@ -1697,12 +2246,40 @@ De app wordt nu opnieuw gestart.</translation>
         <translation>Verbind de twee pc’s opnieuw en start dezelfde overdracht: wat is aangekomen, wordt overgeslagen en alleen wat ontbreekt, wordt overgezet.</translation>
     </message>
     <message>
-        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
-        <translation>Lees de redenen in de lijst. Zijn die verholpen, start dan dezelfde overdracht opnieuw: wat is aangekomen, wordt overgeslagen en alleen wat ontbreekt, wordt overgezet.</translation>
-    </message>
-    <message>
         <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
         <translation>Laat de oude pc zoals hij is tot er niets meer ontbreekt. Daar is niets verwijderd.</translation>
+    </message>
+    <message>
+        <source>[App] %1</source>
+        <translation>[App] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[Instelling] %1</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>En nog %1.</translation>
+    </message>
+    <message>
+        <source>1 announced file did not come. The report of %1 names it.</source>
+        <translation>1 aangekondigd bestand is niet aangekomen. Het rapport van %1 noemt het.</translation>
+    </message>
+    <message>
+        <source>%1 announced files did not come. The report of %2 names them.</source>
+        <translation>%1 aangekondigde bestanden zijn niet aangekomen. Het rapport van %2 noemt ze.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list.</source>
+        <translation>Lees de redenen in de lijst.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the report of %1.</source>
+        <translation>Lees de redenen in het rapport van %1.</translation>
+    </message>
+    <message>
+        <source>Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Zijn die verholpen, start dan dezelfde overdracht opnieuw: wat is aangekomen, wordt overgeslagen en alleen wat ontbreekt, wordt overgezet.</translation>
     </message>
 </context>
 <context>
@@ -1824,6 +2401,10 @@ De app wordt nu opnieuw gestart.</translation>
     <message>
         <source>sent; what became of it stands in the report of %1</source>
         <translation>verzonden; het resultaat staat in het rapport van %1</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>verzonden, maar %1 heeft de aankomst niet bevestigd</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2737,10 @@ De app wordt nu opnieuw gestart.</translation>
         <source>Scan error: %1</source>
         <translation>Scanfout: %1</translation>
     </message>
+    <message>
+        <source>More than one PC shows the code %1: %2</source>
+        <translation>Meer dan één pc toont de code %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::TransferPage</name>
@@ -2202,10 +2787,6 @@ De app wordt nu opnieuw gestart.</translation>
     <message>
         <source>Are you sure you want to cancel the transfer?</source>
         <translation>Weet u zeker dat u de overdracht wilt annuleren?</translation>
-    </message>
-    <message>
-        <source>All progress will be lost and incomplete files may remain on the destination.</source>
-        <translation>Alle voortgang gaat verloren en er kunnen onvolledige bestanden op de doel-pc achterblijven.</translation>
     </message>
     <message>
         <source>Yes, Cancel</source>
@@ -2288,12 +2869,20 @@ De app wordt nu opnieuw gestart.</translation>
         <translation>Er is een overdracht bezig. Als u het venster sluit, wordt die geannuleerd.</translation>
     </message>
     <message>
-        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
-        <translation>Wat is aangekomen, blijft op de nieuwe pc staan en op de oude pc wordt niets verwijderd.</translation>
-    </message>
-    <message>
         <source>Cancel and Close</source>
         <translation>Annuleren en sluiten</translation>
+    </message>
+    <message>
+        <source>Back to selection</source>
+        <translation>Terug naar selectie</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC. A report is left in your documents.</source>
+        <translation>Wat is aangekomen, blijft op de nieuwe pc staan en op de oude pc wordt niets verwijderd. Er blijft een rapport achter in uw documenten.</translation>
+    </message>
+    <message>
+        <source>All progress will be lost. Files that have arrived stay; nothing incomplete remains.</source>
+        <translation>Alle voortgang gaat verloren. Aangekomen bestanden blijven staan; er blijft niets onvolledigs achter.</translation>
     </message>
 </context>
 <context>

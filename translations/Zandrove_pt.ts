@@ -221,6 +221,10 @@
         <source>Another ticked folder has a file of this name</source>
         <translation>Outra pasta selecionada tem um ficheiro com este nome</translation>
     </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>Não é possível aceder</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::AccountScanner</name>
@@ -231,6 +235,25 @@
     <message>
         <source>Enumerating Windows accounts...</source>
         <translation>A listar as contas do Windows...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Aftermath</name>
+    <message>
+        <source>%1 was lost before it said that this is installed</source>
+        <translation>A ligação a %1 perdeu-se antes de este confirmar a instalação</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that this is applied</source>
+        <translation>A ligação a %1 perdeu-se antes de este confirmar a aplicação da definição</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is installed</source>
+        <translation>%1 cancelou a transferência antes de confirmar a instalação</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is applied</source>
+        <translation>%1 cancelou a transferência antes de confirmar a aplicação da definição</translation>
     </message>
 </context>
 <context>
@@ -394,6 +417,49 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::Notices</name>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1 também está aqui, mas igualmente como PC antigo: escolha «PC novo» num dos dois</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1 também está aqui, mas igualmente como PC novo: escolha «PC antigo» num dos dois</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>outro programa</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: this PC hears no other one. End that program, and begin anew.</source>
+        <translation>A porta %1 está ocupada por %2: este PC não deteta nenhum outro. Feche esse programa e comece de novo.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can reach this one. End that program, and begin anew.</source>
+        <translation>A porta %1 está ocupada por %2: nenhum outro PC consegue aceder a este. Feche esse programa e comece de novo.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can ask this one, which can still ask others.</source>
+        <translation>A porta %1 está ocupada por %2: nenhum outro PC pode enviar pedidos a este, que continua a poder enviá-los a outros.</translation>
+    </message>
+    <message>
+        <source>%1 was not found for 20 seconds. In reach are: %2.</source>
+        <translation>%1 não foi encontrado em 20 segundos. PC disponíveis: %2.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>PC novo</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>PC antigo</translation>
+    </message>
+    <message>
+        <source>Nobody was found for 20 seconds. What to look at, the likeliest first: Zandrove runs on the other PC, as %1; both PCs are in the same network, or joined by a cable; neither of them uses a VPN; their firewalls let TCP port %2 and UDP port %3 in. zandrove-cli diagnose looks for the cause.</source>
+        <translation>Ninguém foi encontrado em 20 segundos. O que verificar, a começar pelo mais provável: o Zandrove está em execução no outro PC, como «%1»; os dois PC estão na mesma rede ou ligados por um cabo; nenhum deles usa uma VPN; as firewalls de ambos deixam entrar a porta TCP %2 e a porta UDP %3. zandrove-cli diagnose procura a causa.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -508,10 +574,6 @@
         <translation>Argumento inesperado: %1. Consulte --help.</translation>
     </message>
     <message>
-        <source>Say receive, send, discover or scan. See --help.</source>
-        <translation>Indique receive, send, discover ou scan. Consulte --help.</translation>
-    </message>
-    <message>
         <source>Unknown command %1. See --help.</source>
         <translation>Comando desconhecido: %1. Consulte --help.</translation>
     </message>
@@ -552,8 +614,28 @@
         <translation>Escrever o relatório de cada transferência em FILE, no lugar do anterior: uma página para ler ou, se o nome terminar em .json, JSON.</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>Códigos de saída: 0 tudo transferido ou listado; 1 a ligação ou a transferência falhou ou foi recusada; 2 utilização incorreta; 3 tempo limite excedido; 4 concluído, mas algo falhou ou já existia; 130 cancelado com Ctrl+C (o outro PC é avisado; um segundo Ctrl+C termina de imediato).</translation>
+        <source>The address or host name of a PC that is tried as well.</source>
+        <translation>O endereço ou o nome de anfitrião de um PC a experimentar também.</translation>
+    </message>
+    <message>
+        <source>What this PC is, to be compared with those that are heard.</source>
+        <translation>A função deste PC, para comparar com a dos PC detetados.</translation>
+    </message>
+    <message>
+        <source>Listen for N seconds; without it, for 5.</source>
+        <translation>Escutar durante N segundos; se não for indicado, durante 5.</translation>
+    </message>
+    <message>
+        <source>Find out why the other PC isn&apos;t found: look at adapters, ports, firewalls and VPNs, and at who is heard and answers. Changes nothing.</source>
+        <translation>Descobrir por que motivo o outro PC não é encontrado: examinar adaptadores, portas, firewalls e VPN, e que PC são detetados e respondem. Não altera nada.</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before, or diagnose has found what stands in the way; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>Códigos de saída: 0 tudo transferido ou listado; 1 a ligação ou a transferência falhou ou foi recusada; 2 utilização incorreta; 3 tempo limite excedido; 4 concluído, mas algo falhou ou já existia, ou diagnose encontrou um obstáculo; 130 cancelado com Ctrl+C (o outro PC é avisado; um segundo Ctrl+C termina de imediato).</translation>
+    </message>
+    <message>
+        <source>Say receive, send, discover, diagnose or scan. See --help.</source>
+        <translation>Indique receive, send, discover, diagnose ou scan. Consulte --help.</translation>
     </message>
 </context>
 <context>
@@ -635,6 +717,10 @@
         <source>%1 ended the transfer.</source>
         <translation>%1 terminou a transferência.</translation>
     </message>
+    <message>
+        <source>More than one PC goes by %1: %2. Name the one that is meant by its address.</source>
+        <translation>%1 corresponde a mais do que um PC: %2. Indique o endereço do PC pretendido.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -647,16 +733,24 @@
         <translation>O outro PC não terminou a sessão: pode não ter chegado tudo.</translation>
     </message>
     <message>
-        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
-        <translation>Estão a caminho %1, mas %3 só tem %2 livres: nem tudo vai caber.</translation>
-    </message>
-    <message>
         <source>No answer from %1 for %2 s</source>
-        <translation>%1 não responde há %2 s</translation>
+        <translation>%1 não responde há %2&#xa0;s</translation>
     </message>
     <message>
         <source>%1 answers again</source>
         <translation>%1 voltou a responder</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>Estão a caminho %1, mas %3 só tem %2 livres: nem tudo vai caber.</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that everything is installed.</source>
+        <translation>A ligação a %1 perdeu-se antes de este confirmar que tudo estava instalado.</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before everything was installed.</source>
+        <translation>%1 cancelou a transferência antes de tudo estar instalado.</translation>
     </message>
 </context>
 <context>
@@ -806,8 +900,32 @@
         <translation>Ficheiros – transferidos: %1; com falha: %2; já existentes: %3.</translation>
     </message>
     <message>
-        <source>and %1 more</source>
-        <translation>e mais %1</translation>
+        <source>ok</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>aviso</translation>
+    </message>
+    <message>
+        <source>PROBLEM</source>
+        <translation>PROBLEMA</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>A aguardar %1: alguém tem de premir «Sim» nesse PC</translation>
+    </message>
+    <message>
+        <source>Further ones are counted in the report.</source>
+        <translation>Os restantes são contabilizados no relatório.</translation>
+    </message>
+    <message>
+        <source>Nothing was found that stands in the way.</source>
+        <translation>Não foi encontrado nenhum obstáculo.</translation>
+    </message>
+    <message>
+        <source>Found in the way: %1.</source>
+        <translation>Obstáculos encontrados: %1.</translation>
     </message>
 </context>
 <context>
@@ -875,6 +993,10 @@
     <message>
         <source>%1 of %2 settings did not arrive</source>
         <translation>%1 de %2 definições por transferir</translation>
+    </message>
+    <message>
+        <source>Apps and settings were sent. What became of them stands on the page of %1.</source>
+        <translation>As aplicações e as definições foram enviadas. O resultado é mostrado no ecrã de %1.</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1125,425 @@ Pretende aceitar?</translation>
         <source>Their code, character %1</source>
         <translation>Código do outro PC, carácter %1</translation>
     </message>
+    <message>
+        <source>This is the address of this PC.</source>
+        <translation>Este é o endereço deste PC.</translation>
+    </message>
+    <message>
+        <source>Only IPv4 addresses work here, such as 192.168.1.23.</source>
+        <translation>Aqui só funcionam endereços IPv4, como 192.168.1.23.</translation>
+    </message>
+    <message>
+        <source>An address has four numbers from 0 to 255, such as 192.168.1.23.</source>
+        <translation>Um endereço é composto por quatro números de 0 a 255, como 192.168.1.23.</translation>
+    </message>
+    <message>
+        <source>This is not the address of one PC.</source>
+        <translation>Este não é o endereço de um único PC.</translation>
+    </message>
+    <message>
+        <source>This is neither an address nor the name of a PC.</source>
+        <translation>Isto não é um endereço nem o nome de um PC.</translation>
+    </message>
+    <message>
+        <source>Address or name of the other PC</source>
+        <translation>Endereço ou nome do outro PC</translation>
+    </message>
+    <message>
+        <source>Or Enter Their Address</source>
+        <translation>Ou o endereço do outro PC</translation>
+    </message>
+    <message>
+        <source>Looking for %1...</source>
+        <translation>A procurar %1...</translation>
+    </message>
+    <message>
+        <source>No PC named %1 was found. Its address may work instead.</source>
+        <translation>Nenhum PC encontrado com o nome %1. Experimente o endereço.</translation>
+    </message>
+    <message>
+        <source>%1 has no IPv4 address.</source>
+        <translation>%1 não tem nenhum endereço IPv4.</translation>
+    </message>
+    <message>
+        <source>Address of this PC: %1</source>
+        <translation>Endereço deste PC: %1</translation>
+    </message>
+    <message>
+        <source>Enter their code instead</source>
+        <translation>Introduzir antes o código do outro PC</translation>
+    </message>
+    <message>
+        <source>Enter an address instead</source>
+        <translation>Introduzir antes um endereço</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>A aguardar %1: alguém tem de premir «Sim» nesse PC</translation>
+    </message>
+    <message>
+        <source>No connection to %1: %2.</source>
+        <translation>Sem ligação a %1: %2.</translation>
+    </message>
+    <message>
+        <source>Its address: %1</source>
+        <translation>O endereço: %1</translation>
+    </message>
+    <message>
+        <source>Zandrove is open on the other PC too, and shows this page there.</source>
+        <translation>O Zandrove também está aberto no outro PC e mostra lá esta página.</translation>
+    </message>
+    <message>
+        <source>The network cable is plugged in on both PCs, and its lights are on.</source>
+        <translation>O cabo de rede está ligado aos dois PC e as luzes estão acesas.</translation>
+    </message>
+    <message>
+        <source>Both are in the same network, and neither in a guest Wi-Fi or a VPN.</source>
+        <translation>Ambos estão na mesma rede e nenhum está numa rede Wi-Fi de convidados nem numa VPN.</translation>
+    </message>
+    <message>
+        <source>One of the two is the Old PC, and the other one the New PC.</source>
+        <translation>Um dos dois é o PC antigo e o outro é o PC novo.</translation>
+    </message>
+    <message>
+        <source>The firewalls of both PCs let Zandrove through.</source>
+        <translation>As firewalls dos dois PC deixam passar o Zandrove.</translation>
+    </message>
+    <message>
+        <source>Nobody found yet. Please check, the likeliest first:</source>
+        <translation>Ainda ninguém foi encontrado. Verifique o seguinte, a começar pelo mais provável:</translation>
+    </message>
+    <message>
+        <source>Can&apos;t find the other PC?</source>
+        <translation>Não encontra o outro PC?</translation>
+    </message>
+    <message>
+        <source>Back to the devices</source>
+        <translation>Voltar aos dispositivos</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>Verificar novamente</translation>
+    </message>
+    <message>
+        <source>Looking at this PC and its network. This takes some seconds...</source>
+        <translation>A examinar este PC e a respetiva rede. Demora alguns segundos...</translation>
+    </message>
+    <message>
+        <source>Nothing was found here that stands in the way. Please check on the other PC as well.</source>
+        <translation>Não foi encontrado aqui nenhum obstáculo. Verifique também no outro PC.</translation>
+    </message>
+    <message>
+        <source>What is marked with ✗ stands in the way.</source>
+        <translation>O que está assinalado com ✗ impede a ligação.</translation>
+    </message>
+    <message>
+        <source>another program, maybe a second Zandrove</source>
+        <translation>outro programa, talvez um segundo Zandrove</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so no other PC can connect to this one. Please close that program, then try again.</source>
+        <translation>A porta %1 está ocupada por %2, pelo que nenhum outro PC consegue ligar-se a este. Feche esse programa e tente novamente.</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so this PC does not hear other PCs. Please close that program, then try again.</source>
+        <translation>A porta %1 está ocupada por %2, pelo que este PC não deteta outros PC. Feche esse programa e tente novamente.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>%1 também está aqui, mas igualmente como PC antigo: escolha «PC novo» num dos dois</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>%1 também está aqui, mas igualmente como PC novo: escolha «PC antigo» num dos dois</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Tentar novamente</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Diagnosis</name>
+    <message>
+        <source>wired</source>
+        <translation>com fios</translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>virtual</source>
+        <translation>virtual</translation>
+    </message>
+    <message>
+        <source>VPN</source>
+        <translation>VPN</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2.</source>
+        <translation>%1 tem o endereço %2.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but is connected to nothing.</source>
+        <translation>%1 tem o endereço %2, mas não está ligado a nada.</translation>
+    </message>
+    <message>
+        <source>Plug in its cable, or join a network with it.</source>
+        <translation>Ligue o respetivo cabo ou ligue-o a uma rede.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but no broadcast can leave by it: %3.</source>
+        <translation>%1 tem o endereço %2, mas não consegue enviar nenhuma difusão: %3.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps Zandrove from sending.</source>
+        <translation>Procure neste PC uma firewall ou um programa de segurança que impeça o Zandrove de enviar.</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, and broadcasts leave by it.</source>
+        <translation>%1 tem o endereço %2 e envia difusões.</translation>
+    </message>
+    <message>
+        <source>%1 is connected, but has no address yet.</source>
+        <translation>%1 está ligado, mas ainda não tem endereço.</translation>
+    </message>
+    <message>
+        <source>Wait a minute. If none comes, see whether the router is on; over a direct cable, set this connection to link-local addresses.</source>
+        <translation>Aguarde um minuto. Se não receber nenhum, verifique se o router está ligado; com um cabo direto, defina esta ligação para endereços de ligação local.</translation>
+    </message>
+    <message>
+        <source>%1 is connected to nothing.</source>
+        <translation>%1 não está ligado a nada.</translation>
+    </message>
+    <message>
+        <source>This PC has only an address that it gave itself, %1.</source>
+        <translation>Este PC só tem um endereço que atribuiu a si próprio, %1.</translation>
+    </message>
+    <message>
+        <source>Over a direct cable that is as it should be: choose Cable Mode on both PCs. In a network, see whether the router is on.</source>
+        <translation>Com um cabo direto, é normal: escolha «Modo de cabo» nos dois PC. Numa rede, verifique se o router está ligado.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is meant for the network %2 of %3.</source>
+        <translation>A VPN %1 desvia o que se destina à rede %2 de %3.</translation>
+    </message>
+    <message>
+        <source>Disconnect the VPN until everything has moved.</source>
+        <translation>Desligue a VPN até tudo estar transferido.</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is not for a local network.</source>
+        <translation>A VPN %1 desvia o que não se destina a uma rede local.</translation>
+    </message>
+    <message>
+        <source>Disconnect it if the PCs don&apos;t find each other: many a VPN keeps its PC away from the local network.</source>
+        <translation>Desligue-a se os PC não se encontrarem: muitas VPN isolam o PC da rede local.</translation>
+    </message>
+    <message>
+        <source>This PC is in no network.</source>
+        <translation>Este PC não está em nenhuma rede.</translation>
+    </message>
+    <message>
+        <source>Plug in a cable, or join a Wi-Fi.</source>
+        <translation>Ligue um cabo ou ligue-se a uma rede Wi-Fi.</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>PC novo</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>PC antigo</translation>
+    </message>
+    <message>
+        <source>What is meant for it leaves by the VPN %1: disconnect that first.</source>
+        <translation>O que se destina a esse PC sai pela VPN %1: desligue-a primeiro.</translation>
+    </message>
+    <message>
+        <source>Run this diagnosis on %1: its port may be taken there, or its firewall turns connections away.</source>
+        <translation>Execute este diagnóstico em %1: a porta pode estar ocupada nesse PC, ou a firewall pode estar a rejeitar as ligações.</translation>
+    </message>
+    <message>
+        <source>Let Zandrove through the firewall of %1: TCP port %2.</source>
+        <translation>Deixe passar o Zandrove na firewall de %1: porta TCP %2.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but refuses connections on TCP port %4.</source>
+        <translation>%1 (%2) anuncia-se como «%3», mas recusa ligações na porta TCP %4.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but can&apos;t be connected to: %4.</source>
+        <translation>%1 (%2) anuncia-se como «%3», mas não é possível estabelecer ligação: %4.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but does not answer on TCP port %4.</source>
+        <translation>%1 (%2) anuncia-se como «%3», mas não responde na porta TCP %4.</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as %2.</source>
+        <translation>%1 também está aqui, mas igualmente como «%2».</translation>
+    </message>
+    <message>
+        <source>Choose %1 on one of the two.</source>
+        <translation>Escolha «%1» num dos dois.</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, and answers.</source>
+        <translation>%1 (%2) anuncia-se como «%3» e responde.</translation>
+    </message>
+    <message>
+        <source>Nobody here knows a PC by the name %1.</source>
+        <translation>Aqui ninguém conhece um PC com o nome %1.</translation>
+    </message>
+    <message>
+        <source>Give its address instead; its page of connections shows it.</source>
+        <translation>Indique antes o endereço; a página de ligação desse PC mostra-o.</translation>
+    </message>
+    <message>
+        <source>%1 is this PC itself.</source>
+        <translation>%1 é este mesmo PC.</translation>
+    </message>
+    <message>
+        <source>Give the address of the other PC.</source>
+        <translation>Indique o endereço do outro PC.</translation>
+    </message>
+    <message>
+        <source>%1 answers on TCP port %2, but is not heard on UDP port %3.</source>
+        <translation>%1 responde na porta TCP %2, mas não é detetado na porta UDP %3.</translation>
+    </message>
+    <message>
+        <source>Open the page of connections there, and UDP port %1 in the firewalls of both PCs; or connect by the address.</source>
+        <translation>Abra nesse PC a página de ligação, e a porta UDP %1 nas firewalls dos dois PC; ou ligue-se através do endereço.</translation>
+    </message>
+    <message>
+        <source>%1 is there, but refuses connections on TCP port %2.</source>
+        <translation>%1 está presente, mas recusa ligações na porta TCP %2.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove there, up to its page of connections.</source>
+        <translation>Abra o Zandrove nesse PC, até à página de ligação.</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be connected to: %2.</source>
+        <translation>Não é possível estabelecer ligação a %1: %2.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, and both PCs are in the same network.</source>
+        <translation>Verifique se o endereço está correto e se os dois PC estão na mesma rede.</translation>
+    </message>
+    <message>
+        <source>%1 does not answer on TCP port %2, and is not heard.</source>
+        <translation>%1 não responde na porta TCP %2 e não é detetado.</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, that PC on, and its firewall open for Zandrove.</source>
+        <translation>Verifique se o endereço está correto, se esse PC está ligado e se a firewall dele deixa passar o Zandrove.</translation>
+    </message>
+    <message>
+        <source>This PC doesn&apos;t hear its own broadcasts on %1.</source>
+        <translation>Este PC não recebe as suas próprias difusões em %1.</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps out UDP port %1.</source>
+        <translation>Procure neste PC uma firewall ou um programa de segurança que bloqueie a porta UDP %1.</translation>
+    </message>
+    <message>
+        <source>Nobody has answered on %1, and it has no router.</source>
+        <translation>Ninguém respondeu em %1, que não tem router.</translation>
+    </message>
+    <message>
+        <source>If the other PC should be there, see whether its end of the cable, or its network, is on.</source>
+        <translation>Se o outro PC devia estar aí, verifique se a ponta do cabo desse lado, ou a rede dele, está ativa.</translation>
+    </message>
+    <message>
+        <source>No other PC was heard within %1 s.</source>
+        <translation>Nenhum outro PC foi detetado em %1 s.</translation>
+    </message>
+    <message>
+        <source>Open Zandrove on the other PC, up to its page of connections, and put both PCs into the same network.</source>
+        <translation>Abra o Zandrove no outro PC, até à página de ligação, e ligue os dois PC à mesma rede.</translation>
+    </message>
+    <message>
+        <source>TCP port %1</source>
+        <translation>porta TCP %1</translation>
+    </message>
+    <message>
+        <source>UDP port %1</source>
+        <translation>porta UDP %1</translation>
+    </message>
+    <message>
+        <source>%1 is free.</source>
+        <translation>A %1 está livre.</translation>
+    </message>
+    <message>
+        <source>%1 is held by Zandrove, as it should be.</source>
+        <translation>A %1 está a ser usada pelo Zandrove, como deve ser.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program.</source>
+        <translation>A %1 está ocupada por outro programa.</translation>
+    </message>
+    <message>
+        <source>%1 is taken by %2.</source>
+        <translation>A %1 está ocupada por %2.</translation>
+    </message>
+    <message>
+        <source>Find out which one it is, close it, and start Zandrove anew.</source>
+        <translation>Descubra qual é, feche-o e reinicie o Zandrove.</translation>
+    </message>
+    <message>
+        <source>Close that program, and start Zandrove anew.</source>
+        <translation>Feche esse programa e reinicie o Zandrove.</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 e a %2</translation>
+    </message>
+    <message>
+        <source>%1 is on, and lets both ports in.</source>
+        <translation>%1 está ativa e deixa entrar as duas portas.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and keeps out %2.</source>
+        <translation>%1 está ativa e bloqueia a %2.</translation>
+    </message>
+    <message>
+        <source>Have it let both ports in.</source>
+        <translation>Configure-a para deixar entrar as duas portas.</translation>
+    </message>
+    <message>
+        <source>%1 is on, and it depends on the sender, or on rules that can&apos;t be judged here, whether it lets both ports in.</source>
+        <translation>%1 está ativa; se deixa entrar as duas portas depende do remetente ou de regras que não é possível avaliar aqui.</translation>
+    </message>
+    <message>
+        <source>See whether its rules let in %1 and %2.</source>
+        <translation>Verifique se as regras deixam entrar a %1 e a %2.</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be read without administrator rights.</source>
+        <translation>Não foi possível consultar %1 sem direitos de administrador.</translation>
+    </message>
+    <message>
+        <source>%1 gave no answer that could be read.</source>
+        <translation>%1 não deu nenhuma resposta legível.</translation>
+    </message>
+    <message>
+        <source>%1 is off.</source>
+        <translation>%1 está desativada.</translation>
+    </message>
+    <message>
+        <source>No firewall was found of those that can be asked.</source>
+        <translation>Não foi encontrada nenhuma das firewalls que é possível consultar.</translation>
+    </message>
+    <message>
+        <source>The system treats the network %1 as public.</source>
+        <translation>O sistema considera pública a rede %1.</translation>
+    </message>
+    <message>
+        <source>If it is your own, set it to private in the network settings.</source>
+        <translation>Se for a sua, defina-a como privada nas definições de rede.</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::FileBrowserWidget</name>
@@ -1128,6 +1669,41 @@ Pretende aceitar?</translation>
     </message>
 </context>
 <context>
+    <name>Zandrove::FindingRow</name>
+    <message>
+        <source>As it should be</source>
+        <translation>Tudo certo</translation>
+    </message>
+    <message>
+        <source>May matter</source>
+        <translation>Pode influenciar</translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>Impede a ligação</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>Copiado</translation>
+    </message>
+    <message>
+        <source>Run as administrator</source>
+        <translation>Executar como administrador</translation>
+    </message>
+    <message>
+        <source>Done. Please check again.</source>
+        <translation>Concluído. Verifique novamente.</translation>
+    </message>
+    <message>
+        <source>That did not work.</source>
+        <translation>Não funcionou.</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::FolderListItem</name>
     <message>
         <source>%1 files, %2</source>
@@ -1167,11 +1743,11 @@ Copie a hiperligação e abra-a manualmente:
     <name>Zandrove::LinkWatch</name>
     <message>
         <source>No answer from the other PC for %1 s</source>
-        <translation>O outro PC não responde há %1 s</translation>
+        <translation>O outro PC não responde há %1&#xa0;s</translation>
     </message>
     <message>
         <source>No answer from %1 for %2 s</source>
-        <translation>%1 não responde há %2 s</translation>
+        <translation>%1 não responde há %2&#xa0;s</translation>
     </message>
     <message>
         <source>The connection to %1 is lost.</source>
@@ -1258,17 +1834,6 @@ A aplicação vai ser reiniciada agora.</translation>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationRun</name>
-    <message>
-        <source>[App] %1</source>
-        <translation>[Aplicação] %1</translation>
-    </message>
-    <message>
-        <source>[Setting] %1</source>
-        <translation>[Definição] %1</translation>
-    </message>
-</context>
-<context>
     <name>Zandrove::MissingItems</name>
     <message>
         <source>Did not arrive</source>
@@ -1287,16 +1852,8 @@ A aplicação vai ser reiniciada agora.</translation>
         <translation>Guardar relatório…</translation>
     </message>
     <message>
-        <source>And %1 more.</source>
-        <translation>E mais %1.</translation>
-    </message>
-    <message>
         <source>The list is on the clipboard.</source>
         <translation>A lista está na área de transferência.</translation>
-    </message>
-    <message>
-        <source>Zandrove report</source>
-        <translation>Relatório do Zandrove</translation>
     </message>
     <message>
         <source>Save report</source>
@@ -1377,6 +1934,10 @@ A aplicação vai ser reiniciada agora.</translation>
         <source>the link was lost</source>
         <translation>a ligação perdeu-se</translation>
     </message>
+    <message>
+        <source>its installation was stopped at %1 %</source>
+        <translation>a instalação foi interrompida a %1%</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::ReplacingFile</name>
@@ -1432,14 +1993,6 @@ A aplicação vai ser reiniciada agora.</translation>
         <translation>Definições</translation>
     </message>
     <message>
-        <source>There already</source>
-        <translation>Já existentes</translation>
-    </message>
-    <message>
-        <source>There, but different</source>
-        <translation>Existentes, mas diferentes</translation>
-    </message>
-    <message>
         <source>Failed</source>
         <translation>Com falha</translation>
     </message>
@@ -1484,32 +2037,12 @@ A aplicação vai ser reiniciada agora.</translation>
         <translation>Resultado</translation>
     </message>
     <message>
-        <source>%1 files, which only the report of the Old PC can name.</source>
-        <translation>Ficheiros: %1. Os nomes constam apenas do relatório do PC antigo.</translation>
-    </message>
-    <message>
-        <source>And %1 more, which only the report of the Old PC can name.</source>
-        <translation>E mais %1; os nomes constam apenas do relatório do PC antigo.</translation>
-    </message>
-    <message>
-        <source>%1 files.</source>
-        <translation>Ficheiros: %1.</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>E mais %1.</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>Ficheiro</translation>
     </message>
     <message>
         <source>Reason</source>
         <translation>Motivo</translation>
-    </message>
-    <message>
-        <source>%1 were there already.</source>
-        <translation>Já existentes: %1.</translation>
     </message>
     <message>
         <source>en</source>
@@ -1539,6 +2072,22 @@ A aplicação vai ser reiniciada agora.</translation>
     <message>
         <source>it is no ordinary file</source>
         <translation>não é um ficheiro normal</translation>
+    </message>
+    <message>
+        <source>There already, identical</source>
+        <translation>Já existentes, idênticos</translation>
+    </message>
+    <message>
+        <source>There already, and different</source>
+        <translation>Já existentes, mas diferentes</translation>
+    </message>
+    <message>
+        <source>%1 were there already, identical.</source>
+        <translation>Já existentes, idênticos: %1.</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Relatório do Zandrove</translation>
     </message>
 </context>
 <context>
@@ -1697,12 +2246,40 @@ A aplicação vai ser reiniciada agora.</translation>
         <translation>Volte a ligar os dois PC e inicie a mesma transferência: o que já chegou é ignorado, só é transferido o que falta.</translation>
     </message>
     <message>
-        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
-        <translation>Leia os motivos na lista. Quando estiverem resolvidos, inicie de novo a mesma transferência: o que já chegou é ignorado, só é transferido o que falta.</translation>
-    </message>
-    <message>
         <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
         <translation>Mantenha o PC antigo tal como está até não faltar nada. Nada foi eliminado nele.</translation>
+    </message>
+    <message>
+        <source>[App] %1</source>
+        <translation>[Aplicação] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[Definição] %1</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>E mais %1.</translation>
+    </message>
+    <message>
+        <source>1 announced file did not come. The report of %1 names it.</source>
+        <translation>1 ficheiro anunciado não chegou. O nome consta do relatório de %1.</translation>
+    </message>
+    <message>
+        <source>%1 announced files did not come. The report of %2 names them.</source>
+        <translation>%1 ficheiros anunciados não chegaram. Os nomes constam do relatório de %2.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list.</source>
+        <translation>Leia os motivos na lista.</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the report of %1.</source>
+        <translation>Leia os motivos no relatório de %1.</translation>
+    </message>
+    <message>
+        <source>Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>Quando estiverem resolvidos, inicie de novo a mesma transferência: o que já chegou é ignorado, só é transferido o que falta.</translation>
     </message>
 </context>
 <context>
@@ -1824,6 +2401,10 @@ A aplicação vai ser reiniciada agora.</translation>
     <message>
         <source>sent; what became of it stands in the report of %1</source>
         <translation>enviada; o resultado consta do relatório de %1</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>enviado, mas %1 não confirmou a chegada</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2737,10 @@ A aplicação vai ser reiniciada agora.</translation>
         <source>Scan error: %1</source>
         <translation>Erro na análise: %1</translation>
     </message>
+    <message>
+        <source>More than one PC shows the code %1: %2</source>
+        <translation>Mais do que um PC mostra o código %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::TransferPage</name>
@@ -2202,10 +2787,6 @@ A aplicação vai ser reiniciada agora.</translation>
     <message>
         <source>Are you sure you want to cancel the transfer?</source>
         <translation>Tem a certeza de que pretende cancelar a transferência?</translation>
-    </message>
-    <message>
-        <source>All progress will be lost and incomplete files may remain on the destination.</source>
-        <translation>Todo o progresso será perdido e podem ficar ficheiros incompletos no PC de destino.</translation>
     </message>
     <message>
         <source>Yes, Cancel</source>
@@ -2288,12 +2869,20 @@ A aplicação vai ser reiniciada agora.</translation>
         <translation>Está em curso uma transferência. Se fechar a janela, será cancelada.</translation>
     </message>
     <message>
-        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
-        <translation>O que já chegou permanece no PC novo e nada é eliminado no PC antigo.</translation>
-    </message>
-    <message>
         <source>Cancel and Close</source>
         <translation>Cancelar e fechar</translation>
+    </message>
+    <message>
+        <source>Back to selection</source>
+        <translation>Voltar à seleção</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC. A report is left in your documents.</source>
+        <translation>O que já chegou permanece no PC novo e nada é eliminado no PC antigo. Fica um relatório guardado nos seus documentos.</translation>
+    </message>
+    <message>
+        <source>All progress will be lost. Files that have arrived stay; nothing incomplete remains.</source>
+        <translation>Todo o progresso será perdido. Os ficheiros que já chegaram mantêm-se; não fica nada incompleto.</translation>
     </message>
 </context>
 <context>

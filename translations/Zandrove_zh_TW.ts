@@ -221,6 +221,10 @@
         <source>Another ticked folder has a file of this name</source>
         <translation>另一個勾選的資料夾中有同名檔案</translation>
     </message>
+    <message>
+        <source>Cannot be reached</source>
+        <translation>無法存取</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::AccountScanner</name>
@@ -231,6 +235,25 @@
     <message>
         <source>Enumerating Windows accounts...</source>
         <translation>正在列出 Windows 帳戶...</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Aftermath</name>
+    <message>
+        <source>%1 was lost before it said that this is installed</source>
+        <translation>%1 尚未回報安裝完成，連線就已中斷</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that this is applied</source>
+        <translation>%1 尚未回報套用完成，連線就已中斷</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is installed</source>
+        <translation>%1 尚未回報安裝完成，就取消了傳輸</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before it said that this is applied</source>
+        <translation>%1 尚未回報套用完成，就取消了傳輸</translation>
     </message>
 </context>
 <context>
@@ -394,6 +417,49 @@
     </message>
 </context>
 <context>
+    <name>Zandrove::Cli::Notices</name>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>也找到了 %1，但它同樣是舊電腦：請在其中一部選擇新電腦</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>也找到了 %1，但它同樣是新電腦：請在其中一部選擇舊電腦</translation>
+    </message>
+    <message>
+        <source>another program</source>
+        <translation>另一個程式</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: this PC hears no other one. End that program, and begin anew.</source>
+        <translation>連接埠 %1 已被 %2 佔用：這部電腦偵測不到其他電腦。請結束該程式，然後重新開始。</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can reach this one. End that program, and begin anew.</source>
+        <translation>連接埠 %1 已被 %2 佔用：其他電腦無法連線到這部電腦。請結束該程式，然後重新開始。</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2: no other PC can ask this one, which can still ask others.</source>
+        <translation>連接埠 %1 已被 %2 佔用：其他電腦無法向這部電腦提出要求，但這部電腦仍可向其他電腦提出要求。</translation>
+    </message>
+    <message>
+        <source>%1 was not found for 20 seconds. In reach are: %2.</source>
+        <translation>已尋找 20 秒，仍找不到 %1。已找到的電腦：%2。</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>新電腦</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>舊電腦</translation>
+    </message>
+    <message>
+        <source>Nobody was found for 20 seconds. What to look at, the likeliest first: Zandrove runs on the other PC, as %1; both PCs are in the same network, or joined by a cable; neither of them uses a VPN; their firewalls let TCP port %2 and UDP port %3 in. zandrove-cli diagnose looks for the cause.</source>
+        <translation>已尋找 20 秒，仍找不到任何電腦。請依可能性由高到低檢查：另一部電腦正在以%1的角色執行 Zandrove；兩部電腦位於同一網路，或以纜線相連；兩部電腦都沒有使用 VPN；兩部電腦的防火牆都允許 TCP 連接埠 %2 和 UDP 連接埠 %3 的連入連線。zandrove-cli diagnose 可協助找出原因。</translation>
+    </message>
+</context>
+<context>
     <name>Zandrove::Cli::Options</name>
     <message>
         <source>%1 is not a number of seconds from 1 to %2.</source>
@@ -508,10 +574,6 @@
         <translation>多餘的引數 %1。請參閱 --help。</translation>
     </message>
     <message>
-        <source>Say receive, send, discover or scan. See --help.</source>
-        <translation>請指定 receive、send、discover 或 scan。請參閱 --help。</translation>
-    </message>
-    <message>
         <source>Unknown command %1. See --help.</source>
         <translation>未知的命令 %1。請參閱 --help。</translation>
     </message>
@@ -552,8 +614,28 @@
         <translation>將每次傳輸的報告寫入 FILE，取代前一份：格式為可閱讀的網頁；名稱以 .json 結尾時則為 JSON。</translation>
     </message>
     <message>
-        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
-        <translation>結束代碼：0 全部已搬移或列出；1 連線或執行失敗，或遭拒絕；2 用法錯誤；3 逾時；4 已完成，但有項目失敗或原已存在；130 以 Ctrl-C 取消（會通知另一部電腦；再按一次 Ctrl-C 立即結束）。</translation>
+        <source>The address or host name of a PC that is tried as well.</source>
+        <translation>要另外嘗試連線的電腦位址或主機名稱。</translation>
+    </message>
+    <message>
+        <source>What this PC is, to be compared with those that are heard.</source>
+        <translation>這部電腦的角色，用來與偵測到的電腦比對。</translation>
+    </message>
+    <message>
+        <source>Listen for N seconds; without it, for 5.</source>
+        <translation>偵測其他電腦 N 秒；未指定時為 5 秒。</translation>
+    </message>
+    <message>
+        <source>Find out why the other PC isn&apos;t found: look at adapters, ports, firewalls and VPNs, and at who is heard and answers. Changes nothing.</source>
+        <translation>找出找不到另一部電腦的原因：檢查介面卡、連接埠、防火牆和 VPN，以及偵測到哪些電腦、哪些電腦有回應。不會變更任何內容。</translation>
+    </message>
+    <message>
+        <source>Exit codes: 0 everything moved or listed; 1 the connection or the run failed or was refused; 2 wrong usage; 3 timed out; 4 finished, but something failed or was there before, or diagnose has found what stands in the way; 130 cancelled with Ctrl-C (the other PC is told; a second Ctrl-C ends at once).</source>
+        <translation>結束代碼：0 全部已搬移或列出；1 連線或執行失敗，或遭拒絕；2 用法錯誤；3 逾時；4 已完成，但有項目失敗或原已存在，或 diagnose 找到了造成阻礙的問題；130 以 Ctrl-C 取消（會通知另一部電腦；再按一次 Ctrl-C 立即結束）。</translation>
+    </message>
+    <message>
+        <source>Say receive, send, discover, diagnose or scan. See --help.</source>
+        <translation>請指定 receive、send、discover、diagnose 或 scan。請參閱 --help。</translation>
     </message>
 </context>
 <context>
@@ -635,6 +717,10 @@
         <source>%1 ended the transfer.</source>
         <translation>%1 結束了傳輸。</translation>
     </message>
+    <message>
+        <source>More than one PC goes by %1: %2. Name the one that is meant by its address.</source>
+        <translation>有多部電腦符合 %1：%2。請以位址指定要使用的電腦。</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::Cli::Session</name>
@@ -647,16 +733,24 @@
         <translation>另一部電腦沒有結束工作階段：可能有資料尚未送達。</translation>
     </message>
     <message>
-        <source>%1 are on their way, but only %2 are free on %3: not everything will fit.</source>
-        <translation>要傳輸的資料有 %1，但 %3 只有 %2 可用：無法全部放入。</translation>
-    </message>
-    <message>
         <source>No answer from %1 for %2 s</source>
         <translation>%1 已有 %2 秒沒有回應</translation>
     </message>
     <message>
         <source>%1 answers again</source>
         <translation>%1 已恢復回應</translation>
+    </message>
+    <message>
+        <source>%1 are on their way, but only %2 are free on %3. Not everything will fit.</source>
+        <translation>要傳輸的資料有 %1，但 %3 只有 %2 可用：無法全部放入。</translation>
+    </message>
+    <message>
+        <source>%1 was lost before it said that everything is installed.</source>
+        <translation>%1 尚未回報全部安裝完成，連線就已中斷。</translation>
+    </message>
+    <message>
+        <source>%1 called the transfer off before everything was installed.</source>
+        <translation>全部安裝完成之前，%1 取消了傳輸。</translation>
     </message>
 </context>
 <context>
@@ -806,8 +900,32 @@
         <translation>檔案：已送達 %1，失敗 %2，原已存在 %3。</translation>
     </message>
     <message>
-        <source>and %1 more</source>
-        <translation>另有 %1 項</translation>
+        <source>ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>hint</source>
+        <translation>提示</translation>
+    </message>
+    <message>
+        <source>PROBLEM</source>
+        <translation>問題</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>正在等候 %1：需要有人在該電腦上按「是」</translation>
+    </message>
+    <message>
+        <source>Further ones are counted in the report.</source>
+        <translation>其餘項目只在報告中列出數量。</translation>
+    </message>
+    <message>
+        <source>Nothing was found that stands in the way.</source>
+        <translation>沒有找到造成阻礙的問題。</translation>
+    </message>
+    <message>
+        <source>Found in the way: %1.</source>
+        <translation>找到造成阻礙的問題：%1 個。</translation>
     </message>
 </context>
 <context>
@@ -875,6 +993,10 @@
     <message>
         <source>%1 of %2 settings did not arrive</source>
         <translation>%2 項設定中有 %1 項未送達</translation>
+    </message>
+    <message>
+        <source>Apps and settings were sent. What became of them stands on the page of %1.</source>
+        <translation>應用程式和設定已傳送。結果請見 %1 的畫面。</translation>
     </message>
 </context>
 <context>
@@ -1003,6 +1125,425 @@ Do you want to accept?</source>
         <source>Their code, character %1</source>
         <translation>對方的驗證碼，第 %1 個字元</translation>
     </message>
+    <message>
+        <source>This is the address of this PC.</source>
+        <translation>這是這部電腦自己的位址。</translation>
+    </message>
+    <message>
+        <source>Only IPv4 addresses work here, such as 192.168.1.23.</source>
+        <translation>這裡只能使用 IPv4 位址，例如 192.168.1.23。</translation>
+    </message>
+    <message>
+        <source>An address has four numbers from 0 to 255, such as 192.168.1.23.</source>
+        <translation>位址由四個 0 到 255 的數字組成，例如 192.168.1.23。</translation>
+    </message>
+    <message>
+        <source>This is not the address of one PC.</source>
+        <translation>這不是單一電腦的位址。</translation>
+    </message>
+    <message>
+        <source>This is neither an address nor the name of a PC.</source>
+        <translation>這既不是電腦的位址，也不是電腦的名稱。</translation>
+    </message>
+    <message>
+        <source>Address or name of the other PC</source>
+        <translation>另一部電腦的位址或名稱</translation>
+    </message>
+    <message>
+        <source>Or Enter Their Address</source>
+        <translation>或輸入對方的位址</translation>
+    </message>
+    <message>
+        <source>Looking for %1...</source>
+        <translation>正在尋找 %1...</translation>
+    </message>
+    <message>
+        <source>No PC named %1 was found. Its address may work instead.</source>
+        <translation>找不到名為 %1 的電腦。改用位址或許可以連線。</translation>
+    </message>
+    <message>
+        <source>%1 has no IPv4 address.</source>
+        <translation>%1 沒有 IPv4 位址。</translation>
+    </message>
+    <message>
+        <source>Address of this PC: %1</source>
+        <translation>這部電腦的位址：%1</translation>
+    </message>
+    <message>
+        <source>Enter their code instead</source>
+        <translation>改為輸入對方的驗證碼</translation>
+    </message>
+    <message>
+        <source>Enter an address instead</source>
+        <translation>改為輸入位址</translation>
+    </message>
+    <message>
+        <source>Waiting for %1: somebody has to press Yes there</source>
+        <translation>正在等候 %1：需要有人在該電腦上按「是」</translation>
+    </message>
+    <message>
+        <source>No connection to %1: %2.</source>
+        <translation>無法連線到 %1：%2。</translation>
+    </message>
+    <message>
+        <source>Its address: %1</source>
+        <translation>對方的位址：%1</translation>
+    </message>
+    <message>
+        <source>Zandrove is open on the other PC too, and shows this page there.</source>
+        <translation>另一部電腦也已開啟 Zandrove，並顯示此頁面。</translation>
+    </message>
+    <message>
+        <source>The network cable is plugged in on both PCs, and its lights are on.</source>
+        <translation>兩部電腦都已接上網路線，而且指示燈亮起。</translation>
+    </message>
+    <message>
+        <source>Both are in the same network, and neither in a guest Wi-Fi or a VPN.</source>
+        <translation>兩部電腦位於同一網路，而且都沒有連線到訪客 Wi-Fi 或 VPN。</translation>
+    </message>
+    <message>
+        <source>One of the two is the Old PC, and the other one the New PC.</source>
+        <translation>其中一部是舊電腦，另一部是新電腦。</translation>
+    </message>
+    <message>
+        <source>The firewalls of both PCs let Zandrove through.</source>
+        <translation>兩部電腦的防火牆都允許 Zandrove 通過。</translation>
+    </message>
+    <message>
+        <source>Nobody found yet. Please check, the likeliest first:</source>
+        <translation>尚未找到任何電腦。請依可能性由高到低檢查：</translation>
+    </message>
+    <message>
+        <source>Can&apos;t find the other PC?</source>
+        <translation>找不到另一部電腦嗎？</translation>
+    </message>
+    <message>
+        <source>Back to the devices</source>
+        <translation>返回裝置清單</translation>
+    </message>
+    <message>
+        <source>Check again</source>
+        <translation>重新檢查</translation>
+    </message>
+    <message>
+        <source>Looking at this PC and its network. This takes some seconds...</source>
+        <translation>正在檢查這部電腦及其網路，需要幾秒鐘...</translation>
+    </message>
+    <message>
+        <source>Nothing was found here that stands in the way. Please check on the other PC as well.</source>
+        <translation>這裡沒有找到造成阻礙的問題。請在另一部電腦上也檢查一次。</translation>
+    </message>
+    <message>
+        <source>What is marked with ✗ stands in the way.</source>
+        <translation>標有 ✗ 的項目會造成阻礙。</translation>
+    </message>
+    <message>
+        <source>another program, maybe a second Zandrove</source>
+        <translation>另一個程式（可能是另一個 Zandrove）</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so no other PC can connect to this one. Please close that program, then try again.</source>
+        <translation>連接埠 %1 已被 %2 佔用，因此其他電腦無法連線到這部電腦。請關閉該程式，然後再試一次。</translation>
+    </message>
+    <message>
+        <source>Port %1 is taken by %2, so this PC does not hear other PCs. Please close that program, then try again.</source>
+        <translation>連接埠 %1 已被 %2 佔用，因此這部電腦偵測不到其他電腦。請關閉該程式，然後再試一次。</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as Old PC: choose New PC on one of the two</source>
+        <translation>也找到了 %1，但它同樣是舊電腦：請在其中一部選擇新電腦</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as New PC: choose Old PC on one of the two</source>
+        <translation>也找到了 %1，但它同樣是新電腦：請在其中一部選擇舊電腦</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>再試一次</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::Diagnosis</name>
+    <message>
+        <source>wired</source>
+        <translation>有線</translation>
+    </message>
+    <message>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <source>virtual</source>
+        <translation>虛擬</translation>
+    </message>
+    <message>
+        <source>VPN</source>
+        <translation>VPN</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2.</source>
+        <translation>%1 的位址是 %2。</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but is connected to nothing.</source>
+        <translation>%1 的位址是 %2，但沒有連線到任何裝置。</translation>
+    </message>
+    <message>
+        <source>Plug in its cable, or join a network with it.</source>
+        <translation>請接上它的纜線，或使用它連線到網路。</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, but no broadcast can leave by it: %3.</source>
+        <translation>%1 的位址是 %2，但無法由此送出廣播：%3。</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps Zandrove from sending.</source>
+        <translation>請檢查這部電腦上是否有防火牆或安全性程式阻擋 Zandrove 傳送資料。</translation>
+    </message>
+    <message>
+        <source>%1 has the address %2, and broadcasts leave by it.</source>
+        <translation>%1 的位址是 %2，且可由此送出廣播。</translation>
+    </message>
+    <message>
+        <source>%1 is connected, but has no address yet.</source>
+        <translation>%1 已連線，但還沒有位址。</translation>
+    </message>
+    <message>
+        <source>Wait a minute. If none comes, see whether the router is on; over a direct cable, set this connection to link-local addresses.</source>
+        <translation>請稍候一分鐘。如果仍未取得位址，請檢查路由器是否已開啟；若以纜線直接連接，請將此連線設為使用連結本機位址。</translation>
+    </message>
+    <message>
+        <source>%1 is connected to nothing.</source>
+        <translation>%1 沒有連線到任何裝置。</translation>
+    </message>
+    <message>
+        <source>This PC has only an address that it gave itself, %1.</source>
+        <translation>這部電腦只有自行指派的位址 %1。</translation>
+    </message>
+    <message>
+        <source>Over a direct cable that is as it should be: choose Cable Mode on both PCs. In a network, see whether the router is on.</source>
+        <translation>若以纜線直接連接，這是正常的：請在兩部電腦上選擇纜線模式。若在網路中，請檢查路由器是否已開啟。</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is meant for the network %2 of %3.</source>
+        <translation>要傳往 %3 的網路 %2 的資料，改由 VPN %1 送出。</translation>
+    </message>
+    <message>
+        <source>Disconnect the VPN until everything has moved.</source>
+        <translation>在全部搬移完成之前，請先中斷 VPN 連線。</translation>
+    </message>
+    <message>
+        <source>The VPN %1 takes what is not for a local network.</source>
+        <translation>要傳往區域網路以外的資料，會由 VPN %1 送出。</translation>
+    </message>
+    <message>
+        <source>Disconnect it if the PCs don&apos;t find each other: many a VPN keeps its PC away from the local network.</source>
+        <translation>如果兩部電腦找不到彼此，請中斷 VPN 連線：許多 VPN 會將電腦與區域網路隔開。</translation>
+    </message>
+    <message>
+        <source>This PC is in no network.</source>
+        <translation>這部電腦沒有連線到任何網路。</translation>
+    </message>
+    <message>
+        <source>Plug in a cable, or join a Wi-Fi.</source>
+        <translation>請接上纜線，或連線到 Wi-Fi。</translation>
+    </message>
+    <message>
+        <source>New PC</source>
+        <translation>新電腦</translation>
+    </message>
+    <message>
+        <source>Old PC</source>
+        <translation>舊電腦</translation>
+    </message>
+    <message>
+        <source>What is meant for it leaves by the VPN %1: disconnect that first.</source>
+        <translation>要傳往該電腦的資料由 VPN %1 送出：請先中斷該 VPN 連線。</translation>
+    </message>
+    <message>
+        <source>Run this diagnosis on %1: its port may be taken there, or its firewall turns connections away.</source>
+        <translation>請在 %1 上執行此診斷：該電腦的連接埠可能已被佔用，或防火牆拒絕連線。</translation>
+    </message>
+    <message>
+        <source>Let Zandrove through the firewall of %1: TCP port %2.</source>
+        <translation>請在 %1 的防火牆中允許 Zandrove 通過：TCP 連接埠 %2。</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but refuses connections on TCP port %4.</source>
+        <translation>已偵測到 %1（%2），其角色為%3，但它拒絕 TCP 連接埠 %4 上的連線。</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but can&apos;t be connected to: %4.</source>
+        <translation>已偵測到 %1（%2），其角色為%3，但無法連線：%4。</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, but does not answer on TCP port %4.</source>
+        <translation>已偵測到 %1（%2），其角色為%3，但它在 TCP 連接埠 %4 上沒有回應。</translation>
+    </message>
+    <message>
+        <source>%1 is here too, but also as %2.</source>
+        <translation>也找到了 %1，但它同樣是%2。</translation>
+    </message>
+    <message>
+        <source>Choose %1 on one of the two.</source>
+        <translation>請在其中一部電腦上選擇%1。</translation>
+    </message>
+    <message>
+        <source>%1 (%2) is heard as %3, and answers.</source>
+        <translation>已偵測到 %1（%2），其角色為%3，而且有回應。</translation>
+    </message>
+    <message>
+        <source>Nobody here knows a PC by the name %1.</source>
+        <translation>在這個網路上找不到名為 %1 的電腦。</translation>
+    </message>
+    <message>
+        <source>Give its address instead; its page of connections shows it.</source>
+        <translation>請改為指定位址；該電腦的連線頁面會顯示其位址。</translation>
+    </message>
+    <message>
+        <source>%1 is this PC itself.</source>
+        <translation>%1 就是這部電腦。</translation>
+    </message>
+    <message>
+        <source>Give the address of the other PC.</source>
+        <translation>請指定另一部電腦的位址。</translation>
+    </message>
+    <message>
+        <source>%1 answers on TCP port %2, but is not heard on UDP port %3.</source>
+        <translation>%1 在 TCP 連接埠 %2 上有回應，但在 UDP 連接埠 %3 上偵測不到。</translation>
+    </message>
+    <message>
+        <source>Open the page of connections there, and UDP port %1 in the firewalls of both PCs; or connect by the address.</source>
+        <translation>請在該電腦上開啟連線頁面，並在兩部電腦的防火牆中開放 UDP 連接埠 %1；或改用位址連線。</translation>
+    </message>
+    <message>
+        <source>%1 is there, but refuses connections on TCP port %2.</source>
+        <translation>已找到 %1，但它拒絕 TCP 連接埠 %2 上的連線。</translation>
+    </message>
+    <message>
+        <source>Open Zandrove there, up to its page of connections.</source>
+        <translation>請在該電腦上開啟 Zandrove，並進入連線頁面。</translation>
+    </message>
+    <message>
+        <source>%1 can&apos;t be connected to: %2.</source>
+        <translation>無法連線到 %1：%2。</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, and both PCs are in the same network.</source>
+        <translation>請檢查位址是否正確，以及兩部電腦是否位於同一網路。</translation>
+    </message>
+    <message>
+        <source>%1 does not answer on TCP port %2, and is not heard.</source>
+        <translation>%1 在 TCP 連接埠 %2 上沒有回應，也偵測不到。</translation>
+    </message>
+    <message>
+        <source>See whether the address is right, that PC on, and its firewall open for Zandrove.</source>
+        <translation>請檢查位址是否正確、該電腦是否已開機，以及其防火牆是否允許 Zandrove 通過。</translation>
+    </message>
+    <message>
+        <source>This PC doesn&apos;t hear its own broadcasts on %1.</source>
+        <translation>這部電腦在 %1 上收不到自己的廣播。</translation>
+    </message>
+    <message>
+        <source>Look for a firewall or security program on this PC that keeps out UDP port %1.</source>
+        <translation>請檢查這部電腦上是否有防火牆或安全性程式阻擋 UDP 連接埠 %1 的連入連線。</translation>
+    </message>
+    <message>
+        <source>Nobody has answered on %1, and it has no router.</source>
+        <translation>%1 上沒有任何回應，也沒有路由器。</translation>
+    </message>
+    <message>
+        <source>If the other PC should be there, see whether its end of the cable, or its network, is on.</source>
+        <translation>如果另一部電腦應該在這個連線上，請檢查纜線的另一端是否已接好，或該電腦的網路是否已開啟。</translation>
+    </message>
+    <message>
+        <source>No other PC was heard within %1 s.</source>
+        <translation>在 %1 秒內沒有偵測到其他電腦。</translation>
+    </message>
+    <message>
+        <source>Open Zandrove on the other PC, up to its page of connections, and put both PCs into the same network.</source>
+        <translation>請在另一部電腦上開啟 Zandrove 並進入連線頁面，並讓兩部電腦連線到同一網路。</translation>
+    </message>
+    <message>
+        <source>TCP port %1</source>
+        <translation>TCP 連接埠 %1</translation>
+    </message>
+    <message>
+        <source>UDP port %1</source>
+        <translation>UDP 連接埠 %1</translation>
+    </message>
+    <message>
+        <source>%1 is free.</source>
+        <translation>%1 可以使用。</translation>
+    </message>
+    <message>
+        <source>%1 is held by Zandrove, as it should be.</source>
+        <translation>%1 由 Zandrove 使用中，這是正常的。</translation>
+    </message>
+    <message>
+        <source>%1 is taken by another program.</source>
+        <translation>%1 已被另一個程式佔用。</translation>
+    </message>
+    <message>
+        <source>%1 is taken by %2.</source>
+        <translation>%1 已被 %2 佔用。</translation>
+    </message>
+    <message>
+        <source>Find out which one it is, close it, and start Zandrove anew.</source>
+        <translation>請找出是哪個程式並將其關閉，然後重新啟動 Zandrove。</translation>
+    </message>
+    <message>
+        <source>Close that program, and start Zandrove anew.</source>
+        <translation>請關閉該程式，然後重新啟動 Zandrove。</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 和 %2</translation>
+    </message>
+    <message>
+        <source>%1 is on, and lets both ports in.</source>
+        <translation>%1 已開啟，並允許兩個連接埠的連入連線。</translation>
+    </message>
+    <message>
+        <source>%1 is on, and keeps out %2.</source>
+        <translation>%1 已開啟，並阻擋 %2 的連入連線。</translation>
+    </message>
+    <message>
+        <source>Have it let both ports in.</source>
+        <translation>請設定為允許兩個連接埠的連入連線。</translation>
+    </message>
+    <message>
+        <source>%1 is on, and it depends on the sender, or on rules that can&apos;t be judged here, whether it lets both ports in.</source>
+        <translation>%1 已開啟；是否允許兩個連接埠的連入連線，取決於傳送端，或無法在此判斷的規則。</translation>
+    </message>
+    <message>
+        <source>See whether its rules let in %1 and %2.</source>
+        <translation>請檢查其規則是否允許 %1 和 %2 的連入連線。</translation>
+    </message>
+    <message>
+        <source>%1 couldn&apos;t be read without administrator rights.</source>
+        <translation>沒有系統管理員權限，無法讀取 %1 的狀態。</translation>
+    </message>
+    <message>
+        <source>%1 gave no answer that could be read.</source>
+        <translation>%1 沒有傳回可讀取的回應。</translation>
+    </message>
+    <message>
+        <source>%1 is off.</source>
+        <translation>%1 已關閉。</translation>
+    </message>
+    <message>
+        <source>No firewall was found of those that can be asked.</source>
+        <translation>沒有找到可查詢狀態的防火牆。</translation>
+    </message>
+    <message>
+        <source>The system treats the network %1 as public.</source>
+        <translation>系統將網路 %1 視為公用網路。</translation>
+    </message>
+    <message>
+        <source>If it is your own, set it to private in the network settings.</source>
+        <translation>如果這是您自己的網路，請在網路設定中改為私人。</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::FileBrowserWidget</name>
@@ -1125,6 +1666,41 @@ Do you want to accept?</source>
     <message>
         <source>changed while it was sent</source>
         <translation>在傳送期間已變更</translation>
+    </message>
+</context>
+<context>
+    <name>Zandrove::FindingRow</name>
+    <message>
+        <source>As it should be</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>May matter</source>
+        <translation>可能有影響</translation>
+    </message>
+    <message>
+        <source>In the way</source>
+        <translation>造成阻礙</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Copied</source>
+        <translation>已複製</translation>
+    </message>
+    <message>
+        <source>Run as administrator</source>
+        <translation>以系統管理員身分執行</translation>
+    </message>
+    <message>
+        <source>Done. Please check again.</source>
+        <translation>已完成。請重新檢查。</translation>
+    </message>
+    <message>
+        <source>That did not work.</source>
+        <translation>未能成功執行。</translation>
     </message>
 </context>
 <context>
@@ -1258,17 +1834,6 @@ The application will restart now.</source>
     </message>
 </context>
 <context>
-    <name>Zandrove::MigrationRun</name>
-    <message>
-        <source>[App] %1</source>
-        <translation>[應用程式] %1</translation>
-    </message>
-    <message>
-        <source>[Setting] %1</source>
-        <translation>[設定] %1</translation>
-    </message>
-</context>
-<context>
     <name>Zandrove::MissingItems</name>
     <message>
         <source>Did not arrive</source>
@@ -1287,16 +1852,8 @@ The application will restart now.</source>
         <translation>儲存報告…</translation>
     </message>
     <message>
-        <source>And %1 more.</source>
-        <translation>另有 %1 項。</translation>
-    </message>
-    <message>
         <source>The list is on the clipboard.</source>
         <translation>清單已複製到剪貼簿。</translation>
-    </message>
-    <message>
-        <source>Zandrove report</source>
-        <translation>Zandrove 報告</translation>
     </message>
     <message>
         <source>Save report</source>
@@ -1377,6 +1934,10 @@ The application will restart now.</source>
         <source>the link was lost</source>
         <translation>連線已中斷</translation>
     </message>
+    <message>
+        <source>its installation was stopped at %1 %</source>
+        <translation>安裝在 %1 % 時停止</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::ReplacingFile</name>
@@ -1432,14 +1993,6 @@ The application will restart now.</source>
         <translation>設定</translation>
     </message>
     <message>
-        <source>There already</source>
-        <translation>已存在</translation>
-    </message>
-    <message>
-        <source>There, but different</source>
-        <translation>已存在但不同</translation>
-    </message>
-    <message>
         <source>Failed</source>
         <translation>失敗</translation>
     </message>
@@ -1484,32 +2037,12 @@ The application will restart now.</source>
         <translation>結果</translation>
     </message>
     <message>
-        <source>%1 files, which only the report of the Old PC can name.</source>
-        <translation>%1 個檔案，名稱只列在舊電腦的報告中。</translation>
-    </message>
-    <message>
-        <source>And %1 more, which only the report of the Old PC can name.</source>
-        <translation>另有 %1 項，名稱只列在舊電腦的報告中。</translation>
-    </message>
-    <message>
-        <source>%1 files.</source>
-        <translation>%1 個檔案。</translation>
-    </message>
-    <message>
-        <source>And %1 more.</source>
-        <translation>另有 %1 項。</translation>
-    </message>
-    <message>
         <source>File</source>
         <translation>檔案</translation>
     </message>
     <message>
         <source>Reason</source>
         <translation>原因</translation>
-    </message>
-    <message>
-        <source>%1 were there already.</source>
-        <translation>%1 個原已存在。</translation>
     </message>
     <message>
         <source>en</source>
@@ -1539,6 +2072,22 @@ The application will restart now.</source>
     <message>
         <source>it is no ordinary file</source>
         <translation>不是一般檔案</translation>
+    </message>
+    <message>
+        <source>There already, identical</source>
+        <translation>已存在，內容相同</translation>
+    </message>
+    <message>
+        <source>There already, and different</source>
+        <translation>已存在，內容不同</translation>
+    </message>
+    <message>
+        <source>%1 were there already, identical.</source>
+        <translation>%1 個原已存在，內容相同。</translation>
+    </message>
+    <message>
+        <source>Zandrove report</source>
+        <translation>Zandrove 報告</translation>
     </message>
 </context>
 <context>
@@ -1697,12 +2246,40 @@ The application will restart now.</source>
         <translation>請重新連線兩部電腦，並開始同樣的傳輸：已送達的項目會略過，只搬移缺少的項目。</translation>
     </message>
     <message>
-        <source>Read the reasons in the list. Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
-        <translation>請查看清單中的原因。排除後，再次開始同樣的傳輸：已送達的項目會略過，只搬移缺少的項目。</translation>
-    </message>
-    <message>
         <source>Keep the Old PC as it is until nothing is missing any more. Nothing was deleted there.</source>
         <translation>在所有項目都送達之前，請讓舊電腦保持原狀。舊電腦上沒有刪除任何內容。</translation>
+    </message>
+    <message>
+        <source>[App] %1</source>
+        <translation>[應用程式] %1</translation>
+    </message>
+    <message>
+        <source>[Setting] %1</source>
+        <translation>[設定] %1</translation>
+    </message>
+    <message>
+        <source>And %1 more.</source>
+        <translation>另有 %1 項。</translation>
+    </message>
+    <message>
+        <source>1 announced file did not come. The report of %1 names it.</source>
+        <translation>有 1 個預定傳送的檔案未送達。檔案名稱請見 %1 的報告。</translation>
+    </message>
+    <message>
+        <source>%1 announced files did not come. The report of %2 names them.</source>
+        <translation>有 %1 個預定傳送的檔案未送達。檔案名稱請見 %2 的報告。</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the list.</source>
+        <translation>請查看清單中的原因。</translation>
+    </message>
+    <message>
+        <source>Read the reasons in the report of %1.</source>
+        <translation>請查看 %1 的報告中的原因。</translation>
+    </message>
+    <message>
+        <source>Once they are gone, start the same transfer again: what has arrived is skipped, only what is missing is moved.</source>
+        <translation>排除原因後，再次開始同樣的傳輸：已送達的項目會略過，只搬移缺少的項目。</translation>
     </message>
 </context>
 <context>
@@ -1824,6 +2401,10 @@ The application will restart now.</source>
     <message>
         <source>sent; what became of it stands in the report of %1</source>
         <translation>已傳送；結果請見 %1 的報告</translation>
+    </message>
+    <message>
+        <source>sent, but %1 has not confirmed that it arrived</source>
+        <translation>已傳送，但 %1 尚未確認送達</translation>
     </message>
 </context>
 <context>
@@ -2156,6 +2737,10 @@ The application will restart now.</source>
         <source>Scan error: %1</source>
         <translation>掃描錯誤：%1</translation>
     </message>
+    <message>
+        <source>More than one PC shows the code %1: %2</source>
+        <translation>有多部電腦顯示驗證碼 %1：%2</translation>
+    </message>
 </context>
 <context>
     <name>Zandrove::TransferPage</name>
@@ -2202,10 +2787,6 @@ The application will restart now.</source>
     <message>
         <source>Are you sure you want to cancel the transfer?</source>
         <translation>您確定要取消傳輸嗎？</translation>
-    </message>
-    <message>
-        <source>All progress will be lost and incomplete files may remain on the destination.</source>
-        <translation>所有進度都會遺失，目標電腦上可能會留下不完整的檔案。</translation>
     </message>
     <message>
         <source>Yes, Cancel</source>
@@ -2288,12 +2869,20 @@ The application will restart now.</source>
         <translation>傳輸正在進行中。關閉視窗會取消傳輸。</translation>
     </message>
     <message>
-        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC.</source>
-        <translation>已送達的內容會保留在新電腦上，舊電腦上也不會刪除任何內容。</translation>
-    </message>
-    <message>
         <source>Cancel and Close</source>
         <translation>取消並關閉</translation>
+    </message>
+    <message>
+        <source>Back to selection</source>
+        <translation>返回選取項目</translation>
+    </message>
+    <message>
+        <source>What has arrived stays on the New PC, and nothing is deleted on the Old PC. A report is left in your documents.</source>
+        <translation>已送達的內容會保留在新電腦上，舊電腦上也不會刪除任何內容。報告會存放在您的文件資料夾中。</translation>
+    </message>
+    <message>
+        <source>All progress will be lost. Files that have arrived stay; nothing incomplete remains.</source>
+        <translation>所有進度都會遺失。已送達的檔案會保留，不會留下不完整的檔案。</translation>
     </message>
 </context>
 <context>

@@ -306,7 +306,7 @@ private Q_SLOTS:
         TextOutput output(captured.streams(), NewPC, true);
         const QString hostile = u"PC\x1b[2J\r\nroot\u202e\u009b"_s;
         output.peer(peer(hostile, u"10.0.0.1"_s, {}, u"1234"_s));
-        output.request({1, hostile, u"10.0.0.1"_s}, true);
+        output.request({1, hostile, u"10.0.0.1"_s, {}}, true);
         output.file(hostile, FileStatus::Failed, hostile);
 
         for (const QByteArray &printed : {captured.out, captured.err}) {

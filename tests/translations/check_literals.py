@@ -16,7 +16,7 @@ FACES = ("src/ui/", "src/cli/", "src/support/LinkManager")
 
 NAMES_THAT_STAY = {
     # What is typed on the command line.
-    "CODE|NAME|ADDRESS", "DIR", "FILE", "ID", "NAME",
+    "ADDRESS", "CODE|NAME|ADDRESS", "DIR", "FILE", "ID", "NAME",
     # Folders and words of software, as they stand on a disk or in a registry.
     "System Volume Information", "Recovery", "$Recycle.Bin", "Config.Msi", "MSOCache", "PerfLogs",
     "update for", "security update",
@@ -25,7 +25,7 @@ NAMES_THAT_STAY = {
     # Style sheet selectors, one of them by the English text of a button.
     "QCheckBox::indicator", "QTreeView::indicator", "Yes, Cancel", "Continue Transfer", "Cancel and Close",
     # The form of a time in a file name.
-    " yyyy-MM-dd HHmm",
+    " yyyy-MM-dd HHmmss",
 }
 
 TRANSLATED = {"tr", "translate", "QT_TR_NOOP", "QT_TRANSLATE_NOOP"}
