@@ -25,7 +25,6 @@ NAMES_THAT_STAY = {
     # Style sheet selectors, one of them by the English text of a button.
     "QCheckBox::indicator", "QTreeView::indicator", "Yes, Cancel", "Continue Transfer", "Cancel and Close",
     # The form of a time in a file name.
-    " yyyy-MM-dd HHmmss",
 }
 
 TRANSLATED = {"tr", "translate", "QT_TR_NOOP", "QT_TRANSLATE_NOOP"}
