@@ -264,8 +264,9 @@ class Environment(pcs.TestCase):
         self.assertEqual(list((pair.new.drive / "Program Files").iterdir()), [])
         pair.free_speed()
         sender.say("again")
-        sent = sender.wait_for("report", within=90)
-        got = receiver.wait_for("report", within=90)
+        complete = lambda event: event["end"] == "complete"
+        sent = sender.wait_for("report", complete, within=90)
+        got = receiver.wait_for("report", complete, within=90)
         sender.say("end")
         self.assertExits(0, sender)
         for report in (sent, got):

@@ -325,7 +325,7 @@ class WizardTest(pcs.TestCase):
         old.click("Their code, character 1")
         old.type(new.code())
         old.click("Connect")
-        new.wait(dialog="Connection Request", text="OldBox")
+        new.wait(dialog="Connection Request", text="OldBox", enabled="Yes")
         new.click("Yes")
         old.wait(page=4, enabled="Next")
         old.click("Next")
