@@ -251,9 +251,8 @@ void TextOutput::items(const QString &head, const QString &done, const QList<Ite
             continue;
         if (!std::exchange(headShown, true))
             line(head);
-        const QString outcome = item.outcome == ItemOutcome::Arrived ? done : outcomeText(item.outcome);
-        line(u"  "_s + item.path + u": "_s +
-             (item.reason.isEmpty() ? outcome : outcome + u": "_s + item.reason));
+        const bool isPlain = item.outcome == ItemOutcome::Arrived && item.reason.isEmpty();
+        line(u"  "_s + item.path + u": "_s + (isPlain ? done : itemText(item)));
     }
 }
 

@@ -148,9 +148,7 @@ QString itemsSection(const RunSummary &summary)
     QString rows;
     for (const ItemResult &item : summary.items) {
         const QString kind = item.kind == ItemKind::Application ? Text::tr("App") : Text::tr("Setting");
-        const QString outcome = outcomeText(item.outcome);
-        rows += u"<tr>"_s + element("td"_L1, kind) + pathCell(item.path) +
-                element("td"_L1, item.reason.isEmpty() ? outcome : outcome + u": "_s + item.reason) +
+        rows += u"<tr>"_s + element("td"_L1, kind) + pathCell(item.path) + element("td"_L1, itemText(item)) +
                 u"</tr>\n"_s;
     }
     return element("h2"_L1, Text::tr("Apps and settings")) +

@@ -152,6 +152,14 @@ QString outcomeText(ItemOutcome outcome)
     return Text::tr("not known yet");
 }
 
+QString itemText(const ItemResult &item)
+{
+    if (item.reason.isEmpty())
+        return outcomeText(item.outcome);
+    return item.outcome == ItemOutcome::Arrived ? item.reason
+                                                : outcomeText(item.outcome) + u": "_s + item.reason;
+}
+
 QStringList nextSteps(const RunSummary &summary)
 {
     QStringList steps;

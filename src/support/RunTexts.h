@@ -31,6 +31,9 @@ namespace Zandrove {
 /// What a row or line calls an item: the name of a file, "[App] Acme Writer", "[Setting] Mouse".
 [[nodiscard]] QString rowName(ItemKind kind, const QString &path);
 
+/// The same of one item, with its reason. Of what was only sent, the reason says so itself.
+[[nodiscard]] QString itemText(const ItemResult &item);
+
 /// What the user had best do now, a sentence or two each; never empty for a run that is over.
 [[nodiscard]] QStringList nextSteps(const RunSummary &summary);
 

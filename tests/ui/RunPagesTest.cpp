@@ -4,6 +4,7 @@
 
 #include "ui/pages/CompletePage.h"
 #include "ui/pages/TransferPage.h"
+#include "ui/widgets/NoticeBar.h"
 #include "ui/widgets/TransferFileItem.h"
 
 #include <QApplication>
@@ -157,6 +158,18 @@ private Q_SLOTS:
         Q_EMIT m_engine->transferFailed(u"reason"_s);
         QCOMPARE(runTexts().first(), u"Transfer Failed"_s);
         QVERIFY(runTexts().contains(u"0 failed"_s) && runTexts().contains(u"reason"_s));
+    }
+
+    void cancelledNewPCSaysWhatWasDone()
+    {
+        m_run->setRole(NewPC);
+        RunSummary run;
+        run.end = RunEnd::CancelledHere;
+        run.items = {{ItemKind::Application, ItemOutcome::Failed, u"Acme Writer"_s, u"stopped"_s, 0}};
+        run.apps.failed = 1;
+        run.files.arrived = 3;
+        Q_EMIT m_engine->runEnded(run);
+        QTRY_VERIFY(m_run->findChild<NoticeBar *>()->text().contains(u"Acme Writer: failed: stopped"_s));
     }
 
     void cancelAsksFirst_data()

@@ -58,6 +58,18 @@ QString shortenedPath(const QString &path)
     return parts.size() > 2 ? parts.last(2).join(u'/') : path;
 }
 
+/// For the user of a New PC whose run was called off.
+QString whatWasDone(const RunSummary &summary)
+{
+    QStringList sentences{arrivedFilesText(summary)};
+    for (const ItemResult &item : summary.items) {
+        if (item.kind == ItemKind::Application)
+            sentences += item.path + u": "_s + itemText(item);
+    }
+    constexpr qsizetype MostSentences = 6;
+    return sentences.first(std::min(sentences.size(), MostSentences)).join(u". "_s) + u'.';
+}
+
 } // namespace
 
 TransferPage::TransferPage(TransferEngine *engine, QWidget *parent)
@@ -197,6 +209,9 @@ void TransferPage::onRunEnded(const RunSummary &summary)
     if (summary.end == RunEnd::LinkLost && m_engine->hasAcceptedLink())
         return;
     m_running = false;
+    const bool isCancelled = summary.end == RunEnd::CancelledHere || summary.end == RunEnd::CancelledThere;
+    if (isCancelled && isNewPC() && summary.total() > 0)
+        m_notice->tell(whatWasDone(summary));
     const bool isReset = summary.end == RunEnd::Reset && !isNewPC();
     if (summary.end != RunEnd::LinkLost && !isReset)
         return;
