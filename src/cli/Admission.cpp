@@ -33,8 +33,10 @@ Admission::Admission(TransferEngine &engine, Output &output, bool flushes, QObje
 void Admission::put(const ConnectionQuestion &question)
 {
     m_shown.insert(question.number, question);
-    if (m_pause.isActive())
-        return; // it is shown once that is over, if it is the next one then
+    // It is shown once that is over, if it is the next one then. A person sees one question at a time, and
+    // answers the one that was read last.
+    if (m_pause.isActive() || (m_flushes && m_current != 0))
+        return;
     show(question);
     if (m_current == 0)
         m_current = question.number;
@@ -67,7 +69,7 @@ void Admission::admit(const ConnectionQuestion &question)
     m_engine.acceptConnection(m_engine.verifyCode(), question.number);
     m_admitting = false;
     if (m_current == question.number)
-        putOldest(false);
+        putOldest(m_flushes);
     if (m_engine.isConnected())
         return;
     m_output.warning(tr("%1 is not there any more.").arg(question.name));

@@ -186,6 +186,7 @@ void ReceiveSession::onPeerLeft(const QString &complaint)
     if (link() != Link::Up)
         return;
     setLink(Link::None);
+    m_partsThen = false; // the link that it was about is gone
     const bool isUnderWay = engine().isRunUnderWay();
     if (isUnderWay)
         m_complaint = complaint;
@@ -348,6 +349,9 @@ bool ReceiveSession::obey(const ControlCommand &command)
         if (m_receiving && !m_heldReport) {
             cancelHere();
             runEnded(Cancelled);
+            m_complaint.clear();
+            if (link() == Link::None && !options().once && !m_endsThen) // nothing else leads on from there
+                afterLink();
         }
         return true;
     case ControlCommand::End:
@@ -381,7 +385,7 @@ void ReceiveSession::onInterrupt()
         finish(m_results.exitCode());
         return;
     }
-    if (link() == Link::Up && m_receiving)
+    if ((link() == Link::Up && m_receiving) || engine().isRunUnderWay())
         cancelHere();
     finish(Cancelled);
 }

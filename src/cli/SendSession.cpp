@@ -109,7 +109,7 @@ void SendSession::connectEngine()
 void SendSession::look()
 {
     const QList<PCInfo> peers = findPeers(engine().discoveredPCs(), options().target);
-    const bool dialsUnheard = isAddress(options().target) && options().mode == NetworkMode;
+    const bool dialsUnheard = isAddress(options().target);
     if (!m_lookingFor.isValid() || (peers.isEmpty() && !dialsUnheard))
         m_lookingFor.start();
     if (peers.size() > 1 && m_lookingFor.hasExpired(TimeToBeSure.count())) {

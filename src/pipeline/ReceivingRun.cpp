@@ -88,10 +88,12 @@ void ReceivingRun::end(RunEnd how)
         MigrationRun::end(how);
         return;
     }
-    if (!isOn() || std::exchange(m_linkLost, true) || m_workingOff)
+    if (!isOn() || std::exchange(m_linkLost, true))
         return;
-    if (isPaused())
+    if (isPaused()) // nobody is left to resume it
         setPaused(false);
+    if (m_workingOff)
+        return;
     if (isApplyingSettings()) {
         m_settings = Settings::AllHere;
         boundSettings();
@@ -391,7 +393,7 @@ void ReceivingRun::onSettingsOver()
     if (!isOn())
         closeLedger();
     else if (m_linkLost && !m_workingOff)
-        m_apps->cleanUp(); // the run has waited for them
+        behindReceiver([this] { m_apps->cleanUp(); }); // the run has waited for them
     Q_EMIT stateChanged();
 }
 

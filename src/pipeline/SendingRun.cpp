@@ -150,6 +150,10 @@ void SendingRun::pauseWorkers(bool paused)
 
 void SendingRun::stopWorkers()
 {
+    for (const ItemResult &item : std::exchange(m_sentItems, {}))
+        m_ledger.settleItem(
+            item.kind, item.path, ItemOutcome::NotConfirmed,
+            tr("sent, but %1 has not confirmed that it arrived").arg(m_ledger.summary().peerName));
     m_sender->disconnect();
     m_sender->stop();
     MigrationRun::stopWorkers();
@@ -322,10 +326,6 @@ void SendingRun::end(RunEnd how)
         settleItems();
         finish(RunEnd::Complete);
     }
-    for (const ItemResult &item : std::exchange(m_sentItems, {}))
-        m_ledger.settleItem(
-            item.kind, item.path, ItemOutcome::NotConfirmed,
-            tr("sent, but %1 has not confirmed that it arrived").arg(m_ledger.summary().peerName));
     MigrationRun::end(how);
 }
 

@@ -58,6 +58,7 @@ void LinkWatch::setPlace(Place place)
 void LinkWatch::onConnected()
 {
     m_isUp = true;
+    m_goneInRun = false;
     m_peerName = m_engine->connectedPC().name;
     m_silentText.clear();
     const bool wasLost = isLost();
@@ -70,7 +71,8 @@ void LinkWatch::onConnected()
 void LinkWatch::onRunEnded(const RunSummary &summary)
 {
     // Where another link stands by now, it is that one which the window is about.
-    if (summary.end != RunEnd::LinkLost || m_place == Place::Elsewhere || m_engine->hasAcceptedLink())
+    const bool isGone = std::exchange(m_goneInRun, false) || summary.end == RunEnd::LinkLost;
+    if (!isGone || m_place == Place::Elsewhere || m_engine->hasAcceptedLink())
         return;
     m_endedRun = summary.total() > 0;
     const QString lost = tr("The connection to %1 is lost.").arg(shortened(summary.peerName));
@@ -82,8 +84,11 @@ void LinkWatch::onLinkGone()
 {
     m_silentText.clear();
     const bool wasUp = std::exchange(m_isUp, false);
-    if (m_engine->isRunUnderWay())
-        return; // it works off what has arrived, and says how it ended
+    if (m_engine->isRunUnderWay()) {
+        m_goneInRun = true; // it works off what has arrived, and says how it ended
+        refresh();
+        return;
+    }
     // On the page of connections most ends are those of a dial; that of a link is news there, too.
     if (m_place == Place::Elsewhere || (m_place == Place::Connections && !wasUp) || isLost()) {
         refresh();

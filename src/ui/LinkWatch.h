@@ -51,8 +51,9 @@ private:
     QString m_peerName;
     QString m_silentText;
     QString m_lostText;
-    bool m_endedRun = false; ///< the link that was lost
-    bool m_isUp = false;     // a link has come and has not gone
+    bool m_endedRun = false;  ///< the link that was lost
+    bool m_goneInRun = false; // the link has gone, and the run is still working off what came by it
+    bool m_isUp = false;      // a link has come and has not gone
 };
 
 } // namespace Zandrove

@@ -228,6 +228,8 @@ void MainWindow::onLinkLost()
 
 void MainWindow::onLinkRegained()
 {
+    // The loss is told in a queue, and may stand behind this.
+    m_keepsSelection = m_keepsSelection || (!isNewPC() && m_currentPage >= PageSelection);
     const bool onTheWay = m_currentPage == PageConnection;
     if (isNewPC() && !onTheWay)
         goToPage(PageConnection); // which goes on by itself

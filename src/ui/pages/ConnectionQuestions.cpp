@@ -105,6 +105,7 @@ void ConnectionQuestions::onRequested()
 
 void ConnectionQuestions::onEnded(quint64 number)
 {
+    m_waiting.removeIf([number](const ConnectionQuestion &waiting) { return waiting.number == number; });
     if (!m_box || m_shown.number != number)
         return;
     // Whoever hears of it may open a dialog: not from within the end of a socket.

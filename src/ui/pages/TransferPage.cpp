@@ -206,12 +206,17 @@ void TransferPage::onTransferCompleted(const MigrationReport &report)
 void TransferPage::onRunEnded(const RunSummary &summary)
 {
     // One that outlived its link has nothing to do with the page of the next.
-    if (summary.end == RunEnd::LinkLost && m_engine->hasAcceptedLink())
+    if (summary.end == RunEnd::LinkLost && m_engine->hasAcceptedLink()) {
+        if (isNewPC() && m_running) {
+            resetForNewTransfer();
+            tellOfPast(arrivedFilesText(summary) + u'.');
+        }
         return;
+    }
     m_running = false;
     const bool isCancelled = summary.end == RunEnd::CancelledHere || summary.end == RunEnd::CancelledThere;
     if (isCancelled && isNewPC() && summary.total() > 0)
-        m_notice->tell(whatWasDone(summary));
+        tellOfPast(whatWasDone(summary));
     const bool isReset = summary.end == RunEnd::Reset && !isNewPC();
     if (summary.end != RunEnd::LinkLost && !isReset)
         return;
@@ -227,6 +232,7 @@ void TransferPage::onRunEnded(const RunSummary &summary)
 
 void TransferPage::onSpaceShort(qint64 needed, qint64 available, const QString &volume)
 {
+    m_tellsOfPast = false;
     m_notice->tell(tr("%1 are on their way, but only %2 are free on %3. Not everything will fit.")
                        .arg(formatSize(needed), formatSize(available), volume));
 }
@@ -363,6 +369,8 @@ void TransferPage::onFileStarted(const QString &fileName)
         return;
     }
     m_running = true;
+    if (std::exchange(m_tellsOfPast, false))
+        m_notice->tell(QString());
     m_files->begin(fileName);
 }
 

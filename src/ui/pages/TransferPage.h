@@ -89,6 +89,8 @@ private:
     void showControls(bool shown);
     /// Whatever a former run has left on the page goes.
     void begin();
+    /// Says something of a run that is over, until the next one begins.
+    void tellOfPast(const QString &text);
     /// An empty card with these texts in the places of the speed and the total.
     void clearCard(const QString &speed, const QString &total);
 
@@ -107,6 +109,7 @@ private:
     QPushButton *m_retryLink = nullptr;
     bool m_isPaused = false;
     bool m_running = false;
+    bool m_tellsOfPast = false;
     bool m_isComplete = false; ///< the run that the page shows
     int m_failedShown = -1;
     TransferProgress m_progress;

@@ -127,6 +127,12 @@ void TransferPage::showControls(bool shown)
         control->setVisible(shown);
 }
 
+void TransferPage::tellOfPast(const QString &text)
+{
+    m_notice->tell(text);
+    m_tellsOfPast = true;
+}
+
 /// What failed of all that is to be moved, which may grow with every snapshot.
 void TransferPage::showFailedCount(const RunSummary &summary)
 {

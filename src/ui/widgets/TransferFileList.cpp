@@ -121,12 +121,13 @@ void TransferFileList::settle(const ItemResult &item)
     if (item.outcome == ItemOutcome::Pending)
         return;
     const QString name = rowName(item.kind, item.path);
+    const bool madeRoom = m_leftUnsettled.contains(name);
     Row *row = rowOf(item, name);
     if (!row) {
-        if (item.outcome != ItemOutcome::Failed)
+        if (item.outcome == ItemOutcome::Arrived || (item.outcome != ItemOutcome::Failed && madeRoom))
             return;
         makeRoom();
-        row = &append(name, Status::Failed);
+        row = &append(name, statusOf(item.outcome));
     }
     row->status = statusOf(item.outcome);
     row->reason = item.reason;
